@@ -1,0 +1,49 @@
+// The messages of the errors that end the program.
+#include "base/endings.h"
+
+#include "base/text.h"
+
+namespace tasca {
+namespace {
+
+constexpr std::u16string_view FinDelPrograma = u" El programa va a terminar su ejecución.";
+
+// The path as the player knows it; a folder whose name is no valid UTF-8 is left out.
+std::u16string PathText(const std::filesystem::path& archivo) {
+  try {
+    return archivo.u16string();
+  } catch (const std::exception&) {
+    return archivo.filename().u16string();
+  }
+}
+
+}  // namespace
+
+RunTimeError::RunTimeError(std::u16string_view queHaPasado)
+    : mensaje_{Join(queHaPasado, FinDelPrograma)} {}
+
+RunTimeError RunTimeError::InFile(const std::filesystem::path& archivo, int linea,
+                                  std::u16string_view queHaPasado) {
+  const std::u16string donde = linea > 0 ? Join(PathText(archivo), u", línea ", linea, u": ")
+                                         : Join(PathText(archivo), u": ");
+  return RunTimeError{Join(donde, queHaPasado)};
+}
+
+RunTimeError RunTimeError::AlreadyShown(std::u16string_view mensaje) {
+  RunTimeError error{u""};
+  error.mensaje_ = mensaje;
+  error.mostrado_ = true;
+  return error;
+}
+
+void ThrowOverflow() {
+  throw RunTimeError{u"Desbordamiento: el número no está entre -32768 y 32767."};
+}
+
+void ThrowIndexOutOfRange() { throw RunTimeError{u"El índice está fuera del intervalo."}; }
+
+void ThrowInvalidCall(std::u16string_view consejo) {
+  throw RunTimeError{Join(u"Llamada a procedimiento o argumento no válidos. ", consejo)};
+}
+
+}  // namespace tasca

@@ -1,0 +1,47 @@
+#pragma once
+// Text files read line by line, and replaced whole.
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace tasca {
+
+// True when the path leads to something (a dangling link does not).
+bool FileExists(const std::filesystem::path& archivo);
+
+// Reads the lines of a Windows-1252 file. Lines end in CR LF or LF, the last one perhaps in
+// nothing. A line may have up to LargoMaximo bytes, so that memory never grows with a damaged file.
+class LineReader {
+ public:
+  static constexpr std::size_t LargoMaximo = std::size_t{1} << 20U;
+
+  // Throws RunTimeError when the file is missing, is no regular file or cannot be read.
+  explicit LineReader(std::filesystem::path archivo);
+
+  // The next line, without its end; false at the end of the file.
+  bool Next(std::u16string& linea);
+  // The next line; at the end of the file throws RunTimeError: "falta " + `queEs`.
+  std::u16string Require(std::u16string_view queEs);
+  // The next line's bytes, its line end included; false at the end of the file.
+  bool NextBytes(std::string& bytes);
+  std::string RequireBytes(std::u16string_view queEs);
+
+  // Throws RunTimeError that names the file and the line last read.
+  [[noreturn]] void Fail(std::u16string_view queHaPasado) const;
+
+ private:
+  std::filesystem::path ruta_;
+  std::ifstream flujo_;
+  int linea_ = 0;
+};
+
+// A line's bytes without its CR LF or LF.
+std::string_view WithoutLineEnd(std::string_view bytes);
+
+// Puts a file with this content in the place of another, flushed to the disk: at every moment, and
+// after any failure, the path has the old content or the new one, whole. Follows links and keeps
+// the permissions. Throws RunTimeError.
+void ReplaceFile(const std::filesystem::path& archivo, std::string_view contenido);
+
+}  // namespace tasca
