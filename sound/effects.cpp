@@ -1,0 +1,68 @@
+// The choice of sounds.
+#include "sound/effects.h"
+
+namespace tasca {
+namespace {
+
+// Where a seat's cards sound.
+struct Sitio {
+  int Balance;
+  int Volumen;
+};
+
+constexpr Array<Sitio, 1, 4> Sitios{Sitio{0, -320}, Sitio{300, -500}, Sitio{0, -700},
+                                    Sitio{-300, -500}};
+
+void TerminarSecuencia(Game& g) {
+  g.t.Mp1 = {.Veces = 1, .Balance = 0, .Volumen = -320};
+  g.port.StopSound(g.t);
+}
+
+// Moves on to the next seat that changed cards; false when the four have had their turn.
+bool PasarAlSiguiente(Table& t) {
+  do {
+    t.PosicionSonido = t.PosicionSonido + 1 > 4 ? t.PosicionSonido - 3 : t.PosicionSonido + 1;
+    t.SonidosDados += 1;
+    if (t.SonidosDados >= 5) return false;
+  } while (t.CartasCambiadas[t.PosicionSonido] == 0);
+  return true;
+}
+
+}  // namespace
+
+void SonidoCartas(Game& g, Integer Tipo) {
+  g.t.Mp1.Veces = 1;
+  if (Tipo != SonidoReparto && Tipo != SonidoBarajado) return;
+  g.port.OpenSound(g.t, Tipo == SonidoReparto ? u"Son_ReparteCartas.mp3" : u"Son_BarajaCartas.mp3");
+  g.t.SonidoActual = Tipo;
+}
+
+void SonidoDescartes(Game& g, Integer Inicio, Integer C1, Integer C2, Integer C3, Integer C4,
+                     Integer Primero) {
+  Table& t = g.t;
+  t.SonidoActual = SonidoUnaCarta;
+  if (Inicio == -1) {
+    t.CartasCambiadas = {C1, C2, C3, C4};
+    t.PosicionSonido = Primero;
+    t.SonidosDados = 1;
+  } else if (!PasarAlSiguiente(t)) {
+    return TerminarSecuencia(g);
+  }
+  const Sitio sitio = Sitios[t.PosicionSonido];
+  t.Mp1 = {.Veces = t.CartasCambiadas[t.PosicionSonido],
+           .Balance = sitio.Balance,
+           .Volumen = sitio.Volumen};
+  g.port.OpenSound(t, u"Son_DaUnaCarta.wav");
+}
+
+void SonidoAplauso(Game& g) { g.port.OpenSound(g.t, u"Son_aplauso.wav"); }
+
+void Mp1_FinReproduccion(Game& g, Integer EstadoReproduccion) {
+  constexpr int Parado = 0;
+  constexpr int Inactivo = 6;
+  if (EstadoReproduccion != Parado && EstadoReproduccion != Inactivo) return;
+  if (g.t.SonidoActual == SonidoBarajado) return SonidoCartas(g, SonidoReparto);
+  if (g.t.SonidoActual == SonidoUnaCarta) SonidoDescartes(g, 0, 0, 0, 0, 0, 0);
+}
+
+}  // namespace tasca

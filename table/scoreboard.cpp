@@ -1,0 +1,94 @@
+// The scoreboard and the progression from juegos to vacas to the match.
+#include "table/scoreboard.h"
+
+#include "base/endings.h"
+#include "base/text.h"
+#include "sound/effects.h"
+#include "table/hand.h"
+
+namespace tasca {
+namespace {
+
+// Kept: the limit is the remainder of "al mejor de" by 2, not its half: of 3 juegos two are needed,
+// but of 1 two as well, of 4 one and of 5 two.
+int LimiteAlMejorDe(int alMejorDe) { return alMejorDe % 2; }
+
+// The label and the words of an opponent at the end of the match.
+std::u16string Comentario(const Table& t, Seat asiento, MessageCategory categoria) {
+  const std::u16string nombre = t.UsarNombres
+                                    ? std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()}
+                                    : Join(u"Jugador ", asiento);
+  const auto& frase = Mensaje(t, t.PersonajeAsiento[asiento - 1], categoria, 1);
+  return Join(nombre, u": ", frase.Trimmed());
+}
+
+void OfrecenLaMano(Game& g, std::u16string_view resultado, MessageCategory categoria) {
+  g.port.MsgBox(g.t,
+                Join(resultado, CrLf, u"Sus contrarios le ofrecen la mano mientras comentan:", CrLf,
+                     Comentario(g.t, 2, categoria), CrLf, Comentario(g.t, 4, categoria)));
+}
+
+}  // namespace
+
+void MostrarTanteo(Table& t) {
+  t.Text3 = Join(u"Piedras: ", t.Piedras[1], u" / ", t.Piedras[0],    //
+                 u";    juegos: ", t.Juegos[1], u" / ", t.Juegos[0],  //
+                 u";    Vacas: ", t.Vacas[1], u" / ", t.Vacas[0]);
+}
+
+void ComprobarVaca(Game& g) {
+  constexpr Pareja Ninguna = -2;
+  Table& t = g.t;
+  const int limite = LimiteAlMejorDe(t.JuegosVaca);
+  Pareja ganadora = Ninguna;
+  if (t.Juegos[0] > limite) ganadora = 0;
+  if (t.Juegos[1] > limite) ganadora = 1;
+  if (ganadora != Ninguna) {
+    t.Vacas[ganadora] += 1;
+    const int vacas = t.Vacas[ganadora];
+    if (vacas > LimiteAlMejorDe(t.VacasPartida) || vacas >= t.VacasPartida) FinPartida(g, ganadora);
+    // Kept: after a new match has been set up, this shows the figures already back to 0.
+    g.port.MsgBox(t, Join(u"La pareja ", ganadora, u" gana esta vaca. El resultado ha sido de ",
+                          t.Juegos[1], u" a ", t.Juegos[0], u" partidas.", CrLf, t.Vacas[1], u" a ",
+                          t.Vacas[0], u" vaca."));
+    t.Juegos = {};
+  }
+  MostrarTanteo(t);
+}
+
+void FinPartida(Game& g, Pareja pareja) {
+  // Kept: no blank between the number and "gana".
+  g.port.MsgBox(g.t, Join(u"La pareja ", pareja, u"gana esta vaca."));
+  if (pareja == ParejaDe(AsientoHumano)) {
+    SonidoAplauso(g);
+    OfrecenLaMano(g, u"Ha ganado la partida.", MessageCategory::Derr);
+  } else {
+    OfrecenLaMano(g, u"Ha perdido la partida.", MessageCategory::Vict);
+  }
+  const auto pregunta = [&g](std::u16string_view texto) {
+    return g.port.YesNoBox(g.t, {.Titulo = u"Mus", .Texto = texto, .ConIcono = false});
+  };
+  if (!pregunta(u"¿Desea jugar otra partida?")) {
+    g.t.Text2 = u"Hasta pronto";
+    throw LeaveProgram{};
+  }
+  if (pregunta(u"¿Desea cambiar de jugadores?")) {
+    g.port.ChangePlayers();
+    return;
+  }
+  g.t.Piedras = {};
+  g.t.Juegos = {};
+  g.t.Vacas = {};
+  EmpezarMano(g);
+}
+
+void GanaJuego(Game& g, Pareja pareja) {
+  g.t.Juegos[pareja] += 1;
+  g.t.Piedras = {};
+  ComprobarVaca(g);
+  g.t.Fase = -1;
+  MostrarTanteo(g.t);
+  g.t.Text2 = u"Pulse enter para empezar una nueva mano";
+}
+
+}  // namespace tasca

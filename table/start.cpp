@@ -1,0 +1,71 @@
+// The start of a match.
+#include "table/start.h"
+
+#include "base/text.h"
+#include "cards/deck.h"
+#include "cards/hand_text.h"
+#include "characters/character_file.h"
+#include "sound/effects.h"
+#include "startup/settings.h"
+
+namespace tasca {
+namespace {
+
+void FijarOrdagueros(Table& t) {
+  for (Seat asiento = 1; asiento <= 4; ++asiento) {
+    t.OrdagueroAsiento[asiento] = PersonajeDe(t, asiento).Ordaguero;
+  }
+  t.OrdagueroAsiento[AsientoHumano] = 0;
+}
+
+// Who plays with whom; nothing while nobody sits at seat 2.
+std::u16string Titulo(const Table& t) {
+  if (t.PersonajeAsiento[1] == 0) return {};
+  return Join(u"Partida de", CrLf, Trim(t.NombreJugador), u" y ",
+              PersonajeDe(t, 3).Nombre.Trimmed(), CrLf, u" contra ", CrLf,
+              PersonajeDe(t, 2).Nombre.Trimmed(), u" y ", PersonajeDe(t, 4).Nombre.Trimmed(), CrLf,
+              CrLf);
+}
+
+// Kept: the pieces meet with two blanks, or with none, as they stand here.
+std::u16string DescripcionPartida(const Table& t) {
+  std::u16string texto = u"Partida ";
+  if (t.VacasPartida > 1) texto += Join(u"al mejor de ", t.VacasPartida, u" vacas, cada una ");
+  if (t.VacasPartida == 1) texto += u" a una vaca ";
+  if (t.JuegosVaca > 1) texto += Join(u" al mejor de ", t.JuegosVaca, u" juegos de");
+  if (t.JuegosVaca == 1) texto += u" a un juego de ";
+  return Join(texto, t.PiedrasJuego, u" piedras.", CrLf);
+}
+
+}  // namespace
+
+void SembrarConHora(Game& g) {
+  const TimeOfDay hora = g.port.Now();
+  const int semilla = (hora.Hora + 1) * ((hora.Minuto + 1) * (hora.Segundo + 1));
+  g.rnd.Seed(static_cast<std::uint32_t>(semilla));
+}
+
+void Form_Load(Game& g) {
+  Table& t = g.t;
+  static_cast<Form1State&>(t) = {};
+  SembrarConHora(g);
+  t.PersonajeAsiento[0] = 0;
+  for (int i = 1; i <= 4; ++i) t.OrdenAsiento[i] = i;
+  for (int lance = 3; lance <= 4; ++lance) t.Declaracion[lance] = SinDeclaracion;
+  t.ManoPorDecidir = true;
+  t.PiedrasJuego = 35;
+  t.JuegosVaca = 3;
+  t.VacasPartida = 3;
+  LeerParametrosPartida(t);
+  LeerPersonajes(t);
+  FijarOrdagueros(t);
+  CrearBaraja(t, g.rnd);
+  SonidoCartas(g, SonidoBarajado);
+  for (Seat asiento = 1; asiento <= 4; ++asiento) Repartir(g, asiento, 4);
+  MostrarManos(t, AsientoHumano);
+  t.Fase = 0;
+  t.Text2 = Join(Titulo(t), DescripcionPartida(t), u"Sus cartas son ", CrLf, TextoMano(t), CrLf,
+                 u"Pulse enter para empezar");
+}
+
+}  // namespace tasca

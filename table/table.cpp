@@ -1,0 +1,14 @@
+// Look-ups in the table.
+#include "table/table.h"
+
+namespace tasca {
+
+const Personaje& PersonajeDe(const Table& t, Seat asiento) {
+  return t.Personajes[t.PersonajeAsiento[asiento - 1]];
+}
+
+const FixedText<100>& Mensaje(const Table& t, int personaje, MessageCategory categoria, int hueco) {
+  return t.Mensajes[personaje][static_cast<int>(categoria)][hueco];
+}
+
+}  // namespace tasca
