@@ -1,0 +1,96 @@
+// The discard pass.
+#include "base/exchange_sort.h"
+#include "base/text.h"
+#include "cards/deck.h"
+#include "cards/hand_text.h"
+#include "cards/mus.h"
+#include "sound/effects.h"
+
+namespace tasca {
+namespace {
+
+// The two limits of the pile. Kept: the human's is tested once, after all the cards; a computer
+// seat's after every card.
+constexpr int LimitePilaHumano = 36;
+constexpr int LimitePilaComputador = 40;
+
+// Puts the card in a slot on the pile and empties the slot.
+void Tirar(Table& t, Seat asiento, int hueco) {
+  t.Baraja[t.DescarteSiguiente] = t.Manos[asiento][hueco];
+  t.DescarteSiguiente += 1;
+  t.Manos[asiento][hueco] = 0;
+}
+
+void ReiniciarPilaPasado(Table& t, int limite) {
+  if (t.DescarteSiguiente > limite) t.DescarteSiguiente = 1;
+}
+
+std::u16string PreguntaDescartes(const Table& t) {
+  std::u16string texto = Join(u"Sus cartas son: ", CrLf);
+  for (int hueco = 1; hueco <= 4; ++hueco) {
+    texto += Join(hueco, u". ", TextoCarta(t, AsientoHumano, hueco), CrLf);
+  }
+  return texto + u"introduzca los números de las cartas que quiere desechar: ";
+}
+
+int DescartarHumano(Game& g) {
+  Table& t = g.t;
+  const std::u16string respuesta =
+      g.port.InputBox(t, PreguntaDescartes(t), u"Sustituir cartas", u"");
+  int cambiadas = 0;
+  for (int hueco = 1; hueco <= 4; ++hueco) {
+    if (!Contains(respuesta, ToText(hueco))) continue;
+    // Kept: the human's limit is tested too late for a pile that was nearly full, so the card that
+    // would go beyond the deck restarts the pile.
+    ReiniciarPilaPasado(t, LimitePilaComputador);
+    Tirar(t, AsientoHumano, hueco);
+    ++cambiadas;
+  }
+  ReiniciarPilaPasado(t, LimitePilaHumano);
+  // The empty slots go to the end.
+  OrdenarPorCambios(t.Manos[AsientoHumano], [](int carta, int otra) { return carta > otra; });
+  return cambiadas;
+}
+
+int DescartarComputador(Table& t, Seat asiento) {
+  int cambiadas = 0;
+  for (int hueco = 4; hueco >= 1; --hueco) {
+    if (CartaDe(t, asiento, hueco).ValorGrande == ValorRey) continue;
+    Tirar(t, asiento, hueco);
+    ReiniciarPilaPasado(t, LimitePilaComputador);
+    ++cambiadas;
+  }
+  return cambiadas;
+}
+
+// Kept: a computer seat's name is written with the padding of its field.
+std::u16string QuienCambia(const Table& t, Seat asiento) {
+  if (!t.UsarNombres) return Join(u"El jugador ", asiento);
+  if (asiento == AsientoHumano) return t.NombreJugador;
+  return std::u16string{PersonajeDe(t, asiento).Nombre.Full()};
+}
+
+int CambiarCartas(Game& g, Seat asiento) {
+  Table& t = g.t;
+  const bool humano = asiento == AsientoHumano;
+  const int cambiadas = humano ? DescartarHumano(g) : DescartarComputador(t, asiento);
+  t.Text2 += Join(QuienCambia(t, asiento), u" cambia ", cambiadas, u" cartas.", CrLf);
+  Repartir(g, asiento, cambiadas);
+  if (humano) t.Text2 += Join(u"Sus cartas son ", CrLf, TextoMano(t), CrLf);
+  return cambiadas;
+}
+
+}  // namespace
+
+void Descartar(Game& g) {
+  Array<Integer, 1, 4> cambiadas;
+  for (int i = 1; i <= 4; ++i) {
+    const Seat asiento = g.t.OrdenAsiento[i];
+    cambiadas[asiento] = CambiarCartas(g, asiento);
+  }
+  SonidoDescartes(g, -1, cambiadas[1], cambiadas[2], cambiadas[3], cambiadas[4],
+                  g.t.OrdenAsiento[1]);
+  MostrarManos(g.t, AsientoHumano);
+}
+
+}  // namespace tasca

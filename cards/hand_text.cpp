@@ -1,0 +1,41 @@
+// Writing hands.
+#include "cards/hand_text.h"
+
+#include "base/text.h"
+
+namespace tasca {
+namespace {
+
+std::u16string TextoManoDe(const Table& t, Seat asiento) {
+  std::u16string texto = TextoCarta(t, asiento, 1);
+  for (int hueco = 2; hueco <= 4; ++hueco) texto += Join(u", ", TextoCarta(t, asiento, hueco));
+  return texto;
+}
+
+std::u16string Encabezado(const Table& t, Seat asiento) {
+  if (asiento == AsientoHumano) return t.NombreJugador;
+  if (t.UsarNombres) return std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()};
+  return Join(u"Jugador ", asiento);
+}
+
+}  // namespace
+
+std::u16string TextoCarta(const Table& t, Seat asiento, int hueco) {
+  const Card& carta = t.Cartas[t.Manos[asiento][hueco]];
+  return Join(carta.Figura.Full(), u" de ", carta.Palo.Full());
+}
+
+std::u16string TextoMano(const Table& t) { return TextoManoDe(t, AsientoHumano); }
+
+void MostrarManos(Table& t, Integer asiento) {
+  if (asiento != TodosLosAsientos) {
+    t.Text1 = TextoManoDe(t, asiento);
+    return;
+  }
+  t.Text1.clear();
+  for (Seat s = 1; s <= 4; ++s) {
+    t.Text1 += Join(Encabezado(t, s), CrLf, TextoManoDe(t, s), CrLf);
+  }
+}
+
+}  // namespace tasca

@@ -1,0 +1,80 @@
+// Building a spoken line.
+#include "characters/speech.h"
+
+#include "base/text.h"
+
+namespace tasca {
+namespace {
+
+// The characters whose first phrases are everybody's default, by style.
+constexpr int PersonajeIndirecto = 1;
+constexpr int PersonajeDirecto = 2;
+
+std::u16string_view FrasePorDefecto(const Table& t, MessageCategory categoria) {
+  const int personaje = t.EstiloDirecto ? PersonajeDirecto : PersonajeIndirecto;
+  return Mensaje(t, personaje, categoria, 1).Trimmed();
+}
+
+std::u16string LineaHumano(const Table& t, MessageCategory categoria, int cantidad) {
+  const std::u16string linea =
+      Join(t.NombreJugador, t.EstiloDirecto ? u": " : u" dice ", FrasePorDefecto(t, categoria));
+  return cantidad == SinCantidad ? linea : ReplaceAll(linea, u"&", ToText(cantidad));
+}
+
+std::u16string Etiqueta(const Table& t, Seat asiento) {
+  std::u16string nombre = Join(t.EstiloDirecto ? u"Jugador " : u"El jugador ", asiento);
+  if (t.UsarNombres) nombre = PersonajeDe(t, asiento).Nombre.Trimmed();
+  return nombre + (t.EstiloDirecto ? u":" : u" dice:");
+}
+
+// One of the seat's own phrases, by the draw.
+// Kept: a second draw copies it over one of the three, so a character comes to repeat itself.
+std::u16string SacarExpresion(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria) {
+  const float r1 = rnd();
+  const float r2 = rnd();
+  const auto hueco = [](float r) { return static_cast<int>(3.0F * r) + 1; };
+  auto& frases = t.Mensajes[t.PersonajeAsiento[asiento - 1]][static_cast<int>(categoria)];
+  const FixedText<100> elegida = frases[hueco(r1)];
+  frases[hueco(r2)] = elegida;
+  return std::u16string{elegida.Trimmed()};
+}
+
+// Kept: a phrase that was never filled falls back on the default one, but an empty phrase, be it a
+// blank one or because characters do not use their own, has no first character and ends the
+// program.
+std::u16string Frase(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria) {
+  std::u16string frase;
+  if (t.UsarExpresiones) frase = SacarExpresion(t, rnd, asiento, categoria);
+  if (frase.empty()) {
+    ThrowInvalidCall(
+        u"Un personaje no tiene nada que decir: marque la casilla \"Usar las expresiones de los "
+        u"jugadores\" al empezar y compruebe que no haya frases en blanco en \"Jugadores.dat\".");
+  }
+  return frase.front() == u'\0' ? std::u16string{FrasePorDefecto(t, categoria)} : frase;
+}
+
+std::u16string ConCantidad(std::u16string frase, MessageCategory categoria, int cantidad) {
+  if (cantidad == SinCantidad) return frase;
+  if (Contains(frase, u"&")) return ReplaceAll(frase, u"&", ToText(cantidad));
+  if (categoria == MessageCategory::EnvM) return Join(TrimRight(frase), u" ", cantidad);
+  return frase;
+}
+
+std::u16string LineaComputador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria,
+                               int cantidad) {
+  std::u16string etiqueta = Etiqueta(t, asiento);
+  const std::u16string frase = Frase(t, rnd, asiento, categoria);
+  // "La boticaria dice: que ..." loses its colons, those of the name too.
+  if (!t.EstiloDirecto && frase.starts_with(u"que")) etiqueta = ReplaceAll(etiqueta, u":", u"");
+  return Join(etiqueta, u" ", ConCantidad(frase, categoria, cantidad));
+}
+
+}  // namespace
+
+void DiceJugador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria, Integer cantidad) {
+  const std::u16string linea = asiento < 2 ? LineaHumano(t, categoria, cantidad)
+                                           : LineaComputador(t, rnd, asiento, categoria, cantidad);
+  t.Text2 += Join(linea, CrLf);
+}
+
+}  // namespace tasca

@@ -1,0 +1,256 @@
+// The count, lance by lance.
+#include "count/count.h"
+
+#include "base/text.h"
+#include "cards/deck.h"
+#include "cards/hand_text.h"
+#include "lances/grande.h"
+#include "lances/juego.h"
+#include "lances/pares.h"
+#include "lances/pequena.h"
+#include "lances/punto.h"
+#include "table/scoreboard.h"
+
+namespace tasca {
+namespace {
+
+std::u16string SeSaca(Pareja pareja) { return Join(u"La pareja ", pareja, u" se saca "); }
+
+// What a count in which both grande and pequeña look alike writes.
+struct LancePorCartas {
+  int Numero;
+  std::u16string_view YaContada;
+  std::u16string_view Envidadas;
+  std::u16string_view EnPaso;
+  Pareja (*Gana)(const Table& t);
+};
+
+constexpr LancePorCartas CuentaGrande{1, u"la grande ya estaba contada ", u" envidadas a grande ",
+                                      u" una de la grande en paso", GanaGrande};
+constexpr LancePorCartas CuentaPequena{2, u"la pequeña ya estaba contada ",
+                                       u" envidadas a pequeña ", u" una de la pequeña en paso",
+                                       GanaPequena};
+
+// Every lance is given the pareja of the lance before, and returns the one that takes it.
+Pareja ContarPorCartas(Table& t, const LancePorCartas& lance, Pareja anterior) {
+  const int apuesta = t.Apuesta[lance.Numero];
+  if (apuesta < 0) {
+    t.Text2 += Join(lance.YaContada, CrLf);
+    return anterior;
+  }
+  const Pareja pareja = lance.Gana(t);
+  t.Text2 += SeSaca(pareja);
+  if (apuesta > 0) {
+    t.Text2 += Join(u" las ", apuesta, lance.Envidadas, CrLf);
+    t.Piedras[pareja] += apuesta;
+  } else {
+    t.Text2 += Join(lance.EnPaso, CrLf);
+    t.Piedras[pareja] += 1;
+  }
+  return pareja;
+}
+
+// The seat's name after a phrase that ends in "de"; "de el ..." becomes "del ...".
+void NombrarAsiento(Table& t, Seat asiento) {
+  if (!t.UsarNombres) {
+    t.Text2 += Join(u"l jugador ", asiento);
+  } else if (asiento == AsientoHumano) {
+    const bool esJugador = Contains(t.NombreJugador, u"ugador");
+    t.Text2 += Join(esJugador ? u"l " : u" ", t.NombreJugador);
+  } else {
+    const FixedText<100>& nombre = PersonajeDe(t, asiento).Nombre;
+    if (nombre.Full().starts_with(u"el")) {
+      t.Text2.pop_back();
+    } else {
+      t.Text2 += u" ";
+    }
+    t.Text2 += nombre.Trimmed();
+  }
+}
+
+bool EsDe(Seat asiento, Pareja pareja) { return ParejaDe(asiento) == pareja; }
+
+// The seats of a pareja for which `tiene` holds.
+template <class Condicion>
+int CuentaAsientos(const Table& t, Pareja pareja, Condicion tiene) {
+  int cuenta = 0;
+  for (Seat asiento = 1; asiento <= 4; ++asiento) {
+    if (EsDe(asiento, pareja) && tiene(t, asiento)) ++cuenta;
+  }
+  return cuenta;
+}
+
+struct ValorPares {
+  int Piedras = 0;
+  std::u16string_view Frase;
+};
+
+ValorPares ValorDe(const std::vector<int>& iguales) {
+  switch (iguales.size()) {
+    case 1:
+      return {1, u"una del par de"};
+    case 3:
+      return {2, u"dos de las medias de"};
+    case 2:
+    case 6:
+      return {3, u"tres de los dúplex de"};
+    default:
+      return {};
+  }
+}
+
+// Kept: after a refused bet at pares nobody is named as its taker, so the pareja of the lance
+// before is paid for its pares, without a heading.
+Pareja QuienSeSacaPares(Table& t, Pareja anterior) {
+  const int apuesta = t.Apuesta[3];
+  if (apuesta < 0) {
+    if (apuesta != ApuestaPagada || t.Declaracion[3] == SinDeclaracion) return anterior;
+    t.Text2 += SeSaca(t.Declaracion[3]);
+    return t.Declaracion[3];
+  }
+  const Pareja pareja = GanaPares(t);
+  if (pareja == -1) {
+    t.Text2 += Join(u"Ninguna de las dos parejas tiene pares", CrLf);
+    return pareja;
+  }
+  t.Text2 += SeSaca(pareja);
+  if (apuesta > 0) {
+    t.Text2 += Join(u" las ", apuesta, u" envidadas a pares");
+    t.Piedras[pareja] += apuesta;
+  }
+  return pareja;
+}
+
+std::u16string_view SeparadorPares(int porNombrar) {
+  if (porNombrar >= 2) return u", ";
+  return porNombrar == 1 ? u" y " : u" ";
+}
+
+Pareja ContarPares(Table& t, Pareja anterior) {
+  const Pareja pareja = QuienSeSacaPares(t, anterior);
+  // After a bet the seats still to be named are counted down, without one those named are counted
+  // up: either way the second of two gets the "y".
+  int porNombrar = t.Apuesta[3] > 0 ? CuentaAsientos(t, pareja, TienePares) : 0;
+  const bool haciaArriba = t.Declaracion[3] != SinDeclaracion || t.Apuesta[3] == 0;
+  for (Seat asiento = 1; asiento <= 4; ++asiento) {
+    if (!EsDe(asiento, pareja)) continue;
+    const ValorPares valor = ValorDe(CartasIguales(t, asiento));
+    if (valor.Piedras < 1) continue;
+    t.Text2 += Join(SeparadorPares(porNombrar), valor.Frase);
+    porNombrar += haciaArriba ? 1 : -1;
+    NombrarAsiento(t, asiento);
+    t.Piedras[pareja] += valor.Piedras;
+  }
+  t.Text2 += CrLf;
+  return pareja;
+}
+
+// Kept: after a refused bet the heading stands only if the pareja that bet has juego.
+Pareja QuienSeSacaJuego(Game& g) {
+  Table& t = g.t;
+  const int apuesta = t.Apuesta[4];
+  if (apuesta < 0) {
+    const Pareja pareja = t.Declaracion[4];
+    if (pareja == SinDeclaracion) g.port.MsgBox(t, u"Posible error ");
+    if (CuentaAsientos(t, pareja, TieneJuego) > 0) t.Text2 += SeSaca(pareja);
+    return pareja;
+  }
+  const Pareja pareja = MejorJuego(t);
+  t.Text2 += SeSaca(pareja);
+  if (apuesta > 0) {
+    t.Text2 += Join(u" las ", apuesta, u" envidadas a juego ");
+    t.Piedras[pareja] += apuesta;
+  }
+  return pareja;
+}
+
+Pareja ContarJuego(Game& g) {
+  constexpr int Treintayuna = 31;
+  Table& t = g.t;
+  const Pareja pareja = QuienSeSacaJuego(g);
+  const int conJuego = CuentaAsientos(t, pareja, TieneJuego);
+  const bool envidado = t.Apuesta[4] > 0;
+  bool primero = true;
+  for (Seat asiento = 1; asiento <= 4; ++asiento) {
+    if (!EsDe(asiento, pareja) || !TieneJuego(t, asiento)) continue;
+    if (!primero) {
+      t.Text2 += u" y ";
+    } else if (envidado) {
+      t.Text2 += conJuego == 2 ? u", " : u" y ";
+    }
+    primero = false;
+    const bool treintayuna = PuntosJuego(t, asiento) == Treintayuna;
+    t.Text2 += treintayuna ? u"tres de la treintayuna de" : u"dos del juego de";
+    NombrarAsiento(t, asiento);
+    t.Piedras[pareja] += treintayuna ? 3 : 2;
+  }
+  return pareja;
+}
+
+// Kept: Apuesta(5) is never reset, so a punto en paso is counted from the last punto that was bet.
+Pareja ContarPunto(Game& g, Pareja anterior) {
+  Table& t = g.t;
+  const int apuesta = t.Apuesta[5];
+  if (apuesta < 0) {
+    const Pareja pareja = t.Declaracion[5];
+    if (pareja == SinDeclaracion) return anterior;
+    t.Text2 += Join(SeSaca(pareja), u"una del punto");
+    t.Piedras[pareja] += 1;
+    return pareja;
+  }
+  const Pareja pareja = MejorPunto(g);
+  t.Text2 += Join(SeSaca(pareja), u" las ", apuesta, u" envidadas a Punto ", CrLf);
+  t.Piedras[pareja] += apuesta;
+  return pareja;
+}
+
+// The pareja that has just taken stones wins the juego when it is past the target; then the count
+// is over. `pareja` may be none at all.
+bool GanaElJuego(Game& g, Pareja pareja) {
+  Table& t = g.t;
+  if (pareja < 0 || pareja > 1 || t.Piedras[pareja] <= t.PiedrasJuego) return false;
+  t.Juegos[pareja] += 1;
+  g.port.MsgBox(t, Join(u"La pareja ", pareja, u" gana este juego por ", t.Piedras[pareja], u" a ",
+                        t.Piedras[1 - pareja]));
+  t.Piedras = {};
+  ComprobarVaca(g);
+  t.Fase = -1;
+  return true;
+}
+
+// True when the juego or the punto ends the juego in play.
+bool ContarUltimoLance(Game& g, Pareja anterior) {
+  Table& t = g.t;
+  if (!t.SeJuegaPunto) return GanaElJuego(g, ContarJuego(g));
+  if (t.Apuesta[5] == 0) {
+    t.Text2 += Join(u"El Punto ya estaba contado ", CrLf);
+    return false;
+  }
+  return GanaElJuego(g, ContarPunto(g, anterior));
+}
+
+void TerminarCuenta(Game& g) {
+  Table& t = g.t;
+  t.Text2 += Join(CrLf, u"El tanteo actual es de ", t.Piedras[1], u" a ", t.Piedras[0], u". ", CrLf,
+                  u"Pulse enter para empezar una nueva mano");
+  ComprobarVaca(g);
+  t.Fase = -1;
+  MostrarTanteo(t);
+}
+
+}  // namespace
+
+void ContarMano(Game& g) {
+  Table& t = g.t;
+  MostrarManos(t, TodosLosAsientos);
+  t.Text2.clear();
+  Pareja pareja = ContarPorCartas(t, CuentaGrande, 0);
+  if (GanaElJuego(g, pareja)) return;
+  pareja = ContarPorCartas(t, CuentaPequena, pareja);
+  if (GanaElJuego(g, pareja)) return;
+  pareja = ContarPares(t, pareja);
+  if (GanaElJuego(g, pareja)) return;
+  if (!ContarUltimoLance(g, pareja)) TerminarCuenta(g);
+}
+
+}  // namespace tasca

@@ -1,0 +1,15 @@
+// Asking and correcting the human's declaration.
+#include "lances/declaration.h"
+
+#include "base/text.h"
+
+namespace tasca {
+
+void PreguntarDeclaracion(Game& g, const PreguntaDeclaracion& pregunta, bool verdad) {
+  const bool respuesta =
+      g.port.YesNoBox(g.t, {.Titulo = pregunta.Titulo, .Texto = u"", .PorDefecto = verdad});
+  if (respuesta == verdad) return;
+  g.port.MsgBox(g.t, Join(u"En realidad ", verdad ? pregunta.SiEnRealidad : pregunta.NoEnRealidad));
+}
+
+}  // namespace tasca

@@ -1,0 +1,23 @@
+// The bidding dialog's two events.
+#include "lances/dialog.h"
+
+namespace tasca {
+
+void Form_Activate(Dialog& dialogo) {
+  dialogo.Visible = true;
+  dialogo.Foco = 0;
+  const bool contraOrdago = dialogo.Modo == ModoRespuestaOrdago;
+  for (const int indice : {2, 3}) {
+    dialogo.Command1[indice].Visible = !contraOrdago;
+    dialogo.Command1[indice].Enabled = !contraOrdago;
+  }
+  if (dialogo.Modo == ModoApertura) dialogo.Command1[1].Caption = u"Envido";
+  if (dialogo.Modo == ModoRespuesta || contraOrdago) dialogo.Command1[1].Caption = u"Quiero";
+}
+
+void Command1_Click(Dialog& dialogo, Integer Index) {
+  dialogo.Resultado = Index;
+  dialogo.Visible = false;
+}
+
+}  // namespace tasca
