@@ -1,0 +1,28 @@
+#pragma once
+// Tables for tests, with hands written as text.
+#include <string>
+#include <string_view>
+
+#include "table/table.h"
+
+namespace tasca::test {
+
+// A table in the middle of a hand: cards built, four hands of no value in any lance that matters,
+// speaking order 1 2 3 4, the default match (35 stones, 3 juegos, 3 vacas), direct style, without
+// names and with phrases of their own. Seats 2, 3, 4 hold characters 3, 4, 5 ("Berta", "el Cojo",
+// "Dora"); the human is "Ana". Every phrase of every character is its tag and its slot ("QMus1").
+Table MesaDePrueba();
+
+// Puts a hand into a seat, slots 1 to 4, the highest card first: "R R 3 5". Ranks: A 2 3 4 5 6 7 S
+// C R;
+// "-" is an empty slot. A rank takes its suits in turn from the oros on, so that no card lies twice
+// at the seat; seats may share cards.
+void DarMano(Table& t, Seat asiento, std::string_view cartas);
+
+// The number of a card: rank as above, suit 1..4.
+int NumeroDeCarta(char figura, int palo);
+
+// Text as UTF-8, for messages and comparisons that a person can read.
+std::string Utf8(std::u16string_view texto);
+
+}  // namespace tasca::test
