@@ -92,6 +92,11 @@ class Descriptor {
   int numero_;
 };
 
+int OpenFile(const fs::path& archivo, int modo, mode_t permisos) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): open() has no other form.
+  return ::open(archivo.c_str(), modo | O_CLOEXEC, permisos);
+}
+
 bool WriteAll(const Descriptor& destino, std::string_view contenido) {
   while (!contenido.empty()) {
     const ssize_t escritos = ::write(destino.Number(), contenido.data(), contenido.size());
@@ -115,7 +120,7 @@ bool WriteTemporary(const fs::path& temporal, const fs::path& modelo, std::strin
   struct stat datos {};
   const mode_t permisos =
       ::stat(modelo.c_str(), &datos) == 0 ? (datos.st_mode & 07777U) : PermisosNormales;
-  Descriptor destino{::open(temporal.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, permisos)};
+  Descriptor destino{OpenFile(temporal, O_WRONLY | O_CREAT | O_TRUNC, permisos)};
   if (!destino.IsOpen()) return false;
   return ::fchmod(destino.Number(), permisos) == 0 && WriteAll(destino, contenido) &&
          FlushToDisk(destino) && destino.Close();
@@ -135,8 +140,7 @@ void ReplaceFile(const fs::path& archivo, std::string_view contenido) {
     ::unlink(temporal.c_str());
     throw RunTimeError::InFile(archivo, 0, u"no se ha podido escribir el archivo.");
   }
-  const Descriptor carpeta{
-      ::open(destino.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+  const Descriptor carpeta{OpenFile(destino.parent_path(), O_RDONLY | O_DIRECTORY, 0)};
   if (carpeta.IsOpen()) FlushToDisk(carpeta);
 }
 
