@@ -41,7 +41,7 @@ std::u16string_view Before(std::u16string_view texto, char16_t letra) {
 
 std::u16string ToText(int numero) {
   std::array<char, 16> cifras{};
-  const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), numero).ptr;
+  char* const fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), numero).ptr;
   return {cifras.data(), fin};
 }
 
