@@ -3,9 +3,11 @@
 
 #include <charconv>
 #include <cmath>
-#include <limits>
+#include <locale>
+#include <sstream>
 #include <string>
-#include <system_error>
+
+#include "base/text.h"
 
 namespace tasca {
 namespace {
@@ -32,10 +34,14 @@ class Scanner {
     }
     return copia.size() > antes;
   }
-  bool Take(std::u16string_view letras) {
-    if (resto_.empty() || letras.find(resto_.front()) == std::u16string_view::npos) return false;
+  // One of `marcas` and the digits after it, or nothing; the mark is copied as `copiada`.
+  void DigitsAfter(std::u16string_view marcas, char copiada, std::string& copia) {
+    const bool siguenCifras =
+        resto_.size() > 1 && Contains(marcas, resto_.substr(0, 1)) && IsDigit(resto_[1]);
+    if (!siguenCifras) return;
+    copia += copiada;
     resto_.remove_prefix(1);
-    return true;
+    Digits(copia);
   }
 
  private:
@@ -46,24 +52,17 @@ class Scanner {
 
 double LeadingNumber(std::u16string_view texto) {
   Scanner lector{texto};
-  std::string mantisa;
+  std::string cifras;
   lector.SkipBlanks();
-  lector.Sign(mantisa);
-  if (!lector.Digits(mantisa)) return 0;
-  if (lector.Take(u".")) {
-    mantisa += '.';
-    lector.Digits(mantisa);
-  }
-  std::string exponente = "e";
-  if (lector.Take(u"eE")) {
-    lector.Sign(exponente);
-    if (lector.Digits(exponente)) mantisa += exponente;
-  }
+  lector.Sign(cifras);
+  if (!lector.Digits(cifras)) return 0;
+  lector.DigitsAfter(u".", '.', cifras);
+  lector.DigitsAfter(u"eE", 'e', cifras);
+  std::istringstream flujo{cifras};
+  flujo.imbue(std::locale::classic());
   double numero = 0;
-  const auto leido = std::from_chars(mantisa.data(), mantisa.data() + mantisa.size(), numero);
-  if (leido.ec != std::errc::result_out_of_range) return numero;
-  const bool diminuto = mantisa.find("e-") != std::string::npos;
-  return diminuto ? 0 : std::numeric_limits<double>::infinity();
+  flujo >> numero;
+  return numero;
 }
 
 int LeadingWhole(std::u16string_view texto) {

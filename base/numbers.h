@@ -7,8 +7,9 @@
 
 namespace tasca {
 
-// The number at the start of a text: blanks, a sign, digits, a point and digits, an exponent (e or
-// E). What follows is ignored; without digits it is 0; beyond a double's range it is infinite.
+// The number at the start of a text: blanks, a sign, digits, a point and digits, e or E and digits.
+// What follows is ignored; without digits it is 0; beyond a double's range it is the greatest
+// double.
 double LeadingNumber(std::u16string_view texto);
 
 // The whole number at the start of a text of up to nine characters: blanks, a sign, digits.

@@ -1,6 +1,8 @@
 // The count, lance by lance.
 #include "count/count.h"
 
+#include <optional>
+
 #include "base/text.h"
 #include "cards/deck.h"
 #include "cards/hand_text.h"
@@ -31,12 +33,12 @@ constexpr LancePorCartas CuentaPequena{2, u"la pequeña ya estaba contada ",
                                        u" envidadas a pequeña ", u" una de la pequeña en paso",
                                        GanaPequena};
 
-// Every lance is given the pareja of the lance before, and returns the one that takes it.
-Pareja ContarPorCartas(Table& t, const LancePorCartas& lance, Pareja anterior) {
+// The pareja that takes the grande or the pequeña; none when the bidding has settled it.
+std::optional<Pareja> ContarPorCartas(Table& t, const LancePorCartas& lance) {
   const int apuesta = t.Apuesta[lance.Numero];
   if (apuesta < 0) {
     t.Text2 += Join(lance.YaContada, CrLf);
-    return anterior;
+    return std::nullopt;
   }
   const Pareja pareja = lance.Gana(t);
   t.Text2 += SeSaca(pareja);
@@ -99,6 +101,7 @@ ValorPares ValorDe(const std::vector<int>& iguales) {
   }
 }
 
+// Given the pareja of the lance before; returns the one that takes the pares.
 // Kept: after a refused bet at pares nobody is named as its taker, so the pareja of the lance
 // before is paid for its pares, without a heading.
 Pareja QuienSeSacaPares(Table& t, Pareja anterior) {
@@ -244,10 +247,15 @@ void ContarMano(Game& g) {
   Table& t = g.t;
   MostrarManos(t, TodosLosAsientos);
   t.Text2.clear();
-  Pareja pareja = ContarPorCartas(t, CuentaGrande, 0);
-  if (GanaElJuego(g, pareja)) return;
-  pareja = ContarPorCartas(t, CuentaPequena, pareja);
-  if (GanaElJuego(g, pareja)) return;
+  Pareja pareja = 0;
+  for (const LancePorCartas& lance : {CuentaGrande, CuentaPequena}) {
+    const std::optional<Pareja> ganadora = ContarPorCartas(t, lance);
+    // Kept: a lance that was settled in the bidding does not win the juego here, even when the
+    // stones paid then are past the target.
+    if (!ganadora) continue;
+    pareja = *ganadora;
+    if (GanaElJuego(g, pareja)) return;
+  }
   pareja = ContarPares(t, pareja);
   if (GanaElJuego(g, pareja)) return;
   if (!ContarUltimoLance(g, pareja)) TerminarCuenta(g);
