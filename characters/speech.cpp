@@ -27,13 +27,13 @@ std::u16string Etiqueta(const Table& t, Seat asiento) {
   return nombre + (t.EstiloDirecto ? u":" : u" dice:");
 }
 
-// One of the seat's own phrases, by the draw.
+// One of the character's own phrases, by the draw.
 // Kept: a second draw copies it over one of the three, so a character comes to repeat itself.
-std::u16string SacarExpresion(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria) {
+std::u16string SacarExpresion(Table& t, Rnd& rnd, int personaje, MessageCategory categoria) {
   const float r1 = rnd();
   const float r2 = rnd();
   const auto hueco = [](float r) { return static_cast<int>(3.0F * r) + 1; };
-  auto& frases = t.Mensajes[t.PersonajeAsiento[asiento - 1]][static_cast<int>(categoria)];
+  auto& frases = t.Mensajes[personaje][static_cast<int>(categoria)];
   const FixedText<100> elegida = frases[hueco(r1)];
   frases[hueco(r2)] = elegida;
   return std::u16string{elegida.Trimmed()};
@@ -42,9 +42,9 @@ std::u16string SacarExpresion(Table& t, Rnd& rnd, Seat asiento, MessageCategory 
 // Kept: a phrase that was never filled falls back on the default one, but an empty phrase, be it a
 // blank one or because characters do not use their own, has no first character and ends the
 // program.
-std::u16string Frase(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria) {
+std::u16string Frase(Table& t, Rnd& rnd, int personaje, MessageCategory categoria) {
   std::u16string frase;
-  if (t.UsarExpresiones) frase = SacarExpresion(t, rnd, asiento, categoria);
+  if (t.UsarExpresiones) frase = SacarExpresion(t, rnd, personaje, categoria);
   if (frase.empty()) {
     ThrowInvalidCall(
         u"Un personaje no tiene nada que decir: marque la casilla \"Usar las expresiones de los "
@@ -62,8 +62,9 @@ std::u16string ConCantidad(std::u16string frase, MessageCategory categoria, int 
 
 std::u16string LineaComputador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria,
                                int cantidad) {
+  const int personaje = t.PersonajeAsiento[asiento - 1];
   std::u16string etiqueta = Etiqueta(t, asiento);
-  const std::u16string frase = Frase(t, rnd, asiento, categoria);
+  const std::u16string frase = Frase(t, rnd, personaje, categoria);
   // "La boticaria dice: que ..." loses its colons, those of the name too.
   if (!t.EstiloDirecto && frase.starts_with(u"que")) etiqueta = ReplaceAll(etiqueta, u":", u"");
   return Join(etiqueta, u" ", ConCantidad(frase, categoria, cantidad));

@@ -1,0 +1,118 @@
+// The count of the punto, and what it remembers from hand to hand.
+#include <gtest/gtest.h>
+
+#include "count/count.h"
+#include "tests/count/recuento.h"
+
+namespace tasca::test {
+namespace {
+
+const std::string Antes = GrandeYPequenaPagadas + "\r\n";
+
+TEST(ContarPunto, GivesTheStonesOfAnAcceptedBet) {
+  Recuento mano;
+  DarMano(mano.t, 4, "7 7 5 4");  // 23 points
+  mano.t.Apuesta[3] = ApuestaPagada;
+  mano.t.Declaracion[3] = 1;  // so that the pares of seat 4 are not paid
+  mano.t.Apuesta[5] = 6;
+  EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
+                               "La pareja 1 se saca \r\n"
+                               "La pareja 0 se saca  las 6 envidadas a Punto \r\n" +
+                               Tanteo(0, 6));
+}
+
+TEST(ContarPunto, GivesEqualPointsToTheSeatNearestTheMano) {
+  Recuento mano;
+  mano.t.OrdenAsiento = {2, 3, 4, 1};
+  mano.t.Apuesta[5] = 2;
+  EXPECT_EQ(mano.Contar(),
+            Antes + "La pareja 0 se saca  las 2 envidadas a Punto \r\n" + Tanteo(0, 2));
+}
+
+TEST(ContarPunto, GivesOneStoneToTheParejaWhoseBetWasRefused) {
+  for (const Pareja pareja : {0, 1}) {
+    Recuento mano;
+    mano.t.Apuesta[5] = ApuestaPagada;
+    mano.t.Declaracion[5] = pareja;
+    EXPECT_EQ(mano.Contar(), Antes + "La pareja " + std::to_string(pareja) +
+                                 " se saca una del punto" + Tanteo(pareja, 1 - pareja));
+  }
+}
+
+TEST(ContarPunto, WritesNothingWhenItIsSettledForNobody) {
+  Recuento mano;
+  mano.t.Apuesta[5] = ApuestaPagada;
+  mano.t.Declaracion[5] = SinDeclaracion;
+  EXPECT_EQ(mano.Contar(), Antes + Tanteo(0, 0));
+}
+
+TEST(ContarPunto, GivesNoStoneEnPasoWhileItHasNeverBeenBet) {
+  Recuento mano;
+  EXPECT_EQ(mano.Contar(), Antes + "El Punto ya estaba contado \r\n" + Tanteo(0, 0));
+}
+
+// Nobody resets the punto's records, so a punto en paso is paid like the last one that was bet.
+TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastAcceptedBet) {
+  Recuento mano;
+  mano.t.Apuesta[5] = 4;
+  mano.Contar();
+  DarMano(mano.t, 2, "7 7 6 4");  // 24 points: now the opponents have the best punto
+  mano.t.Declaracion[3] = 1;      // so that their pares are not paid
+  EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
+                               "La pareja 1 se saca \r\n"
+                               "La pareja 0 se saca  las 4 envidadas a Punto \r\n" +
+                               Tanteo(4, 4));
+}
+
+TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastRefusedBet) {
+  Recuento mano;
+  mano.t.Apuesta[5] = ApuestaPagada;
+  mano.t.Declaracion[5] = 1;
+  mano.Contar();
+  DarMano(mano.t, 2, "7 7 6 4");
+  mano.t.Declaracion[3] = 1;
+  EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
+                               "La pareja 1 se saca \r\n"
+                               "La pareja 1 se saca una del punto" +
+                               Tanteo(2, 0));
+}
+
+// An accepted órdago leaves -1 behind; the pareja is that of the last refused punto, or the
+// opponents' when none was ever refused.
+TEST(ContarPunto, Kept_APuntoEnPasoAfterAnAcceptedOrdagoGivesOneStone) {
+  Recuento mano;
+  mano.t.Apuesta[5] = EnviteOrdago;
+  EXPECT_EQ(mano.Contar(), Antes + "La pareja 0 se saca una del punto" + Tanteo(0, 1));
+  mano.t.Declaracion[5] = 1;
+  EXPECT_EQ(mano.Contar(), Antes + "La pareja 1 se saca una del punto" + Tanteo(1, 1));
+}
+
+TEST(ContarPunto, CanEndTheJuegoByABet) {
+  Recuento mano;
+  mano.t.Piedras = {0, 33};
+  mano.t.Apuesta[5] = 3;
+  EXPECT_EQ(mano.Contar(), Antes + "La pareja 1 se saca  las 3 envidadas a Punto \r\n");
+  EXPECT_EQ(mano.port.TakeEvents(),
+            std::vector<std::string>{"box: La pareja 1 gana este juego por 36 a 0"});
+}
+
+TEST(ContarPunto, CanEndTheJuegoByItsOneStone) {
+  Recuento mano;
+  mano.t.Piedras = {35, 0};
+  mano.t.Apuesta[5] = ApuestaPagada;
+  mano.t.Declaracion[5] = 0;
+  EXPECT_EQ(mano.Contar(), Antes + "La pareja 0 se saca una del punto");
+  EXPECT_EQ(mano.port.TakeEvents(),
+            std::vector<std::string>{"box: La pareja 0 gana este juego por 36 a 0"});
+}
+
+TEST(ContarPunto, EndsNoJuegoWhenItIsSettledForNobody) {
+  Recuento mano;
+  mano.t.Piedras = {35, 36};  // the pareja counted before is 0
+  mano.t.Apuesta[5] = ApuestaPagada;
+  mano.t.Declaracion[5] = SinDeclaracion;
+  EXPECT_EQ(mano.Contar(), Antes + Tanteo(36, 35));
+}
+
+}  // namespace
+}  // namespace tasca::test

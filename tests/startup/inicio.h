@@ -1,0 +1,80 @@
+#pragma once
+// The start-up dialog over a folder of its own, for its tests.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "base/endings.h"
+#include "startup/dlg_inicio.h"
+#include "tests/support/draw_list.h"
+#include "tests/support/scripted_port.h"
+#include "tests/support/tables.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+
+// A record of the character file, one phrase included.
+inline std::string Registro(const std::string& nombre, const std::string& historia) {
+  return "Datos>\r\n" + nombre + "\r\n050\r\n" + historia + "\r\nQMus>\r\nmus\r\n";
+}
+
+// The two default sets and `ofrecidos` more characters: number 3 is "Nombre 3", its story
+// "Historia 3", its list position 1.
+inline std::string Personajes(int ofrecidos) {
+  std::string archivo = Registro("Default indirecto", "-") + Registro("Default directo", "-");
+  for (int i = 3; i < 3 + ofrecidos; ++i) {
+    archivo += Registro("Nombre " + std::to_string(i), "Historia " + std::to_string(i));
+  }
+  return archivo;
+}
+
+struct Inicio {
+  TempFolder carpeta;
+  Table t;
+  Rnd rnd;
+  ScriptedPort port;
+  DlgInicio d;
+
+  // Not loaded yet; without files.
+  Inicio() { t.Carpeta = carpeta.Path(); }
+  // Loaded with this character file.
+  explicit Inicio(const std::string& archivo) : Inicio{} { Cargar(archivo); }
+  // Loaded with so many characters on offer.
+  explicit Inicio(int ofrecidos) : Inicio{Personajes(ofrecidos)} {}
+
+  void Cargar(const std::string& archivo) {
+    carpeta.Write("Jugadores.dat", archivo);
+    Cargar();
+  }
+  void Cargar() {
+    Game g{t, rnd, port};
+    Form_Load(d, g);
+  }
+
+  void Elegir(int companero, int contrario1, int contrario2) {
+    Combo1_Click(d, companero);
+    Combo2_Click(d, contrario1);
+    Combo3_Click(d, contrario2);
+  }
+
+  // "Aceptar", with just these draws.
+  bool Aceptar(std::initializer_list<float> sacadas = {}) {
+    DrawList lista{sacadas};
+    Game g{t, lista.Get(), port};
+    return CbOK_Click(d, g);
+  }
+};
+
+// The message of the error that ends the program; "" when there is none.
+template <class Operacion>
+std::string FalloDe(Operacion operacion) {
+  try {
+    operacion();
+    return "";
+  } catch (const RunTimeError& error) {
+    return Utf8(error.Message());
+  }
+}
+
+}  // namespace tasca::test
