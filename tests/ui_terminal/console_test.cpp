@@ -1,0 +1,105 @@
+// Lines out and in.
+#include "ui/terminal/console.h"
+
+#include <gtest/gtest.h>
+
+#include "base/endings.h"
+#include "tests/ui_terminal/sessions.h"
+
+namespace tasca::test {
+namespace {
+
+TEST(Console, EndsEveryLineOnce) {
+  FakeConsole c;
+  c.Consola.Line(u"uno");
+  c.Consola.Line(u"dos\r\n");
+  c.Consola.Line(u"");
+  c.Consola.Line(u"tres\r\ncuatro");
+  EXPECT_EQ(c.Take(), "uno\ndos\n\ntres\ncuatro\n");
+}
+
+TEST(Console, LeavesTheCursorBehindAPrompt) {
+  FakeConsole c;
+  c.Consola.Prompt(u"¿mus? ");
+  EXPECT_EQ(c.Take(), "¿mus? ");
+}
+
+TEST(Console, StartsANewLineAfterAnOpenPrompt) {
+  FakeConsole c;
+  c.Consola.Prompt(u"uno");
+  c.Consola.Prompt(u"dos");
+  c.Consola.Line(u"tres");
+  c.Consola.Prompt(u"cuatro");
+  c.Consola.EndLine();
+  c.Consola.EndLine();
+  EXPECT_EQ(c.Take(), "uno\ndos\ntres\ncuatro\n");
+}
+
+TEST(Console, EndsThePromptsLineWhenNobodyEchoesTheAnswer) {
+  FakeConsole c{"s\n"};
+  c.Consola.Prompt(u"¿mus? ");
+  c.Consola.ReadLine();
+  EXPECT_EQ(c.Take(), "¿mus? \n");
+}
+
+TEST(Console, LeavesTheLineBreakToATerminalThatEchoes) {
+  FakeConsole c{"s\n", true};
+  c.Consola.Prompt(u"¿mus? ");
+  c.Consola.ReadLine();
+  c.Consola.Line(u"Ana: Mus");
+  EXPECT_EQ(c.Take(), "¿mus? Ana: Mus\n");
+}
+
+TEST(Console, ReadsLinesWithEitherLineEndAndALastOneWithout) {
+  FakeConsole c{"sí\r\n\nno"};
+  EXPECT_EQ(c.Consola.ReadLine(), u"sí");
+  EXPECT_EQ(c.Consola.ReadLine(), u"");
+  EXPECT_EQ(c.Consola.ReadLine(), u"no");
+  EXPECT_THROW(c.Consola.ReadLine(), LeaveProgram);
+}
+
+TEST(Console, ReadsWhatIsNotUtf8) {
+  FakeConsole c{"Jos\xE9\n"};
+  EXPECT_EQ(c.Consola.ReadLine(), u"Jos\uFFFD");
+}
+
+TEST(Console, ReadsAVeryLongLine) {
+  FakeConsole c{std::string(3'000'000, 'x') + "\n"};
+  EXPECT_EQ(c.Consola.ReadLine().size(), 3'000'000U);
+}
+
+TEST(Console, SendsEverythingOnBeforeItReads) {
+  struct CountingBuffer : std::stringbuf {
+    int sync() override {
+      ++Flushes;
+      return 0;
+    }
+    int Flushes = 0;
+  };
+  CountingBuffer buffer;
+  std::ostream out{&buffer};
+  std::istringstream in{"\n"};
+  Console consola{{.In = in, .Out = out, .Err = out}};
+  consola.Prompt(u"¿mus? ");
+  EXPECT_EQ(buffer.Flushes, 0);
+  consola.ReadLine();
+  EXPECT_EQ(buffer.Flushes, 1);
+}
+
+TEST(Console, FailsWhenItsOutputDoesNotArrive) {
+  FakeConsole c{"\n"};
+  c.Out.setstate(std::ios::badbit);
+  EXPECT_THROW(c.Consola.ReadLine(), RunTimeError);
+  EXPECT_THROW(c.Consola.Flush(), RunTimeError);
+}
+
+TEST(Console, TellsErrorsOnTheOtherStreamAndCleansThem) {
+  FakeConsole c;
+  c.Consola.Prompt(u"¿mus? ");
+  c.Consola.Error(u"Falta \u0007algo.");
+  EXPECT_EQ(c.Take(), "¿mus? \n");
+  EXPECT_EQ(c.Err.str(), "Falta \uFFFDalgo.\n");
+}
+
+}  // namespace
+}  // namespace tasca::test

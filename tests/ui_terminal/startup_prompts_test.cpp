@@ -1,0 +1,198 @@
+// The start-up choices, answered in every way.
+#include "ui/terminal/startup_prompts.h"
+
+#include <gtest/gtest.h>
+
+#include "base/endings.h"
+#include "tests/support/tables.h"
+#include "tests/ui_terminal/sessions.h"
+#include "ui/terminal/terminal_port.h"
+
+namespace tasca::test {
+namespace {
+
+TimeOfDay Midnight() { return {}; }
+
+struct AtTheDoor : FakeConsole {
+  explicit AtTheDoor(const std::string& entrada) : FakeConsole{entrada} {
+    LlenarCarpeta(Carpeta);
+    t.Carpeta = Carpeta.Path();
+  }
+
+  // Asks, and gives what was printed.
+  std::string Ask() {
+    AskStartup(g, Consola);
+    return Take();
+  }
+
+  TempFolder Carpeta;
+  Table t;
+  Rnd rnd;
+  Screen Pantalla{Consola};
+  TerminalPort Puerto{Consola, Pantalla, Midnight};
+  Game g{t, rnd, Puerto};
+};
+
+const std::string Bienvenida =
+    "Bienvenido a la tasca\n"
+    "del tío Zarandel\n"
+    "Elija a sus compañeros de mesa \n"
+    "y la forma de la partida.\n"
+    "Que pase ustéd un buen rato\n"
+    "Enter deja lo que está entre corchetes; q sale del juego; ? da ayuda.\n";
+const std::string Lista = "0 Aleatorio\n1 Berta\n2 el Cojo\n3 Dora\n4 el Tuerto\n";
+
+TEST(AskStartup, TakesAllTheDefaults) {
+  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  EXPECT_EQ(a.Ask(), Bienvenida + "Su nombre: [Ana] \n" + Lista +
+                         "Compañero: [0 Aleatorio] \n"
+                         "Contrario 1: [0 Aleatorio] \n"
+                         "Contrario 2: [0 Aleatorio] \n"
+                         "Usar los nombres de los jugadores [S/n] \n"
+                         "Usar las expresiones de los jugadores [S/n] \n"
+                         "Narración: 0 Estilo directo, 1 Estilo indirecto [0] \n"
+                         "Así se contará: La boticaria: Sí, como bueyes\n");
+  EXPECT_EQ(a.t.NombreJugador, u"Ana");
+  EXPECT_TRUE(a.t.UsarNombres && a.t.UsarExpresiones && a.t.EstiloDirecto);
+}
+
+TEST(AskStartup, SeatsOfferedCharactersForAleatorio) {
+  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  a.Ask();
+  for (const Seat asiento : {2, 3, 4}) {
+    const int personaje = a.t.PersonajeAsiento[asiento - 1];
+    EXPECT_TRUE(personaje >= 3 && personaje <= 6) << asiento << ": " << personaje;
+  }
+}
+
+TEST(AskStartup, TakesOtherAnswersAndTellsTheStories) {
+  AtTheDoor a{"Íñigo\n3\nCOJO\nberta\nn\ns\nindirecto\n"};
+  EXPECT_EQ(a.Ask(), Bienvenida + "Su nombre: [Ana] \n" + Lista +
+                         "Compañero: [0 Aleatorio] \n"
+                         "Prudente como una gata.\n"
+                         "Contrario 1: [0 Aleatorio] \n"
+                         "Perdió la pierna en una apuesta.\n"
+                         "Contrario 2: [0 Aleatorio] \n"
+                         "Guisa como nadie.\n"
+                         "Usar los nombres de los jugadores [S/n] \n"
+                         "Usar las expresiones de los jugadores [S/n] \n"
+                         "Narración: 0 Estilo directo, 1 Estilo indirecto [0] \n"
+                         "Así se contará: El jugador 3 dice: Sí, como bueyes\n");
+  EXPECT_EQ(a.t.NombreJugador, u"Íñigo");
+  EXPECT_EQ(a.t.PersonajeAsiento[2], 5);
+  EXPECT_EQ(a.t.PersonajeAsiento[1], 4);
+  EXPECT_EQ(a.t.PersonajeAsiento[3], 3);
+  EXPECT_FALSE(a.t.UsarNombres);
+  EXPECT_TRUE(a.t.UsarExpresiones);
+  EXPECT_FALSE(a.t.EstiloDirecto);
+  EXPECT_EQ(a.Carpeta.Read("mus.ini"),
+            "35\r\n3\r\n3\r\n\xCD\xF1igo> Nombre del \xFAltimo jugador\r\n"
+            "Ana> Nombre del \xFAltimo jugador\r\n");
+}
+
+TEST(AskStartup, PreviewsTheLineWithoutExpressions) {
+  AtTheDoor a{"\n\n\n\nn\nn\n0\n"};
+  EXPECT_TRUE(a.Ask().ends_with("Así se contará: jugador 3: Sí tengo pares\n"));
+  EXPECT_FALSE(a.t.UsarExpresiones);
+}
+
+TEST(AskStartup, AsksAgainAfterACompanionWhoIsAlsoAnOpponent) {
+  AtTheDoor a{
+      "Eva\n1\n1\n\n\nn\ni\n"
+      "\n\n2\n\n\n\n\n"};
+  EXPECT_TRUE(
+      a.Ask().ends_with("Así se contará: La boticaria dice: Sí tengo pares\n"
+                        "[Si quiere que Berta sea su pareja de juego, no puede ser también su "
+                        "oponente. ¿Lógico no?]\n"
+                        "Su nombre: [Eva] \n" +
+                        Lista +
+                        "Compañero: [1 Berta] \n"
+                        "Contrario 1: [1 Berta] \n"
+                        "Perdió la pierna en una apuesta.\n"
+                        "Contrario 2: [0 Aleatorio] \n"
+                        "Usar los nombres de los jugadores [S/n] \n"
+                        "Usar las expresiones de los jugadores [s/N] \n"
+                        "Narración: 0 Estilo directo, 1 Estilo indirecto [1] \n"
+                        "Así se contará: La boticaria dice: Sí tengo pares\n"));
+  EXPECT_EQ(a.t.NombreJugador, u"Eva");
+  EXPECT_EQ(a.t.PersonajeAsiento[2], 3);
+  EXPECT_EQ(a.t.PersonajeAsiento[1], 4);
+  EXPECT_FALSE(a.t.EstiloDirecto);
+}
+
+TEST(AskStartup, AsksAgainAfterTwoOpponentsWhoAreOne) {
+  AtTheDoor a{
+      "\n\n3\n3\n\n\n\n"
+      "\n\n\n0\n\n\n\n"};
+  const std::string texto = a.Ask();
+  EXPECT_NE(texto.find("[Lo siento, pero Dora no tiene hermanos gemelos que puedan ser su pareja. "
+                       "Elija otro compañero.]\nSu nombre: [Ana] \n"),
+            std::string::npos);
+  EXPECT_EQ(a.t.PersonajeAsiento[1], 5);
+}
+
+TEST(AskStartup, ExplainsAnswersThatDoNotFit) {
+  AtTheDoor a{"\n5\nZutano\nel\n4\n\n\nquizá\n\n\n2\n\n"};
+  const std::string texto = a.Ask();
+  const std::string reparo =
+      "Eso no se ofrece. Escriba uno de los números o el comienzo de uno de los nombres.\n";
+  EXPECT_NE(
+      texto.find("Compañero: [0 Aleatorio] \n" + reparo + "Compañero: [0 Aleatorio] \n" + reparo +
+                 "Compañero: [0 Aleatorio] \n"
+                 "Puede ser el Cojo o el Tuerto. Escriba algo más, o el número.\n"
+                 "Compañero: [0 Aleatorio] \nLo ve todo.\n"),
+      std::string::npos);
+  EXPECT_NE(texto.find("jugadores [S/n] \nConteste \"s\" (sí) o \"n\" (no).\n"
+                       "Usar los nombres de los jugadores [S/n] \n"),
+            std::string::npos);
+  EXPECT_NE(texto.find("Estilo indirecto [0] \n" + reparo), std::string::npos);
+  EXPECT_EQ(a.t.PersonajeAsiento[2], 6);
+}
+
+TEST(AskStartup, TellsAllTheStoriesOnDemand) {
+  AtTheDoor a{"\n?\n\n\n\n\n\n\n"};
+  EXPECT_NE(a.Ask().find("Compañero: [0 Aleatorio] \n"
+                         "0 Aleatorio\n"
+                         "1 Berta: Guisa como nadie.\n"
+                         "2 el Cojo: Perdió la pierna en una apuesta.\n"
+                         "3 Dora: Prudente como una gata.\n"
+                         "4 el Tuerto: Lo ve todo.\n"
+                         "Los compañeros se eligen por su número o por su nombre.\n"
+                         "Enter deja lo que está entre corchetes; q sale del juego.\n"
+                         "Compañero: [0 Aleatorio] \n"),
+            std::string::npos);
+}
+
+bool Leaves(AtTheDoor& a) {
+  try {
+    a.Ask();
+    return false;
+  } catch (const LeaveProgram&) {
+    return true;
+  }
+}
+
+// Leaves after so many defaults; nothing may have been written by then.
+void ExpectToLeave(std::size_t antes, const std::string& orden) {
+  AtTheDoor a{std::string(antes, '\n') + orden};
+  EXPECT_TRUE(Leaves(a)) << orden << antes;
+  EXPECT_EQ(a.Carpeta.Read("mus.ini"), "35\r\n3\r\n3\r\nAna> Nombre del \xFAltimo jugador\r\n");
+}
+
+TEST(AskStartup, LetsThePlayerLeaveAtEveryPrompt) {
+  for (const std::string orden : {"q\n", "Q\n", "salir\n", ""}) {
+    for (std::size_t antes = 0; antes < 7; ++antes) ExpectToLeave(antes, orden);
+  }
+}
+
+TEST(AskStartup, SaysThatTheCharacterFileIsMissing) {
+  AtTheDoor a{"\n"};
+  std::filesystem::remove(a.Carpeta.Path() / "Jugadores.dat");
+  EXPECT_THROW(a.Ask(), RunTimeError);
+  EXPECT_EQ(a.Take(),
+            "[No se encuentra el archivo con los datos de los personajes. El programa va a "
+            "terminar su ejecución.]\n");
+}
+
+}  // namespace
+}  // namespace tasca::test

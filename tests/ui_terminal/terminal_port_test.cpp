@@ -1,0 +1,169 @@
+// The rules' questions as a player meets them.
+#include "ui/terminal/terminal_port.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "base/endings.h"
+#include "lances/dialog.h"
+#include "tests/support/tables.h"
+#include "tests/ui_terminal/sessions.h"
+
+namespace tasca::test {
+namespace {
+
+TimeOfDay TwentyToFive() { return {.Hora = 16, .Minuto = 40, .Segundo = 1}; }
+
+struct AtTheTable : FakeConsole {
+  explicit AtTheTable(const std::string& entrada = {}) : FakeConsole{entrada} {
+    t.Text2 = u"La grande\r\n";
+  }
+
+  // The button pressed in the dialog, as the protocol shows it.
+  int Bid(std::u16string_view titulo, int modo) {
+    Dialog dialogo;
+    dialogo.Caption = titulo;
+    dialogo.Modo = modo;
+    Form_Activate(dialogo);
+    Puerto.ShowDialog(t, dialogo);
+    EXPECT_FALSE(dialogo.Visible);
+    return dialogo.Resultado;
+  }
+
+  Table t = MesaDePrueba();
+  Screen Pantalla{Consola};
+  TerminalPort Puerto{Consola, Pantalla, TwentyToFive};
+};
+
+TEST(TerminalMsgBox, PrintsWhatIsNewAndThenItsText) {
+  AtTheTable a;
+  a.Puerto.MsgBox(a.t, u"Ha ganado la partida.\r\nDora: Vaya");
+  EXPECT_EQ(a.Take(), "La grande\n[Ha ganado la partida.\nDora: Vaya]\n");
+}
+
+TEST(TerminalYesNoBox, AsksWithItsTitleWhenItHasNoText) {
+  AtTheTable a{"s\n"};
+  EXPECT_TRUE(a.Puerto.YesNoBox(a.t, {.Titulo = u"¿mus?", .Texto = u""}));
+  EXPECT_EQ(a.Take(), "La grande\n¿mus? [S/n] \n");
+}
+
+TEST(TerminalYesNoBox, AsksWithItsTextWhenItHasOne) {
+  AtTheTable a{"n\n"};
+  EXPECT_FALSE(a.Puerto.YesNoBox(a.t, {.Titulo = u"Mus", .Texto = u"¿Desea jugar otra partida?"}));
+  EXPECT_EQ(a.Take(), "La grande\n¿Desea jugar otra partida? [S/n] \n");
+}
+
+TEST(TerminalYesNoBox, TakesTheDefaultForNothingTyped) {
+  AtTheTable a{"\n\n"};
+  EXPECT_FALSE(
+      a.Puerto.YesNoBox(a.t, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}));
+  EXPECT_TRUE(
+      a.Puerto.YesNoBox(a.t, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = true}));
+}
+
+TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
+  AtTheTable a{"\n5\n-\n"};
+  const auto pregunta = [&a] {
+    return a.Puerto.InputBox(a.t, u"¿Cuántas envida?", u"Envite a grande", u"2");
+  };
+  EXPECT_EQ(pregunta(), u"2");
+  EXPECT_EQ(a.Take(), "La grande\nEnvite a grande\n¿Cuántas envida? [2; - cancela] \n");
+  EXPECT_EQ(pregunta(), u"5");
+  EXPECT_EQ(pregunta(), u"");
+}
+
+TEST(TerminalInputBox, DiscardsNothingWhenNothingIsTyped) {
+  AtTheTable a{"\n1 3\n"};
+  const auto pregunta = [&a] {
+    return a.Puerto.InputBox(a.t, u"Sus cartas son: \r\n1. Rey\r\ncuáles: ", u"Sustituir cartas",
+                             u"");
+  };
+  EXPECT_EQ(pregunta(), u"");
+  EXPECT_EQ(pregunta(), u"1 3");
+  EXPECT_EQ(a.Take(),
+            "La grande\n"
+            "Sustituir cartas\nSus cartas son: \n1. Rey\ncuáles: [nada; - cancela] \n"
+            "Sustituir cartas\nSus cartas son: \n1. Rey\ncuáles: [nada; - cancela] \n");
+}
+
+TEST(TerminalDialog, OffersFourButtonsInAnOpening) {
+  AtTheTable a{"3\n"};
+  EXPECT_EQ(a.Bid(u"La grande", ModoApertura), 3);
+  EXPECT_EQ(a.Take(), "La grande\nLa grande: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \n");
+}
+
+TEST(TerminalDialog, OffersQuieroInAnAnswer) {
+  AtTheTable a{"quiero\n"};
+  EXPECT_EQ(a.Bid(u"Envite a pares", ModoRespuesta), 1);
+  EXPECT_EQ(a.Take(), "La grande\nEnvite a pares: 0 Paso, 1 Quiero, 2 Envido Más, 3 Órdago [0] \n");
+}
+
+TEST(TerminalDialog, OffersAndTakesOnlyTwoButtonsAgainstAnOrdago) {
+  AtTheTable a{"2\nórdago\nenvido\nq\n"};
+  EXPECT_EQ(a.Bid(u"Envite a grande", ModoRespuestaOrdago), 1);
+  const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
+  const std::string reparo =
+      "Eso no se ofrece. Escriba uno de los números o el comienzo de uno de los nombres.\n";
+  EXPECT_EQ(a.Take(),
+            "La grande\n" + pregunta + reparo + pregunta + reparo + pregunta + reparo + pregunta);
+}
+
+TEST(TerminalDialog, PassesWhenNothingIsTyped) {
+  AtTheTable a{"\n"};
+  EXPECT_EQ(a.Bid(u"La grande", ModoApertura), 0);
+}
+
+TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
+  AtTheTable a{"?\n1\n"};
+  a.t.Text1 = u"Rey de oros";
+  a.t.Text3 = u"Piedras: 0 / 0";
+  EXPECT_EQ(a.Bid(u"Envite a grande", ModoRespuestaOrdago), 1);
+  const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
+  const std::string mesa = "Rey de oros\nPiedras: 0 / 0\n";
+  EXPECT_EQ(a.Take(), "La grande\n" + mesa + pregunta + mesa +
+                          "Enter da la respuesta que está entre corchetes.\n" + pregunta);
+}
+
+TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {
+  AtTheTable a;
+  EXPECT_THROW(a.Puerto.YesNoBox(a.t, {.Titulo = u"¿mus?", .Texto = u""}), LeaveProgram);
+  EXPECT_THROW(a.Puerto.InputBox(a.t, u"¿Cuántas?", u"Envite", u"2"), LeaveProgram);
+  EXPECT_THROW(a.Bid(u"La grande", ModoApertura), LeaveProgram);
+}
+
+TEST(TerminalPort, RemembersTheWishForOtherCompanionsOnce) {
+  AtTheTable a;
+  EXPECT_FALSE(a.Puerto.TakeChangePlayers());
+  a.Puerto.ChangePlayers();
+  EXPECT_TRUE(a.Puerto.TakeChangePlayers());
+  EXPECT_FALSE(a.Puerto.TakeChangePlayers());
+}
+
+TEST(TerminalPort, AsksItsClock) {
+  AtTheTable a;
+  EXPECT_EQ(a.Puerto.Now().Hora, 16);
+  EXPECT_EQ(a.Puerto.Now().Minuto, 40);
+  EXPECT_EQ(a.Puerto.Now().Segundo, 1);
+}
+
+int SecondsIn(const char* zona) {
+  ::setenv("TZ", zona, 1);  // NOLINT(concurrency-mt-unsafe): the test has one thread
+  const TimeOfDay hora = LocalTime();
+  EXPECT_TRUE(hora.Hora >= 0 && hora.Hora <= 23);
+  EXPECT_TRUE(hora.Minuto >= 0 && hora.Minuto <= 59);
+  EXPECT_TRUE(hora.Segundo >= 0 && hora.Segundo <= 59);
+  return (hora.Hora * 60 + hora.Minuto) * 60 + hora.Segundo;
+}
+
+TEST(LocalTime, IsTheTimeOfThePlayersPlace) {
+  constexpr int Dia = 24 * 60 * 60;
+  const int aqui = SecondsIn("UTC0");
+  const int alEste = SecondsIn("XXX-5:30");
+  const int diferencia = (alEste - aqui + Dia) % Dia;
+  EXPECT_GE(diferencia, (5 * 60 + 30) * 60);
+  EXPECT_LE(diferencia, (5 * 60 + 30) * 60 + 5) << "but for the time between the two readings";
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,299 @@
+// Whole sessions, from the door to the street.
+#include "ui/terminal/terminal.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tests/support/temp_folder.h"
+#include "tests/ui_terminal/sessions.h"
+
+namespace tasca::test {
+namespace {
+
+const std::string Puerta = "\n\n\n\n\n\n\n";  // seven defaults, and the first hand is dealt
+
+int Count(const std::string& texto, const std::string& que) {
+  int veces = 0;
+  for (std::size_t i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++veces;
+  return veces;
+}
+
+bool Contains(const std::string& texto, const std::string& que) {
+  return texto.find(que) != std::string::npos;
+}
+
+// What a session prints after the start-up choices.
+std::string AtTheTable(const SessionResult& sesion) {
+  return sesion.Out.substr(sesion.Out.find("Partida de\n"));
+}
+
+struct Session : testing::Test {
+  TempFolder Carpeta;
+};
+
+TEST_F(Session, OpensTheTableAndLeavesAtTheEndOfTheInput) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n");
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_EQ(sesion.Err, "");
+  const std::string mesa = AtTheTable(sesion);
+  EXPECT_TRUE(
+      mesa.starts_with("Partida de\nAna y Dora\n contra \nel Cojo y Berta\n\n"
+                       "Partida al mejor de 3 vacas, cada una  al mejor de 3 juegos de35 piedras.\n"
+                       "Sus cartas son \n"))
+      << mesa;
+  EXPECT_TRUE(mesa.ends_with("\nPulse enter para empezar\n")) << mesa;
+  EXPECT_EQ(Count(mesa, "\n"), 9) << "the hand is told once, in the transcript";
+}
+
+TEST_F(Session, TakesInputWithWindowsLineEnds) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, "Eva\r\n3\r\n\r\n\r\n\r\n\r\n\r\nsalir\r\n");
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_TRUE(AtTheTable(sesion).starts_with("Partida de\nEva y Dora\n"));
+}
+
+TEST_F(Session, EndsWithStatusZeroWhereverTheInputEnds) {
+  LlenarCarpeta(Carpeta);
+  for (std::size_t lineas = 0; lineas < 60; ++lineas) {
+    const SessionResult sesion = PlayLines(Carpeta, std::string(lineas, '\n'));
+    EXPECT_EQ(sesion.Status, 0) << lineas;
+    EXPECT_EQ(sesion.Err, "") << lineas;
+    EXPECT_TRUE(sesion.Out.ends_with('\n')) << lineas;
+  }
+}
+
+// Plays until the question in which `ultima` occurs, and ends the input there.
+SessionResult PlayUpTo(const TempFolder& carpeta, const std::string& ultima) {
+  return PlayWith(carpeta, [&](const std::string& pregunta) -> std::optional<std::string> {
+    if (Contains(pregunta, ultima)) return std::nullopt;
+    if (Contains(pregunta, "¿mus?")) return ultima == "desechar:" ? "s" : "n";
+    if (Contains(pregunta, "Envido Más")) return ultima == "¿Cuántas" ? "2" : "0";
+    return "";
+  });
+}
+
+TEST_F(Session, EndsWithStatusZeroInEveryKindOfQuestion) {
+  LlenarCarpeta(Carpeta);
+  for (const std::string ultima : {"¿mus?", "desechar:", "Paso", "¿Cuántas", "pares?"}) {
+    const SessionResult sesion = PlayUpTo(Carpeta, ultima);
+    EXPECT_EQ(sesion.Status, 0) << ultima;
+    EXPECT_EQ(sesion.Err, "") << ultima;
+    const std::size_t linea = sesion.Out.rfind('\n', sesion.Out.size() - 2);
+    EXPECT_TRUE(Contains(sesion.Out.substr(linea), ultima)) << sesion.Out.substr(linea);
+  }
+}
+
+// The parts that `texto` lacks, or has in another order.
+std::vector<std::string> MissingParts(const std::string& texto,
+                                      const std::vector<std::string>& partes) {
+  std::vector<std::string> faltan;
+  std::size_t desde = 0;
+  for (const std::string& parte : partes) {
+    const std::size_t donde = texto.find(parte, desde);
+    if (donde == std::string::npos) {
+      faltan.push_back(parte);
+    } else {
+      desde = donde + parte.size();
+    }
+  }
+  return faltan;
+}
+
+TEST_F(Session, PlaysAHandFromTheMusToTheCount) {
+  LlenarCarpeta(Carpeta);
+  const Player jugador = [](const std::string& pregunta) -> std::optional<std::string> {
+    if (pregunta == "pulse Enter para empezar") return std::nullopt;
+    return Contains(pregunta, "¿mus?") ? "n" : "";
+  };
+  const SessionResult sesion = PlayWith(Carpeta, jugador);
+  EXPECT_EQ(sesion.Status, 0);
+  const std::vector<std::string> partes{
+      "Pulse enter para empezar\n¿mus? [S/n] \nAna: NMus\nAna es mano\n",
+      "Pulse enter para continuar\n",
+      "La grande\nLa grande: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \nAna: Paso\n",
+      "Pequeña \nLa Pequeña: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \nAna: Paso\n",
+      "¿Tiene pares? [",
+      "¿Tiene Juego? [",
+      "\nAna\n",
+      "la grande",
+      "El tanteo actual es de ",
+      "\nPiedras: ",
+      "\nPulse enter para empezar una nueva mano\n",
+      "Sus cartas son\n",
+      " es mano\npulse Enter para empezar\n"};
+  EXPECT_EQ(MissingParts(sesion.Out, partes), std::vector<std::string>{}) << sesion.Out;
+}
+
+TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, Puerta + "q\nQ\n");
+  EXPECT_EQ(sesion.Status, 0);
+  const std::string mesa = AtTheTable(sesion);
+  EXPECT_EQ(Count(mesa, "Sus cartas son"), 3);
+  EXPECT_EQ(Count(mesa, " es mano\npulse Enter para empezar\n"), 2);
+  EXPECT_FALSE(Contains(mesa, "¿mus?"));
+}
+
+TEST_F(Session, LaysAllHandsOpenForTheZero) {
+  LlenarCarpeta(Carpeta);
+  const std::string mesa = AtTheTable(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n0\n"));
+  const std::string abiertas = mesa.substr(mesa.find("empezar\n") + 8);
+  EXPECT_EQ(Count(abiertas, "\n"), 8);
+  EXPECT_TRUE(abiertas.starts_with("Ana\n")) << abiertas;
+  EXPECT_TRUE(Contains(abiertas, "\nel Cojo\n"));
+  EXPECT_TRUE(Contains(abiertas, "\nDora\n"));
+  EXPECT_TRUE(Contains(abiertas, "\nBerta\n"));
+  EXPECT_EQ(Count(abiertas, " de "), 16);
+}
+
+TEST_F(Session, HelpsWithoutPlayingOn) {
+  LlenarCarpeta(Carpeta);
+  const std::string mesa = AtTheTable(PlayLines(Carpeta, Puerta + "?\n"));
+  EXPECT_TRUE(
+      mesa.ends_with("Enter sigue la mano.\n"
+                     "q abandona la mano y empieza otra.\n"
+                     "0 enseña las cartas de los cuatro.\n"
+                     "salir, o Ctrl+D, deja el juego.\n"))
+      << mesa;
+  EXPECT_EQ(Count(mesa, "Sus cartas son"), 1);
+  EXPECT_EQ(Count(mesa, " de oros") + Count(mesa, " de copas") + Count(mesa, " de espadas") +
+                Count(mesa, " de bastos"),
+            8)
+      << "the hand twice";
+}
+
+TEST_F(Session, HintsAtTheKeysForAnythingElse) {
+  LlenarCarpeta(Carpeta);
+  for (const std::string otra : {"x", "13", "envido", "qq", "00"}) {
+    const std::string mesa = AtTheTable(PlayLines(Carpeta, Puerta + otra + "\n"));
+    EXPECT_TRUE(mesa.ends_with(
+        "Pulse enter para empezar\n"
+        "Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.\n"))
+        << otra << "\n"
+        << mesa;
+  }
+}
+
+TEST_F(Session, LeavesOnTheWord) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, Puerta + "Salir\n\n\n");
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_FALSE(Contains(sesion.Out, "¿mus?"));
+}
+
+// With these settings a pareja takes the juego with its second stone, the vaca with its first juego
+// and the match with its first vaca.
+void LlenarParaPartidaCorta(const TempFolder& carpeta) { LlenarCarpeta(carpeta, "1", "4", "4"); }
+
+TEST_F(Session, SaysGoodbyeWhenThePlayerWantsNoOtherMatch) {
+  LlenarParaPartidaCorta(Carpeta);
+  const SessionResult sesion = PlayWith(Carpeta, [](const std::string& pregunta) {
+    return Contains(pregunta, "¿mus?") || Contains(pregunta, "otra partida?") ? "n" : "";
+  });
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_EQ(sesion.Err, "");
+  EXPECT_TRUE(Contains(sesion.Out, " la partida.\nSus contrarios le ofrecen la mano"));
+  EXPECT_TRUE(sesion.Out.ends_with("\n¿Desea jugar otra partida? [S/n] \nHasta pronto\n"));
+}
+
+TEST_F(Session, GoesBackToTheDoorWhenThePlayerWantsOtherCompanions) {
+  LlenarParaPartidaCorta(Carpeta);
+  int puertas = 0;
+  const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
+    if (pregunta == "Pulse enter para empezar" && puertas == 2) return std::nullopt;
+    if (pregunta == "Compañero: [0 Aleatorio] ") return ++puertas == 2 ? "dora" : "";
+    return Contains(pregunta, "¿mus?") ? "n" : "";
+  };
+  const SessionResult sesion = PlayWith(Carpeta, jugador);
+  const std::size_t segunda = sesion.Out.rfind("Bienvenido a la tasca\n");
+  EXPECT_TRUE(sesion.Out.substr(0, segunda).ends_with(" vaca.]\n"))
+      << "the step runs to its end, and nothing more of the old table is shown";
+  EXPECT_TRUE(Contains(sesion.Out.substr(segunda), "Partida de\nAna y Dora\n"));
+  EXPECT_TRUE(sesion.Out.ends_with("\nPulse enter para empezar\n"));
+}
+
+TEST_F(Session, ShowsNothingOfTheOldTableInAMessageAtTheDoor) {
+  LlenarParaPartidaCorta(Carpeta);
+  int puertas = 0;
+  const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
+    if (Contains(pregunta, "Su nombre: ") && ++puertas == 3) return std::nullopt;
+    if (puertas == 2 && Contains(pregunta, "Compañero: ")) return "1";
+    if (puertas == 2 && Contains(pregunta, "Contrario 1: ")) return "1";
+    return Contains(pregunta, "¿mus?") ? "n" : "";
+  };
+  const SessionResult sesion = PlayWith(Carpeta, jugador);
+  EXPECT_TRUE(
+      Contains(sesion.Out, "Así se contará: La boticaria: Sí, como bueyes\n[Si quiere que "));
+}
+
+TEST_F(Session, StartsAnotherMatchWithTheSameCompanions) {
+  LlenarParaPartidaCorta(Carpeta);
+  int partidas = 0;
+  const Player jugador = [&partidas](const std::string& pregunta) -> std::optional<std::string> {
+    if (Contains(pregunta, "otra partida?")) return ++partidas == 3 ? "n" : "s";
+    if (Contains(pregunta, "cambiar de jugadores?")) return "n";
+    return Contains(pregunta, "¿mus?") ? "n" : "";
+  };
+  const SessionResult sesion = PlayWith(Carpeta, jugador);
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_EQ(Count(sesion.Out, "Bienvenido a la tasca\n"), 1);
+  EXPECT_TRUE(sesion.Out.ends_with("\nHasta pronto\n"));
+}
+
+TEST_F(Session, EndsWithAnErrorWhenTheAmountTypedIsTooLarge) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayWith(Carpeta, [](const std::string& pregunta) {
+    if (Contains(pregunta, "¿mus?")) return "n";
+    if (Contains(pregunta, "¿Cuántas")) return "40000";
+    return Contains(pregunta, "Envido Más") ? "2" : "";
+  });
+  EXPECT_EQ(sesion.Status, 1);
+  EXPECT_EQ(sesion.Err,
+            "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
+            "ejecución.\n");
+  EXPECT_TRUE(sesion.Out.ends_with('\n'));
+}
+
+TEST_F(Session, EndsWithTheErrorOfAFaultyFile) {
+  LlenarCarpeta(Carpeta);
+  Carpeta.Write("mus.ini", "35\r\n");
+  const SessionResult sesion = PlayLines(Carpeta, Puerta);
+  EXPECT_EQ(sesion.Status, 1);
+  EXPECT_TRUE(Contains(sesion.Err, "mus.ini")) << sesion.Err;
+  EXPECT_EQ(Count(sesion.Err, "\n"), 1);
+  EXPECT_EQ(sesion.Out, "");
+}
+
+TEST_F(Session, TellsOnceThatTheCharacterFileIsMissing) {
+  const SessionResult sesion = PlayLines(Carpeta, Puerta);
+  EXPECT_EQ(sesion.Status, 1);
+  EXPECT_EQ(sesion.Out,
+            "[No se encuentra el archivo con los datos de los personajes. El programa va a "
+            "terminar su ejecución.]\n");
+  EXPECT_EQ(sesion.Err, "");
+}
+
+TEST_F(Session, PrintsNoControlCharacterOfAnyFile) {
+  LlenarCarpeta(Carpeta);
+  std::string personajes = Carpeta.Read("Jugadores.dat");
+  for (const std::string_view nombre : {"Berta", "Cojo", "Dora", "Tuerto"}) {
+    personajes.replace(personajes.find(nombre), 2, "\x1B\x81");
+  }
+  Carpeta.Write("Jugadores.dat", personajes);
+  Carpeta.Write("mus.ini", std::string{"35\r\n3\r\n3\r\nA\0\x07na>\r\n", 18});
+  const SessionResult sesion =
+      PlayLines(Carpeta, Puerta + "\nn\n\n\x1B[2J\n" + std::string(40, '\n'));
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_TRUE(std::none_of(sesion.Out.begin(), sesion.Out.end(), [](char byte) {
+    return (byte >= '\0' && byte < ' ' && byte != '\n') || byte == '\x7F';
+  }));
+  EXPECT_FALSE(Contains(sesion.Out, "\xC2\x81"));
+  EXPECT_TRUE(Contains(sesion.Out, "A\uFFFD\uFFFDna")) << sesion.Out;
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,42 @@
+#pragma once
+// The player's end of the line: whole lines out, one line in at a time.
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+namespace tasca {
+
+// Where a session is played. With `Echoes` the terminal itself shows what is typed, its Enter
+// included; without (a pipe, a file) the program ends the line of the prompt.
+struct TerminalStreams {
+  std::istream& In;
+  std::ostream& Out;
+  std::ostream& Err;
+  bool Echoes = false;
+};
+
+class Console {
+ public:
+  explicit Console(const TerminalStreams& flujos) : flujos_{flujos} {}
+
+  // Writes the text as lines of its own.
+  void Line(std::u16string_view texto);
+  // Writes the text on a new line and leaves the cursor behind it.
+  void Prompt(std::u16string_view texto);
+  // Ends a line that a prompt has left open.
+  void EndLine();
+  // Tells on standard error why the program ends.
+  void Error(std::u16string_view mensaje);
+
+  // The next line typed, without its line end. Throws LeaveProgram at the end of the input, and
+  // RunTimeError when what was written has not arrived.
+  std::u16string ReadLine();
+  // Sends on what has been written; throws RunTimeError when that fails.
+  void Flush();
+
+ private:
+  TerminalStreams flujos_;
+  bool lineaAbierta_ = false;
+};
+
+}  // namespace tasca

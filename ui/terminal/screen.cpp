@@ -1,0 +1,39 @@
+// Printing what has changed.
+#include "ui/terminal/screen.h"
+
+#include "base/text.h"
+#include "ui/terminal/plain_text.h"
+#include "ui/terminal/transcript.h"
+
+namespace tasca {
+namespace {
+
+void PrintIfAny(Console& consola, std::u16string_view texto) {
+  if (!texto.empty()) consola.Line(texto);
+}
+
+}  // namespace
+
+void Screen::Show(const Table& t) {
+  const NewText nuevo = NewPart(text2_, t.Text2);
+  const std::u16string_view lineas = WholeLines(nuevo.Texto);
+  const std::u16string_view aviso = nuevo.Texto.substr(lineas.size());
+  // A hand that the transcript has just told is not told twice.
+  const bool cambiaMano = t.Text1 != text1_ && !Contains(nuevo.Texto, t.Text1);
+  const std::u16string_view mano = cambiaMano ? std::u16string_view{t.Text1} : u"";
+  // The count lays the hands open before it speaks of them; an órdago, after it has been accepted.
+  PrintIfAny(consola_, nuevo.Replaces ? mano : lineas);
+  PrintIfAny(consola_, nuevo.Replaces ? lineas : mano);
+  if (t.Text3 != text3_) PrintIfAny(consola_, t.Text3);
+  if (!aviso.empty()) consola_.Prompt(aviso);
+  text1_ = t.Text1;
+  text2_ = t.Text2;
+  text3_ = t.Text3;
+}
+
+void Screen::Repeat() {
+  PrintIfAny(consola_, text1_);
+  PrintIfAny(consola_, text3_);
+}
+
+}  // namespace tasca

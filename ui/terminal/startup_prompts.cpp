@@ -1,0 +1,97 @@
+// The start-up dialog's controls, one prompt each.
+#include "ui/terminal/startup_prompts.h"
+
+#include "base/endings.h"
+#include "base/text.h"
+#include "startup/dlg_inicio.h"
+#include "ui/terminal/prompts.h"
+
+namespace tasca {
+namespace {
+
+using ComboClick = void (*)(DlgInicio&, int);
+
+std::vector<Option> Entries(const ComboBox& combo) {
+  std::vector<Option> opciones;
+  int posicion = 0;
+  for (const ComboBox::Entrada& entrada : combo.List) {
+    opciones.push_back({posicion++, entrada.Texto});
+  }
+  return opciones;
+}
+
+void PrintCharacters(const DlgInicio& d, Console& consola) {
+  for (const Option& opcion : Entries(d.Combo1)) {
+    consola.Line(Join(opcion.Numero, u" ", opcion.Texto));
+  }
+}
+
+void PrintStories(const DlgInicio& d, Console& consola) {
+  int posicion = 0;
+  for (const ComboBox::Entrada& entrada : d.Combo1.List) {
+    std::u16string linea = Join(posicion++, u" ", entrada.Texto);
+    if (entrada.Personaje > 0) {
+      linea += Join(u": ", d.HistoriaInicio[entrada.Personaje].Trimmed());
+    }
+    consola.Line(linea);
+  }
+}
+
+// What may be typed at every prompt instead of an answer.
+Prompts::Command Commands(const DlgInicio& d, Console& consola) {
+  return [&d, &consola](std::u16string_view linea) {
+    const std::u16string orden = Fold(linea);
+    if (orden == u"q" || orden == u"salir") throw LeaveProgram{};
+    if (orden != u"?") return false;
+    PrintStories(d, consola);
+    consola.Line(u"Los compañeros se eligen por su número o por su nombre.");
+    consola.Line(u"Enter deja lo que está entre corchetes; q sale del juego.");
+    return true;
+  };
+}
+
+// Nothing typed leaves the list alone; a choice shows the character's story.
+void AskCombo(DlgInicio& d, Console& consola, const Prompts& preguntas,
+              std::u16string_view etiqueta, const ComboBox& combo, ComboClick click) {
+  const std::vector<Option> opciones = Entries(combo);
+  const Option& elegida = opciones.at(static_cast<std::size_t>(combo.ListIndex));
+  const int posicion = preguntas.Choose(etiqueta, opciones,
+                                        Join(elegida.Numero, u" ", elegida.Texto), combo.ListIndex);
+  if (posicion == combo.ListIndex) return;
+  const std::u16string antes = d.Text4;
+  click(d, posicion);
+  if (d.Text4 != antes && !d.Text4.empty()) consola.Line(d.Text4);
+}
+
+void AskNarration(DlgInicio& d, Console& consola, const Prompts& preguntas) {
+  Check1_Click(d, 0, preguntas.YesNo(u"Usar los nombres de los jugadores", d.Check1[0]));
+  Check1_Click(d, 1, preguntas.YesNo(u"Usar las expresiones de los jugadores", d.Check1[1]));
+  const std::vector<Option> estilos{{0, u"Estilo directo"}, {1, u"Estilo indirecto"}};
+  Option1_Click(d, preguntas.Choose(u"Narración: 0 Estilo directo, 1 Estilo indirecto", estilos,
+                                    ToText(d.Option1), d.Option1));
+  consola.Line(Join(u"Así se contará: ", d.Text3));
+}
+
+void AskEverything(DlgInicio& d, Console& consola, const Prompts& preguntas) {
+  d.Text2 = preguntas.Text(u"Su nombre:", d.Text2);
+  PrintCharacters(d, consola);
+  AskCombo(d, consola, preguntas, u"Compañero:", d.Combo1, Combo1_Click);
+  AskCombo(d, consola, preguntas, u"Contrario 1:", d.Combo2, Combo2_Click);
+  AskCombo(d, consola, preguntas, u"Contrario 2:", d.Combo3, Combo3_Click);
+  AskNarration(d, consola, preguntas);
+}
+
+}  // namespace
+
+void AskStartup(Game& g, Console& consola) {
+  DlgInicio d;
+  Form_Load(d, g);
+  consola.Line(d.Text1);
+  consola.Line(u"Enter deja lo que está entre corchetes; q sale del juego; ? da ayuda.");
+  const Prompts preguntas{consola, Commands(d, consola)};
+  do {
+    AskEverything(d, consola, preguntas);
+  } while (!CbOK_Click(d, g));
+}
+
+}  // namespace tasca

@@ -1,0 +1,88 @@
+// Boxes and the bidding dialog as prompts.
+#include "ui/terminal/terminal_port.h"
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <utility>
+
+#include "base/text.h"
+#include "lances/dialog.h"
+
+namespace tasca {
+namespace {
+
+std::vector<Option> OfferedButtons(const Dialog& dialogo) {
+  std::vector<Option> ofrecidos;
+  int indice = 0;
+  for (const DialogButton& boton : dialogo.Command1) {
+    if (boton.Visible && boton.Enabled)
+      ofrecidos.push_back({indice, std::u16string{boton.Caption}});
+    ++indice;
+  }
+  return ofrecidos;
+}
+
+// "La grande: 0 Paso, 1 Envido, ..."
+std::u16string BiddingPrompt(const Dialog& dialogo, const std::vector<Option>& ofrecidos) {
+  std::u16string texto{dialogo.Caption};
+  std::u16string_view separador = u": ";
+  for (const Option& boton : ofrecidos) {
+    texto += Join(std::exchange(separador, u", "), boton.Numero, u" ", boton.Texto);
+  }
+  return texto;
+}
+
+}  // namespace
+
+TimeOfDay LocalTime() {
+  const std::time_t ahora = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  ::tzset();
+  std::tm local{};
+  ::localtime_r(&ahora, &local);
+  constexpr int UltimoSegundo = 59;  // a leap second counts as the one before
+  return {.Hora = local.tm_hour,
+          .Minuto = local.tm_min,
+          .Segundo = std::min(local.tm_sec, UltimoSegundo)};
+}
+
+TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj)
+    : consola_{consola},
+      pantalla_{pantalla},
+      preguntas_{consola,
+                 [this](std::u16string_view linea) {
+                   if (Fold(linea) != u"?") return false;
+                   pantalla_.Repeat();
+                   consola_.Line(u"Enter da la respuesta que está entre corchetes.");
+                   return true;
+                 }},
+      reloj_{reloj} {}
+
+bool TerminalPort::TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
+
+void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
+  pantalla_.Show(t);
+  consola_.Line(Join(u"[", texto, u"]"));
+}
+
+bool TerminalPort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+  pantalla_.Show(t);
+  return preguntas_.YesNo(pregunta.Texto.empty() ? pregunta.Titulo : pregunta.Texto,
+                          pregunta.PorDefecto);
+}
+
+std::u16string TerminalPort::InputBox(const Table& t, std::u16string_view texto,
+                                      std::u16string_view titulo, std::u16string_view porDefecto) {
+  pantalla_.Show(t);
+  return preguntas_.TextOrCancel(Join(titulo, CrLf, texto), porDefecto);
+}
+
+void TerminalPort::ShowDialog(const Table& t, Dialog& dialogo) {
+  pantalla_.Show(t);
+  const std::vector<Option> ofrecidos = OfferedButtons(dialogo);
+  const int boton = preguntas_.Choose(BiddingPrompt(dialogo, ofrecidos), ofrecidos,
+                                      ToText(dialogo.Foco), dialogo.Foco);
+  Command1_Click(dialogo, boton);
+}
+
+}  // namespace tasca

@@ -1,0 +1,39 @@
+#pragma once
+// The rules' questions, put at the terminal.
+#include "table/port.h"
+#include "ui/terminal/prompts.h"
+#include "ui/terminal/screen.h"
+
+namespace tasca {
+
+using Clock = TimeOfDay (*)();
+// The local time of day.
+TimeOfDay LocalTime();
+
+// Before every question it shows what is new at the table. It has no loudspeaker.
+class TerminalPort : public Port {
+ public:
+  TerminalPort(Console& consola, Screen& pantalla, Clock reloj);
+
+  // True once after the player has asked for other companions.
+  bool TakeChangePlayers();
+
+  void MsgBox(const Table& t, std::u16string_view texto) override;
+  bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) override;
+  std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
+                          std::u16string_view porDefecto) override;
+  void ShowDialog(const Table& t, Dialog& dialogo) override;
+  void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
+  void StopSound(const Table& /*t*/) override {}
+  TimeOfDay Now() override { return reloj_(); }
+  void ChangePlayers() override { cambiarJugadores_ = true; }
+
+ private:
+  Console& consola_;
+  Screen& pantalla_;
+  Prompts preguntas_;
+  Clock reloj_;
+  bool cambiarJugadores_ = false;
+};
+
+}  // namespace tasca
