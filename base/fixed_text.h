@@ -15,9 +15,9 @@ template <std::size_t N>
 class FixedText {
  public:
   FixedText& operator=(std::u16string_view texto) {
-    const std::size_t largo = std::min(texto.size(), N);
-    const auto resto = std::copy_n(texto.begin(), largo, letras_.begin());
-    std::fill(resto, letras_.end(), u' ');
+    letras_.fill(u' ');
+    const std::u16string_view cabe = texto.substr(0, N);
+    std::copy(cabe.begin(), cabe.end(), letras_.begin());
     return *this;
   }
 

@@ -1,0 +1,139 @@
+// The bidding dialog's buttons.
+#include "lances/dialog.h"
+
+#include <gtest/gtest.h>
+
+#include "base/endings.h"
+#include "tests/support/tables.h"
+
+namespace tasca::test {
+namespace {
+
+Dialog Abierto(int modo) {
+  Dialog dialogo;
+  dialogo.Modo = modo;
+  Form_Activate(dialogo);
+  return dialogo;
+}
+
+std::string Rotulo(const Dialog& dialogo, int indice) {
+  return Utf8(dialogo.Command1[indice].Caption);
+}
+
+bool Ofrecido(const DialogButton& boton) { return boton.Visible && boton.Enabled; }
+bool Retirado(const DialogButton& boton) { return !boton.Visible && !boton.Enabled; }
+
+// "Paso" and the button beside it are always there; the two raises are offered or withdrawn.
+void EsperarSubidas(const Dialog& dialogo, bool ofrecidas) {
+  EXPECT_TRUE(Ofrecido(dialogo.Command1[0]) && Ofrecido(dialogo.Command1[1]));
+  for (const int indice : {2, 3}) {
+    const DialogButton& boton = dialogo.Command1[indice];
+    EXPECT_TRUE(ofrecidas ? Ofrecido(boton) : Retirado(boton)) << indice;
+  }
+}
+
+TEST(Dialog, IsDesignedWithFourButtonsAndACaptionThatNobodySees) {
+  const Dialog dialogo;
+  EXPECT_EQ(Utf8(dialogo.Caption), "Dialog Caption");
+  EXPECT_EQ(Rotulo(dialogo, 0), "Paso");
+  EXPECT_EQ(Rotulo(dialogo, 1), "Envido");
+  EXPECT_EQ(Rotulo(dialogo, 2), "Envido Más");
+  EXPECT_EQ(Rotulo(dialogo, 3), "Órdago");
+  EXPECT_FALSE(dialogo.Visible);
+}
+
+TEST(Form_Activate, OffersEnvidoAndBothRaisesInTheOpening) {
+  const Dialog dialogo = Abierto(-1);
+  EXPECT_TRUE(dialogo.Visible);
+  EXPECT_EQ(Rotulo(dialogo, 1), "Envido");
+  EsperarSubidas(dialogo, true);
+}
+
+TEST(Form_Activate, OffersQuieroAndBothRaisesAgainstStones) {
+  const Dialog dialogo = Abierto(0);
+  EXPECT_EQ(Rotulo(dialogo, 1), "Quiero");
+  EsperarSubidas(dialogo, true);
+}
+
+TEST(Form_Activate, OffersOnlyPasoAndQuieroAgainstAnOrdago) {
+  const Dialog dialogo = Abierto(-2);
+  EXPECT_EQ(Rotulo(dialogo, 1), "Quiero");
+  EsperarSubidas(dialogo, false);
+}
+
+TEST(Form_Activate, Kept_SaysPasoAlsoWhereItMeansNoQuiero) {
+  for (const int modo : {-1, 0, -2}) EXPECT_EQ(Rotulo(Abierto(modo), 0), "Paso") << modo;
+}
+
+TEST(Form_Activate, LeavesTheCaptionsOfTheRaisesAlone) {
+  for (const int modo : {-1, 0, -2}) {
+    EXPECT_EQ(Rotulo(Abierto(modo), 2), "Envido Más") << modo;
+    EXPECT_EQ(Rotulo(Abierto(modo), 3), "Órdago") << modo;
+  }
+}
+
+TEST(Form_Activate, PutsTheFocusOnPasoEveryTime) {
+  for (const int modo : {-1, 0, -2}) {
+    Dialog dialogo;
+    dialogo.Modo = modo;
+    dialogo.Foco = 3;
+    Form_Activate(dialogo);
+    EXPECT_EQ(dialogo.Foco, 0) << modo;
+  }
+}
+
+TEST(Form_Activate, BringsTheRaisesBackAfterAnOrdago) {
+  for (const int modo : {-1, 0}) {
+    Dialog dialogo = Abierto(-2);
+    dialogo.Modo = modo;
+    Form_Activate(dialogo);
+    EsperarSubidas(dialogo, true);
+  }
+}
+
+TEST(Form_Activate, LeavesTheCaptionAsItStandsInAnyOtherMode) {
+  for (const int modo : {1, -3, 7}) {
+    Dialog dialogo = Abierto(-2);
+    dialogo.Modo = modo;
+    Form_Activate(dialogo);
+    EXPECT_EQ(Rotulo(dialogo, 1), "Quiero") << modo;
+    EsperarSubidas(dialogo, true);
+
+    EXPECT_EQ(Rotulo(Abierto(modo), 1), "Envido") << modo;
+  }
+}
+
+TEST(Form_Activate, TouchesNeitherModoNorResultadoNorTheCaption) {
+  Dialog dialogo;
+  dialogo.Caption = u"La grande";
+  dialogo.Modo = -2;
+  dialogo.Resultado = 3;
+  Form_Activate(dialogo);
+  EXPECT_EQ(Utf8(dialogo.Caption), "La grande");
+  EXPECT_EQ(dialogo.Modo, -2);
+  EXPECT_EQ(dialogo.Resultado, 3);
+}
+
+TEST(Command1_Click, NotesTheButtonAndHidesTheForm) {
+  for (const int indice : {0, 1, 2, 3}) {
+    Dialog dialogo = Abierto(-1);
+    Command1_Click(dialogo, indice);
+    EXPECT_EQ(dialogo.Resultado, indice);
+    EXPECT_FALSE(dialogo.Visible);
+  }
+}
+
+TEST(Command1_Click, LeavesModoAlone) {
+  Dialog dialogo = Abierto(0);
+  Command1_Click(dialogo, 2);
+  EXPECT_EQ(dialogo.Modo, 0);
+}
+
+TEST(Dialog, HasNoFifthButton) {
+  Dialog dialogo;
+  EXPECT_THROW(dialogo.Command1[4].Visible = true, RunTimeError);
+  EXPECT_THROW(dialogo.Command1[-1].Visible = true, RunTimeError);
+}
+
+}  // namespace
+}  // namespace tasca::test
