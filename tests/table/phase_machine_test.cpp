@@ -1,8 +1,14 @@
-// The phase machine: which keys do what.
+// The phase machine: which keys do what, and which step every phase runs.
 #include "table/phase_machine.h"
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "base/endings.h"
+#include "cards/hand_text.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
@@ -10,16 +16,376 @@
 namespace tasca::test {
 namespace {
 
-TEST(Text1_KeyDown, LeavesOtherKeysToTheInputLine) {
+using Sucesos = std::vector<std::string>;
+
+// One key at a table; the new KeyCode.
+int Press(Table& t, Rnd& rnd, ScriptedPort& port, Integer tecla, Integer mayusculas = 0) {
+  Game g{t, rnd, port};
+  Text1_KeyDown(g, tecla, mayusculas);
+  return tecla;
+}
+
+// Enter in a phase, with the answers of `port` and exactly these draws.
+void PressEnter(Table& t, int fase, ScriptedPort& port, std::initializer_list<float> sacadas = {}) {
+  t.Fase = fase;
+  DrawList rnd{sacadas};
+  EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
+}
+
+// The human, mano, has bet an órdago that is yet to be answered.
+Table MesaConOrdago() {
   Table t = MesaDePrueba();
-  const Table antes = t;
+  t.SeguirLance = EnviteOrdago;
+  t.ParejaEnvite = 1;
+  return t;
+}
+
+// Both parejas have pares: the human and seat 2, whose Cuatros are too weak for an órdago.
+void GivePares(Table& t) {
+  DarMano(t, 1, "7 7 6 5");
+  DarMano(t, 2, "7 6 4 4");
+}
+
+// Both parejas have juego: the human and seat 2, whose 33 are too weak for an órdago.
+void GiveJuego(Table& t) {
+  DarMano(t, 1, "R C S A");
+  DarMano(t, 2, "C S 7 6");
+  t.TurnoJuego[2] = 2;
+}
+
+constexpr auto Rehusado = "la pareja 1 se saca 1 piedra\r\n";
+constexpr auto Continuar = "Pulse enter para continuar";
+constexpr auto Contar = "Pulse enter para contar";
+
+// Keys.
+
+TEST(Text1_KeyDown, LeavesOtherKeysToTheInputLine) {
+  for (const int tecla : {0, 1, 8, 10, 12, 14, 32, 47, 49, 65, 80, 82, 113, 96}) {
+    for (const int mayusculas : {0, 1, 2, 3, 4, 7}) {
+      Table t = MesaDePrueba();
+      const Table antes = t;
+      DrawList rnd{};
+      ScriptedPort port;
+      EXPECT_EQ(Press(t, rnd, port, tecla, mayusculas), tecla);
+      EXPECT_EQ(t, antes);
+    }
+  }
+}
+
+TEST(Text1_KeyDown, TakesEnterWithAnyShiftState) {
+  for (const int mayusculas : {0, 1, 2, 3, 4}) {
+    Table t = MesaDePrueba();
+    t.Fase = 13;
+    DrawList rnd{};
+    ScriptedPort port;
+    EXPECT_EQ(Press(t, rnd, port, TeclaEnter, mayusculas), 0);
+    EXPECT_EQ(t.Fase, -1);
+  }
+}
+
+TEST(Text1_KeyDown, UsesUpAnEnterThatDoesNothing) {
+  for (const int fase : {-2, 14, 100, 32767, -32768}) {
+    Table t = MesaDePrueba();
+    t.SeguirLance = 2;
+    t.Fase = fase;
+    const Table antes = t;
+    DrawList rnd{};
+    ScriptedPort port;
+    EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
+    EXPECT_EQ(t, antes);
+    EXPECT_EQ(port.TakeEvents(), Sucesos{});
+  }
+}
+
+// A hand given up in a phase: the next one starts, and the one before is not counted.
+void ExpectAbandoned(int fase) {
+  Table t = MesaDePrueba();
+  t.Fase = fase;
+  t.Piedras = {3, 4};
+  t.Apuesta = {2, 2, 2, 2, 0};
+  Rnd rnd;
+  ScriptedPort port;
+  EXPECT_EQ(Press(t, rnd, port, TeclaQ), 0);
+  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.OrdenAsiento, (Array<Integer, 1, 4>{2, 3, 4, 1}));
+  EXPECT_EQ(t.Piedras, (Array<Integer, 0, 1>{3, 4}));
+  EXPECT_EQ(t.Apuesta[1], 0);
+  EXPECT_TRUE(t.Text2.ends_with(u"pulse Enter para empezar"));
+}
+
+TEST(Text1_KeyDown, AbandonsTheHandAtAnyPhaseOnQ) {
+  for (int fase = -1; fase <= 13; ++fase) ExpectAbandoned(fase);
+}
+
+TEST(Text1_KeyDown, TakesQWithAnyShiftState) {
+  for (const int mayusculas : {1, 2, 3, 4, 7}) {
+    Table t = MesaDePrueba();
+    Rnd rnd;
+    ScriptedPort port;
+    EXPECT_EQ(Press(t, rnd, port, TeclaQ, mayusculas), 0);
+    EXPECT_EQ(rnd.Draws(), 80002U);
+  }
+}
+
+TEST(Text1_KeyDown, LaysAllHandsOpenOnCtrlShift0) {
+  Table t = MesaDePrueba();
+  t.Fase = 5;
+  Table esperada = t;
+  MostrarManos(esperada, TodosLosAsientos);
   DrawList rnd{};
   ScriptedPort port;
-  Game g{t, rnd, port};
-  Integer tecla = 65;
-  Text1_KeyDown(g, tecla, 0);
-  EXPECT_EQ(tecla, 65);
-  EXPECT_EQ(t, antes);
+  EXPECT_EQ(Press(t, rnd, port, Tecla0, 3), Tecla0);
+  EXPECT_EQ(t, esperada);
+  EXPECT_TRUE(t.Text1.starts_with(u"Ana\r\n"));
+}
+
+TEST(Text1_KeyDown, LeavesZeroWithOtherShiftStatesAlone) {
+  for (const int mayusculas : {0, 1, 2, 4, 5, 6, 7}) {
+    Table t = MesaDePrueba();
+    const Table antes = t;
+    DrawList rnd{};
+    ScriptedPort port;
+    EXPECT_EQ(Press(t, rnd, port, Tecla0, mayusculas), Tecla0);
+    EXPECT_EQ(t, antes) << mayusculas;
+  }
+}
+
+TEST(Text1_KeyDown, KnowsTheKeysByTheirCodes) {
+  EXPECT_EQ(TeclaEnter, 13);
+  EXPECT_EQ(TeclaQ, 81);
+  EXPECT_EQ(Tecla0, 48);
+  EXPECT_EQ(MayusculasYControl, 3);
+}
+
+// Phases without a bet.
+
+TEST(Text1_KeyDown, StartsANewHandInPhaseMinus1) {
+  Table t = MesaDePrueba();
+  t.Fase = -1;
+  Rnd rnd;
+  ScriptedPort port;
+  EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
+  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(rnd.Draws(), 80002U);
+  EXPECT_TRUE(t.Text2.starts_with(u"Sus cartas son\r\n"));
+}
+
+TEST(Text1_KeyDown, AsksForMusInPhase0) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.No();
+  PressEnter(t, 0, port);
+  EXPECT_EQ(port.TakeEvents(), (Sucesos{"yesno[¿mus?]:  (icon, default yes)"}));
+  EXPECT_EQ(t.Fase, 1);
+}
+
+TEST(Text1_KeyDown, AsksForParesInPhase5) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.No();
+  PressEnter(t, 5, port, {0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(t.Fase, 8);
+  EXPECT_EQ(Utf8(t.Text2), std::string{"Ana: NPar1\r\nJugador 2: NPar1\r\nJugador 3: NPar1\r\n"
+                                       "Jugador 4: NPar1\r\n"
+                                       "Ninguna de las dos parejas tiene pares\r\n"} +
+                               Continuar);
+}
+
+TEST(Text1_KeyDown, AsksForJuegoInPhase8) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.No();
+  PressEnter(t, 8, port, {0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(t.Fase, 11);
+  EXPECT_EQ(Utf8(t.Text2), std::string{"Ana: NJue1\r\nJugador 2: NJue1\r\nJugador 3: NJue1\r\n"
+                                       "Jugador 4: NJue1\r\n"
+                                       "Ninguna de las dos parejas tiene Juego\r\n"} +
+                               Continuar);
+}
+
+TEST(Text1_KeyDown, CountsTheHandInPhase13) {
+  Table t = MesaDePrueba();
+  t.SeJuegaPunto = true;
+  ScriptedPort port;
+  PressEnter(t, 13, port);
+  EXPECT_EQ(t.Fase, -1);
+  EXPECT_TRUE(t.Text2.ends_with(u"Pulse enter para empezar una nueva mano"));
+}
+
+// Opening steps in which all pass: nothing is left to answer.
+
+constexpr float NoEnvida = 0.875F;  // the side that refused the mus does not bet after all
+
+TEST(Text1_KeyDown, OpensTheGrandeInPhase1) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(0);
+  PressEnter(t, 1, port, {0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0});
+  EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[La grande]: mode -1"}));
+  EXPECT_EQ(t.Fase, 3);
+  EXPECT_TRUE(Utf8(t.Text2).ends_with("la grande queda en paso\r\nPulse enter para continuar\r\n"));
+}
+
+TEST(Text1_KeyDown, OpensThePequenaInPhase3) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(0);
+  PressEnter(t, 3, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[La Pequeña]: mode -1"}));
+  EXPECT_EQ(t.Fase, 5);
+}
+
+TEST(Text1_KeyDown, OpensTheParesInPhase6) {
+  Table t = MesaDePrueba();
+  t.SeguirLance = 2;  // the pares start without a bet, whatever was left before
+  ScriptedPort port;
+  PressEnter(t, 6, port);
+  EXPECT_EQ(t.Fase, 8);
+  EXPECT_TRUE(
+      Utf8(t.Text2).ends_with("Los pares quedan en paso\r\nPulse enter para continuar\r\n"));
+}
+
+TEST(Text1_KeyDown, OpensTheJuegoInPhase9) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  PressEnter(t, 9, port);
+  EXPECT_EQ(t.Fase, 13);
+  EXPECT_EQ(Utf8(t.Text2), "\r\nEl juego\r\nEl juego queda en paso\r\nPulse enter para contar");
+}
+
+TEST(Text1_KeyDown, OpensThePuntoInPhase11) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(0);
+  PressEnter(t, 11, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[El Punto]: mode -1"}));
+  EXPECT_EQ(t.Fase, 13);
+}
+
+// Opening steps that leave a bet: it is answered on the same Enter. The human's órdago is refused.
+
+void ExpectRefused(const Table& t, int fase, const std::string& final) {
+  EXPECT_EQ(t.Fase, fase);
+  EXPECT_EQ(t.SeguirLance, 0);
+  EXPECT_EQ(t.Piedras, (Array<Integer, 0, 1>{0, 1}));
+  EXPECT_TRUE(Utf8(t.Text2).ends_with(Rehusado + final)) << Utf8(t.Text2);
+}
+
+TEST(Text1_KeyDown, HasABetToTheGrandeAnsweredAtOnce) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(3);
+  PressEnter(t, 1, port, {0, 0, 0, 0});
+  ExpectRefused(t, 3, Continuar);
+  EXPECT_EQ(t.Apuesta[1], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, HasABetToThePequenaAnsweredAtOnce) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(3);
+  PressEnter(t, 3, port, {0, 0, 0, 0});
+  ExpectRefused(t, 5, Continuar);
+  EXPECT_EQ(t.Apuesta[2], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, HasABetToTheParesAnsweredAtOnce) {
+  Table t = MesaDePrueba();
+  GivePares(t);
+  ScriptedPort port;
+  port.Presses(3);
+  PressEnter(t, 6, port, {0, 0});
+  ExpectRefused(t, 8, Continuar);
+  EXPECT_EQ(t.Apuesta[3], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, HasABetToTheJuegoAnsweredAtOnce) {
+  Table t = MesaDePrueba();
+  GiveJuego(t);
+  ScriptedPort port;
+  port.Presses(3);
+  PressEnter(t, 9, port, {0, 0, 0});
+  ExpectRefused(t, 13, Contar);
+  EXPECT_EQ(t.Apuesta[4], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, HasABetToThePuntoAnsweredAtOnce) {
+  Table t = MesaDePrueba();
+  ScriptedPort port;
+  port.Presses(3);
+  PressEnter(t, 11, port, {0, 0, 0, 0, 0, 0});
+  ExpectRefused(t, 13, Contar);
+  EXPECT_EQ(t.Apuesta[5], ApuestaPagada);
+}
+
+// Answer steps by themselves.
+
+TEST(Text1_KeyDown, AnswersTheGrandeInPhase2) {
+  Table t = MesaConOrdago();
+  ScriptedPort port;
+  PressEnter(t, 2, port, {0, 0, 0, 0});
+  ExpectRefused(t, 3, Continuar);
+  EXPECT_EQ(t.Apuesta[1], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, AnswersThePequenaInPhase4) {
+  Table t = MesaConOrdago();
+  ScriptedPort port;
+  PressEnter(t, 4, port, {0, 0, 0, 0});
+  ExpectRefused(t, 5, Continuar);
+  EXPECT_EQ(t.Apuesta[2], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, AnswersTheParesInPhase7) {
+  Table t = MesaConOrdago();
+  GivePares(t);
+  ScriptedPort port;
+  PressEnter(t, 7, port, {0, 0});
+  ExpectRefused(t, 8, Continuar);
+  EXPECT_EQ(t.Apuesta[3], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, AnswersTheJuegoInPhase10) {
+  Table t = MesaConOrdago();
+  GiveJuego(t);
+  ScriptedPort port;
+  PressEnter(t, 10, port, {0, 0, 0});
+  ExpectRefused(t, 13, Contar);
+  EXPECT_EQ(t.Apuesta[4], ApuestaPagada);
+}
+
+TEST(Text1_KeyDown, AnswersThePuntoInPhase12) {
+  Table t = MesaConOrdago();
+  ScriptedPort port;
+  PressEnter(t, 12, port, {0, 0, 0, 0, 0, 0});
+  ExpectRefused(t, 13, Contar);
+  EXPECT_EQ(t.Apuesta[5], ApuestaPagada);
+}
+
+// The two ends.
+
+TEST(Text1_KeyDown, LetsThePlayerLeaveInTheMiddleOfAStep) {
+  Table t = MesaDePrueba();
+  t.Piedras = {0, 35};
+  t.Juegos = {0, 1};
+  t.Vacas = {0, 1};
+  t.SeJuegaPunto = true;
+  t.Fase = 13;
+  DrawList rnd{};
+  ScriptedPort port;
+  port.No();
+  EXPECT_THROW(Press(t, rnd, port, TeclaEnter), LeaveProgram);
+  EXPECT_EQ(Utf8(t.Text2), "Hasta pronto");
+}
+
+TEST(Text1_KeyDown, LetsARunTimeErrorThrough) {
+  Table t = MesaDePrueba();
+  t.UsarExpresiones = false;  // the computer seats have nothing to say
+  t.Fase = 5;
+  DrawList rnd{};
+  ScriptedPort port;
+  port.No();
+  EXPECT_THROW(Press(t, rnd, port, TeclaEnter), RunTimeError);
 }
 
 }  // namespace

@@ -1,0 +1,79 @@
+// The random generator.
+#include "base/rnd.h"
+
+#include <gtest/gtest.h>
+
+namespace tasca {
+namespace {
+
+// The generator's published outputs for the seed 5489: the first is 3499211612, the 10000th
+// 4123659995. A draw is the upper 24 bits.
+constexpr std::uint32_t SemillaConocida = 5489;
+constexpr float Primera = 13668795.0F / 16777216.0F;
+constexpr float Diezmilesima = 16108046.0F / 16777216.0F;
+
+TEST(Rnd, GivesTheUpper24BitsOfTheTwister) {
+  Rnd rnd;
+  rnd.Seed(SemillaConocida);
+  EXPECT_EQ(rnd(), Primera);
+  float sacada = 0;
+  for (int i = 2; i <= 10000; ++i) sacada = rnd();
+  EXPECT_EQ(sacada, Diezmilesima);
+}
+
+TEST(Rnd, StaysBelowOneForTheHighestOutput) {
+  // 0xFFFFFFFF as a float divided by 2^32 would be 1: the lower bits are dropped first.
+  EXPECT_EQ(static_cast<float>(0xFFFFFFFFU >> 8U) * 0x1p-24F, 0x1.fffffep-1F);
+  Rnd rnd;
+  rnd.Seed(1);
+  for (int i = 0; i < 100000; ++i) {
+    const float sacada = rnd();
+    ASSERT_GE(sacada, 0.0F);
+    ASSERT_LT(sacada, 1.0F);
+    ASSERT_EQ(sacada * 0x1p24F, static_cast<float>(static_cast<int>(sacada * 0x1p24F)));
+  }
+}
+
+TEST(Rnd, GivesTheSameDrawsForTheSameSeed) {
+  Rnd una;
+  Rnd otra;
+  una.Seed(777);
+  for (int i = 0; i < 1000; ++i) otra();
+  otra.Seed(777);
+  for (int i = 0; i < 1000; ++i) ASSERT_EQ(una(), otra());
+}
+
+TEST(Rnd, GivesOtherDrawsForAnotherSeed) {
+  Rnd una;
+  Rnd otra;
+  una.Seed(777);
+  otra.Seed(778);
+  int iguales = 0;
+  for (int i = 0; i < 100; ++i) {
+    if (una() == otra()) ++iguales;
+  }
+  EXPECT_LT(iguales, 5);
+}
+
+TEST(Rnd, CountsItsDrawsFromTheSeed) {
+  Rnd rnd;
+  EXPECT_EQ(rnd.Draws(), 0U);
+  rnd();
+  rnd();
+  EXPECT_EQ(rnd.Draws(), 2U);
+  rnd.Seed(3);
+  EXPECT_EQ(rnd.Draws(), 0U);
+  rnd();
+  EXPECT_EQ(rnd.Draws(), 1U);
+}
+
+TEST(Rnd, GoesOnFromAGivenTwister) {
+  std::mt19937 motor{SemillaConocida};
+  motor.discard(9999);
+  Rnd rnd{motor};
+  EXPECT_EQ(rnd(), Diezmilesima);
+  EXPECT_EQ(rnd.Draws(), 1U);
+}
+
+}  // namespace
+}  // namespace tasca
