@@ -1,0 +1,162 @@
+// The bidding dialog's window.
+#include "ui/qt/dialog_form.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+class DialogWindow : public testing::Test {
+ protected:
+  // Prepares the dialog for `modo` and opens its window.
+  DialogForm& Open(int modo) {
+    dialogo_.Caption = u"Los pares";
+    dialogo_.Modo = modo;
+    Form_Activate(dialogo_);
+    ventana_.emplace(nullptr, dialogo_);
+    ventana_->open();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&*ventana_));
+    return *ventana_;
+  }
+
+  QPushButton* Boton(int indice) {
+    return Control<QPushButton>(&*ventana_, ("Command1_" + std::to_string(indice)).c_str());
+  }
+
+  // Of the buttons that can be seen and pressed, in their order.
+  std::string Captions() {
+    std::string textos;
+    for (int i = 0; i < 4; ++i) {
+      const bool alcanzable = Boton(i)->isVisible() && Boton(i)->isEnabled();
+      if (alcanzable) textos += Utf8(Boton(i)->text()) + "|";
+    }
+    return textos;
+  }
+
+  Dialog dialogo_;
+  std::optional<DialogForm> ventana_;
+};
+
+TEST_F(DialogWindow, ShowsTheButtonsOfAnOpening) {
+  EXPECT_EQ(Utf8(Open(ModoApertura).windowTitle()), "Los pares");
+  EXPECT_EQ(Captions(), "Paso|Envido|Envido Más|Órdago|");
+}
+
+TEST_F(DialogWindow, ShowsTheButtonsOfAnAnswer) {
+  Open(ModoRespuesta);
+  EXPECT_EQ(Captions(), "Paso|Quiero|Envido Más|Órdago|");
+}
+
+TEST_F(DialogWindow, ShowsOnlyPasoAndQuieroAgainstAnOrdago) {
+  Open(ModoRespuestaOrdago);
+  EXPECT_EQ(Captions(), "Paso|Quiero|");
+}
+
+TEST_F(DialogWindow, IsModalAndOfFixedSize) {
+  const DialogForm& ventana = Open(ModoApertura);
+  EXPECT_TRUE(ventana.isModal());
+  EXPECT_EQ(ventana.minimumSize(), ventana.maximumSize());
+  EXPECT_GE(ventana.width(), 294);
+  EXPECT_GE(ventana.height(), 142);
+}
+
+TEST_F(DialogWindow, PlacesTheButtonsInTwoRowsOfTwo) {
+  Open(ModoApertura);
+  EXPECT_EQ(Boton(0)->y(), Boton(1)->y());
+  EXPECT_EQ(Boton(2)->y(), Boton(3)->y());
+  EXPECT_EQ(Boton(0)->x(), Boton(2)->x());
+  EXPECT_EQ(Boton(1)->x(), Boton(3)->x());
+  EXPECT_LT(Boton(0)->geometry().right(), Boton(1)->x());
+  EXPECT_LT(Boton(0)->geometry().bottom(), Boton(2)->y());
+}
+
+TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {
+  const QFont normal = QApplication::font();
+  QFont grande = normal;
+  grande.setPointSize(40);
+  QApplication::setFont(grande);
+  Open(ModoApertura);
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_GE(Boton(i)->width(), Boton(i)->sizeHint().width()) << i;
+    EXPECT_GE(Boton(i)->height(), Boton(i)->sizeHint().height()) << i;
+    EXPECT_TRUE(ventana_->rect().contains(Boton(i)->geometry())) << i;
+  }
+  QApplication::setFont(normal);
+}
+
+TEST_F(DialogWindow, StartsAtPasoAndAnswersItWithEnter) {
+  DialogForm& ventana = Open(ModoApertura);
+  EXPECT_TRUE(Boton(0)->hasFocus());
+  dialogo_.Resultado = 3;
+  Press(&ventana, Qt::Key_Return);
+  EXPECT_EQ(dialogo_.Resultado, 0);
+  EXPECT_FALSE(ventana.isVisible());
+}
+
+TEST_F(DialogWindow, StartsAtPasoAgainAfterAnotherAnswer) {
+  Open(ModoApertura);
+  QTest::mouseClick(Boton(3), Qt::LeftButton);
+  EXPECT_EQ(dialogo_.Resultado, 3);
+  Open(ModoRespuesta);
+  EXPECT_TRUE(Boton(0)->hasFocus());
+}
+
+TEST_F(DialogWindow, EnterAndSpacePressTheFocusedButton) {
+  for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    for (int i = 0; i < 4; ++i) {
+      DialogForm& ventana = Open(ModoApertura);
+      Boton(i)->setFocus();
+      Press(&ventana, tecla);
+      EXPECT_EQ(dialogo_.Resultado, i);
+      EXPECT_FALSE(ventana.isVisible());
+    }
+  }
+}
+
+TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {
+  DialogForm& ventana = Open(ModoApertura);
+  Press(&ventana, Qt::Key_Right);
+  EXPECT_TRUE(Boton(1)->hasFocus());
+  Press(&ventana, Qt::Key_Down);
+  EXPECT_TRUE(Boton(3)->hasFocus());
+  Press(&ventana, Qt::Key_Left);
+  EXPECT_TRUE(Boton(2)->hasFocus());
+  Press(&ventana, Qt::Key_Up);
+  EXPECT_TRUE(Boton(0)->hasFocus());
+}
+
+TEST_F(DialogWindow, ArrowKeysStayOnTheButtonsThatAreLeft) {
+  DialogForm& ventana = Open(ModoRespuestaOrdago);
+  Press(&ventana, Qt::Key_Down);
+  EXPECT_TRUE(Boton(0)->hasFocus());
+  Press(&ventana, Qt::Key_Right);
+  EXPECT_TRUE(Boton(1)->hasFocus());
+}
+
+TEST_F(DialogWindow, TabMovesInTheOrderOfTheAnswers) {
+  DialogForm& ventana = Open(ModoApertura);
+  for (const int siguiente : {1, 2, 3, 0}) {
+    Press(&ventana, Qt::Key_Tab);
+    EXPECT_TRUE(Boton(siguiente)->hasFocus()) << siguiente;
+  }
+}
+
+TEST_F(DialogWindow, IsNotAnsweredByEscOrItsCloseBox) {
+  DialogForm& ventana = Open(ModoRespuesta);
+  dialogo_.Resultado = 2;
+  Press(&ventana, Qt::Key_Escape);
+  EXPECT_TRUE(ventana.isVisible());
+  EXPECT_FALSE(ventana.close());
+  EXPECT_TRUE(ventana.isVisible());
+  EXPECT_TRUE(dialogo_.Visible);
+  EXPECT_EQ(dialogo_.Resultado, 2);
+  EXPECT_FALSE(ventana.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,187 @@
+// The start-up dialog's window.
+#include "ui/qt/dlg_inicio_form.h"
+
+#include <gtest/gtest.h>
+
+#include <QGroupBox>
+#include <QTest>
+
+#include "tests/support/scripted_port.h"
+#include "tests/support/tables.h"
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+class DlgInicioWindow : public testing::Test {
+ protected:
+  DlgInicioWindow() {
+    SetTable(carpeta_);
+    t_.Carpeta = carpeta_.Path();
+    Form_Load(ventana_.State(), g_);
+    ventana_.ShowState();
+    ventana_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  }
+
+  template <class T>
+  T* Find(const char* nombre) {
+    return Control<T>(&ventana_, nombre);
+  }
+  std::string LabelText(const char* nombre) { return Utf8(Find<QLabel>(nombre)->text()); }
+
+  TempFolder carpeta_;
+  Table t_;
+  Rnd rnd_;
+  ScriptedPort port_;
+  Game g_{t_, rnd_, port_};
+  int aceptadas_ = 0;
+  int salidas_ = 0;
+  DlgInicioForm ventana_{{.Run = [](const std::function<void()>& suceso) { suceso(); },
+                          .CbOK_Click = [this] { ++aceptadas_; },
+                          .Left = [this] { ++salidas_; }}};
+};
+
+TEST_F(DlgInicioWindow, HasTheCaptionsOfTheDialog) {
+  EXPECT_EQ(Utf8(ventana_.windowTitle()), "La tasca del tío Zarandel");
+  EXPECT_EQ(LabelText("Label4"), "Su nombre:");
+  EXPECT_EQ(LabelText("Label1"), "Compañero:");
+  EXPECT_EQ(LabelText("Label2"), "Contrario 1:");
+  EXPECT_EQ(LabelText("Label3"), "Contrario 2:");
+  EXPECT_EQ(Utf8(Find<QCheckBox>("Check1_0")->text()), "Usar los nombres de los jugadores");
+  EXPECT_EQ(Utf8(Find<QCheckBox>("Check1_1")->text()), "Usar las expresiones de los jugadores");
+  EXPECT_EQ(Utf8(Find<QGroupBox>("Frame1")->title()), "Narración");
+  EXPECT_EQ(Utf8(Find<QRadioButton>("Option1_0")->text()), "Estilo directo");
+  EXPECT_EQ(Utf8(Find<QRadioButton>("Option1_1")->text()), "Estilo indirecto");
+  EXPECT_EQ(Utf8(Find<QPushButton>("CbOK")->text()), "&Aceptar");
+  EXPECT_EQ(Utf8(Find<QPushButton>("CbCancel")->text()), "&Salir del juego");
+}
+
+TEST_F(DlgInicioWindow, WelcomesThePlayer) {
+  EXPECT_EQ(LabelText("Text1"),
+            "Bienvenido a la tasca\ndel tío Zarandel\nElija a sus compañeros de mesa \n"
+            "y la forma de la partida.\nQue pase ustéd un buen rato");
+}
+
+TEST_F(DlgInicioWindow, ShowsTheStateThatWasLoaded) {
+  EXPECT_EQ(Utf8(Find<QLineEdit>("Text2")->text()), "Ana");
+  EXPECT_EQ(LabelText("Text3"), "La boticaria: Sí, como bueyes");
+  EXPECT_TRUE(Find<QCheckBox>("Check1_0")->isChecked());
+  EXPECT_TRUE(Find<QCheckBox>("Check1_1")->isChecked());
+  EXPECT_TRUE(Find<QRadioButton>("Option1_0")->isChecked());
+  EXPECT_FALSE(Find<QRadioButton>("Option1_1")->isChecked());
+  EXPECT_TRUE(Find<QPushButton>("CbOK")->isEnabled());
+}
+
+TEST_F(DlgInicioWindow, OffersTheSameCompanionsForEverySeat) {
+  for (const char* const nombre : {"Combo1", "Combo2", "Combo3"}) {
+    const auto* const combo = Find<QComboBox>(nombre);
+    std::string entradas;
+    for (int i = 0; i < combo->count(); ++i) entradas += Utf8(combo->itemText(i)) + "|";
+    EXPECT_EQ(entradas, "Aleatorio|Berta|el Cojo & Cía|Dora|") << nombre;
+    EXPECT_EQ(combo->currentIndex(), 0) << nombre;
+  }
+}
+
+TEST_F(DlgInicioWindow, DisablesAceptarWhenTheStateSaysSo) {
+  ventana_.State().CbOKEnabled = false;
+  ventana_.ShowState();
+  EXPECT_FALSE(Find<QPushButton>("CbOK")->isEnabled());
+}
+
+TEST_F(DlgInicioWindow, SelectsTheWholeNameWhenItGetsTheFocus) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  EXPECT_TRUE(nombre->hasFocus());
+  EXPECT_EQ(Utf8(nombre->selectedText()), "Ana");
+  nombre->deselect();
+  Find<QComboBox>("Combo1")->setFocus();
+  QTest::mouseClick(nombre, Qt::LeftButton);
+  Find<QComboBox>("Combo1")->setFocus();
+  nombre->setFocus(Qt::MouseFocusReason);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Utf8(nombre->selectedText()), "Ana");
+  QTest::keyClicks(nombre, QStringLiteral("Luz"));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), "Luz");
+}
+
+TEST_F(DlgInicioWindow, TakesAPastedNameAsOneLine) {
+  Find<QLineEdit>("Text2")->setText(QStringLiteral("Ana\r\nMaría"));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), "Ana  María");
+}
+
+TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
+  auto* const combo1 = Find<QComboBox>("Combo1");
+  combo1->setFocus();
+  Press(&ventana_, Qt::Key_Down);
+  EXPECT_EQ(ventana_.State().Combo1.ListIndex, 1);
+  EXPECT_EQ(LabelText("Text4"), "Berta cuida cabras.");
+  Find<QComboBox>("Combo2")->setFocus();
+  Press(&ventana_, Qt::Key_End);
+  EXPECT_EQ(ventana_.State().Combo2.ListIndex, 3);
+  EXPECT_EQ(LabelText("Text4"), "Dora calla.");
+  Find<QComboBox>("Combo3")->setFocus();
+  Press(&ventana_, Qt::Key_Down);
+  Press(&ventana_, Qt::Key_Down);
+  EXPECT_EQ(ventana_.State().Combo3.ListIndex, 2);
+  EXPECT_EQ(LabelText("Text4"), "El Cojo corre.");
+  EXPECT_EQ(ventana_.State().Combo1.ListIndex, 1);
+}
+
+TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {
+  Find<QCheckBox>("Check1_0")->click();
+  EXPECT_EQ(LabelText("Text3"), "jugador 3: Sí, como bueyes");
+  Find<QCheckBox>("Check1_1")->click();
+  EXPECT_EQ(LabelText("Text3"), "jugador 3: Sí tengo pares");
+  Find<QRadioButton>("Option1_1")->click();
+  EXPECT_EQ(LabelText("Text3"), "El jugador 3 dice: Sí tengo pares");
+  EXPECT_EQ(ventana_.State().Option1, 1);
+  EXPECT_FALSE(ventana_.State().Check1[0]);
+}
+
+TEST_F(DlgInicioWindow, TabGoesFromTheNameToSalir) {
+  for (const char* const siguiente : {"Combo1", "Combo2", "Combo3", "Check1_0", "Check1_1",
+                                      "Option1_0", "CbOK", "CbCancel", "Text2"}) {
+    Press(&ventana_, Qt::Key_Tab);
+    EXPECT_EQ(Utf8(ventana_.focusWidget()->objectName()), siguiente);
+  }
+  Find<QRadioButton>("Option1_0")->setFocus();
+  Press(&ventana_, Qt::Key_Down);
+  EXPECT_TRUE(Find<QRadioButton>("Option1_1")->isChecked());
+}
+
+TEST_F(DlgInicioWindow, NamesEveryControlForScreenReaders) {
+  for (const char* const nombre : {"Text2", "Combo1", "Combo2", "Combo3", "Check1_0", "Check1_1",
+                                   "Option1_0", "Option1_1", "CbOK", "CbCancel"}) {
+    EXPECT_FALSE(Find<QWidget>(nombre)->accessibleName().isEmpty()) << nombre;
+  }
+  EXPECT_EQ(Find<QLabel>("Label1")->buddy(), Find<QWidget>("Combo1"));
+  EXPECT_EQ(Find<QLabel>("Label2")->buddy(), Find<QWidget>("Combo2"));
+  EXPECT_EQ(Find<QLabel>("Label3")->buddy(), Find<QWidget>("Combo3"));
+  EXPECT_EQ(Find<QLabel>("Label4")->buddy(), Find<QWidget>("Text2"));
+}
+
+TEST_F(DlgInicioWindow, EnterAccepts) {
+  Press(&ventana_, Qt::Key_Return);
+  EXPECT_EQ(aceptadas_, 1);
+  EXPECT_EQ(salidas_, 0);
+}
+
+TEST_F(DlgInicioWindow, LeavesBySalirByEscAndByClosing) {
+  Find<QPushButton>("CbCancel")->click();
+  EXPECT_EQ(salidas_, 1);
+  Press(&ventana_, Qt::Key_Escape);
+  EXPECT_EQ(salidas_, 2);
+  ventana_.close();
+  EXPECT_EQ(salidas_, 3);
+  EXPECT_EQ(aceptadas_, 0);
+}
+
+TEST_F(DlgInicioWindow, ShowsTextFromFilesAsPlainText) {
+  for (const QLabel* const hoja : {Find<QLabel>("Text3"), Find<QLabel>("Text4")}) {
+    EXPECT_EQ(hoja->textFormat(), Qt::PlainText);
+  }
+}
+
+}  // namespace
+}  // namespace tasca::test

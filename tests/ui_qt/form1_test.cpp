@@ -1,0 +1,203 @@
+// The main window: what it shows, and where its keys go.
+#include "ui/qt/form1.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QTest>
+#include <utility>
+#include <vector>
+
+#include "table/phase_machine.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+// A window whose keys are written down; Q and Enter are used up.
+class Form1Window : public testing::Test {
+ protected:
+  using Pulsada = std::pair<int, int>;
+
+  Form1Window() {
+    ventana_.resize(1000, 700);
+    ventana_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  }
+
+  QPlainTextEdit* Text1() { return Control<QPlainTextEdit>(&ventana_, "Text1"); }
+  QPlainTextEdit* Text2() { return Control<QPlainTextEdit>(&ventana_, "Text2"); }
+  QLineEdit* Text3() { return Control<QLineEdit>(&ventana_, "Text3"); }
+
+  std::vector<Pulsada> teclas_;
+  int cerrada_ = 0;
+  Form1State estado_;
+  Form1 ventana_{{.Text1_KeyDown =
+                      [this](Integer& tecla, Integer shift) {
+                        teclas_.emplace_back(tecla, shift);
+                        if (tecla == TeclaEnter || tecla == TeclaQ) tecla = 0;
+                      },
+                  .Closed = [this] { ++cerrada_; }}};
+};
+
+TEST_F(Form1Window, ShowsTheThreeTexts) {
+  estado_.Text1 = u"Rey        de Oros";
+  estado_.Text2 = u"La grande\r\nPulse enter";
+  estado_.Text3 = u"Piedras: 1 / 2;    juegos: 0 / 0";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "Rey        de Oros");
+  EXPECT_EQ(Utf8(Text2()->toPlainText()), "La grande\nPulse enter");
+  EXPECT_EQ(Utf8(Text3()->text()), "Piedras: 1 / 2;    juegos: 0 / 0");
+}
+
+TEST_F(Form1Window, StartsWithTheFocusInTheInputLine) { EXPECT_TRUE(Text1()->hasFocus()); }
+
+TEST_F(Form1Window, LetsOnlyTheInputLineBeWritten) {
+  EXPECT_FALSE(Text1()->isReadOnly());
+  EXPECT_TRUE(Text2()->isReadOnly());
+  EXPECT_TRUE(Text3()->isReadOnly());
+}
+
+TEST_F(Form1Window, NamesItsControlsForScreenReaders) {
+  for (const QWidget* const control :
+       {static_cast<QWidget*>(Text1()), static_cast<QWidget*>(Text2()),
+        static_cast<QWidget*>(Text3())}) {
+    EXPECT_FALSE(control->accessibleName().isEmpty()) << Utf8(control->objectName());
+  }
+}
+
+TEST_F(Form1Window, PassesEnterOfEitherKindAndSwallowsIt) {
+  Press(&ventana_, Qt::Key_Return);
+  Press(&ventana_, Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(teclas_, (std::vector<Pulsada>{{TeclaEnter, 0}, {TeclaEnter, 0}}));
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "");
+}
+
+TEST_F(Form1Window, PassesQAndDoesNotTypeIt) {
+  Press(&ventana_, Qt::Key_Q);
+  Press(&ventana_, Qt::Key_Q, Qt::ShiftModifier);
+  ASSERT_FALSE(teclas_.empty());
+  EXPECT_EQ(teclas_.front(), (Pulsada{TeclaQ, 0}));
+  EXPECT_EQ(teclas_.back(), (Pulsada{TeclaQ, 1}));
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "");
+}
+
+TEST_F(Form1Window, TypesWhatTheRulesLeaveAlone) {
+  QTest::keyClicks(Text1(), QStringLiteral("hola"));
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "hola");
+}
+
+TEST_F(Form1Window, LeavesTypedTextAloneUntilTheRulesRewriteIt) {
+  estado_.Text1 = u"As";
+  ventana_.ShowTexts(estado_);
+  QTest::keyClicks(Text1(), QStringLiteral("mi "));
+  estado_.Text2 = u"otra cosa";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "mi As");
+  estado_.Text1 = u"Dos";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "Dos");
+}
+
+TEST_F(Form1Window, GrowsTheInputLineForFourHandsAndShrinksItAgain) {
+  estado_.Text1 = u"una mano";
+  ventana_.ShowTexts(estado_);
+  const int alto = Text1()->height();
+  const int linea = Text1()->fontMetrics().lineSpacing();
+  EXPECT_LT(alto, 3 * linea);
+  estado_.Text1 = u"a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\n";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Text1()->height(), alto + 8 * linea);
+  EXPECT_EQ(Text1()->verticalScrollBar()->maximum(), 0);
+  estado_.Text1 = u"una mano";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Text1()->height(), alto);
+}
+
+TEST_F(Form1Window, NeverLetsTheInputLineTakeMoreThanHalf) {
+  for (int i = 0; i < 100; ++i) estado_.Text1 += u"línea\r\n";
+  ventana_.ShowTexts(estado_);
+  EXPECT_LE(Text1()->height(), ventana_.height() / 2);
+}
+
+TEST_F(Form1Window, ScrollsTheTranscriptToItsEndWheneverItGrows) {
+  for (int i = 0; i < 5; ++i) {
+    for (int j = 0; j < 40; ++j) estado_.Text2 += u"Berta: paso\r\n";
+    ventana_.ShowTexts(estado_);
+    const QScrollBar* const barra = Text2()->verticalScrollBar();
+    EXPECT_GT(barra->maximum(), 0);
+    EXPECT_EQ(barra->value(), barra->maximum());
+  }
+}
+
+TEST_F(Form1Window, TurnsThePagesOfTheTranscriptFromTheInputLine) {
+  for (int j = 0; j < 200; ++j) estado_.Text2 += u"Berta: paso\r\n";
+  ventana_.ShowTexts(estado_);
+  const QScrollBar* const barra = Text2()->verticalScrollBar();
+  Press(&ventana_, Qt::Key_PageUp);
+  EXPECT_LT(barra->value(), barra->maximum());
+  EXPECT_TRUE(Text1()->hasFocus());
+  Press(&ventana_, Qt::Key_PageDown);
+  EXPECT_EQ(barra->value(), barra->maximum());
+}
+
+TEST_F(Form1Window, BringsTypingAnywhereIntoTheInputLine) {
+  for (QWidget* const otro : {static_cast<QWidget*>(Text2()), static_cast<QWidget*>(Text3())}) {
+    otro->setFocus();
+    Press(&ventana_, Qt::Key_X);
+    EXPECT_TRUE(Text1()->hasFocus());
+  }
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "xx");
+  Text2()->setFocus();
+  Press(&ventana_, Qt::Key_Return);
+  EXPECT_TRUE(Text1()->hasFocus());
+  EXPECT_EQ(teclas_.back(), (Pulsada{TeclaEnter, 0}));
+}
+
+TEST_F(Form1Window, LetsTheTranscriptBeReadByKeyboard) {
+  Text2()->setFocus();
+  Press(&ventana_, Qt::Key_Up);
+  Press(&ventana_, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(Text2()->hasFocus());
+  EXPECT_TRUE(teclas_.empty());
+}
+
+TEST_F(Form1Window, MovesTheFocusWithTab) {
+  Press(&ventana_, Qt::Key_Tab);
+  EXPECT_TRUE(Text2()->hasFocus());
+  Press(&ventana_, Qt::Key_Tab);
+  EXPECT_TRUE(Text3()->hasFocus());
+  Press(&ventana_, Qt::Key_Tab);
+  EXPECT_TRUE(Text1()->hasFocus());
+}
+
+TEST_F(Form1Window, ShowsTextFromFilesAsPlainText) {
+  estado_.Text2 = u"<b>Berta</b> &amp; Dora";
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Utf8(Text2()->toPlainText()), "<b>Berta</b> &amp; Dora");
+  for (const QLabel* const etiqueta : ventana_.findChildren<QLabel*>()) {
+    EXPECT_EQ(etiqueta->textFormat(), Qt::PlainText) << Utf8(etiqueta->text());
+  }
+}
+
+TEST_F(Form1Window, SaysThatItHasBeenClosed) {
+  ventana_.close();
+  EXPECT_EQ(cerrada_, 1);
+}
+
+TEST(Transcript, ChangesOnlyWhatDiffers) {
+  Transcript texto{nullptr};
+  texto.ShowText(QStringLiteral("La grande\nBerta: paso\nPulse enter"));
+  int cambiadoDesde = -1;
+  QObject::connect(texto.document(), &QTextDocument::contentsChange, &texto,
+                   [&cambiadoDesde](int desde, int, int) { cambiadoDesde = desde; });
+  texto.ShowText(QStringLiteral("La grande\nBerta: paso\nDora: envido"));
+  EXPECT_EQ(Utf8(texto.toPlainText()), "La grande\nBerta: paso\nDora: envido");
+  EXPECT_EQ(cambiadoDesde, 22);
+  texto.ShowText(QString{});
+  EXPECT_EQ(Utf8(texto.toPlainText()), "");
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,282 @@
+// The whole program in its windows, played by keys.
+#include "ui/qt/program.h"
+
+#include <gtest/gtest.h>
+
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <utility>
+
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+// A player who opens the program and answers by keys: Enter wherever nothing else is said.
+class ProgramInWindows : public testing::Test {
+ protected:
+  // The key for a question, by its text or else its title.
+  using Answer = std::function<Qt::Key(const QString& pregunta)>;
+
+  int Play(const Answer& respuesta) {
+    Program programa{carpeta_.Path()};
+    bool abierto = false;
+    return PlayUntilEnd([&] {
+      if (!std::exchange(abierto, true)) return programa.OpenDlgInicio();
+      TakeTurn(respuesta);
+    });
+  }
+
+  void TakeTurn(const Answer& respuesta) {
+    if (QWidget* const caja = QApplication::activeModalWidget()) return AnswerBox(caja, respuesta);
+    if (QWidget* const dlgInicio = VisibleWindow("DlgInicio")) return alInicio_(dlgInicio);
+    if (QWidget* const form1 = VisibleWindow("Form1")) return enLaMesa_(form1);
+  }
+
+  void AnswerBox(QWidget* caja, const Answer& respuesta) {
+    QString pregunta = caja->windowTitle();
+    if (const auto* const mensaje = qobject_cast<QMessageBox*>(caja)) {
+      if (!mensaje->text().isEmpty()) pregunta = mensaje->text();
+    }
+    preguntas_ += pregunta;
+    Press(caja, respuesta(pregunta));
+  }
+
+  int Asked(const char* pregunta) const {
+    return static_cast<int>(preguntas_.count(QString::fromUtf8(pregunta)));
+  }
+
+  TempFolder carpeta_;
+  QStringList preguntas_;
+  std::function<void(QWidget*)> alInicio_ = [](QWidget* ventana) {
+    Press(ventana, Qt::Key_Return);
+  };
+  std::function<void(QWidget*)> enLaMesa_ = [](QWidget* ventana) {
+    Press(ventana, Qt::Key_Return);
+  };
+};
+
+constexpr const char* PartidaCorta = "1\r\n1\r\n1\r\n";
+constexpr const char* OtraPartida = "¿Desea jugar otra partida?";
+constexpr const char* OtrosJugadores = "¿Desea cambiar de jugadores?";
+
+// Cuts the mus at once, and otherwise takes what Enter gives.
+Qt::Key CutAndPass(const QString& pregunta) {
+  return pregunta == QStringLiteral("¿mus?") ? Qt::Key_N : Qt::Key_Return;
+}
+
+TEST_F(ProgramInWindows, PlaysAMatchByKeysToHastaPronto) {
+  SetTable(carpeta_, PartidaCorta);
+  const int estado = Play([](const QString& pregunta) {
+    return pregunta == QString::fromUtf8(OtraPartida) ? Qt::Key_N : CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_EQ(Asked(OtraPartida), 1);
+  EXPECT_EQ(Asked(OtrosJugadores), 0);
+  EXPECT_GE(Asked("La grande"), 1);
+  EXPECT_EQ(preguntas_.constLast(), QString::fromUtf8(OtraPartida));
+}
+
+TEST_F(ProgramInWindows, PlaysOnWithTheSamePlayers) {
+  SetTable(carpeta_, PartidaCorta);
+  int partidas = 0;
+  const int estado = Play([&partidas](const QString& pregunta) {
+    if (pregunta == QString::fromUtf8(OtrosJugadores)) return Qt::Key_N;
+    if (pregunta == QString::fromUtf8(OtraPartida)) return ++partidas < 3 ? Qt::Key_S : Qt::Key_N;
+    return CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_EQ(Asked(OtrosJugadores), 2);
+}
+
+// Another match every time, with other players.
+Qt::Key ChangePlayersAlways(const QString& pregunta) {
+  const bool alFinal =
+      pregunta == QString::fromUtf8(OtraPartida) || pregunta == QString::fromUtf8(OtrosJugadores);
+  return alFinal ? Qt::Key_S : CutAndPass(pregunta);
+}
+
+TEST_F(ProgramInWindows, ChangesPlayersOnceTheStepHasEnded) {
+  SetTable(carpeta_, PartidaCorta);
+  int inicios = 0;
+  alInicio_ = [&inicios](QWidget* ventana) {
+    ++inicios;
+    Press(ventana, inicios < 3 ? Qt::Key_Return : Qt::Key_Escape);
+  };
+  EXPECT_EQ(Play(ChangePlayersAlways), 0);
+  EXPECT_EQ(inicios, 3);
+  EXPECT_EQ(Asked(OtrosJugadores), 2);
+  EXPECT_NE(Utf8(preguntas_.constLast()), OtrosJugadores) << "the vaca has still to be told";
+}
+
+TEST_F(ProgramInWindows, OpensTheStartDialogAnewInPlaceOfTheTable) {
+  SetTable(carpeta_, PartidaCorta);
+  std::string elegidos;
+  alInicio_ = [&elegidos](QWidget* ventana) {
+    auto* const combo = Control<QComboBox>(ventana, "Combo1");
+    elegidos += Utf8(combo->currentText()) + (VisibleWindow("Form1") != nullptr ? " y mesa|" : "|");
+    if (elegidos != "Aleatorio|") return Press(ventana, Qt::Key_Escape);
+    combo->setFocus();
+    Press(ventana, Qt::Key_End);
+    Press(ventana, Qt::Key_Return);
+  };
+  EXPECT_EQ(Play(ChangePlayersAlways), 0);
+  EXPECT_EQ(elegidos, "Aleatorio|Aleatorio|");
+}
+
+TEST_F(ProgramInWindows, StartsTheNewMatchFromNothing) {
+  SetTable(carpeta_, PartidaCorta);
+  std::string tanteos;
+  bool esNueva = false;
+  enLaMesa_ = [&](QWidget* ventana) {
+    const std::string tanteo = Utf8(Control<QLineEdit>(ventana, "Text3")->text());
+    if (std::exchange(esNueva, false)) tanteos += "[" + tanteo + "]";
+    if (tanteos == "[][]") return static_cast<void>(ventana->close());
+    Press(ventana, Qt::Key_Return);
+  };
+  alInicio_ = [&esNueva](QWidget* ventana) {
+    esNueva = true;
+    Press(ventana, Qt::Key_Return);
+  };
+  EXPECT_EQ(Play(ChangePlayersAlways), 0);
+  EXPECT_EQ(tanteos, "[][]");
+}
+
+TEST_F(ProgramInWindows, OpensTheTableMaximisedWithTheTitleOfTheMatch) {
+  SetTable(carpeta_);
+  std::string comienzo;
+  bool maximizada = false;
+  enLaMesa_ = [&](QWidget* ventana) {
+    comienzo = Utf8(Control<QPlainTextEdit>(ventana, "Text2")->toPlainText().left(17));
+    maximizada = ventana->isMaximized();
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_EQ(comienzo, "Partida de\nAna y ");
+  EXPECT_TRUE(maximizada);
+}
+
+TEST_F(ProgramInWindows, EndsWhenTheMainWindowIsClosed) {
+  SetTable(carpeta_);
+  enLaMesa_ = [](QWidget* ventana) { ventana->close(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_TRUE(preguntas_.isEmpty());
+}
+
+TEST_F(ProgramInWindows, EndsWhenTheStartDialogIsLeft) {
+  SetTable(carpeta_);
+  alInicio_ = [](QWidget* ventana) { ventana->close(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  alInicio_ = [](QWidget* ventana) { Control<QPushButton>(ventana, "CbCancel")->click(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+}
+
+TEST_F(ProgramInWindows, GivesTheInputLineTheFocusAfterEveryQuestion) {
+  SetTable(carpeta_, PartidaCorta);
+  enLaMesa_ = [](QWidget* ventana) {
+    EXPECT_EQ(Utf8(ventana->focusWidget()->objectName()), "Text1");
+    Control<QWidget>(ventana, "Text2")->setFocus();
+    Press(ventana, Qt::Key_Return);
+  };
+  Play([](const QString& pregunta) {
+    return pregunta == QString::fromUtf8(OtraPartida) ? Qt::Key_N : CutAndPass(pregunta);
+  });
+}
+
+TEST_F(ProgramInWindows, ShowsTheTranscriptWhileAQuestionWaits) {
+  SetTable(carpeta_);
+  bool visto = false;
+  const int estado = Play([&visto](const QString& pregunta) {
+    if (pregunta == QStringLiteral("La grande")) {
+      const QWidget* const form1 = VisibleWindow("Form1");
+      const auto* const texto = Control<QPlainTextEdit>(form1, "Text2");
+      EXPECT_TRUE(texto->toPlainText().startsWith(QStringLiteral("La grande\n")));
+      visto = true;
+      QCoreApplication::exit(0);
+    }
+    return CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_TRUE(visto);
+}
+
+TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
+  SetTable(carpeta_);
+  QStringList vistas;
+  enLaMesa_ = [&vistas](QWidget* ventana) {
+    const auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
+    vistas += text1->toPlainText();
+    Press(ventana, Qt::Key_0, Qt::ControlModifier | Qt::ShiftModifier);
+    vistas += text1->toPlainText();
+    Press(ventana, Qt::Key_Q);
+    vistas += text1->toPlainText();
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  ASSERT_EQ(vistas.size(), 3);
+  EXPECT_EQ(vistas.at(0).count(u'\n'), 0);
+  EXPECT_EQ(vistas.at(1).count(u'\n'), 8);
+  EXPECT_TRUE(vistas.at(1).startsWith(QStringLiteral("Ana\n") + vistas.at(0)));
+  EXPECT_EQ(vistas.at(2).count(u'\n'), 0);
+}
+
+TEST_F(ProgramInWindows, TellsARunTimeErrorOnceAndEndsWithStatus1) {
+  SetTable(carpeta_);
+  const int estado = Play([](const QString& pregunta) {
+    QWidget* const caja = QApplication::activeModalWidget();
+    if (qobject_cast<QInputDialog*>(caja) != nullptr) {
+      QTest::keyClicks(caja->focusWidget(), QStringLiteral("99999"));
+    } else if (caja->objectName() == QLatin1String{"Dialog"}) {
+      Press(caja, Qt::Key_Down);
+    }
+    return CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 1);
+  EXPECT_EQ(Utf8(preguntas_.constLast()),
+            "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
+            "ejecución.");
+}
+
+TEST_F(ProgramInWindows, TellsOfAMissingCharacterFileOnce) {
+  const int estado = Play(CutAndPass);
+  EXPECT_EQ(estado, 1);
+  EXPECT_EQ(Utf8(preguntas_.join(u'|')),
+            "No se encuentra el archivo con los datos de los personajes. El programa va a terminar "
+            "su ejecución.");
+}
+
+TEST_F(ProgramInWindows, TellsOfADamagedSettingsFileAndLeavesIt) {
+  SetTable(carpeta_);
+  carpeta_.Write("mus.ini", "35\r\n");
+  const int estado = Play(CutAndPass);
+  EXPECT_EQ(estado, 1);
+  ASSERT_EQ(preguntas_.size(), 1);
+  EXPECT_TRUE(preguntas_.constFirst().contains(QStringLiteral("mus.ini")));
+  EXPECT_TRUE(
+      preguntas_.constFirst().endsWith(QStringLiteral("El programa va a terminar su ejecución.")));
+  EXPECT_EQ(carpeta_.Read("mus.ini"), "35\r\n");
+}
+
+TEST_F(ProgramInWindows, SaysWhyTheChoiceOfCompanionsIsNoGood) {
+  SetTable(carpeta_);
+  int intentos = 0;
+  alInicio_ = [&intentos](QWidget* ventana) {
+    if (++intentos > 1) return Press(ventana, Qt::Key_Escape);
+    for (const char* const nombre : {"Combo1", "Combo2"}) {
+      Control<QWidget>(ventana, nombre)->setFocus();
+      Press(ventana, Qt::Key_Down);
+    }
+    Press(ventana, Qt::Key_Return);
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  ASSERT_EQ(preguntas_.size(), 1);
+  EXPECT_EQ(Utf8(preguntas_.constFirst()),
+            "Si quiere que Berta sea su pareja de juego, no puede ser también su oponente. ¿Lógico "
+            "no?");
+}
+
+}  // namespace
+}  // namespace tasca::test

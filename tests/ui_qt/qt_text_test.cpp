@@ -1,0 +1,54 @@
+// Text between the game and the toolkit.
+#include "ui/qt/qt_text.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+using namespace std::string_view_literals;
+
+TEST(ToDisplay, MakesOneLineBreakOfAnyKind) {
+  EXPECT_EQ(Utf8(ToDisplay(u"uno\r\ndos\rtres\ncuatro\r\n\r\n")), "uno\ndos\ntres\ncuatro\n\n");
+  EXPECT_EQ(Utf8(ToDisplay(u"al final\r")), "al final\n");
+}
+
+TEST(ToDisplay, ShowsTheCodesWithoutACharacterAsReplacements) {
+  EXPECT_EQ(Utf8(ToDisplay(u"a\u0081\u008D\u008F\u0090\u009Db")), "a�����b");
+  EXPECT_EQ(Utf8(ToDisplay(u"\u001B[2J")), "�[2J");
+}
+
+TEST(ToDisplay, DropsTheNulsOfATextNeverFilled) {
+  EXPECT_EQ(Utf8(ToDisplay(u"\0\0hola\0"sv)), "hola");
+}
+
+TEST(ToDisplay, LeavesBlanksTabsAndSpanishAlone) {
+  EXPECT_EQ(Utf8(ToDisplay(u"  ¿Envido  más?\t ñ & Ñ ")), "  ¿Envido  más?\t ñ & Ñ ");
+}
+
+TEST(ToLabel, DoublesWhatWouldMarkAnAccessKey) {
+  EXPECT_EQ(Utf8(ToLabel(u"Pérez & hijos\r\n&")), "Pérez && hijos\n&&");
+}
+
+TEST(FromInput, KeepsALineInOneLine) {
+  EXPECT_EQ(Utf8(FromInput(QStringLiteral("Ana\r\nMaría\u2028\tB"))), "Ana  María  B");
+  EXPECT_EQ(Utf8(FromInput(QStringLiteral("Iñaki Pérez"))), "Iñaki Pérez");
+}
+
+TEST(FromInput, KeepsTheCodesWithoutACharacter) {
+  EXPECT_EQ(FromInput(QStringLiteral("a\u0081b")), u"a\u0081b");
+}
+
+TEST(Scaled, EnlargesPointsAndPixels) {
+  QFont fuente;
+  fuente.setPointSizeF(10);
+  EXPECT_DOUBLE_EQ(Scaled(fuente, 1.5).pointSizeF(), 15);
+  fuente.setPixelSize(20);
+  EXPECT_EQ(Scaled(fuente, 1.5).pixelSize(), 30);
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,107 @@
+// Message, Yes/No and input boxes.
+#include "ui/qt/boxes.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+namespace {
+
+// The toolkit takes Esc and the close box for "No"; here they answer nothing. It also waits a tenth
+// of a second after a button's letter, in which an Enter would still give the other answer.
+class YesNoMessageBox : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* suceso) override { suceso->ignore(); }
+  void keyPressEvent(QKeyEvent* suceso) override {
+    if (suceso->matches(QKeySequence::Cancel)) return suceso->accept();
+    if (suceso->modifiers() == Qt::NoModifier || suceso->modifiers() == Qt::ShiftModifier) {
+      for (QAbstractButton* const boton : buttons()) {
+        if (boton->shortcut() == QKeySequence{Qt::ALT | static_cast<Qt::Key>(suceso->key())})
+          return boton->click();
+      }
+    }
+    QMessageBox::keyPressEvent(suceso);
+  }
+};
+
+QString TituloDe(std::u16string_view titulo) {
+  return ToDisplay(titulo.empty() ? TituloAplicacion : titulo);
+}
+
+// A question may stand in the title alone: the box is as wide as the title needs with the window's
+// own buttons beside it.
+void LeaveRoomForTitle(QMessageBox& caja) {
+  auto* const rejilla = qobject_cast<QGridLayout*>(caja.layout());
+  if (rejilla == nullptr) return;
+  const int letra = caja.fontMetrics().averageCharWidth();
+  const int ancho = caja.fontMetrics().horizontalAdvance(caja.windowTitle()) + 20 * letra;
+  rejilla->addItem(new QSpacerItem{ancho, 0, QSizePolicy::Minimum, QSizePolicy::Minimum},
+                   rejilla->rowCount(), 0, 1, rejilla->columnCount());
+}
+
+void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {
+  QMessageBox caja{padre};
+  caja.setObjectName(QStringLiteral("MsgBox"));
+  caja.setWindowTitle(TituloDe({}));
+  caja.setIcon(icono);
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(ToDisplay(texto));
+  caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+  LeaveRoomForTitle(caja);
+  caja.exec();
+}
+
+}  // namespace
+
+void ShowMessage(QWidget* padre, std::u16string_view texto) {
+  ShowBox(padre, QMessageBox::NoIcon, texto);
+}
+
+void ShowError(QWidget* padre, std::u16string_view texto) {
+  ShowBox(padre, QMessageBox::Critical, texto);
+}
+
+std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
+  YesNoMessageBox caja{padre};
+  caja.setObjectName(QStringLiteral("YesNoBox"));
+  caja.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+  caja.setWindowTitle(TituloDe(pregunta.Titulo));
+  caja.setIcon(pregunta.ConIcono ? QMessageBox::Question : QMessageBox::NoIcon);
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(ToDisplay(pregunta.Texto));
+  auto* const si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
+  auto* const no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+  caja.setDefaultButton(pregunta.PorDefecto ? si : no);
+  LeaveRoomForTitle(caja);
+  caja.exec();
+  if (caja.clickedButton() == nullptr) return std::nullopt;
+  return caja.clickedButton() == si;
+}
+
+std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,
+                       std::u16string_view porDefecto) {
+  QInputDialog caja{padre};
+  caja.setObjectName(QStringLiteral("InputBox"));
+  caja.setWindowTitle(TituloDe(titulo));
+  caja.setInputMode(QInputDialog::TextInput);
+  caja.setLabelText(ToLabel(texto));
+  caja.setTextValue(ToDisplay(porDefecto));
+  caja.setOkButtonText(QStringLiteral("Aceptar"));
+  caja.setCancelButtonText(QStringLiteral("Cancelar"));
+  if (auto* const etiqueta = caja.findChild<QLabel*>()) etiqueta->setTextFormat(Qt::PlainText);
+  for (QPushButton* const boton : caja.findChildren<QPushButton*>()) boton->setIcon({});
+  return caja.exec() == QDialog::Accepted ? FromInput(caja.textValue()) : std::u16string{};
+}
+
+}  // namespace tasca

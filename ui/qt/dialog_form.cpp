@@ -1,0 +1,92 @@
+// The bidding dialog's window.
+#include "ui/qt/dialog_form.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <algorithm>
+#include <optional>
+
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+namespace {
+
+// The drawing of the form, in units of a fifteenth of a pixel at 96 dpi.
+constexpr QSize Superficie{4410, 2130};
+constexpr QSize Boton{1500, 500};
+constexpr std::array<QPoint, 4> Esquinas{QPoint{500, 500}, QPoint{2500, 500}, QPoint{500, 1500},
+                                         QPoint{2500, 1500}};
+constexpr double Unidad = 1.0 / 15;
+
+// The button beside or above, in two rows of two.
+std::optional<int> Vecino(int indice, int tecla) {
+  if (tecla == Qt::Key_Left || tecla == Qt::Key_Right) return indice ^ 1;
+  if (tecla == Qt::Key_Up || tecla == Qt::Key_Down) return indice ^ 2;
+  return std::nullopt;
+}
+
+}  // namespace
+
+DialogForm::DialogForm(QWidget* padre, Dialog& dialogo)
+    : QDialog{padre, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint},
+      dialogo_{dialogo} {
+  setObjectName(QStringLiteral("Dialog"));
+  setWindowTitle(ToDisplay(dialogo.Caption));
+  for (int indice = 0; indice < 4; ++indice) BuildButton(indice);
+  Place();
+  command1_.at(static_cast<std::size_t>(dialogo.Foco))->setFocus();
+}
+
+void DialogForm::BuildButton(int indice) {
+  const DialogButton& boton = dialogo_.Command1[indice];
+  auto* const nuevo = new QPushButton{ToLabel(boton.Caption), this};
+  nuevo->setObjectName(QStringLiteral("Command1_%1").arg(indice));
+  nuevo->setAccessibleName(ToDisplay(boton.Caption));
+  nuevo->setVisible(boton.Visible);
+  nuevo->setEnabled(boton.Enabled);
+  nuevo->installEventFilter(this);
+  connect(nuevo, &QPushButton::clicked, this, [this, indice] {
+    Command1_Click(dialogo_, indice);
+    if (!dialogo_.Visible) accept();
+  });
+  command1_.at(static_cast<std::size_t>(indice)) = nuevo;
+}
+
+// Drawn for a small font; a larger one makes the whole form larger, so that every caption fits.
+void DialogForm::Place() {
+  constexpr double letraDelDibujo = 13;
+  double escala = std::max(Unidad, Unidad * fontMetrics().height() / letraDelDibujo);
+  for (const QPushButton* const boton : command1_) {
+    const QSize falta = boton->sizeHint();
+    escala = std::max({escala, static_cast<double>(falta.width()) / Boton.width(),
+                       static_cast<double>(falta.height()) / Boton.height()});
+  }
+  setFixedSize(Superficie * escala);
+  for (std::size_t i = 0; i < command1_.size(); ++i) {
+    command1_.at(i)->setGeometry(QRect{Esquinas.at(i) * escala, Boton * escala});
+  }
+}
+
+void DialogForm::closeEvent(QCloseEvent* suceso) { suceso->ignore(); }
+
+bool DialogForm::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso)) {
+    for (int indice = 0; indice < 4; ++indice) {
+      const bool esEste = command1_.at(static_cast<std::size_t>(indice)) == objeto;
+      if (esEste && pulsada->type() == QEvent::KeyPress && MoveFocus(indice, pulsada->key())) {
+        return true;
+      }
+    }
+  }
+  return QDialog::eventFilter(objeto, suceso);
+}
+
+bool DialogForm::MoveFocus(int desde, int tecla) {
+  const std::optional<int> vecino = Vecino(desde, tecla);
+  if (!vecino) return false;
+  QPushButton* const boton = command1_.at(static_cast<std::size_t>(*vecino));
+  if (boton->isVisible()) boton->setFocus(Qt::TabFocusReason);
+  return true;
+}
+
+}  // namespace tasca

@@ -1,0 +1,222 @@
+// The start-up dialog's window.
+#include "ui/qt/dlg_inicio_form.h"
+
+#include <QFocusEvent>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMetaObject>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+namespace {
+
+// The name, selected as a whole when it gets the focus, so that typing replaces it.
+class NameEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  // A click sets the cursor after the focus has come, and would undo the selection.
+  void focusInEvent(QFocusEvent* suceso) override {
+    QLineEdit::focusInEvent(suceso);
+    if (suceso->reason() == Qt::MouseFocusReason) {
+      QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
+    } else {
+      selectAll();
+    }
+  }
+};
+
+QLabel* Texto(QWidget* padre) {
+  auto* const texto = new QLabel{padre};
+  texto->setTextFormat(Qt::PlainText);
+  texto->setWordWrap(true);
+  return texto;
+}
+
+// A text of the table's on a sheet of its own, with room for `lineas` lines.
+QLabel* Hoja(QWidget* padre, int lineas) {
+  auto* const hoja = Texto(padre);
+  hoja->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  hoja->setAutoFillBackground(true);
+  hoja->setBackgroundRole(QPalette::Base);
+  hoja->setForegroundRole(QPalette::Text);
+  const int letra = hoja->fontMetrics().averageCharWidth();
+  hoja->setMargin(letra);
+  hoja->setMinimumHeight(lineas * hoja->fontMetrics().lineSpacing() + 3 * letra);
+  return hoja;
+}
+
+void ShowCombo(QComboBox* combo, const ComboBox& lista) {
+  if (combo->count() != static_cast<int>(lista.List.size())) {
+    combo->clear();
+    for (const ComboBox::Entrada& entrada : lista.List) combo->addItem(ToDisplay(entrada.Texto));
+  }
+  combo->setCurrentIndex(lista.ListIndex);
+}
+
+}  // namespace
+
+DlgInicioForm::DlgInicioForm(Events sucesos)
+    : sucesos_{std::move(sucesos)},
+      text1_{Texto(this)},
+      text2_{new NameEdit{this}},
+      text3_{Hoja(this, 1)},
+      text4_{Hoja(this, 7)},
+      combos_{new QComboBox{this}, new QComboBox{this}, new QComboBox{this}},
+      check1_{new QCheckBox{QStringLiteral("Usar los nombres de los jugadores"), this},
+              new QCheckBox{QStringLiteral("Usar las expresiones de los jugadores"), this}},
+      option1_{new QRadioButton{QStringLiteral("Estilo directo"), this},
+               new QRadioButton{QStringLiteral("Estilo indirecto"), this}},
+      cbOK_{new QPushButton{QStringLiteral("&Aceptar"), this}},
+      cbCancel_{new QPushButton{QStringLiteral("&Salir del juego"), this}} {
+  setWindowTitle(ToDisplay(TituloAplicacion));
+  NameControls();
+  BuildLayout();
+  SetTabs();
+  Connect();
+  text2_->setFocus();
+}
+
+void DlgInicioForm::NameControls() {
+  setObjectName(QStringLiteral("DlgInicio"));
+  text1_->setObjectName(QStringLiteral("Text1"));
+  text2_->setObjectName(QStringLiteral("Text2"));
+  text3_->setObjectName(QStringLiteral("Text3"));
+  text4_->setObjectName(QStringLiteral("Text4"));
+  text2_->setAccessibleName(QStringLiteral("Su nombre"));
+  const std::array nombres{QStringLiteral("Compañero"), QStringLiteral("Contrario 1"),
+                           QStringLiteral("Contrario 2")};
+  for (std::size_t i = 0; i < combos_.size(); ++i) {
+    combos_.at(i)->setObjectName(QStringLiteral("Combo%1").arg(i + 1));
+    combos_.at(i)->setAccessibleName(nombres.at(i));
+    combos_.at(i)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combos_.at(i)->setMinimumContentsLength(20);
+  }
+  for (std::size_t i = 0; i < check1_.size(); ++i) {
+    check1_.at(i)->setObjectName(QStringLiteral("Check1_%1").arg(i));
+    option1_.at(i)->setObjectName(QStringLiteral("Option1_%1").arg(i));
+    check1_.at(i)->setAccessibleName(check1_.at(i)->text());
+    option1_.at(i)->setAccessibleName(option1_.at(i)->text());
+  }
+  cbOK_->setObjectName(QStringLiteral("CbOK"));
+  cbOK_->setAccessibleName(QStringLiteral("Aceptar"));
+  cbOK_->setDefault(true);
+  cbCancel_->setObjectName(QStringLiteral("CbCancel"));
+  cbCancel_->setAccessibleName(QStringLiteral("Salir del juego"));
+}
+
+void DlgInicioForm::Connect() {
+  using ComboClick = void (*)(DlgInicio&, int);
+  const auto pasar = [this](const std::function<void()>& suceso) {
+    sucesos_.Run(suceso);
+    ShowState();
+  };
+  connect(text2_, &QLineEdit::textChanged, this,
+          [this](const QString& texto) { estado_.Text2 = FromInput(texto); });
+  const auto elegir = [this, pasar](QComboBox* combo, ComboClick clic) {
+    connect(combo, &QComboBox::activated, this, [this, pasar, clic](int posicion) {
+      pasar([this, clic, posicion] { clic(estado_, posicion); });
+    });
+  };
+  elegir(combos_[0], Combo1_Click);
+  elegir(combos_[1], Combo2_Click);
+  elegir(combos_[2], Combo3_Click);
+  for (int i = 0; i < 2; ++i) {
+    const auto indice = static_cast<std::size_t>(i);
+    connect(check1_.at(indice), &QCheckBox::clicked, this, [this, pasar, i](bool marcada) {
+      pasar([this, i, marcada] { Check1_Click(estado_, i, marcada); });
+    });
+    connect(option1_.at(indice), &QRadioButton::clicked, this,
+            [this, pasar, i] { pasar([this, i] { Option1_Click(estado_, i); }); });
+  }
+  connect(cbOK_, &QPushButton::clicked, this, [this] { sucesos_.CbOK_Click(); });
+  connect(cbCancel_, &QPushButton::clicked, this, [this] { sucesos_.Left(); });
+}
+
+void DlgInicioForm::BuildLayout() {
+  text1_->setAlignment(Qt::AlignHCenter);
+  text1_->setFont(Scaled(text1_->font(), 1.2));
+  QFont cursiva = text3_->font();
+  cursiva.setItalic(true);
+  text3_->setFont(cursiva);
+  text4_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  text4_->setMinimumWidth(40 * fontMetrics().averageCharWidth());
+  auto* const mesa = new QHBoxLayout;
+  mesa->addLayout(BuildChoices(), 1);
+  mesa->addWidget(text4_, 1);
+  auto* const ventana = new QVBoxLayout{this};
+  const int margen = 2 * fontMetrics().averageCharWidth();
+  ventana->setContentsMargins(margen, margen, margen, margen);
+  ventana->setSpacing(margen);
+  ventana->addWidget(text1_);
+  ventana->addLayout(mesa, 1);
+  ventana->addLayout(BuildStyle());
+  ventana->addWidget(text3_);
+  ventana->addLayout(BuildButtons());
+}
+
+QLayout* DlgInicioForm::BuildChoices() {
+  auto* const fichas = new QFormLayout;
+  fichas->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  fichas->addRow(QStringLiteral("Su nombre:"), text2_);
+  fichas->addRow(QStringLiteral("Compañero:"), combos_[0]);
+  fichas->addRow(QStringLiteral("Contrario 1:"), combos_[1]);
+  fichas->addRow(QStringLiteral("Contrario 2:"), combos_[2]);
+  const std::array<std::pair<QWidget*, QString>, 4> etiquetas{
+      {{text2_, QStringLiteral("Label4")},
+       {combos_[0], QStringLiteral("Label1")},
+       {combos_[1], QStringLiteral("Label2")},
+       {combos_[2], QStringLiteral("Label3")}}};
+  for (const auto& [campo, nombre] : etiquetas) fichas->labelForField(campo)->setObjectName(nombre);
+  return fichas;
+}
+
+QLayout* DlgInicioForm::BuildStyle() {
+  auto* const frame1 = new QGroupBox{QStringLiteral("Narración"), this};
+  frame1->setObjectName(QStringLiteral("Frame1"));
+  auto* const opciones = new QVBoxLayout;
+  for (QRadioButton* const opcion : option1_) opciones->addWidget(opcion);
+  frame1->setLayout(opciones);
+  auto* const casillas = new QVBoxLayout;
+  for (QCheckBox* const casilla : check1_) casillas->addWidget(casilla);
+  auto* const estilo = new QHBoxLayout;
+  estilo->addLayout(casillas, 1);
+  estilo->addWidget(frame1, 1);
+  return estilo;
+}
+
+QLayout* DlgInicioForm::BuildButtons() {
+  auto* const botones = new QHBoxLayout;
+  botones->addStretch(1);
+  botones->addWidget(cbOK_);
+  botones->addWidget(cbCancel_);
+  return botones;
+}
+
+void DlgInicioForm::SetTabs() {
+  const std::array<QWidget*, 10> orden{text2_,     combos_[0],  combos_[1],  combos_[2], check1_[0],
+                                       check1_[1], option1_[0], option1_[1], cbOK_,      cbCancel_};
+  for (std::size_t i = 1; i < orden.size(); ++i) setTabOrder(orden.at(i - 1), orden.at(i));
+}
+
+void DlgInicioForm::ShowState() {
+  text1_->setText(ToDisplay(estado_.Text1).trimmed());
+  if (estado_.Text2 != FromInput(text2_->text())) text2_->setText(ToDisplay(estado_.Text2));
+  text3_->setText(ToDisplay(estado_.Text3));
+  text4_->setText(ToDisplay(estado_.Text4));
+  ShowCombo(combos_[0], estado_.Combo1);
+  ShowCombo(combos_[1], estado_.Combo2);
+  ShowCombo(combos_[2], estado_.Combo3);
+  for (int i = 0; i < 2; ++i) {
+    check1_.at(static_cast<std::size_t>(i))->setChecked(estado_.Check1[i]);
+    option1_.at(static_cast<std::size_t>(i))->setChecked(estado_.Option1 == i);
+  }
+  cbOK_->setEnabled(estado_.CbOKEnabled);
+}
+
+}  // namespace tasca

@@ -1,0 +1,57 @@
+#pragma once
+// The start-up dialog's window.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <array>
+#include <functional>
+
+#include "startup/dlg_inicio.h"
+
+namespace tasca {
+
+class DlgInicioForm : public QDialog {
+ public:
+  struct Events {
+    // Runs an event of the dialog's logic, and ends the program when it says so.
+    std::function<void(const std::function<void()>&)> Run;
+    std::function<void()> CbOK_Click;
+    // "Salir del juego", the close box or Esc.
+    std::function<void()> Left;
+  };
+
+  explicit DlgInicioForm(Events sucesos);
+
+  // The state of the dialog's logic. ShowState copies it to the controls, all of it.
+  DlgInicio& State() { return estado_; }
+  void ShowState();
+
+  void reject() override { sucesos_.Left(); }
+
+ private:
+  void NameControls();
+  void Connect();
+  void BuildLayout();
+  QLayout* BuildChoices();
+  QLayout* BuildStyle();
+  QLayout* BuildButtons();
+  void SetTabs();
+
+  Events sucesos_;
+  DlgInicio estado_;
+  QLabel* text1_;
+  QLineEdit* text2_;
+  QLabel* text3_;
+  QLabel* text4_;
+  std::array<QComboBox*, 3> combos_;
+  std::array<QCheckBox*, 2> check1_;
+  std::array<QRadioButton*, 2> option1_;
+  QPushButton* cbOK_;
+  QPushButton* cbCancel_;
+};
+
+}  // namespace tasca

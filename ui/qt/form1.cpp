@@ -1,0 +1,154 @@
+// The main window.
+#include "ui/qt/form1.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QTextDocument>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/qt/keys.h"
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+namespace {
+
+QLabel* Etiqueta(const QString& texto, QWidget* de) {
+  auto* const etiqueta = new QLabel{texto, de->parentWidget()};
+  etiqueta->setTextFormat(Qt::PlainText);
+  etiqueta->setBuddy(de);
+  return etiqueta;
+}
+
+// Keys with which the player reads or copies in a read-only box, and moves on to another.
+bool EsTeclaDeLectura(const QKeyEvent& suceso) {
+  switch (suceso.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+      return true;
+    default:
+      return suceso.matches(QKeySequence::Copy) || suceso.matches(QKeySequence::SelectAll);
+  }
+}
+
+// Replaces what was copied last; false when the rules have not touched the text since.
+bool Renovar(std::u16string& copiado, const std::u16string& texto) {
+  if (copiado == texto) return false;
+  copiado = texto;
+  return true;
+}
+
+}  // namespace
+
+Form1::Form1(Events sucesos)
+    : sucesos_{std::move(sucesos)},
+      text1_{new InputLine{this, [this](const QKeyEvent& suceso) { return KeyInText1(suceso); }}},
+      text2_{new Transcript{this}},
+      text3_{new QLineEdit{this}},
+      ayuda_{new QLabel{QStringLiteral("Enter: continuar   ·   Q: abandonar la mano   ·   "
+                                       "Re Pág y Av Pág: repasar lo dicho"),
+                        this}} {
+  ayuda_->setTextFormat(Qt::PlainText);
+  setObjectName(QStringLiteral("Form1"));
+  setWindowTitle(ToDisplay(TituloAplicacion));
+  text1_->setObjectName(QStringLiteral("Text1"));
+  text1_->setAccessibleName(QStringLiteral("Sus cartas"));
+  text1_->setAccessibleDescription(ayuda_->text());
+  text2_->setObjectName(QStringLiteral("Text2"));
+  text2_->setAccessibleName(QStringLiteral("Lo que pasa en la mesa"));
+  text3_->setObjectName(QStringLiteral("Text3"));
+  text3_->setAccessibleName(QStringLiteral("Tanteo, primero su pareja"));
+  text3_->setReadOnly(true);
+  text2_->installEventFilter(this);
+  text3_->installEventFilter(this);
+  BuildLayout();
+  EnlargeTexts();
+  resize(QGuiApplication::primaryScreen()->availableSize() * 0.8);
+  text1_->setFocus();
+}
+
+void Form1::BuildLayout() {
+  auto* const tanteo = new QHBoxLayout;
+  tanteo->addWidget(Etiqueta(QStringLiteral("Tanteo (su pareja / la contraria):"), text3_));
+  tanteo->addWidget(text3_, 1);
+  auto* const ventana = new QVBoxLayout{this};
+  ventana->addLayout(tanteo);
+  ventana->addWidget(text2_, 1);
+  ventana->addWidget(Etiqueta(QStringLiteral("Sus cartas:"), text1_));
+  ventana->addWidget(text1_);
+  ventana->addWidget(ayuda_);
+  setTabOrder(text1_, text2_);
+  setTabOrder(text2_, text3_);
+}
+
+void Form1::ShowTexts(const Form1State& estado) {
+  if (Renovar(copiado1_, estado.Text1)) text1_->ShowText(ToDisplay(estado.Text1));
+  if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
+  if (Renovar(copiado3_, estado.Text3)) text3_->setText(ToDisplay(estado.Text3));
+}
+
+void Form1::FocusInput() { text1_->setFocus(); }
+
+// Form_KeyDown: a key that no box of the form has used belongs to the input line. Ctrl on its way
+// to Ctrl+C does not count, nor an arrow at the end of a text.
+void Form1::keyPressEvent(QKeyEvent* suceso) {
+  suceso->accept();
+  if (!EsTeclaDeLectura(*suceso)) text1_->setFocus();
+}
+
+void Form1::closeEvent(QCloseEvent* suceso) {
+  suceso->accept();
+  sucesos_.Closed();
+}
+
+// Typing anywhere lands in the input line.
+bool Form1::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (suceso->type() != QEvent::KeyPress) return QWidget::eventFilter(objeto, suceso);
+  const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso);
+  if (pulsada == nullptr || EsTeclaDeLectura(*pulsada)) return false;
+  text1_->setFocus();
+  QCoreApplication::sendEvent(text1_, suceso);
+  return true;
+}
+
+// What is said at the table is read from further away than a form's captions.
+void Form1::EnlargeTexts() {
+  QFont fuente = Scaled(QApplication::font(), 1.3);
+  text1_->setFont(fuente);
+  text2_->setFont(fuente);
+  fuente.setBold(true);
+  text3_->setFont(fuente);
+  const int margen = QFontMetrics{fuente}.averageCharWidth();
+  text1_->document()->setDocumentMargin(margen);
+  text2_->document()->setDocumentMargin(margen);
+  text3_->setTextMargins(margen, margen / 2, margen, margen / 2);
+}
+
+bool Form1::KeyInText1(const QKeyEvent& suceso) {
+  if (suceso.key() == Qt::Key_PageUp || suceso.key() == Qt::Key_PageDown) {
+    text2_->ScrollPages(suceso.key() == Qt::Key_PageUp ? -1 : 1);
+    return true;
+  }
+  const Tecla tecla = TeclaDe(suceso);
+  Integer codigo = tecla.KeyCode;
+  sucesos_.Text1_KeyDown(codigo, tecla.Shift);
+  return codigo == 0;
+}
+
+}  // namespace tasca

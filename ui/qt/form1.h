@@ -1,0 +1,50 @@
+#pragma once
+// The main window: the scoreboard Text3, the transcript Text2 and the input line Text1.
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "table/table.h"
+#include "ui/qt/input_line.h"
+#include "ui/qt/transcript.h"
+
+namespace tasca {
+
+class Form1 : public QWidget {
+ public:
+  struct Events {
+    // A key in Text1; it is used up when KeyCode comes back as 0.
+    std::function<void(Integer& KeyCode, Integer Shift)> Text1_KeyDown;
+    std::function<void()> Closed;
+  };
+
+  explicit Form1(Events sucesos);
+
+  // Copies the texts that the rules have changed since the last time; what the player has typed
+  // into Text1 stays until then.
+  void ShowTexts(const Form1State& estado);
+  void FocusInput();
+
+ protected:
+  void keyPressEvent(QKeyEvent* suceso) override;
+  void closeEvent(QCloseEvent* suceso) override;
+  bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
+ private:
+  void BuildLayout();
+  void EnlargeTexts();
+  bool KeyInText1(const QKeyEvent& suceso);
+
+  Events sucesos_;
+  InputLine* text1_;
+  Transcript* text2_;
+  QLineEdit* text3_;
+  QLabel* ayuda_;
+  std::u16string copiado1_;
+  std::u16string copiado2_;
+  std::u16string copiado3_;
+};
+
+}  // namespace tasca

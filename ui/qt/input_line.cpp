@@ -1,0 +1,50 @@
+// The input line.
+#include "ui/qt/input_line.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QtMath>
+#include <algorithm>
+#include <utility>
+
+namespace tasca {
+
+InputLine::InputLine(QWidget* padre, KeyHandler alPulsar)
+    : QPlainTextEdit{padre}, alPulsar_{std::move(alPulsar)} {
+  setTabChangesFocus(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  connect(this, &QPlainTextEdit::textChanged, this, [this] { FitHeight(); });
+  FitHeight();
+}
+
+void InputLine::ShowText(const QString& texto) { setPlainText(texto); }
+
+void InputLine::keyPressEvent(QKeyEvent* suceso) {
+  if (!alPulsar_(*suceso)) QPlainTextEdit::keyPressEvent(suceso);
+}
+
+void InputLine::resizeEvent(QResizeEvent* suceso) {
+  QPlainTextEdit::resizeEvent(suceso);
+  FitHeight();
+}
+
+void InputLine::changeEvent(QEvent* suceso) {
+  QPlainTextEdit::changeEvent(suceso);
+  if (suceso->type() == QEvent::FontChange) FitHeight();
+}
+
+// Never more than half the window: the transcript has to stay readable. The box scrolls already
+// when not a single pixel is left over.
+void InputLine::FitHeight() {
+  double texto = document()->documentMargin();
+  for (QTextBlock linea = document()->begin(); linea.isValid(); linea = linea.next()) {
+    texto += document()->documentLayout()->blockBoundingRect(linea).height();
+  }
+  const int alto = qCeil(texto) + 2 * frameWidth() + 1;
+  const int maximo = std::max(3 * fontMetrics().lineSpacing(), window()->height() / 2);
+  setVerticalScrollBarPolicy(alto <= maximo ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  setFixedHeight(std::min(alto, maximo));
+}
+
+}  // namespace tasca

@@ -1,0 +1,39 @@
+// The translation of key events.
+#include "ui/qt/keys.h"
+
+#include "table/phase_machine.h"
+
+namespace tasca {
+namespace {
+
+constexpr int TeclaSinSignificado = 255;
+
+// The key of the upper row, not that of the keypad.
+bool EsTecla0(const QKeyEvent& suceso) {
+  if (suceso.modifiers().testFlag(Qt::KeypadModifier)) return false;
+  if (suceso.key() == Qt::Key_0) return true;
+#ifdef Q_OS_WIN
+  return suceso.nativeVirtualKey() == '0';
+#else
+  constexpr quint32 lugarDelCero = 19;  // under X11 and Wayland
+  return suceso.nativeScanCode() == lugarDelCero;
+#endif
+}
+
+int CodigoDe(const QKeyEvent& suceso) {
+  if (suceso.key() == Qt::Key_Return || suceso.key() == Qt::Key_Enter) return TeclaEnter;
+  if (suceso.key() == Qt::Key_Q) return TeclaQ;
+  return EsTecla0(suceso) ? Tecla0 : TeclaSinSignificado;
+}
+
+}  // namespace
+
+Tecla TeclaDe(const QKeyEvent& suceso) {
+  const Qt::KeyboardModifiers pulsadas = suceso.modifiers();
+  return {.KeyCode = CodigoDe(suceso),
+          .Shift = (pulsadas.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+                   (pulsadas.testFlag(Qt::ControlModifier) ? 2 : 0) +
+                   (pulsadas.testFlag(Qt::AltModifier) ? 4 : 0)};
+}
+
+}  // namespace tasca

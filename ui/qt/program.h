@@ -1,0 +1,48 @@
+#pragma once
+// The program with windows: the start-up dialog, then the main window, and back when the player
+// wants other companions. Here, at the event handlers' boundary, end the program's two endings: no
+// exception passes through the event loop.
+#include <QTimer>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "base/rnd.h"
+#include "table/game.h"
+#include "table/table.h"
+#include "ui/qt/dlg_inicio_form.h"
+#include "ui/qt/form1.h"
+#include "ui/qt/qt_port.h"
+
+namespace tasca {
+
+class Program {
+ public:
+  // `carpeta` is where the game's files lie.
+  explicit Program(std::filesystem::path carpeta);
+
+  // Opens the start-up dialog, in place of the main window if there is one. Wants to be called from
+  // the event loop, which it ends with the exit status when the program is over.
+  void OpenDlgInicio();
+
+ private:
+  void CbOK_Click();
+  void OpenForm1();
+  void KeyDown(Integer& KeyCode, Integer Shift);
+  // Runs something of the rules; false when it has ended the program.
+  bool Run(const std::function<void()>& paso);
+  void Fail(std::u16string_view mensaje);
+  void Exit(int estado);
+
+  Table t_;
+  Rnd rnd_;
+  QtPort port_;
+  Game g_{t_, rnd_, port_};
+  std::unique_ptr<DlgInicioForm> dlgInicio_;
+  std::unique_ptr<Form1> form1_;
+  QTimer cambio_;  // the change of windows, right after the key that asked for it
+  bool enPaso_ = false;
+  bool terminando_ = false;
+};
+
+}  // namespace tasca

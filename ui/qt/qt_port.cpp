@@ -1,0 +1,65 @@
+// Questions as modal boxes, the clock, and no sound yet.
+#include "ui/qt/qt_port.h"
+
+#include <QTime>
+#include <utility>
+
+#include "base/endings.h"
+#include "ui/qt/boxes.h"
+#include "ui/qt/dialog_form.h"
+
+namespace tasca {
+
+void QtPort::SetStartWindow(QWidget* dlgInicio) {
+  ventana_ = dlgInicio;
+  form1_ = nullptr;
+}
+
+void QtPort::SetMainWindow(Form1* form1) {
+  ventana_ = form1;
+  form1_ = form1;
+}
+
+bool QtPort::TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
+
+// The player has to see what the question is about.
+void QtPort::ShowTexts(const Table& t) {
+  if (form1_ != nullptr) form1_->ShowTexts(t);
+}
+
+void QtPort::MsgBox(const Table& t, std::u16string_view texto) {
+  ShowTexts(t);
+  ShowMessage(ventana_, texto);
+}
+
+bool QtPort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+  ShowTexts(t);
+  const std::optional<bool> respuesta = AskYesNo(ventana_, pregunta);
+  if (!respuesta) throw LeaveProgram{};
+  return *respuesta;
+}
+
+void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
+  ShowTexts(t);
+  DialogForm{ventana_, dialogo}.exec();
+  if (dialogo.Visible) throw LeaveProgram{};
+}
+
+std::u16string QtPort::InputBox(const Table& t, std::u16string_view texto,
+                                std::u16string_view titulo, std::u16string_view porDefecto) {
+  ShowTexts(t);
+  return AskText(ventana_, texto, titulo, porDefecto);
+}
+
+// The windows have no loudspeaker yet: the sounds are asked for, and nothing is heard.
+void QtPort::OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) {}
+void QtPort::StopSound(const Table& /*t*/) {}
+
+TimeOfDay QtPort::Now() {
+  const QTime ahora = QTime::currentTime();
+  return {.Hora = ahora.hour(), .Minuto = ahora.minute(), .Segundo = ahora.second()};
+}
+
+void QtPort::ChangePlayers() { cambiarJugadores_ = true; }
+
+}  // namespace tasca

@@ -1,0 +1,39 @@
+#pragma once
+// The windows' answer to what the rules ask.
+#include <QWidget>
+
+#include "table/port.h"
+#include "ui/qt/form1.h"
+
+namespace tasca {
+
+class QtPort : public Port {
+ public:
+  // The window that the boxes belong to from now on; none before the first one.
+  void SetStartWindow(QWidget* dlgInicio);
+  void SetMainWindow(Form1* form1);
+
+  QWidget* Window() const { return ventana_; }
+  // Whether the step that has just ended asked for other players; asking forgets it.
+  bool TakeChangePlayers();
+
+  void MsgBox(const Table& t, std::u16string_view texto) override;
+  // These two throw LeaveProgram when the program is ended while they wait.
+  bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) override;
+  void ShowDialog(const Table& t, Dialog& dialogo) override;
+  std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
+                          std::u16string_view porDefecto) override;
+  void OpenSound(const Table& t, std::u16string_view archivo) override;
+  void StopSound(const Table& t) override;
+  TimeOfDay Now() override;
+  void ChangePlayers() override;
+
+ private:
+  void ShowTexts(const Table& t);
+
+  QWidget* ventana_ = nullptr;
+  Form1* form1_ = nullptr;
+  bool cambiarJugadores_ = false;
+};
+
+}  // namespace tasca

@@ -1,0 +1,41 @@
+// The transcript.
+#include "ui/qt/transcript.h"
+
+#include <QScrollBar>
+#include <QTextCursor>
+#include <algorithm>
+
+namespace tasca {
+
+Transcript::Transcript(QWidget* padre) : QPlainTextEdit{padre} {
+  setReadOnly(true);
+  setUndoRedoEnabled(false);
+  setTabChangesFocus(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+void Transcript::ShowText(const QString& texto) {
+  const QString anterior = toPlainText();
+  const QChar* const distinto =
+      std::mismatch(anterior.begin(), anterior.end(), texto.begin(), texto.end()).first;
+  QTextCursor cambio{document()};
+  cambio.setPosition(static_cast<int>(distinto - anterior.begin()));
+  cambio.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+  cambio.insertText(texto.mid(distinto - anterior.begin()));
+  moveCursor(QTextCursor::End);
+  ScrollToEnd();
+}
+
+void Transcript::ScrollPages(int paginas) {
+  verticalScrollBar()->triggerAction(paginas < 0 ? QScrollBar::SliderPageStepSub
+                                                 : QScrollBar::SliderPageStepAdd);
+}
+
+void Transcript::resizeEvent(QResizeEvent* suceso) {
+  QPlainTextEdit::resizeEvent(suceso);
+  ScrollToEnd();
+}
+
+void Transcript::ScrollToEnd() { verticalScrollBar()->setValue(verticalScrollBar()->maximum()); }
+
+}  // namespace tasca
