@@ -1,0 +1,178 @@
+// Lines that do not fit what is waited for: told with their number, status 2, nothing changed.
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+#include "tests/ui_trace/trace_run.h"
+
+namespace tasca::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// What is seen of a trace from outside.
+struct Seen {
+  int Status;
+  std::string WhichLine;  // the start of the message
+  bool OneMessage;
+  std::string Out;
+  std::string Settings;  // "mus.ini" afterwards
+
+  bool operator==(const Seen&) const = default;
+};
+
+void PrintTo(const Seen& seen, std::ostream* out) {
+  *out << "status " << seen.Status << ", " << seen.WhichLine << "\n" << seen.Out << seen.Settings;
+}
+
+Seen PlayFaulty(const TraceFolder& folder, Lines lines, const std::string& faulty) {
+  lines.push_back(faulty);
+  lines.emplace_back(Enter);
+  const TraceRun run = folder.Play(lines);
+  return {.Status = run.Status,
+          .WhichLine = run.Err.substr(0, run.Err.find(' ', 5)),
+          .OneMessage = run.Err.find('\n') == run.Err.size() - 1,
+          .Out = run.Out,
+          .Settings = folder.Files().Read("mus.ini")};
+}
+
+// Each of the lines, played after `before`, must be refused under its number, and the output and
+// the files must be what the lines before it alone give.
+void EveryOneIsRefused(const TraceFolder& folder, const Lines& before, const Lines& faulty) {
+  const std::string settings = folder.Files().Read("mus.ini");
+  const TraceRun alone = folder.Play(before);
+  const Seen expected{.Status = 2,
+                      .WhichLine = "line " + std::to_string(before.size() + 1) + ":",
+                      .OneMessage = true,
+                      .Out = alone.Out,
+                      .Settings = folder.Files().Read("mus.ini")};
+  for (const std::string& line : faulty) {
+    folder.Files().Write("mus.ini", settings);
+    EXPECT_EQ(PlayFaulty(folder, before, line), expected) << line;
+  }
+}
+
+const Lines NoObjects{"",
+                      " ",
+                      "\t",
+                      "null",
+                      "13",
+                      "\"key\"",
+                      "[]",
+                      "{",
+                      "{}}",
+                      "{\"key\": 13",
+                      "{key: 13}",
+                      "{'key': 13}",
+                      "{}",
+                      "true",
+                      "[{}, {}]",
+                      "\xFF\xFE",
+                      "{\"text\": \"\xE1\"}"};
+
+std::string StartWith(const std::string& fields) { return R"({"start": {)" + fields + "}}"; }
+
+TEST(TraceFaultyLine, InsteadOfTheFirstStart) {
+  const TraceFolder folder{35, 3, 3};
+  EveryOneIsRefused(folder, {}, NoObjects);
+  const std::string combos = R"("combos": [1, 2, 3])";
+  EveryOneIsRefused(
+      folder, {},
+      {Enter, R"({"sound": 0})", Yes, Result(0), R"({"text": "a"})", R"({"start": []})",
+       R"({"start": 1})", StartWith(combos), StartWith(R"("clock": [0, 0, 0])"),
+       StartWith(R"("clock": [0, 0], )" + combos), StartWith(R"("clock": [0, 0, 0, 0], )" + combos),
+       StartWith(R"("clock": [24, 0, 0], )" + combos),
+       StartWith(R"("clock": [-1, 0, 0], )" + combos),
+       StartWith(R"("clock": [0, 60, 0], )" + combos),
+       StartWith(R"("clock": [0, 0, 60], )" + combos),
+       StartWith(R"("clock": [0, 0, 0.0], )" + combos),
+       StartWith(R"("clock": ["0", 0, 0], )" + combos),
+       StartWith(R"("clock": "0:00:00", )" + combos)});
+}
+
+TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
+  const auto with = [](const std::string& fields) {
+    return StartWith(R"("clock": [0, 0, 0], )" + fields);
+  };
+  EveryOneIsRefused(
+      TraceFolder{35, 3, 3}, {},
+      {with(R"("combos": [1, 2])"), with(R"("combos": [1, 2, 3, 4])"), with(R"("combos": 1)"),
+       with(R"("combos": [1, 2, 5])"), with(R"("combos": [5, 1, 2])"),
+       with(R"("combos": [-1, 1, 2])"), with(R"("combos": [1, 2, 3.0])"),
+       with(R"("combos": [1, 2, true])"), with(R"("combos": [1, 2, 18446744073709551615])"),
+       with(R"("combos": [1, 2, 3], "checks": [true])"),
+       with(R"("combos": [1, 2, 3], "checks": [1, 0])"),
+       with(R"("combos": [1, 2, 3], "checks": true)"), with(R"("combos": [1, 2, 3], "option": 2)"),
+       with(R"("combos": [1, 2, 3], "option": -1)"), with(R"("combos": [1, 2, 3], "option": true)"),
+       with(R"("combos": [1, 2, 3], "name": 7)"), with(R"("combos": [1, 2, 3], "name": null)")});
+}
+
+TEST(TraceFaultyLine, InsteadOfALaterStart) {
+  const TraceFolder folder{35, 3, 3};
+  const Lines refused{StartWith(R"("clock": [0, 0, 0], "combos": [1, 1, 1])")};
+  EveryOneIsRefused(folder, refused, NoObjects);
+  EveryOneIsRefused(folder, refused,
+                    {Enter, Yes, StartWith(""), StartWith(R"("name": "Eva")"),
+                     StartWith(R"("combos": [1, 2, 9])"), StartWith(R"("combos": [])")});
+}
+
+TEST(TraceFaultyLine, InsteadOfAKey) {
+  const TraceFolder folder{35, 3, 3};
+  EveryOneIsRefused(folder, {Start}, NoObjects);
+  EveryOneIsRefused(
+      folder, {Start},
+      {Start, Yes, Result(0), R"({"text": "1"})", R"({"key": "13"})", R"({"key": 13.0})",
+       R"({"key": true})", R"({"key": null})", R"({"key": 32768})", R"({"key": -32769})",
+       R"({"key": 4294967309})", R"({"key": 18446744073709551615})", R"({"key": 13, "shift": "3"})",
+       R"({"key": 13, "shift": 65536})", R"({"key": 13, "sound": 0})", R"({"sound": "0"})",
+       R"({"sound": 32768})", R"({"sound": 0.5})", R"({"Key": 13})"});
+}
+
+TEST(TraceFaultyLine, InsteadOfYesOrNo) {
+  const TraceFolder folder{35, 3, 3};
+  const Lines before{Start, Enter};
+  EveryOneIsRefused(folder, before, NoObjects);
+  EveryOneIsRefused(folder, before,
+                    {Enter, Result(0), R"({"sound": 0})", R"({"text": "yes"})",
+                     R"({"button": "Yes"})", R"({"button": "cancel"})", R"({"button": "ok"})",
+                     R"({"button": 6})", R"({"button": true})", R"({"button": ["yes"]})"});
+}
+
+TEST(TraceFaultyLine, InsteadOfTypedText) {
+  const TraceFolder folder{35, 3, 3};
+  const Lines before{Start, Enter, No, Enter, Result(2)};
+  EveryOneIsRefused(folder, before, NoObjects);
+  EveryOneIsRefused(
+      folder, before,
+      {Enter, Yes, Result(0), R"({"text": 13})", R"({"text": null})", R"({"button": "ok"})",
+       R"({"button": 2})", R"({"text": "1", "button": "cancel"})"});
+}
+
+TEST(TraceFaultyLine, InsteadOfAButtonOfTheDialog) {
+  const TraceFolder folder{35, 3, 3};
+  const Lines before{Start, Enter, No, Enter};
+  EveryOneIsRefused(folder, before, NoObjects);
+  EveryOneIsRefused(
+      folder, before,
+      {Enter, Yes, R"({"text": "1"})", Result(4), Result(-1), R"({"result": "0"})",
+       R"({"result": 0.0})", R"({"result": true})", R"({"result": null})", R"({"result": 65536})"});
+}
+
+TEST(TraceFaultyLine, AnOrdagoOffersNeitherARaiseNorAnother) {
+  // At one stone from the juego seat 2 bets everything once the human has passed.
+  const Lines before{Start, Enter, No, Enter, Result(0)};
+  EveryOneIsRefused(TraceFolder{1, 3, 3}, before, {Result(2), Result(3)});
+}
+
+TEST(TraceFaultyLine, TheEndOfTheInputWhileAQuestionIsOpen) {
+  for (const Lines& lines : {Lines{Start, Enter}, Lines{Start, Enter, No, Enter},
+                             Lines{Start, Enter, No, Enter, Result(2)}}) {
+    const TraceRun run = TraceFolder{}.Play(lines);
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_EQ(run.Err, "line " + std::to_string(lines.size() + 1) +
+                           ": the input ends while a question is open\n");
+  }
+}
+
+}  // namespace
+}  // namespace tasca::test

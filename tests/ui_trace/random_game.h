@@ -1,0 +1,24 @@
+#pragma once
+// One random game, judged.
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "tests/ui_trace/random_player.h"
+
+namespace tasca::test {
+
+struct RandomGame {
+  int Status = -1;
+  int Hands = 0;
+  std::string In;  // to play it again
+  std::string Out;
+  std::string Fault;  // "" when all was as it must be
+};
+
+// Plays with this character file in a folder of its own. A game that was not provoked must end
+// well; a provoked one may also end in the run-time error that it asks for.
+RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed, int hands,
+                          Provocation provocation);
+
+}  // namespace tasca::test

@@ -1,0 +1,105 @@
+// Random lines.
+#include "tests/ui_trace/random_player.h"
+
+#include <array>
+#include <string_view>
+
+#include "tests/ui_trace/invariants.h"
+
+namespace tasca::test {
+namespace {
+
+using nlohmann::ordered_json;
+
+std::string List(int a, int b, int c) {
+  return "[" + std::to_string(a) + ", " + std::to_string(b) + ", " + std::to_string(c) + "]";
+}
+
+std::string Word(bool truth) { return truth ? "true" : "false"; }
+
+std::string YesOrNo(bool yes) {
+  return R"({"button": ")" + std::string{yes ? "yes" : "no"} + "\"}";
+}
+
+}  // namespace
+
+RandomPlayer::RandomPlayer(std::uint32_t seed, int hands, Provocation provocation)
+    : engine_{seed}, hands_{hands}, provocation_{provocation} {}
+
+int RandomPlayer::Any(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
+
+bool RandomPlayer::Sometimes(int percent) { return Any(100) < percent; }
+
+std::string RandomPlayer::Settings() {
+  constexpr std::array<int, 6> stones{1, 5, 12, 25, 40, 200};
+  const int piedras = stones.at(static_cast<std::size_t>(Any(6)));
+  const int juegos = Any(5) + 1;
+  const int vacas = Any(5) + 1;
+  return std::to_string(piedras) + "\r\n" + std::to_string(juegos) + "\r\n" +
+         std::to_string(vacas) + "\r\nAna> Nombre\r\n";
+}
+
+std::string RandomPlayer::Start() {
+  constexpr std::array<std::string_view, 4> seats{"[0, 0, 0]", "[1, 2, 3]", "[3, 0, 1]",
+                                                  "[2, 3, 0]"};
+  const std::string clock = List(Any(24), Any(60), Any(60));
+  const std::string combos{seats.at(static_cast<std::size_t>(Any(4)))};
+  const std::string names = Word(Sometimes(50));
+  const std::string phrases = Word(provocation_ != Provocation::NoPhrases);
+  const std::string option = std::to_string(Any(2));
+  return R"({"start": {"clock": )" + clock + R"(, "combos": )" + combos + R"(, "checks": [)" +
+         names + ", " + phrases + R"(], "option": )" + option + "}}";
+}
+
+std::string RandomPlayer::Move() {
+  if (Sometimes(90)) return R"({"key": 13})";
+  if (Sometimes(60)) return R"({"sound": )" + std::to_string(Any(4) * 2) + "}";
+  if (Sometimes(30)) return R"({"key": 81})";
+  if (Sometimes(50)) return R"({"key": 48, "shift": 3})";
+  return R"({"key": )" + std::to_string(Any(256)) + "}";
+}
+
+std::string RandomPlayer::Amount() {
+  if (Sometimes(15)) return R"({"button": "cancel"})";
+  if (Sometimes(10)) return R"({"text": "muchas"})";
+  const int greatest = provocation_ == Provocation::HugeAmounts ? 60000 : 12;
+  return R"({"text": ")" + std::to_string(Any(greatest)) + "\"}";
+}
+
+// Órdagos are rare, or no hand would ever be counted.
+std::string RandomPlayer::Button(const ordered_json& dialog) {
+  constexpr int againstAnOrdago = -2;
+  if (dialog["mode"] == againstAnOrdago) return R"({"result": )" + std::to_string(Any(2)) + "}";
+  return R"({"result": )" + std::to_string(Sometimes(5) ? 3 : Any(3)) + "}";
+}
+
+std::string RandomPlayer::Answer(const ordered_json& question) {
+  if (question["event"] == "dialog") return Button(question);
+  if (question["event"] == "inputbox") {
+    if (question["title"] != "Sustituir cartas") return Amount();
+    return R"({"text": ")" + std::to_string(Any(10000)) + "\"}";
+  }
+  if (question["text"] == "¿Desea cambiar de jugadores?") return YesOrNo(Sometimes(5));
+  if (question["text"] == "¿Desea jugar otra partida?") return YesOrNo(Sometimes(95));
+  return YesOrNo(Sometimes(70));
+}
+
+void RandomPlayer::Look(const ordered_json& state) {
+  fault_ = FaultIn(state);
+  if (fault_.empty() && !before_.is_null()) fault_ = FaultBetween(before_, state);
+  const bool ended = state["Fase"] == -1 && !before_.is_null() && before_["Fase"] != -1;
+  if (ended) ++handsPlayed_;
+  before_ = state;
+}
+
+std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {
+  if (events.empty()) return Start();
+  for (const ordered_json& event : events) {
+    if (event["event"] == "state" && fault_.empty()) Look(event);
+  }
+  if (!fault_.empty() || handsPlayed_ >= hands_) return std::nullopt;
+  const ordered_json& last = events.back();
+  return last["event"] == "state" ? Move() : Answer(last);
+}
+
+}  // namespace tasca::test

@@ -1,0 +1,32 @@
+// Asking by an event, answered by the next line.
+#include "ui/trace/trace_port.h"
+
+#include "lances/dialog.h"
+
+namespace tasca {
+
+void TracePort::MsgBox(const Table& t, std::u16string_view texto) { events_.MsgBox(t, texto); }
+
+bool TracePort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+  events_.YesNoBox(t, pregunta);
+  return input_.AnswerYesNo();
+}
+
+std::u16string TracePort::InputBox(const Table& t, std::u16string_view texto,
+                                   std::u16string_view titulo, std::u16string_view porDefecto) {
+  events_.InputBox(t, texto, titulo, porDefecto);
+  return input_.AnswerText();
+}
+
+void TracePort::ShowDialog(const Table& t, Dialog& dialogo) {
+  events_.ShowDialog(t, dialogo);
+  Command1_Click(dialogo, input_.AnswerDialog(dialogo));
+}
+
+void TracePort::OpenSound(const Table& t, std::u16string_view archivo) {
+  events_.Sound(t, archivo);
+}
+
+void TracePort::StopSound(const Table& t) { events_.SoundStop(t); }
+
+}  // namespace tasca

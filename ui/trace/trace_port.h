@@ -1,0 +1,35 @@
+#pragma once
+// The outside world of a traced game: questions become events, answers come from the input.
+#include "table/port.h"
+#include "ui/trace/events.h"
+#include "ui/trace/input.h"
+
+namespace tasca {
+
+class TracePort : public Port {
+ public:
+  TracePort(Input& input, Events& events) : input_{input}, events_{events} {}
+
+  // Every reading of the time of day gives this.
+  void SetClock(TimeOfDay clock) { clock_ = clock; }
+  // The player has asked for other companions.
+  bool PlayersChange() const { return playersChange_; }
+
+  void MsgBox(const Table& t, std::u16string_view texto) override;
+  bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) override;
+  std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
+                          std::u16string_view porDefecto) override;
+  void ShowDialog(const Table& t, Dialog& dialogo) override;
+  void OpenSound(const Table& t, std::u16string_view archivo) override;
+  void StopSound(const Table& t) override;
+  TimeOfDay Now() override { return clock_; }
+  void ChangePlayers() override { playersChange_ = true; }
+
+ private:
+  Input& input_;
+  Events& events_;
+  TimeOfDay clock_;
+  bool playersChange_ = false;
+};
+
+}  // namespace tasca
