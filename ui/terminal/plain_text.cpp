@@ -37,19 +37,19 @@ std::u16string WithoutPadding(std::u16string_view texto) {
 
 }  // namespace
 
-std::string PlainText(std::u16string_view conRelleno) {
-  const std::u16string breve = WithoutPadding(conRelleno);
-  std::u16string_view texto = breve;
+std::string PlainText(std::u16string_view texto) {
   constexpr char16_t Sustituto = 0xFFFD;
+  const std::u16string breve = WithoutPadding(texto);
+  std::u16string_view resto = breve;
   std::u16string limpio;
-  while (!texto.empty()) {
-    const std::size_t salto = LeadingBreak(texto);
+  while (!resto.empty()) {
+    const std::size_t salto = LeadingBreak(resto);
     if (salto > 0) {
       limpio += u'\n';
     } else {
-      limpio += IsControl(texto.front()) ? Sustituto : texto.front();
+      limpio += IsControl(resto.front()) ? Sustituto : resto.front();
     }
-    texto.remove_prefix(salto > 0 ? salto : 1);
+    resto.remove_prefix(salto > 0 ? salto : 1);
   }
   return ToUtf8(limpio);
 }
