@@ -14,10 +14,10 @@
 namespace tasca {
 namespace {
 
-using Paso = void (*)(Game&);
+using Step = void (*)(Game&);
 
 // An opening step; a bet that it leaves standing is answered on the same Enter.
-void Abrir(Game& g, Paso apertura, Paso respuesta) {
+void Abrir(Game& g, Step apertura, Step respuesta) {
   apertura(g);
   if (g.t.SeguirLance != 0) respuesta(g);
 }
