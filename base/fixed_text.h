@@ -1,6 +1,5 @@
 #pragma once
 // Text fields of a fixed width, as card names, character names and phrases have.
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -15,9 +14,7 @@ template <std::size_t N>
 class FixedText {
  public:
   FixedText& operator=(std::u16string_view texto) {
-    letras_.fill(u' ');
-    const std::u16string_view cabe = texto.substr(0, N);
-    std::copy(cabe.begin(), cabe.end(), letras_.begin());
+    for (std::size_t i = 0; i < N; ++i) letras_[i] = i < texto.size() ? texto[i] : u' ';
     return *this;
   }
 
