@@ -1,6 +1,7 @@
 // The messages of the errors that end the program.
 #include "base/endings.h"
 
+#include "base/code_page.h"
 #include "base/text.h"
 
 namespace tasca {
@@ -8,16 +9,15 @@ namespace {
 
 constexpr std::u16string_view FinDelPrograma = u" El programa va a terminar su ejecución.";
 
-// The path as the player knows it; a folder whose name is no valid UTF-8 is left out.
+}  // namespace
+
 std::u16string PathText(const std::filesystem::path& archivo) {
   try {
     return archivo.u16string();
   } catch (const std::exception&) {
-    return archivo.filename().u16string();
+    return Decode(archivo.native());
   }
 }
-
-}  // namespace
 
 RunTimeError::RunTimeError(std::u16string_view queHaPasado)
     : mensaje_{Join(queHaPasado, FinDelPrograma)} {}

@@ -8,6 +8,9 @@
 
 namespace tasca {
 
+// The path as text. One that is no valid UTF-8 comes from older days: it is read in the code page.
+std::u16string PathText(const std::filesystem::path& archivo);
+
 // A condition that ends the program. The message is Spanish, for the player.
 class RunTimeError : public std::exception {
  public:

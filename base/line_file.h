@@ -1,5 +1,5 @@
 #pragma once
-// Text files read line by line, and replaced whole.
+// Text files read line by line.
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -38,10 +38,5 @@ class LineReader {
 
 // A line's bytes without its CR LF or LF.
 std::string_view WithoutLineEnd(std::string_view bytes);
-
-// Puts a file with this content in the place of another, flushed to the disk: at every moment, and
-// after any failure, the path has the old content or the new one, whole. Follows links and keeps
-// the permissions. Throws RunTimeError.
-void ReplaceFile(const std::filesystem::path& archivo, std::string_view contenido);
 
 }  // namespace tasca

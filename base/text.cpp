@@ -1,6 +1,7 @@
 // Trimming, replacing and writing numbers.
 #include "base/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -37,6 +38,15 @@ bool Contains(std::u16string_view texto, std::u16string_view buscado) {
 
 std::u16string_view Before(std::u16string_view texto, char16_t letra) {
   return texto.substr(0, texto.find(letra));
+}
+
+bool EqualIgnoringCase(std::u16string_view uno, std::u16string_view otro) {
+  const auto minuscula = [](char16_t letra) {
+    return letra >= u'A' && letra <= u'Z' ? static_cast<char16_t>(letra - u'A' + u'a') : letra;
+  };
+  return std::equal(
+      uno.begin(), uno.end(), otro.begin(), otro.end(),
+      [minuscula](char16_t una, char16_t otra) { return minuscula(una) == minuscula(otra); });
 }
 
 std::u16string ToText(int numero) {

@@ -20,6 +20,14 @@ bool Contains(std::u16string_view texto, std::u16string_view buscado);
 // The text before the first `letra`, or all of it when there is none.
 std::u16string_view Before(std::u16string_view texto, char16_t letra);
 
+// The same text, the letters A to Z and a to z taken as one.
+bool EqualIgnoringCase(std::u16string_view uno, std::u16string_view otro);
+
+// A character that shows nothing and could steer a terminal: below the blank, and 7F to 9F.
+constexpr bool IsControl(char16_t letra) {
+  return letra < u' ' || (letra >= u'\u007F' && letra <= u'\u009F');
+}
+
 // Decimal digits, with "-" for negatives and no leading blank.
 std::u16string ToText(int numero);
 

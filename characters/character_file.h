@@ -3,6 +3,7 @@
 // one marker line ("QMus>") per kind of phrase.
 #include <array>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "table/table.h"
@@ -20,9 +21,26 @@ inline constexpr std::u16string_view EtiquetaDatos = u"Datos";
 // The character file of the program's folder.
 std::filesystem::path ArchivoPersonajes(const Table& t);
 
+// The propensity to the órdago that a text stands for: the whole number that it starts with, or 0.
+// Throws RunTimeError (overflow) outside 16 bits.
+Integer ValorOrdaguero(std::u16string_view texto);
+
 // Reads the whole character file into Personajes and Mensajes. Tags are case-sensitive. What the
 // file does not fill keeps what it held before. Throws RunTimeError for a missing file, a record
 // cut short, a phrase before the first record, a 101st character.
 void LeerPersonajes(Table& t);
+
+// The same for the editor, which takes tags in upper or lower case. Tells how many characters there
+// are, 0 to 100.
+int LeerPersonajesSinMayusculas(Table& t);
+
+// The bytes of a character file with the characters 1 to `cuantos` (none below 1). Phrases are
+// written in their full width, names and stories without their padding; a phrase that is blank or
+// was never filled is left out, and the next one moves up.
+std::string TextoPersonajes(const Table& t, int cuantos);
+
+// Makes the character file anew from characters 1 to `cuantos`, once the file that was there has
+// become "Jugadores.bak". Neither is ever absent or half written. Throws RunTimeError.
+void EscribirPersonajes(const Table& t, int cuantos);
 
 }  // namespace tasca

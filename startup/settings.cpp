@@ -6,6 +6,7 @@
 #include "base/code_page.h"
 #include "base/line_file.h"
 #include "base/numbers.h"
+#include "base/replace_file.h"
 #include "base/text.h"
 
 namespace tasca {

@@ -51,11 +51,6 @@ TEST(RunTimeError, NamesAFileWithAccents) {
   EXPECT_EQ(Utf8(error.Message()), "/tío/mus.ini: x. El programa va a terminar su ejecución.");
 }
 
-TEST(RunTimeError, LeavesOutAFolderWithoutAReadableName) {
-  const RunTimeError error = RunTimeError::InFile("/\xFF/mus.ini", 2, u"x.");
-  EXPECT_EQ(Utf8(error.Message()), "mus.ini, línea 2: x. El programa va a terminar su ejecución.");
-}
-
 TEST(RunTimeError, ThatWasAlreadyShownKeepsItsMessageAsItIs) {
   const RunTimeError error = RunTimeError::AlreadyShown(u"No se encuentra. Adiós.");
   EXPECT_EQ(Utf8(error.Message()), "No se encuentra. Adiós.");
@@ -77,6 +72,15 @@ TEST(ThrowInvalidCall, AddsTheAdvice) {
   EXPECT_EQ(Utf8(Thrown([] { ThrowInvalidCall(u"Haga otra cosa."); }).Message()),
             "Llamada a procedimiento o argumento no válidos. Haga otra cosa. El programa va a "
             "terminar su ejecución.");
+}
+
+TEST(PathText, IsThePathAsItStands) {
+  EXPECT_EQ(Utf8(PathText("/casa/el tío/mus.ini")), "/casa/el tío/mus.ini");
+}
+
+TEST(PathText, ReadsAPathOfOlderDaysInTheCodePage) {
+  EXPECT_EQ(Utf8(PathText("/casa/el t\xEDo/mus.ini")), "/casa/el tío/mus.ini");
+  EXPECT_EQ(Utf8(PathText("/casa/t\xEDo.ini")), "/casa/tío.ini");
 }
 
 }  // namespace

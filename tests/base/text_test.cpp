@@ -72,5 +72,28 @@ TEST(Join, PutsThePiecesTogetherAsTheyStand) {
   EXPECT_EQ(Join(-1, 2, CrLf), u"-12\r\n");
 }
 
+TEST(EqualIgnoringCase, TakesCapitalsAndSmallLettersAsOne) {
+  EXPECT_TRUE(EqualIgnoringCase(u"QMus", u"qmUS"));
+  EXPECT_TRUE(EqualIgnoringCase(u"AZaz", u"azAZ"));
+  EXPECT_TRUE(EqualIgnoringCase(u"", u""));
+}
+
+TEST(EqualIgnoringCase, TellsAllElseApart) {
+  EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"QMu"));
+  EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"QMus "));
+  EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"NMus"));
+  EXPECT_FALSE(EqualIgnoringCase(u"@[", u"`{"));  // the neighbours of A and Z
+  EXPECT_FALSE(EqualIgnoringCase(u"Ñ", u"ñ"));    // no tag has one
+}
+
+TEST(IsControl, IsEveryCodeThatShowsNothing) {
+  for (const char16_t letra : {u'\0', u'\t', u'\r', u'\x1F', u'\x7F', u'\x80', u'\x9F'}) {
+    EXPECT_TRUE(IsControl(letra)) << static_cast<int>(letra);
+  }
+  for (const char16_t letra : {u' ', u'~', u'\xA0', u'ñ', u'€'}) {
+    EXPECT_FALSE(IsControl(letra)) << static_cast<int>(letra);
+  }
+}
+
 }  // namespace
 }  // namespace tasca

@@ -6,22 +6,11 @@
 #include <utility>
 
 #include "base/text.h"
+#include "tests/support/script.h"
 #include "tests/support/tables.h"
 
 namespace tasca::test {
 namespace {
-
-// The next answer, or `siFalta` and a failed test.
-template <class T>
-T Tomar(std::deque<T>& respuestas, T siFalta, const std::string& pregunta) {
-  if (respuestas.empty()) {
-    ADD_FAILURE() << "nobody foresaw " << pregunta;
-    return siFalta;
-  }
-  T respuesta = std::move(respuestas.front());
-  respuestas.pop_front();
-  return respuesta;
-}
 
 std::string Line(std::u16string_view texto) { return Utf8(ReplaceAll(texto, u"\r\n", u"|")); }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -32,6 +33,15 @@ std::string TempFolder::Read(const std::string& nombre) const {
   std::ifstream archivo{ruta_ / nombre, std::ios::binary};
   EXPECT_TRUE(archivo) << nombre;
   return {std::istreambuf_iterator<char>{archivo}, {}};
+}
+
+std::vector<std::string> TempFolder::Names() const {
+  std::vector<std::string> nombres;
+  for (const auto& entrada : fs::directory_iterator{ruta_}) {
+    nombres.push_back(entrada.path().filename().string());
+  }
+  std::sort(nombres.begin(), nombres.end());
+  return nombres;
 }
 
 }  // namespace tasca::test

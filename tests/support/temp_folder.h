@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tasca::test {
 
@@ -18,6 +19,8 @@ class TempFolder {
   // Writes a file of the folder, byte for byte; reads one whole.
   void Write(const std::string& nombre, std::string_view bytes) const;
   std::string Read(const std::string& nombre) const;
+  // The names of all that lies in the folder, sorted.
+  std::vector<std::string> Names() const;
 
  private:
   std::filesystem::path ruta_;

@@ -1,13 +1,9 @@
 // Conversion between the game's text and the toolkit's.
 #include "ui/qt/qt_text.h"
 
+#include "base/text.h"
+
 namespace tasca {
-namespace {
-
-bool EsControl(char16_t letra) { return letra < u' ' || (letra >= 0x7F && letra < 0xA0); }
-
-}  // namespace
-
 QString ToDisplay(std::u16string_view texto) {
   QString mostrado;
   mostrado.reserve(static_cast<qsizetype>(texto.size()));
@@ -17,7 +13,7 @@ QString ToDisplay(std::u16string_view texto) {
     if (letra == u'\r' && i + 1 < texto.size() && texto[i + 1] == u'\n') continue;
     if (letra == u'\r' || letra == u'\n') {
       mostrado += u'\n';
-    } else if (EsControl(letra) && letra != u'\t') {
+    } else if (IsControl(letra) && letra != u'\t') {
       mostrado += QChar{QChar::ReplacementCharacter};
     } else {
       mostrado += QChar{letra};
@@ -35,7 +31,7 @@ std::u16string FromInput(const QString& texto) {
   for (char16_t& letra : tecleado) {
     const bool separador = letra == QChar::LineSeparator || letra == QChar::ParagraphSeparator;
     const bool indefinida = letra >= 0x80;  // five codes of the code page stay as they are
-    if (separador || (EsControl(letra) && !indefinida)) letra = u' ';
+    if (separador || (IsControl(letra) && !indefinida)) letra = u' ';
   }
   return tecleado;
 }

@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::u16string_view Saltos = u"\r\n";
 
-bool IsControl(char16_t letra) {
-  return letra < u' ' || (letra >= u'\u007F' && letra <= u'\u009F');
-}
-
 // The text with the padding of its fixed fields taken out.
 std::u16string WithoutPadding(std::u16string_view texto) {
   constexpr std::size_t Relleno = 3;

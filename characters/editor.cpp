@@ -1,0 +1,197 @@
+// The events of the character editor.
+#include "characters/editor.h"
+
+#include "base/code_page.h"
+#include "base/endings.h"
+#include "base/text.h"
+#include "characters/character_file.h"
+
+namespace tasca {
+namespace {
+
+constexpr int Huecos = 3;
+
+// What a list's selection stands for: characters, kinds and slots count from 1; 0 is none.
+int Elegido(const ListBox& lista) { return lista.ListIndex + 1; }
+
+void Elegir(ListBox& lista, int posicion) {
+  if (posicion < 0 || posicion >= std::ssize(lista.List)) ThrowIndexOutOfRange();
+  lista.ListIndex = posicion;
+}
+
+std::u16string& Entrada(ListBox& lista) {
+  return lista.List.at(static_cast<std::size_t>(lista.ListIndex));
+}
+
+void Vaciar(ListBox& lista) { lista = {}; }
+
+// Kept: the phrases are listed with their padding when the character is chosen, and without it when
+// the kind of phrase is.
+enum class Forma { ConRelleno, SinRelleno };
+
+void ListarFrases(Dialog1& d, const Table& t, int personaje, int categoria, Forma forma) {
+  Vaciar(d.List3);
+  for (int hueco = 1; hueco <= Huecos; ++hueco) {
+    const FixedText<100>& frase = t.Mensajes[personaje][categoria][hueco];
+    d.List3.List.emplace_back(forma == Forma::ConRelleno ? frase.Full() : frase.Trimmed());
+  }
+}
+
+std::u16string EntradaDe(int numero, const Personaje& personaje) {
+  return Join(numero, u". ", personaje.Nombre.Trimmed());
+}
+
+void GuardarTextos(Dialog1& d, Personaje& personaje) {
+  personaje.Nombre = Trim(d.Text1);
+  personaje.Ordaguero = ValorOrdaguero(d.Text2);
+  d.Text2 = ToText(personaje.Ordaguero);
+  personaje.Historia = Trim(d.Text3);
+}
+
+// Kept: the new character takes over whatever phrases its place holds.
+void NuevoJugador(Dialog1& d, Table& t) {
+  Personaje& personaje = t.Personajes[d.NumPersonajes + 1];
+  GuardarTextos(d, personaje);
+  d.NumPersonajes = d.NumPersonajes + 1;
+  d.List1.List.push_back(EntradaDe(d.NumPersonajes, personaje));
+}
+
+// Kept: the entry of List1 keeps its old text.
+void ReleerJugador(Dialog1& d, Table& t, EditorPort& port) {
+  if (Elegido(d.List1) == 0) return port.Beep();
+  GuardarTextos(d, t.Personajes[Elegido(d.List1)]);
+}
+
+// Moves every character after `eliminado` one place down; the place that it leaves has no phrases.
+void CorrerPersonajes(Table& t, int eliminado, int cuantos) {
+  for (int k = eliminado; k < cuantos; ++k) {
+    t.Personajes[k] = t.Personajes[k + 1];
+    for (int categoria = 1; categoria <= std::ssize(EtiquetasJugada); ++categoria) {
+      for (int hueco = 1; hueco <= Huecos; ++hueco) {
+        FixedText<100>& siguiente = t.Mensajes[k + 1][categoria][hueco];
+        t.Mensajes[k][categoria][hueco] = siguiente;
+        siguiente = u"";
+      }
+    }
+  }
+}
+
+// Kept: the entries that remain keep their old numbers until the file is loaded again.
+void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
+  if (Elegido(d.List1) == 0) return port.Beep();
+  if (!port.OkCancelBox(Join(u"Confirme que desea eliminar el jugador ", Entrada(d.List1)),
+                        u"Eliminar jugador")) {
+    return;
+  }
+  CorrerPersonajes(t, Elegido(d.List1), d.NumPersonajes);
+  d.List1.List.erase(d.List1.List.begin() + d.List1.ListIndex);
+  d.List1.ListIndex = -1;
+  d.NumPersonajes = d.NumPersonajes - 1;
+  d.Text1.clear();
+  d.Text2.clear();
+  d.Text3.clear();
+  if (d.List1.List.empty()) return Vaciar(d.List3);
+  List1_Click(d, t, 0);
+}
+
+// Kept: the answer counts whatever it is, so that cancelling clears the phrase.
+void ModificarMensaje(Dialog1& d, Table& t, EditorPort& port) {
+  FixedText<100>& frase = t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)];
+  const std::u16string titulo = Join(u"Mensaje ", Trim(Entrada(d.List2)));
+  const std::u16string anterior{frase.Trimmed()};
+  frase = port.InputBox(u"Nuevo mensaje: ", titulo, anterior);
+  Entrada(d.List3) = frase.Trimmed();
+  frase = std::u16string{frase.Trimmed()};
+}
+
+void EliminarMensaje(Dialog1& d, Table& t, EditorPort& port) {
+  const bool hayMensaje = Elegido(d.List1) > 0 && Elegido(d.List2) > 0 && Elegido(d.List3) > 0;
+  if (!hayMensaje) return port.Beep();
+  Entrada(d.List3).clear();
+  t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)] = u"";
+}
+
+}  // namespace
+
+std::u16string_view ReparoAlTexto(std::u16string_view texto, int largo, int maximo) {
+  for (const char16_t letra : texto) {
+    if (letra == u'\n' || letra == u'\r') return u"Un texto no puede tener más de una línea.";
+    if (letra == u'>') return u"El signo > no puede guardarse: separa las partes del archivo.";
+    if (IsControl(letra)) return u"Un carácter de control no puede guardarse.";
+    if (!InCodePage(letra)) return u"El archivo no tiene sitio para ese carácter.";
+  }
+  return largo > maximo ? u"El texto no puede ser más largo." : u"";
+}
+
+void Form_Load(Dialog1& d) {
+  for (const std::u16string_view etiqueta : EtiquetasJugada) d.List2.List.emplace_back(etiqueta);
+  d.NumPersonajes = 0;
+}
+
+void List1_Click(Dialog1& d, const Table& t, int posicion) {
+  Elegir(d.List1, posicion);
+  MostrarPersonaje(d, t, Elegido(d.List1));
+}
+
+void List2_Click(Dialog1& d, const Table& t, int posicion) {
+  Elegir(d.List2, posicion);
+  if (Elegido(d.List1) == 0) return;
+  ListarFrases(d, t, Elegido(d.List1), Elegido(d.List2), Forma::SinRelleno);
+}
+
+void List3_Click(Dialog1& d, int posicion) { Elegir(d.List3, posicion); }
+
+// Kept: of the three phrases the second is selected.
+void MostrarPersonaje(Dialog1& d, const Table& t, int personaje) {
+  const Personaje& mostrado = t.Personajes[personaje];
+  d.Text1 = mostrado.Nombre.Trimmed();
+  d.Text2 = ToText(mostrado.Ordaguero);
+  d.Text3 = mostrado.Historia.Trimmed();
+  Elegir(d.List2, 0);
+  ListarFrases(d, t, personaje, Elegido(d.List2), Forma::ConRelleno);
+  Elegir(d.List3, 1);
+}
+
+void Command1_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
+  if (indice == 0) NuevoJugador(d, t);
+  if (indice == 1) EliminarJugador(d, t, port);
+  if (indice == 2) ReleerJugador(d, t, port);
+}
+
+void Command2_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
+  if (indice == 0) ModificarMensaje(d, t, port);
+  if (indice == 1) EliminarMensaje(d, t, port);
+}
+
+void List3_KeyDown(Dialog1& d, Table& t, EditorPort& port, int KeyCode) {
+  constexpr int TeclaEnter = 13;
+  constexpr int TeclaF2 = 113;
+  if (KeyCode == TeclaEnter || KeyCode == TeclaF2) ModificarMensaje(d, t, port);
+}
+
+void Command3_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
+  if (indice == 0) GuardarPersonajes(d, t, port);
+  if (indice == 1) CargarPersonajes(d, t, port);
+}
+
+void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port) {
+  EscribirPersonajes(t, d.NumPersonajes);
+  d.Guardado = TextoPersonajes(t, d.NumPersonajes);
+  port.MsgBox(Join(u"Se han guardado datos de ", d.NumPersonajes, u" jugadores"));
+}
+
+// Kept: the names are added after those that List1 already has.
+void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port) {
+  d.NumPersonajes = LeerPersonajesSinMayusculas(t);
+  d.Guardado = TextoPersonajes(t, d.NumPersonajes);
+  d.List1.ListIndex = -1;
+  for (int i = 1; i <= d.NumPersonajes; ++i) d.List1.List.push_back(EntradaDe(i, t.Personajes[i]));
+  if (d.NumPersonajes >= 1) MostrarPersonaje(d, t, 1);
+  port.MsgBox(Join(u"se han cargado ", d.NumPersonajes, u" jugadores"));
+}
+
+bool HayCambios(const Dialog1& d, const Table& t) {
+  return TextoPersonajes(t, d.NumPersonajes) != d.Guardado;
+}
+
+}  // namespace tasca

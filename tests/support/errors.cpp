@@ -1,0 +1,18 @@
+// Catching what a piece of the program throws.
+#include "tests/support/errors.h"
+
+#include "base/endings.h"
+#include "tests/support/tables.h"
+
+namespace tasca::test {
+
+std::string ErrorOf(const std::function<void()>& hacer) {
+  try {
+    hacer();
+  } catch (const RunTimeError& error) {
+    return Utf8(error.Message());
+  }
+  return {};
+}
+
+}  // namespace tasca::test
