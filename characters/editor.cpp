@@ -5,11 +5,13 @@
 #include "base/endings.h"
 #include "base/text.h"
 #include "characters/character_file.h"
+#include "table/phase_machine.h"
 
 namespace tasca {
 namespace {
 
 constexpr int Huecos = 3;
+constexpr std::u16string_view Nul{u"\0", 1};  // fills a phrase that was never set
 
 // What a list's selection stands for: characters, kinds and slots count from 1; 0 is none.
 int Elegido(const ListBox& lista) { return lista.ListIndex + 1; }
@@ -98,7 +100,7 @@ void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
 void ModificarMensaje(Dialog1& d, Table& t, EditorPort& port) {
   FixedText<100>& frase = t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)];
   const std::u16string titulo = Join(u"Mensaje ", Trim(Entrada(d.List2)));
-  const std::u16string anterior{frase.Trimmed()};
+  const std::u16string anterior = ReplaceAll(frase.Trimmed(), Nul, u"");
   frase = port.InputBox(u"Nuevo mensaje: ", titulo, anterior);
   Entrada(d.List3) = frase.Trimmed();
   frase = std::u16string{frase.Trimmed()};
@@ -164,8 +166,6 @@ void Command2_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
 }
 
 void List3_KeyDown(Dialog1& d, Table& t, EditorPort& port, int KeyCode) {
-  constexpr int TeclaEnter = 13;
-  constexpr int TeclaF2 = 113;
   if (KeyCode == TeclaEnter || KeyCode == TeclaF2) ModificarMensaje(d, t, port);
 }
 

@@ -82,7 +82,8 @@ void Command1_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 // when no phrase, kind or character is selected.
 void Command2_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 
-// Enter (13) and F2 (113) on a phrase ask for its new text.
+// Enter and F2 on a phrase ask for its new text.
+inline constexpr int TeclaF2 = 113;
 void List3_KeyDown(Dialog1& d, Table& t, EditorPort& port, int KeyCode);
 
 // Button 0 saves the characters, 1 loads them.

@@ -163,5 +163,17 @@ TEST(AskText, GivesAnEmptyTextForCancelAndEsc) {
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "");
 }
 
+TEST(AskOkCancel, IsTrueForAceptarAlone) {
+  const auto preguntar = [](Qt::Key tecla) {
+    std::string vista;
+    const BoxAnswerer jugador = LookAndPress(vista, tecla);
+    const bool respuesta = AskOkCancel(nullptr, u"¿Fuera el 2 & el 3?", u"Eliminar jugador");
+    EXPECT_EQ(vista, "Eliminar jugador|¿Fuera el 2 & el 3?||Aceptar Cancelar ");
+    return respuesta;
+  };
+  EXPECT_TRUE(preguntar(Qt::Key_Return));
+  EXPECT_FALSE(preguntar(Qt::Key_Escape));
+}
+
 }  // namespace
 }  // namespace tasca::test

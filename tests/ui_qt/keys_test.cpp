@@ -26,6 +26,8 @@ TEST(TeclaDe, KnowsQInAnyShiftState) {
   EXPECT_EQ(Pulsar(Qt::Key_Q, Qt::ControlModifier).KeyCode, TeclaQ);
 }
 
+TEST(TeclaDe, KnowsF2) { EXPECT_EQ(Pulsar(Qt::Key_F2).KeyCode, 113); }
+
 TEST(TeclaDe, KnowsTheZeroKeyByItsSign) { EXPECT_EQ(Pulsar(Qt::Key_0).KeyCode, Tecla0); }
 
 #ifndef Q_OS_WIN

@@ -1,7 +1,9 @@
 // The player at the windows.
 #include "tests/ui_qt/player.h"
 
+#include <QAbstractButton>
 #include <QTest>
+#include <algorithm>
 #include <utility>
 
 namespace tasca::test {
@@ -16,6 +18,18 @@ QWidget* VisibleWindow(const char* nombre) {
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
   QWidget* const control = ventana->focusWidget();
   QTest::keyClick(control != nullptr ? control : ventana, tecla, con);
+}
+
+void Type(QWidget* control, const char* texto) {
+  for (const QChar letra : QString::fromUtf8(texto)) {
+    QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString{letra}, Qt::NoModifier);
+  }
+}
+
+bool ButtonIsDown(const QWidget* ventana) {
+  const auto botones = ventana->findChildren<QAbstractButton*>();
+  return std::any_of(botones.begin(), botones.end(),
+                     [](const QAbstractButton* boton) { return boton->isDown(); });
 }
 
 BoxAnswerer::BoxAnswerer(std::function<void(QWidget*)> alVer) {

@@ -24,6 +24,12 @@ QWidget* VisibleWindow(const char* nombre);
 // A key for the control that has the focus in `ventana`.
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
 
+// The keys that write `texto`, one character each, for a control.
+void Type(QWidget* control, const char* texto);
+
+// True while a button that was pressed by its access key has yet to be clicked.
+bool ButtonIsDown(const QWidget* ventana);
+
 // Waits for modal boxes and shows each of them to `alVer`, once or until it is gone. Boxes wait
 // inside their question, so this looks from a timer.
 class BoxAnswerer {

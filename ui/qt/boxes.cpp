@@ -50,13 +50,18 @@ void LeaveRoomForTitle(QMessageBox& caja) {
                    rejilla->rowCount(), 0, 1, rejilla->columnCount());
 }
 
-void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {
-  QMessageBox caja{padre};
-  caja.setObjectName(QStringLiteral("MsgBox"));
-  caja.setWindowTitle(TituloDe({}));
-  caja.setIcon(icono);
+void Prepare(QMessageBox& caja, const char* nombre, std::u16string_view titulo,
+             std::u16string_view texto) {
+  caja.setObjectName(QString::fromLatin1(nombre));
+  caja.setWindowTitle(TituloDe(titulo));
   caja.setTextFormat(Qt::PlainText);
   caja.setText(ToDisplay(texto));
+}
+
+void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {
+  QMessageBox caja{padre};
+  Prepare(caja, "MsgBox", {}, texto);
+  caja.setIcon(icono);
   caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
   LeaveRoomForTitle(caja);
   caja.exec();
@@ -74,12 +79,9 @@ void ShowError(QWidget* padre, std::u16string_view texto) {
 
 std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
   YesNoMessageBox caja{padre};
-  caja.setObjectName(QStringLiteral("YesNoBox"));
+  Prepare(caja, "YesNoBox", pregunta.Titulo, pregunta.Texto);
   caja.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-  caja.setWindowTitle(TituloDe(pregunta.Titulo));
   caja.setIcon(pregunta.ConIcono ? QMessageBox::Question : QMessageBox::NoIcon);
-  caja.setTextFormat(Qt::PlainText);
-  caja.setText(ToDisplay(pregunta.Texto));
   auto* const si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
   auto* const no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
   caja.setDefaultButton(pregunta.PorDefecto ? si : no);
@@ -87,6 +89,17 @@ std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
   caja.exec();
   if (caja.clickedButton() == nullptr) return std::nullopt;
   return caja.clickedButton() == si;
+}
+
+bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view titulo) {
+  QMessageBox caja{padre};
+  Prepare(caja, "OkCancelBox", titulo, texto);
+  auto* const aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+  caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole);
+  caja.setDefaultButton(aceptar);
+  LeaveRoomForTitle(caja);
+  caja.exec();
+  return caja.clickedButton() == aceptar;
 }
 
 std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,

@@ -16,6 +16,8 @@ void ShowMessage(QWidget* padre, std::u16string_view texto);
 void ShowError(QWidget* padre, std::u16string_view texto);
 // Answered by "Sí" or "No" alone. Nothing when the program is ended from outside meanwhile.
 std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta);
+// Answered by "Aceptar" or "Cancelar"; true for "Aceptar".
+bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view titulo);
 // The text typed; "" when cancelled.
 std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,
                        std::u16string_view porDefecto);

@@ -1,6 +1,7 @@
 // The translation of key events.
 #include "ui/qt/keys.h"
 
+#include "characters/editor.h"
 #include "table/phase_machine.h"
 
 namespace tasca {
@@ -23,6 +24,7 @@ bool EsTecla0(const QKeyEvent& suceso) {
 int CodigoDe(const QKeyEvent& suceso) {
   if (suceso.key() == Qt::Key_Return || suceso.key() == Qt::Key_Enter) return TeclaEnter;
   if (suceso.key() == Qt::Key_Q) return TeclaQ;
+  if (suceso.key() == Qt::Key_F2) return TeclaF2;
   return EsTecla0(suceso) ? Tecla0 : TeclaSinSignificado;
 }
 

@@ -4,9 +4,9 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "base/endings.h"
 #include "table/phase_machine.h"
 #include "table/start.h"
+#include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
 
 namespace tasca {
@@ -76,27 +76,16 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
 
 bool Program::Run(const std::function<void()>& paso) {
   if (terminando_) return false;
-  try {
-    paso();
-    return true;
-  } catch (const LeaveProgram&) {
-    Exit(0);
-  } catch (const RunTimeError& error) {
-    if (error.Shown()) {
-      Exit(1);
-    } else {
-      Fail(error.Message());
-    }
-  } catch (const std::exception&) {
-    Fail(u"Se ha producido un error inesperado. El programa va a terminar su ejecución.");
-  }
+  const std::optional<Ending> fin = EndingOf(paso);
+  if (!fin) return true;
+  if (!fin->Mensaje.empty()) ShowEnding(fin->Mensaje);
+  Exit(fin->Estado);
   return false;
 }
 
-void Program::Fail(std::u16string_view mensaje) {
+void Program::ShowEnding(std::u16string_view mensaje) {
   if (form1_) form1_->ShowTexts(t_);
   ShowError(port_.Window(), mensaje);
-  Exit(1);
 }
 
 void Program::Exit(int estado) {

@@ -1,7 +1,6 @@
 #pragma once
 // The program with windows: the start-up dialog, then the main window, and back when the player
-// wants other companions. Here, at the event handlers' boundary, end the program's two endings: no
-// exception passes through the event loop.
+// wants other companions.
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -31,7 +30,7 @@ class Program {
   void KeyDown(Integer& KeyCode, Integer Shift);
   // Runs something of the rules; false when it has ended the program.
   bool Run(const std::function<void()>& paso);
-  void Fail(std::u16string_view mensaje);
+  void ShowEnding(std::u16string_view mensaje);
   void Exit(int estado);
 
   Table t_;

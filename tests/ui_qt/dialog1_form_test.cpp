@@ -1,0 +1,298 @@
+// The character editor's window, worked by keys.
+#include "ui/qt/dialog1_form.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "characters/character_file.h"
+#include "tests/support/scripted_editor_port.h"
+#include "tests/support/tables.h"
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+using Textos = std::vector<std::string>;
+
+class EditorWindow : public testing::Test {
+ protected:
+  EditorWindow() {
+    SetTable(carpeta_);
+    t_.Carpeta = carpeta_.Path();
+    ventana_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  }
+
+  // Loads the five characters.
+  void Load() {
+    Alt(Qt::Key_C);
+    EXPECT_EQ(port_.TakeEvents(), (Textos{"box: se han cargado 5 jugadores"}));
+  }
+  void Alt(Qt::Key tecla) {
+    Press(&ventana_, tecla, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !ButtonIsDown(&ventana_); }));
+  }
+  void Keys(std::initializer_list<Qt::Key> teclas) {
+    for (const Qt::Key tecla : teclas) Press(&ventana_, tecla);
+  }
+  void Type(const char* texto) { test::Type(ventana_.focusWidget(), texto); }
+  std::string Focus() const { return Utf8(ventana_.focusWidget()->objectName()); }
+
+  template <class T>
+  T* Find(const char* nombre) {
+    return Control<T>(&ventana_, nombre);
+  }
+  Textos Shown(const char* nombre) {
+    Textos filas;
+    const auto* const lista = Find<QListWidget>(nombre);
+    for (int i = 0; i < lista->count(); ++i) filas.push_back(Utf8(lista->item(i)->text()));
+    return filas;
+  }
+  std::string Text(const char* nombre) { return Utf8(Find<GuardedText>(nombre)->toPlainText()); }
+  std::string Caption(const char* nombre) { return Utf8(Find<QPushButton>(nombre)->text()); }
+
+  TempFolder carpeta_;
+  Table t_;
+  ScriptedEditorPort port_;
+  int cerradas_ = 0;
+  Dialog1Form ventana_{t_,
+                       port_,
+                       {.Run = [](const std::function<void()>& suceso) { suceso(); },
+                        .Closed = [this] { ++cerradas_; }}};
+};
+
+TEST_F(EditorWindow, HasTheCaptionsOfTheForm) {
+  EXPECT_EQ(Utf8(ventana_.windowTitle()), "Dialog Caption");
+  const std::vector<std::pair<const char*, std::string>> etiquetas{
+      {"Label1", "&Nombre"},    {"Label2", "&Ordaguero"}, {"Label3", "&Historia"},
+      {"Label4", "&Jugadores"}, {"Label5", "&Jugada"},    {"Label6", "&Mensaje"}};
+  for (const auto& [nombre, rotulo] : etiquetas) {
+    EXPECT_EQ(Utf8(Find<QLabel>(nombre)->text()), rotulo);
+  }
+  EXPECT_EQ(Caption("Command1_0"), "N&uevo jugador");
+  EXPECT_EQ(Caption("Command1_1"), "&Eliminar jugador");
+  EXPECT_EQ(Caption("Command1_2"), "Re&leer  datos jugador");
+  EXPECT_EQ(Caption("Command2_0"), "M&odificar mensaje(f2)");
+  EXPECT_EQ(Caption("Command2_1"), "E&liminar mensaje");
+  EXPECT_EQ(Caption("Command3_0"), "&Guardar en disco");
+  EXPECT_EQ(Caption("Command3_1"), "&Cargar de disco");
+  EXPECT_EQ(Caption("CbOK"), "Aceptar");
+}
+
+TEST_F(EditorWindow, StartsWithTheKindsOfPhraseAlone) {
+  EXPECT_EQ(Shown("List1"), Textos{});
+  EXPECT_EQ(Shown("List3"), Textos{});
+  EXPECT_EQ(Shown("List2").size(), 14U);
+  EXPECT_EQ(Shown("List2").at(8), "envido & más");
+  EXPECT_EQ(Find<QListWidget>("List2")->currentRow(), -1);
+}
+
+TEST_F(EditorWindow, ShowsWhatIsLoadedWithItsSignsAsTheyStand) {
+  Load();
+  EXPECT_EQ(Shown("List1").at(3), "4. el Cojo & Cía");
+  EXPECT_TRUE(Find<QListWidget>("List1")->selectedItems().isEmpty());
+  EXPECT_EQ(Text("Text1"), "Default indirecto");
+  EXPECT_EQ(Text("Text2"), "40");
+  EXPECT_EQ(Find<QListWidget>("List2")->currentRow(), 0);
+  EXPECT_EQ(Find<QListWidget>("List3")->currentRow(), 1);
+  EXPECT_EQ(Shown("List3").at(0), "Digo QMus" + std::string(91, ' '));
+  EXPECT_EQ(Shown("List3").at(1), "");
+}
+
+TEST_F(EditorWindow, SelectsACharacterByKeys) {
+  Load();
+  Alt(Qt::Key_J);
+  EXPECT_EQ(Focus(), "List1");
+  EXPECT_TRUE(Find<QListWidget>("List1")->selectedItems().isEmpty());
+  Keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down});
+  EXPECT_EQ(ventana_.State().List1.ListIndex, 2);
+  EXPECT_EQ(Text("Text1"), "Berta");
+  EXPECT_EQ(Text("Text3"), "Berta cuida cabras.");
+}
+
+TEST_F(EditorWindow, LeavesThePhrasesUnselectedAfterAKindIsChosen) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  Find<QListWidget>("List2")->setFocus();
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(Shown("List3"), (Textos{"Digo NMus", "", ""}));
+  Alt(Qt::Key_M);
+  EXPECT_EQ(Focus(), "List3");
+  EXPECT_EQ(ventana_.State().List3.ListIndex, -1);
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(ventana_.State().List3.ListIndex, 0);
+}
+
+TEST_F(EditorWindow, GoesToTheNextControlWithTheSameAccessKey) {
+  Load();
+  Alt(Qt::Key_J);
+  EXPECT_EQ(Focus(), "List1");
+  Alt(Qt::Key_J);
+  EXPECT_EQ(Focus(), "List2");
+}
+
+TEST_F(EditorWindow, ChangesAPhraseWithF2AndWithEnter) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down});
+  Alt(Qt::Key_M);
+  port_.Types(u"mus & más");
+  Keys({Qt::Key_F2});
+  EXPECT_EQ(Shown("List3").at(1), "mus & más");
+  port_.Types(u"dale al mus");
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(Shown("List3").at(1), "dale al mus");
+  EXPECT_EQ(Utf8(t_.Mensajes[3][1][2].Trimmed()), "dale al mus");
+  EXPECT_EQ(port_.TakeEvents(),
+            (Textos{"input[Mensaje Quiero mus]: Nuevo mensaje: (default )",
+                    "input[Mensaje Quiero mus]: Nuevo mensaje: (default mus & más)"}));
+}
+
+TEST_F(EditorWindow, ChangesAPhraseWithADoubleClick) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  auto* const lista = Find<QListWidget>("List3");
+  const QPoint tercera = lista->visualItemRect(lista->item(2)).center();
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier, tercera);
+  EXPECT_EQ(ventana_.State().List3.ListIndex, 2);
+  port_.Types(u"mus");
+  QTest::mouseDClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier, tercera);
+  EXPECT_EQ(Utf8(t_.Mensajes[1][1][3].Trimmed()), "mus");
+}
+
+TEST_F(EditorWindow, ClearsAPhrase) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  Find<QListWidget>("List3")->setCurrentRow(0);
+  QTest::mouseClick(Find<QPushButton>("Command2_1"), Qt::LeftButton);
+  EXPECT_EQ(Shown("List3").at(0), "");
+  EXPECT_EQ(port_.TakeEvents(), Textos{});
+}
+
+TEST_F(EditorWindow, AddsACharacterFromTheThreeTextBoxes) {
+  Load();
+  Alt(Qt::Key_N);
+  EXPECT_EQ(Focus(), "Text1");
+  Type("el tío & yo");
+  Keys({Qt::Key_Tab});
+  EXPECT_EQ(Focus(), "Text2");
+  Type("7x");
+  Keys({Qt::Key_Tab});
+  Type("Bebe.");
+  Alt(Qt::Key_U);
+  EXPECT_EQ(Shown("List1").at(5), "6. el tío & yo");
+  EXPECT_EQ(Text("Text2"), "7");
+  EXPECT_EQ(t_.Personajes[6].Ordaguero, 7);
+  EXPECT_EQ(Utf8(t_.Personajes[6].Historia.Trimmed()), "Bebe.");
+}
+
+TEST_F(EditorWindow, StoresTheTextBoxesIntoTheSelectedCharacter) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  Alt(Qt::Key_N);
+  Type("Lola");
+  QTest::mouseClick(Find<QPushButton>("Command1_2"), Qt::LeftButton);
+  EXPECT_EQ(Utf8(t_.Personajes[1].Nombre.Trimmed()), "Lola");
+  EXPECT_EQ(Shown("List1").at(0), "1. Default indirecto");
+}
+
+TEST_F(EditorWindow, DeletesACharacter) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down, Qt::Key_Down});
+  port_.Confirms(true);
+  Alt(Qt::Key_E);
+  EXPECT_EQ(port_.TakeEvents(), (Textos{"confirm[Eliminar jugador]: Confirme que desea eliminar el "
+                                        "jugador 2. Default directo"}));
+  EXPECT_EQ(Shown("List1"),
+            (Textos{"1. Default indirecto", "3. Berta", "4. el Cojo & Cía", "5. Dora"}));
+  EXPECT_EQ(Find<QListWidget>("List1")->currentRow(), 0);
+  EXPECT_EQ(Text("Text1"), "Default indirecto");
+}
+
+TEST_F(EditorWindow, SavesTheFile) {
+  Load();
+  Alt(Qt::Key_G);
+  EXPECT_EQ(port_.TakeEvents(), (Textos{"box: Se han guardado datos de 5 jugadores"}));
+  EXPECT_EQ(carpeta_.Read("Jugadores.dat"), TextoPersonajes(t_, 5));
+}
+
+TEST_F(EditorWindow, SaysWhyItRefusesAKeyUntilTheNextOne) {
+  Find<GuardedText>("Text1")->setFocus();
+  Type(">");
+  EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()),
+            "El signo > no puede guardarse: separa las partes del archivo.");
+  Type("a");
+  EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "");
+}
+
+TEST_F(EditorWindow, LimitsEveryTextToItsWidth) {
+  const std::vector<std::pair<const char*, int>> anchos{
+      {"Text1", 100}, {"Text2", 3}, {"Text3", 200}};
+  for (const auto& [nombre, ancho] : anchos) {
+    auto* const texto = Find<GuardedText>(nombre);
+    texto->setFocus();
+    for (int i = 0; i < ancho; ++i) Type("1");
+    EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "") << nombre;
+    Type("1");
+    EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "El texto no puede ser más largo.") << nombre;
+    EXPECT_EQ(texto->toPlainText().size(), ancho) << nombre;
+  }
+}
+
+TEST_F(EditorWindow, DoesNothingOnAceptar) {
+  Load();
+  const std::string antes = TextoPersonajes(t_, 5);
+  QTest::mouseClick(Find<QPushButton>("CbOK"), Qt::LeftButton);
+  EXPECT_TRUE(ventana_.isVisible());
+  EXPECT_EQ(cerradas_, 0);
+  EXPECT_EQ(TextoPersonajes(t_, 5), antes);
+}
+
+TEST_F(EditorWindow, KeepsTheSelectionWhenAListIsClickedBesideItsEntries) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  auto* const lista = Find<QListWidget>("List1");
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    lista->viewport()->rect().bottomLeft() - QPoint{0, 2});
+  EXPECT_EQ(ventana_.State().List1.ListIndex, 0);
+  EXPECT_EQ(lista->selectedItems().size(), 1);
+}
+
+TEST_F(EditorWindow, ShowsTheCharacterAnewWhenItsEntryIsClickedAgain) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  Alt(Qt::Key_N);
+  Type("otra cosa");
+  auto* const lista = Find<QListWidget>("List1");
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    lista->visualItemRect(lista->item(0)).center());
+  EXPECT_EQ(Text("Text1"), "Default indirecto");
+}
+
+TEST_F(EditorWindow, GoesThroughItsControlsWithTab) {
+  Find<QListWidget>("List1")->setFocus();
+  for (const char* const nombre :
+       {"Text1", "Text2", "Text3", "Command1_0", "Command1_1", "Command1_2", "List2", "List3",
+        "Command2_0", "Command2_1", "Command3_0", "Command3_1", "CbOK", "List1"}) {
+    Keys({Qt::Key_Tab});
+    EXPECT_EQ(Focus(), nombre);
+  }
+}
+
+TEST_F(EditorWindow, TellsThatItIsToBeClosedAndStays) {
+  ventana_.close();
+  EXPECT_EQ(cerradas_, 1);
+  EXPECT_TRUE(ventana_.isVisible());
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,125 @@
+// The character editor as a program, from its window to its end.
+#include "ui/qt/editor_program.h"
+
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+#include <QTest>
+#include <utility>
+
+#include "tests/support/tables.h"
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+class EditorInWindows : public testing::Test {
+ protected:
+  using Step = std::function<void(QWidget* ventana)>;
+
+  EditorInWindows() { SetTable(carpeta_); }
+
+  // Takes the steps one after the other, each at the window in front, until the program ends.
+  int Work(const std::vector<Step>& pasos) {
+    EditorProgram programa{carpeta_.Path()};
+    bool abierto = false;
+    std::size_t dados = 0;
+    const int estado = PlayUntilEnd([&] {
+      if (!std::exchange(abierto, true)) return programa.Open();
+      QWidget* const caja = QApplication::activeModalWidget();
+      QWidget* const ventana = caja != nullptr ? caja : VisibleWindow("Dialog1");
+      if (ventana == nullptr || ButtonIsDown(ventana)) return;
+      // A screen would give the window back its keys when a box goes.
+      if (!ventana->isActiveWindow()) return ventana->activateWindow();
+      if (dados < pasos.size()) pasos.at(dados++)(ventana);
+    });
+    EXPECT_EQ(dados, pasos.size()) << "ended before the last step";
+    return estado;
+  }
+
+  Step Alt(Qt::Key tecla) {
+    return [tecla](QWidget* ventana) { Press(ventana, tecla, Qt::AltModifier); };
+  }
+  Step Key(Qt::Key tecla) {
+    return [tecla](QWidget* ventana) { Press(ventana, tecla); };
+  }
+  // The box in front says this, and is answered by Enter.
+  Step Reads(const char* texto, Qt::Key tecla = Qt::Key_Return) {
+    return [texto, tecla](QWidget* ventana) {
+      const auto* const caja = qobject_cast<QMessageBox*>(ventana);
+      ASSERT_NE(caja, nullptr) << texto;
+      EXPECT_EQ(Utf8(caja->text()), texto);
+      Press(ventana, tecla);
+    };
+  }
+  static void Close(QWidget* ventana) { ventana->close(); }
+
+  TempFolder carpeta_;
+};
+
+constexpr auto SinGuardar =
+    "Hay cambios que no se han guardado en el disco. ¿Salir sin guardarlos?";
+
+TEST_F(EditorInWindows, LoadsAddsSavesAndEnds) {
+  EXPECT_EQ(Work({Alt(Qt::Key_C), Reads("se han cargado 5 jugadores"), Alt(Qt::Key_N),
+                  [](QWidget* v) { Type(v->focusWidget(), "Lola"); }, Alt(Qt::Key_U),
+                  Alt(Qt::Key_G), Reads("Se han guardado datos de 6 jugadores"), Close}),
+            0);
+  EXPECT_NE(carpeta_.Read("Jugadores.dat").find("Datos>\r\nLola\r\n"), std::string::npos);
+}
+
+TEST_F(EditorInWindows, ShowsWhatIsLoadedWhileTheBoxTellsSo) {
+  EXPECT_EQ(Work({Alt(Qt::Key_C),
+                  [](QWidget* caja) {
+                    const QWidget* const ventana = VisibleWindow("Dialog1");
+                    EXPECT_EQ(Control<QListWidget>(ventana, "List1")->count(), 5);
+                    Press(caja, Qt::Key_Return);
+                  },
+                  Close}),
+            0);
+}
+
+TEST_F(EditorInWindows, AsksBeforeChangesAreThrownAway) {
+  EXPECT_EQ(Work({Alt(Qt::Key_U), Close, Reads(SinGuardar), Close, Reads(SinGuardar, Qt::Key_S)}),
+            0);
+  EXPECT_EQ(carpeta_.Names(), (std::vector<std::string>{"Jugadores.dat", "mus.ini"}));
+}
+
+TEST_F(EditorInWindows, ConfirmsADeletionByOkAndNotByEscape) {
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_J), Key(Qt::Key_Down), Alt(Qt::Key_E),
+            Reads("Confirme que desea eliminar el jugador 1. Default indirecto", Qt::Key_Escape),
+            Alt(Qt::Key_E), Reads("Confirme que desea eliminar el jugador 1. Default indirecto"),
+            Alt(Qt::Key_G), Reads("Se han guardado datos de 4 jugadores"), Close}),
+      0);
+}
+
+TEST_F(EditorInWindows, ChangesAPhraseThroughItsBox) {
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_J), Key(Qt::Key_Down), Alt(Qt::Key_M),
+            Key(Qt::Key_F2), [](QWidget* v) { Type(v->focusWidget(), "venga"); },
+            Key(Qt::Key_Return), Alt(Qt::Key_G), Key(Qt::Key_Return), Close}),
+      0);
+  EXPECT_NE(carpeta_.Read("Jugadores.dat").find("\r\nvenga  "), std::string::npos);
+}
+
+TEST_F(EditorInWindows, EndsWithTheMessageOfARunTimeError) {
+  std::filesystem::remove(carpeta_.Path() / "Jugadores.dat");
+  const std::string mensaje =
+      (carpeta_.Path() / "Jugadores.dat").string() +
+      ": no se encuentra el archivo. El programa va a terminar su ejecución.";
+  EXPECT_EQ(Work({Alt(Qt::Key_C), Reads(mensaje.c_str())}), 1);
+}
+
+TEST_F(EditorInWindows, LeavesTheFileAloneWhenItEndsWithAnError) {
+  const std::string antes = carpeta_.Read("Jugadores.dat");
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_M), Key(Qt::Key_F2),
+            Reads("El índice está fuera del intervalo. El programa va a terminar su ejecución.")}),
+      1);
+  EXPECT_EQ(carpeta_.Read("Jugadores.dat"), antes);
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,188 @@
+// The editor's text boxes.
+#include "ui/qt/guarded_text.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QMimeData>
+#include <QTest>
+#include <memory>
+
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+class TextBox : public testing::Test {
+ protected:
+  void Show(int maximo, int filas = 1) {
+    caja_ = std::make_unique<GuardedText>(
+        nullptr, maximo, filas, [this](std::u16string_view reparo) { reparo_ = Utf8(reparo); });
+    caja_->show();
+    caja_->setFocus();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(caja_.get()));
+  }
+
+  void Paste(const QString& texto) {
+    QApplication::clipboard()->setText(texto);
+    caja_->paste();
+  }
+  void Type(const char* texto) { test::Type(caja_.get(), texto); }
+  void Compose(const QString& texto) {
+    QInputMethodEvent suceso;
+    suceso.setCommitString(texto);
+    QApplication::sendEvent(caja_.get(), &suceso);
+  }
+  std::string Text() const { return test::Utf8(caja_->Text()); }
+
+  std::unique_ptr<GuardedText> caja_;
+  std::string reparo_ = "nothing said";
+};
+
+constexpr auto Linea = "Un texto no puede tener más de una línea.";
+constexpr auto SinSitio = "El archivo no tiene sitio para ese carácter.";
+constexpr auto Separador = "El signo > no puede guardarse: separa las partes del archivo.";
+constexpr auto Largo = "El texto no puede ser más largo.";
+
+TEST_F(TextBox, TakesWhatTheFileHolds) {
+  Show(20);
+  Type("a&b ");
+  Paste(QStringLiteral("¿ñ€?"));
+  EXPECT_EQ(Text(), "a&b ¿ñ€?");
+  EXPECT_EQ(reparo_, "");
+}
+
+TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
+  Show(20);
+  Type("a>");
+  EXPECT_EQ(reparo_, Separador);
+  Type("ł");
+  EXPECT_EQ(reparo_, SinSitio);
+  Type("b");
+  EXPECT_EQ(reparo_, "");
+  EXPECT_EQ(Text(), "ab");
+}
+
+TEST_F(TextBox, RefusesAPasteWholeWithTheReason) {
+  Show(20);
+  Type("x");
+  Paste(QStringLiteral("uno\ndos"));
+  EXPECT_EQ(reparo_, Linea);
+  Paste(QStringLiteral("日本"));
+  EXPECT_EQ(reparo_, SinSitio);
+  Paste(QStringLiteral("a > b"));
+  EXPECT_EQ(reparo_, Separador);
+  EXPECT_EQ(Text(), "x");
+}
+
+TEST_F(TextBox, RefusesWhatIsDropped) {
+  Show(20);
+  QMimeData datos;
+  datos.setText(QStringLiteral("a>b"));
+  QDragEnterEvent entra{QPoint{2, 2}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier};
+  QApplication::sendEvent(caja_->viewport(), &entra);
+  QDropEvent suelta{QPointF{2, 2}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier};
+  QApplication::sendEvent(caja_->viewport(), &suelta);
+  EXPECT_EQ(Text(), "");
+  EXPECT_EQ(reparo_, Separador);
+}
+
+TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
+  Show(20);
+  Compose(QStringLiteral("é"));
+  EXPECT_EQ(Text(), "é");
+  Compose(QStringLiteral("日"));
+  EXPECT_EQ(Text(), "é");
+  EXPECT_EQ(reparo_, SinSitio);
+}
+
+TEST_F(TextBox, HoldsSoManyCharactersAndNoMore) {
+  Show(3);
+  Type("abc");
+  EXPECT_EQ(reparo_, "");
+  Type("d");
+  EXPECT_EQ(reparo_, Largo);
+  Paste(QStringLiteral("d"));
+  EXPECT_EQ(reparo_, Largo);
+  EXPECT_EQ(Text(), "abc");
+}
+
+TEST_F(TextBox, CountsWhatIsTypedOverASelectionInItsPlace) {
+  Show(3);
+  Type("abc");
+  caja_->selectAll();
+  Paste(QStringLiteral("xyz"));
+  EXPECT_EQ(Text(), "xyz");
+  caja_->selectAll();
+  Paste(QStringLiteral("wxyz"));
+  EXPECT_EQ(Text(), "xyz");
+}
+
+TEST_F(TextBox, StillDeletesMovesAndUndoes) {
+  Show(3);
+  Type("abc");
+  QTest::keyClick(caja_.get(), Qt::Key_Left);
+  QTest::keyClick(caja_.get(), Qt::Key_Backspace);
+  EXPECT_EQ(Text(), "ac");
+  caja_->undo();
+  EXPECT_EQ(Text(), "abc");
+}
+
+TEST_F(TextBox, LeavesEnterToTheWindowWhenItHasOneRow) {
+  Show(20);
+  Type("a");
+  QKeyEvent enter{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r")};
+  QApplication::sendEvent(caja_.get(), &enter);
+  EXPECT_FALSE(enter.isAccepted());
+  EXPECT_EQ(Text(), "a");
+  EXPECT_EQ(reparo_, "");
+}
+
+TEST_F(TextBox, RefusesEnterWhenItHasSeveralRows) {
+  Show(20, 4);
+  QTest::keyClick(caja_.get(), Qt::Key_Return);
+  EXPECT_EQ(Text(), "");
+  EXPECT_EQ(reparo_, Linea);
+}
+
+TEST_F(TextBox, SelectsAllWhenItGetsTheFocus) {
+  Show(20);
+  caja_->ShowText(u"La boticaria");
+  caja_->clearFocus();
+  caja_->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Utf8(caja_->textCursor().selectedText()), "La boticaria");
+}
+
+TEST_F(TextBox, SelectsAllAfterTheClickThatGivesItTheFocus) {
+  Show(20);
+  caja_->ShowText(u"La boticaria");
+  caja_->clearFocus();
+  caja_->setFocus(Qt::MouseFocusReason);
+  QTest::mouseClick(caja_->viewport(), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return caja_->textCursor().hasSelection(); }));
+  EXPECT_EQ(Utf8(caja_->textCursor().selectedText()), "La boticaria");
+}
+
+TEST_F(TextBox, KeepsTheSelectionWhenAMenuGivesTheFocusBack) {
+  Show(20);
+  caja_->ShowText(u"La boticaria");
+  caja_->clearFocus();
+  caja_->moveCursor(QTextCursor::End);
+  caja_->setFocus(Qt::PopupFocusReason);
+  EXPECT_FALSE(caja_->textCursor().hasSelection());
+}
+
+TEST_F(TextBox, GivesBackATextThatWasLeftAloneWithItsOddCharacters) {
+  Show(20);
+  const std::u16string raro{u"a\0b\u0081", 4};
+  caja_->ShowText(raro);
+  EXPECT_EQ(Utf8(caja_->toPlainText()), "ab\uFFFD");
+  EXPECT_EQ(caja_->Text(), raro);
+  caja_->moveCursor(QTextCursor::End);
+  QTest::keyClick(caja_.get(), Qt::Key_Backspace);
+  EXPECT_EQ(Text(), "ab");
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,73 @@
+// Setting up the toolkit, and catching what the rules throw.
+#include "ui/qt/application.h"
+
+#include <QFile>
+#include <QScreen>
+#include <QStyleHints>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+#include "base/endings.h"
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+namespace {
+
+// Without a screen the toolkit would abort with a page of its own advice.
+void AlArrancar(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& /*mensaje*/) {
+  if (tipo != QtFatalMsg) return;
+  (void)std::fputs("tasca: no hay pantalla en la que abrir las ventanas.\n", stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+// From here until the application stands, the toolkit's own messages are not for the player.
+int& Quietly(int& argc) {
+  qInstallMessageHandler(AlArrancar);
+  return argc;
+}
+
+// A very tall screen that is not scaled shows the system's letters too small for a whole evening.
+void EnlargeOnTallScreens() {
+  constexpr double altoCorriente = 1200;
+  const double alto = QGuiApplication::primaryScreen()->availableSize().height();
+  if (alto <= altoCorriente) return;
+  QApplication::setFont(Scaled(QApplication::font(), std::min(alto / altoCorriente, 2.0)));
+}
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : aplicacion_{Quietly(argc), argv} {
+  qInstallMessageHandler(nullptr);
+  QCoreApplication::installTranslator(&castellano_);
+  QApplication::setQuitOnLastWindowClosed(false);
+  // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
+  QGuiApplication::styleHints()->setCursorFlashTime(0);
+  EnlargeOnTallScreens();
+}
+
+std::filesystem::path Application::Carpeta() {
+  return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+}
+
+int Application::Run(const std::function<void()>& abrir) {
+  QMetaObject::invokeMethod(QCoreApplication::instance(), abrir, Qt::QueuedConnection);
+  return QApplication::exec();
+}
+
+std::optional<Ending> EndingOf(const std::function<void()>& paso) {
+  try {
+    paso();
+    return std::nullopt;
+  } catch (const LeaveProgram&) {
+    return Ending{.Estado = EXIT_SUCCESS, .Mensaje = {}};
+  } catch (const RunTimeError& error) {
+    return Ending{.Estado = EXIT_FAILURE, .Mensaje = error.Shown() ? u"" : error.Message()};
+  } catch (const std::exception&) {
+    return Ending{
+        .Estado = EXIT_FAILURE,
+        .Mensaje = u"Se ha producido un error inesperado. El programa va a terminar su ejecución."};
+  }
+}
+
+}  // namespace tasca

@@ -1,0 +1,37 @@
+#pragma once
+// What the programs with windows share: the toolkit set up for a long, quiet evening, and the two
+// ways in which a rule ends the program. No exception passes through the event loop.
+#include <QApplication>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "ui/qt/spanish.h"
+
+namespace tasca {
+
+class Application {
+ public:
+  Application(int& argc, char** argv);
+
+  // The program's own folder.
+  static std::filesystem::path Carpeta();
+  // Runs `abrir` from the event loop, and the loop to its end; the exit status.
+  static int Run(const std::function<void()>& abrir);
+
+ private:
+  QApplication aplicacion_;
+  Spanish castellano_;
+};
+
+// The end of the program: its exit status, and the message that is still to be shown, or "".
+struct Ending {
+  int Estado;
+  std::u16string Mensaje;
+};
+
+// Runs something of the rules; the ending that it has asked for, if any.
+std::optional<Ending> EndingOf(const std::function<void()>& paso);
+
+}  // namespace tasca

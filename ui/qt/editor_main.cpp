@@ -1,0 +1,9 @@
+// tasca-editor: the editor of the character file.
+#include "ui/qt/application.h"
+#include "ui/qt/editor_program.h"
+
+int main(int argc, char** argv) {
+  const tasca::Application aplicacion{argc, argv};
+  tasca::EditorProgram programa{tasca::Application::Carpeta()};
+  return tasca::Application::Run([&programa] { programa.Open(); });
+}

@@ -1,0 +1,67 @@
+// The editor's window and its boxes.
+#include "ui/qt/editor_program.h"
+
+#include <QApplication>
+#include <utility>
+
+#include "ui/qt/application.h"
+#include "ui/qt/boxes.h"
+#include "ui/qt/phrase_box.h"
+
+namespace tasca {
+
+void QtEditorPort::MsgBox(std::u16string_view texto) {
+  ventana_->ShowState();
+  ShowMessage(ventana_, texto);
+}
+
+bool QtEditorPort::OkCancelBox(std::u16string_view texto, std::u16string_view titulo) {
+  ventana_->ShowState();
+  return AskOkCancel(ventana_, texto, titulo);
+}
+
+std::u16string QtEditorPort::InputBox(std::u16string_view texto, std::u16string_view titulo,
+                                      std::u16string_view porDefecto) {
+  ventana_->ShowState();
+  return AskPhrase(ventana_, texto, titulo, porDefecto, AnchoFrase);
+}
+
+void QtEditorPort::Beep() { QApplication::beep(); }
+
+EditorProgram::EditorProgram(std::filesystem::path carpeta) { t_.Carpeta = std::move(carpeta); }
+
+void EditorProgram::Open() {
+  ventana_ = std::make_unique<Dialog1Form>(
+      t_, port_,
+      Dialog1Form::Events{.Run = [this](const std::function<void()>& suceso) { Run(suceso); },
+                          .Closed = [this] { Close(); }});
+  port_.SetWindow(ventana_.get());
+  ventana_->show();
+}
+
+void EditorProgram::Run(const std::function<void()>& suceso) {
+  if (terminando_) return;
+  const std::optional<Ending> fin = EndingOf(suceso);
+  if (!fin) return;
+  if (!fin->Mensaje.empty()) ShowError(ventana_.get(), fin->Mensaje);
+  Exit(fin->Estado);
+}
+
+void EditorProgram::Close() {
+  if (!terminando_ && HayCambios(ventana_->State(), t_)) {
+    const YesNoQuestion pregunta{
+        .Titulo = {},
+        .Texto = u"Hay cambios que no se han guardado en el disco. ¿Salir sin guardarlos?",
+        .PorDefecto = false};
+    if (!AskYesNo(ventana_.get(), pregunta).value_or(true)) return;
+  }
+  Exit(0);
+}
+
+void EditorProgram::Exit(int estado) {
+  if (terminando_) return;
+  terminando_ = true;
+  QCoreApplication::exit(estado);
+}
+
+}  // namespace tasca

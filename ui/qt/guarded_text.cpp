@@ -1,0 +1,80 @@
+// The three ways into a text box: keys, input methods, and the clipboard or the mouse.
+#include "ui/qt/guarded_text.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QtMath>
+#include <utility>
+
+#include "base/text.h"
+#include "characters/editor.h"
+#include "ui/qt/qt_text.h"
+
+namespace tasca {
+
+GuardedText::GuardedText(QWidget* padre, int maximo, int filas, Refusal alRechazar)
+    : QPlainTextEdit{padre}, maximo_{maximo}, filas_{filas}, alRechazar_{std::move(alRechazar)} {
+  setTabChangesFocus(true);
+  const int alto = qCeil(filas * fontMetrics().lineSpacing() + 2 * document()->documentMargin());
+  setFixedHeight(alto + 2 * frameWidth() + 1);
+  if (filas > 1) return;
+  setLineWrapMode(QPlainTextEdit::NoWrap);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+std::u16string GuardedText::Text() const {
+  const bool intacto = toPlainText() == ToDisplay(mostrado_);
+  return intacto ? mostrado_ : toPlainText().toStdU16String();
+}
+
+void GuardedText::ShowText(std::u16string_view texto) {
+  if (texto == Text()) return;
+  mostrado_ = texto;
+  setPlainText(ToDisplay(texto));
+}
+
+bool GuardedText::Accepts(const QString& insertado) {
+  const auto escogido = textCursor().selectedText().size();
+  const auto largo = toPlainText().size() - escogido + insertado.size();
+  const std::u16string_view reparo =
+      ReparoAlTexto(insertado.toStdU16String(), static_cast<int>(largo), maximo_);
+  alRechazar_(reparo);
+  if (!reparo.empty()) QApplication::beep();
+  return reparo.empty();
+}
+
+void GuardedText::keyPressEvent(QKeyEvent* suceso) {
+  const bool esEnter = suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter;
+  if (esEnter && filas_ == 1) return suceso->ignore();
+  const QString tecleado = esEnter ? QStringLiteral("\n") : suceso->text();
+  const bool escribe = esEnter || (!tecleado.isEmpty() && !IsControl(tecleado.front().unicode()));
+  if (!escribe || Accepts(tecleado)) QPlainTextEdit::keyPressEvent(suceso);
+}
+
+// A refused text still ends the composing that led to it.
+void GuardedText::inputMethodEvent(QInputMethodEvent* suceso) {
+  if (suceso->commitString().isEmpty() || Accepts(suceso->commitString())) {
+    return QPlainTextEdit::inputMethodEvent(suceso);
+  }
+  QInputMethodEvent nada;
+  QPlainTextEdit::inputMethodEvent(&nada);
+}
+
+void GuardedText::insertFromMimeData(const QMimeData* datos) {
+  if (Accepts(datos->text())) QPlainTextEdit::insertFromMimeData(datos);
+}
+
+// A click sets the cursor after the focus has come, and would undo the selection.
+void GuardedText::focusInEvent(QFocusEvent* suceso) {
+  QPlainTextEdit::focusInEvent(suceso);
+  if (suceso->reason() == Qt::PopupFocusReason || suceso->reason() == Qt::ActiveWindowFocusReason) {
+    return;
+  }
+  const bool porClic = suceso->reason() == Qt::MouseFocusReason;
+  QMetaObject::invokeMethod(this, "selectAll",
+                            porClic ? Qt::QueuedConnection : Qt::DirectConnection);
+}
+
+}  // namespace tasca
