@@ -1,0 +1,28 @@
+// tasca-cast SOURCE TARGET: writes a character file from the cast as people write it.
+#include <exception>
+#include <iostream>
+#include <memory>
+
+#include "base/endings.h"
+#include "base/replace_file.h"
+#include "characters/character_file.h"
+#include "ui/cast/cast_source.h"
+#include "ui/utf8.h"
+
+int main(int argc, char** argv) {
+  try {
+    if (argc != 3) {
+      std::cerr << "usage: tasca-cast SOURCE TARGET (personajes.txt, Jugadores.dat)\n";
+      return 2;
+    }
+    const auto mesa = std::make_unique<tasca::Table>();
+    const int cuantos = tasca::LeerReparto(*mesa, argv[1]);
+    tasca::ReplaceFile(argv[2], tasca::TextoPersonajes(*mesa, cuantos));
+    return 0;
+  } catch (const tasca::RunTimeError& error) {
+    std::cerr << "tasca-cast: " << tasca::ToUtf8(error.Message()) << '\n';
+  } catch (const std::exception& error) {
+    std::cerr << "tasca-cast: " << error.what() << '\n';
+  }
+  return 1;
+}
