@@ -9,14 +9,28 @@ namespace {
 
 constexpr std::u16string_view FinDelPrograma = u" El programa va a terminar su ejecución.";
 
+std::u16string NameText(const std::filesystem::path& nombre) {
+  try {
+    return nombre.u16string();
+  } catch (const std::exception&) {
+    return Decode(nombre.native());
+  }
+}
+
 }  // namespace
 
 std::u16string PathText(const std::filesystem::path& archivo) {
-  try {
-    return archivo.u16string();
-  } catch (const std::exception&) {
-    return Decode(archivo.native());
+  std::u16string texto;
+  for (const std::filesystem::path& nombre : archivo) {
+    if (!texto.empty() && !texto.ends_with(u'/')) texto += u'/';
+    texto += NameText(nombre);
   }
+  return texto;
+}
+
+std::u16string PlaceInFile(const std::filesystem::path& archivo, int linea) {
+  return linea > 0 ? Join(PathText(archivo), u", línea ", linea, u": ")
+                   : Join(PathText(archivo), u": ");
 }
 
 RunTimeError::RunTimeError(std::u16string_view queHaPasado)
@@ -24,9 +38,7 @@ RunTimeError::RunTimeError(std::u16string_view queHaPasado)
 
 RunTimeError RunTimeError::InFile(const std::filesystem::path& archivo, int linea,
                                   std::u16string_view queHaPasado) {
-  const std::u16string donde = linea > 0 ? Join(PathText(archivo), u", línea ", linea, u": ")
-                                         : Join(PathText(archivo), u": ");
-  return RunTimeError{Join(donde, queHaPasado)};
+  return RunTimeError{Join(PlaceInFile(archivo, linea), queHaPasado)};
 }
 
 RunTimeError RunTimeError::AlreadyShown(std::u16string_view mensaje) {

@@ -8,8 +8,13 @@
 
 namespace tasca {
 
-// The path as text. One that is no valid UTF-8 comes from older days: it is read in the code page.
+// The path as text. A name in it that is no valid UTF-8 comes from older days: it is read in the
+// code page.
 std::u16string PathText(const std::filesystem::path& archivo);
+
+// "archivo, línea 4: ", the place of a fault in a file; `linea` counts from 1, and 0, the file as a
+// whole, gives "archivo: ".
+std::u16string PlaceInFile(const std::filesystem::path& archivo, int linea);
 
 // A condition that ends the program. The message is Spanish, for the player.
 class RunTimeError : public std::exception {
@@ -17,7 +22,7 @@ class RunTimeError : public std::exception {
   // `queHaPasado` is one or more sentences; the sentence that says that the program ends is added.
   explicit RunTimeError(std::u16string_view queHaPasado);
 
-  // The same for a fault in a file; `linea` counts from 1, 0 means the file as a whole.
+  // The same for a fault in a file, after its place.
   static RunTimeError InFile(const std::filesystem::path& archivo, int linea,
                              std::u16string_view queHaPasado);
 

@@ -12,9 +12,6 @@
 namespace tasca {
 namespace {
 
-constexpr int MaximoPersonajes = 100;
-constexpr int HuecosFrase = 3;
-
 using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
 
 bool Iguales(std::u16string_view una, std::u16string_view otra) { return una == otra; }
@@ -35,7 +32,6 @@ void LeerFrase(Table& t, const LineReader& archivo, Lectura& en, std::u16string_
 }
 
 void LeerDatos(Table& t, LineReader& archivo, Lectura& en) {
-  constexpr std::size_t CifrasOrdaguero = 3;
   if (en.Personaje == MaximoPersonajes) archivo.Fail(u"hay más de 100 personajes.");
   Personaje& personaje = t.Personajes[++en.Personaje];
   personaje.Nombre = Trim(archivo.Require(u"el nombre del personaje"));
@@ -74,9 +70,8 @@ int LeerTodo(Table& t, ComparacionEtiquetas coinciden) {
 
 // At least three digits, after the sign: 007, -005, 1000.
 std::u16string TextoOrdaguero(int valor) {
-  constexpr std::size_t Cifras = 3;
   const std::u16string cifras = ToText(std::abs(valor));
-  const std::size_t ceros = cifras.size() < Cifras ? Cifras - cifras.size() : 0;
+  const std::size_t ceros = cifras.size() < CifrasOrdaguero ? CifrasOrdaguero - cifras.size() : 0;
   return Join(valor < 0 ? u"-" : u"", std::u16string(ceros, u'0'), cifras);
 }
 

@@ -18,6 +18,9 @@ inline constexpr std::array<std::u16string_view, 14> EtiquetasMensaje{
 // The marker that starts a record.
 inline constexpr std::u16string_view EtiquetaDatos = u"Datos";
 
+// How many characters of the propensity to the órdago are read, and at least written.
+inline constexpr int CifrasOrdaguero = 3;
+
 // The character file of the program's folder.
 std::filesystem::path ArchivoPersonajes(const Table& t);
 

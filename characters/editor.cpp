@@ -10,7 +10,6 @@
 namespace tasca {
 namespace {
 
-constexpr int Huecos = 3;
 constexpr std::u16string_view Nul{u"\0", 1};  // fills a phrase that was never set
 
 // What a list's selection stands for: characters, kinds and slots count from 1; 0 is none.
@@ -33,7 +32,7 @@ enum class Forma { ConRelleno, SinRelleno };
 
 void ListarFrases(Dialog1& d, const Table& t, int personaje, int categoria, Forma forma) {
   Vaciar(d.List3);
-  for (int hueco = 1; hueco <= Huecos; ++hueco) {
+  for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
     const FixedText<100>& frase = t.Mensajes[personaje][categoria][hueco];
     d.List3.List.emplace_back(forma == Forma::ConRelleno ? frase.Full() : frase.Trimmed());
   }
@@ -69,7 +68,7 @@ void CorrerPersonajes(Table& t, int eliminado, int cuantos) {
   for (int k = eliminado; k < cuantos; ++k) {
     t.Personajes[k] = t.Personajes[k + 1];
     for (int categoria = 1; categoria <= std::ssize(EtiquetasJugada); ++categoria) {
-      for (int hueco = 1; hueco <= Huecos; ++hueco) {
+      for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
         FixedText<100>& siguiente = t.Mensajes[k + 1][categoria][hueco];
         t.Mensajes[k][categoria][hueco] = siguiente;
         siguiente = u"";

@@ -34,12 +34,6 @@ class EditorPort {
   virtual void Beep() = 0;
 };
 
-// The widths of the text boxes, in characters, and of the phrase that is typed.
-inline constexpr int AnchoNombre = 100;
-inline constexpr int AnchoOrdaguero = 3;
-inline constexpr int AnchoHistoria = 200;
-inline constexpr int AnchoFrase = 100;
-
 // Why `texto` cannot be typed or pasted into a box that would then hold `largo` of at most `maximo`
 // characters, as a sentence for the player; "" when it can. What the file could not hold is
 // refused.

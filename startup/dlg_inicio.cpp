@@ -24,7 +24,6 @@ void AnadirEntrada(DlgInicio& d, std::u16string_view texto, int personaje) {
 
 // Kept: only the first 50 records have room for a story.
 void LeerHistoria(DlgInicio& d, LineReader& archivo, int personaje) {
-  constexpr int MaximoHistorias = 50;
   archivo.Require(u"el valor de ordaguero del personaje");
   const std::u16string historia = archivo.Require(u"la historia del personaje");
   if (personaje > MaximoHistorias) {

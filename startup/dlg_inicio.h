@@ -17,6 +17,9 @@ struct ComboBox {
   int ListIndex = -1;  // -1 while nothing is chosen
 };
 
+// Characters whose stories the dialog has room for.
+inline constexpr int MaximoHistorias = 50;
+
 // The dialog's controls. A form shows them and passes events on; it decides nothing.
 struct DlgInicio {
   std::u16string Text1 =
@@ -31,7 +34,7 @@ struct DlgInicio {
   Array<bool, 0, 1> Check1{true, true};  // use names; use the characters' own phrases
   int Option1 = 0;                       // 0 direct style, 1 indirect style
   bool CbOKEnabled = false;
-  Array<FixedText<200>, 1, 50> HistoriaInicio;  // stories by character
+  Array<FixedText<AnchoHistoria>, 1, MaximoHistorias> HistoriaInicio;  // stories by character
 };
 
 // Fills the lists from the character file, takes the last player's name from "mus.ini", seeds the

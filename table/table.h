@@ -38,11 +38,18 @@ enum class MessageCategory {
   Derr,      // loses the match
 };
 
+// How much the tables of characters hold. Widths are in characters.
+inline constexpr int MaximoPersonajes = 100;
+inline constexpr int HuecosFrase = 3;  // phrases of one kind
+inline constexpr int AnchoNombre = 100;
+inline constexpr int AnchoHistoria = 200;
+inline constexpr int AnchoFrase = 100;
+
 // A computer character. Record 0 of the table of characters is the human: only its name counts.
 struct Personaje {
-  FixedText<100> Nombre;
+  FixedText<AnchoNombre> Nombre;
   Integer Ordaguero;  // propensity to the órdago, about 0 to 100
-  FixedText<200> Historia;
+  FixedText<AnchoHistoria> Historia;
 
   bool operator==(const Personaje&) const = default;
 };
@@ -126,9 +133,9 @@ struct Form1State {
 
 // The program-wide half: filled by the start-up dialog and the character file.
 struct Module1State {
-  Array<Personaje, 0, 100> Personajes;
+  Array<Personaje, 0, MaximoPersonajes> Personajes;
   // Phrases by character, MessageCategory and slot. A slot never filled holds NULs.
-  Array<Array<Array<FixedText<100>, 1, 3>, 1, 14>, 1, 100> Mensajes;
+  Array<Array<Array<FixedText<AnchoFrase>, 1, HuecosFrase>, 1, 14>, 1, MaximoPersonajes> Mensajes;
   Array<Integer, 0, 3> PersonajeAsiento;  // character by seat - 1
   std::u16string NombreJugador;
   bool EstiloDirecto = false;

@@ -51,6 +51,11 @@ TEST(RunTimeError, NamesAFileWithAccents) {
   EXPECT_EQ(Utf8(error.Message()), "/tío/mus.ini: x. El programa va a terminar su ejecución.");
 }
 
+TEST(PlaceInFile, NamesTheFileAndTheLineIfThereIsOne) {
+  EXPECT_EQ(Utf8(PlaceInFile("/tío/mus.ini", 4)), "/tío/mus.ini, línea 4: ");
+  EXPECT_EQ(Utf8(PlaceInFile("mus.ini", 0)), "mus.ini: ");
+}
+
 TEST(RunTimeError, ThatWasAlreadyShownKeepsItsMessageAsItIs) {
   const RunTimeError error = RunTimeError::AlreadyShown(u"No se encuentra. Adiós.");
   EXPECT_EQ(Utf8(error.Message()), "No se encuentra. Adiós.");
@@ -78,9 +83,10 @@ TEST(PathText, IsThePathAsItStands) {
   EXPECT_EQ(Utf8(PathText("/casa/el tío/mus.ini")), "/casa/el tío/mus.ini");
 }
 
-TEST(PathText, ReadsAPathOfOlderDaysInTheCodePage) {
+TEST(PathText, ReadsNamesOfOlderDaysInTheCodePage) {
   EXPECT_EQ(Utf8(PathText("/casa/el t\xEDo/mus.ini")), "/casa/el tío/mus.ini");
-  EXPECT_EQ(Utf8(PathText("/casa/t\xEDo.ini")), "/casa/tío.ini");
+  EXPECT_EQ(Utf8(PathText("/t\xEDo/maño/ma\xF1o.ini")), "/tío/maño/maño.ini");
+  EXPECT_EQ(Utf8(PathText("ma\xF1o.ini")), "maño.ini");
 }
 
 }  // namespace

@@ -14,9 +14,6 @@
 namespace tasca {
 namespace {
 
-constexpr int MaximoPersonajes = 100;
-constexpr int Huecos = 3;
-
 class Lector {
  public:
   Lector(Table& t, const std::filesystem::path& archivo) : t_{t}, archivo_{archivo} {}
@@ -55,7 +52,7 @@ class Lector {
     const auto* const etiqueta = std::find(EtiquetasMensaje.begin(), EtiquetasMensaje.end(), clave);
     if (etiqueta == EtiquetasMensaje.end()) archivo_.Fail(Join(u"no se conoce «", clave, u"»."));
     const auto indice = static_cast<std::size_t>(etiqueta - EtiquetasMensaje.begin());
-    if (frases_.at(indice) == Huecos) archivo_.Fail(u"es la cuarta frase para esta ocasión.");
+    if (frases_.at(indice) == HuecosFrase) archivo_.Fail(u"es la cuarta frase para esta ocasión.");
     const int hueco = ++frases_.at(indice);
     t_.Mensajes[personaje_][static_cast<int>(indice) + 1][hueco] = Comprobado(texto, AnchoFrase);
   }
@@ -69,7 +66,7 @@ class Lector {
   Integer Numero(std::u16string_view texto) const {
     const bool soloCifras = std::all_of(
         texto.begin(), texto.end(), [](char16_t letra) { return letra >= u'0' && letra <= u'9'; });
-    if (!soloCifras || texto.size() > AnchoOrdaguero) {
+    if (!soloCifras || texto.size() > CifrasOrdaguero) {
       archivo_.Fail(u"el valor de Ordaguero no es un número de hasta tres cifras.");
     }
     return ValorOrdaguero(texto);

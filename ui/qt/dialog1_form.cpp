@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "characters/character_file.h"
 #include "table/phase_machine.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qt_text.h"
@@ -87,7 +88,7 @@ Dialog1Form::Dialog1Form(Table& t, EditorPort& port, Events sucesos)
       list2_{NewList(this, "List2")},
       list3_{NewList(this, "List3")},
       text1_{NewText("Text1", AnchoNombre, 1)},
-      text2_{NewText("Text2", AnchoOrdaguero, 1)},
+      text2_{NewText("Text2", CifrasOrdaguero, 1)},
       text3_{NewText("Text3", AnchoHistoria, 4)},
       command1_{
           NewButtons<3>(this, QStringLiteral("Command1_"),

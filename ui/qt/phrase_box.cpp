@@ -26,6 +26,7 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   frase->setMinimumWidth(60 * caja.fontMetrics().averageCharWidth());
   frase->ShowText(porDefecto);
   frase->selectAll();
+  frase->setFocus();
   etiqueta->setBuddy(frase);
   auto* const botones = new QDialogButtonBox{&caja};
   botones->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole)->setDefault(true);

@@ -1,0 +1,60 @@
+// tasca-check FILE: prints every fault of a character file. Ends with 0 when there is none, with 1
+// when there are, with 2 when the file cannot be read.
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "base/endings.h"
+#include "base/text.h"
+#include "characters/check.h"
+#include "ui/terminal/plain_text.h"
+
+namespace tasca {
+namespace {
+
+constexpr int SinFaltas = 0;
+constexpr int ConFaltas = 1;
+constexpr int NoSePuedeLeer = 2;
+
+// One line, whatever stands in the text: no line break of the file's, or of its name's, either.
+void PrintLine(std::ostream& salida, std::u16string_view texto) {
+  constexpr std::u16string_view Sustituto = u"\uFFFD";
+  const std::u16string sinSaltos =
+      ReplaceAll(ReplaceAll(texto, u"\r", Sustituto), u"\n", Sustituto);
+  salida << PlainText(sinSaltos) << '\n';
+}
+
+int Check(const std::filesystem::path& archivo) {
+  const Revision revision = RevisarPersonajes(archivo);
+  for (const Falta& falta : revision.Faltas) {
+    PrintLine(std::cout, Join(PlaceInFile(archivo, falta.Linea), falta.Texto));
+  }
+  if (revision.Faltas.empty()) {
+    PrintLine(std::cout,
+              Join(PlaceInFile(archivo, 0), u"sin faltas; ", revision.Personajes, u" personajes, ",
+                   revision.Ofrecidos, u" se ofrecen como jugadores."));
+  }
+  std::cout.flush();
+  if (!std::cout) throw RunTimeError{u"No se puede escribir el resultado."};
+  return revision.Faltas.empty() ? SinFaltas : ConFaltas;
+}
+
+}  // namespace
+}  // namespace tasca
+
+int main(int argc, char** argv) {
+  try {
+    if (argc != 2) {
+      tasca::PrintLine(std::cerr, u"Uso: tasca-check ARCHIVO (el de los personajes)");
+      return tasca::NoSePuedeLeer;
+    }
+    return tasca::Check(argv[1]);
+  } catch (const tasca::RunTimeError& error) {
+    tasca::PrintLine(std::cerr, error.Message());
+  } catch (const std::exception& error) {
+    std::cerr << "tasca-check: " << error.what() << '\n';
+  }
+  return tasca::NoSePuedeLeer;
+}
