@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <random>
 
@@ -71,19 +72,28 @@ bool DiceEn(const Revision& revision, int linea, const std::string& lector) {
   });
 }
 
-TEST(RevisarPersonajes, StopsWhereTheGamesReaderStops) {
+// A thousand files, of which neither few nor most stop the reader.
+void CompararDondeSeDetiene(const std::string& lector, const std::function<void(Table&)>& leer) {
   std::mt19937 azar{1};
   int detenidos = 0;
   for (int i = 0; i < 1000; ++i) {
     Inicio inicio;
     inicio.carpeta.Write("Jugadores.dat", FicheroAlAzar(azar));
-    const auto donde = DondeSeDetiene([&inicio] { LeerPersonajes(inicio.t); });
+    const auto donde = DondeSeDetiene([&] { leer(inicio.t); });
     const Revision revision = RevisarPersonajes(ArchivoPersonajes(inicio.t));
     detenidos += donde ? 1 : 0;
-    EXPECT_EQ(DondeDice(revision, "el juego"), donde) << inicio.carpeta.Read("Jugadores.dat");
+    EXPECT_EQ(DondeDice(revision, lector), donde) << inicio.carpeta.Read("Jugadores.dat");
   }
   EXPECT_GT(detenidos, 100);
   EXPECT_LT(detenidos, 900);
+}
+
+TEST(RevisarPersonajes, StopsWhereTheGamesReaderStops) {
+  CompararDondeSeDetiene("el juego", [](Table& t) { LeerPersonajes(t); });
+}
+
+TEST(RevisarPersonajes, StopsWhereTheEditorsReaderStops) {
+  CompararDondeSeDetiene("el editor", [](Table& t) { LeerPersonajesSinMayusculas(t); });
 }
 
 TEST(RevisarPersonajes, FindsWhatStopsTheStartUpDialog) {
