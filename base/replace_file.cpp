@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -88,13 +89,13 @@ class Descriptor {
   int numero_;
 };
 
-// The file that a path stands for once its links have been followed.
-fs::path TrueFile(const fs::path& archivo) {
+// The file that a path stands for once its links have been followed; nothing where there is none.
+std::optional<fs::path> TrueFile(const fs::path& archivo) {
   std::error_code error;
-  const fs::path verdadero = fs::canonical(archivo, error);
+  fs::path verdadero = fs::canonical(archivo, error);
   if (!error) return verdadero;
   if (error != std::errc::no_such_file_or_directory) Fail(archivo, error.value());
-  return archivo;
+  return std::nullopt;
 }
 
 // What is to become the file `destino`: it stands beside it until it takes its place, and is
@@ -149,7 +150,7 @@ mode_t PermissionsOf(const fs::path& archivo) {
 }  // namespace
 
 void ReplaceFile(const fs::path& archivo, std::string_view contenido) {
-  const fs::path destino = TrueFile(archivo);
+  const fs::path destino = TrueFile(archivo).value_or(archivo);
   const mode_t permisos = PermissionsOf(destino);
   Check(::access(destino.c_str(), W_OK) == 0 || errno == ENOENT, archivo);
   const Temporary nuevo{destino};
@@ -158,9 +159,10 @@ void ReplaceFile(const fs::path& archivo, std::string_view contenido) {
 }
 
 void BackUpFile(const fs::path& archivo, const fs::path& copia) {
-  const fs::path origen = TrueFile(archivo);
+  const std::optional<fs::path> origen = TrueFile(archivo);
+  if (!origen) return;
   const Temporary nueva{copia};
-  if (!nueva.Link(origen)) nueva.Copy(origen);
+  if (!nueva.Link(*origen)) nueva.Copy(*origen);
   nueva.TakeItsPlace();
 }
 

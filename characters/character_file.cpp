@@ -117,7 +117,7 @@ std::string TextoPersonajes(const Table& t, int cuantos) {
 
 void EscribirPersonajes(const Table& t, int cuantos) {
   const std::filesystem::path archivo = ArchivoPersonajes(t);
-  if (FileExists(archivo)) BackUpFile(archivo, t.Carpeta / "Jugadores.bak");
+  BackUpFile(archivo, t.Carpeta / "Jugadores.bak");
   ReplaceFile(archivo, TextoPersonajes(t, cuantos));
 }
 

@@ -232,6 +232,14 @@ TEST(BackUpFile, CopiesWhereNoSecondNameCanBeGiven) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak"}));
 }
 
+TEST(BackUpFile, LeavesTheLastCopyWhereThereIsNoFile) {
+  const TempFolder carpeta;
+  carpeta.Write("f.bak", "mucho antes");
+  BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
+  EXPECT_EQ(carpeta.Read("f.bak"), "mucho antes");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak"}));
+}
+
 TEST(BackUpFile, LeavesAFolderInTheCopysPlaceAlone) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
