@@ -148,6 +148,14 @@ TEST_F(SaveFaults, AKillAtAnyCallLeavesWholeFiles) {
   EXPECT_GE(muertes, 15);
 }
 
+// What only the disk's memory holds is lost when the current goes.
+TEST_F(SaveFaults, FlushesTheFileBeforeItTakesItsPlaceAndTheFolderAfter) {
+  std::string orden;
+  for (const Call& llamada : CallsOfASave(carpeta_)) orden += llamada.Name + " ";
+  EXPECT_NE(orden.find("link rename openat fsync close "), std::string::npos) << orden;
+  EXPECT_NE(orden.find("write fsync close rename openat fsync close "), std::string::npos) << orden;
+}
+
 class SaveErrors : public SaveFaults, public testing::WithParamInterface<const char*> {};
 
 TEST_P(SaveErrors, AtAnyCallLeaveWholeFilesAndAreTold) {

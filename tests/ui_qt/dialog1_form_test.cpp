@@ -112,6 +112,15 @@ TEST_F(EditorWindow, SelectsACharacterByKeys) {
   EXPECT_EQ(Text("Text3"), "Berta cuida cabras.");
 }
 
+TEST_F(EditorWindow, GoesToTheLastCharacterFromNone) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_End});
+  EXPECT_EQ(ventana_.State().List1.ListIndex, 4);
+  Keys({Qt::Key_Home});
+  EXPECT_EQ(ventana_.State().List1.ListIndex, 0);
+}
+
 TEST_F(EditorWindow, LeavesThePhrasesUnselectedAfterAKindIsChosen) {
   Load();
   Alt(Qt::Key_J);

@@ -29,6 +29,11 @@ class SelectionList : public QListWidget {
     QListWidget::focusInEvent(suceso);
     if (selectedItems().isEmpty()) selectionModel()->clearCurrentIndex();
   }
+  // From nowhere the toolkit goes to the first entry, whatever the key.
+  QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers con) override {
+    const bool alFinal = accion == MoveEnd && !currentIndex().isValid();
+    return alFinal ? model()->index(count() - 1, 0) : QListWidget::moveCursor(accion, con);
+  }
 };
 
 template <class T>
@@ -176,6 +181,7 @@ void Dialog1Form::BuildLayout() {
   auto* const datos = new QVBoxLayout;
   datos->addLayout(BuildData());
   datos->addLayout(BuildPhrases(), 1);
+  list1_->setMinimumWidth(30 * fontMetrics().averageCharWidth());
   auto* const mesa = new QHBoxLayout;
   mesa->addLayout(jugadores, 1);
   mesa->addLayout(datos, 3);
