@@ -31,10 +31,12 @@ std::u16string Reason(int error) {
     case EFBIG:
       return u"no queda sitio en el disco.";
     case EISDIR:
-      return u"hay una carpeta en su lugar.";
+      return u"hay otra cosa en su lugar.";
     case ENOENT:
     case ENOTDIR:
       return u"no existe la carpeta.";
+    case ELOOP:
+      return u"sus enlaces no llevan a un archivo propio.";
     case EIO:
       return u"el disco falla.";
     default:
@@ -108,8 +110,8 @@ class Temporary {
   }
   Temporary(const Temporary&) = delete;
   Temporary& operator=(const Temporary&) = delete;
-  // After the exchange too: two names of one file, which a save that was cut short leaves behind,
-  // are not exchanged but stay both.
+  // Also after the rename: renaming one name of a file over another name of the same file, as a
+  // save that was cut short leaves them, does nothing and leaves both.
   ~Temporary() { ::unlink(ruta_.c_str()); }
 
   bool Link(const fs::path& origen) const { return ::link(origen.c_str(), ruta_.c_str()) == 0; }
@@ -130,7 +132,8 @@ class Temporary {
 
   void TakeItsPlace() const {
     Check(std::rename(ruta_.c_str(), destino_.c_str()) == 0, destino_);
-    const Descriptor carpeta{destino_.parent_path(), O_RDONLY | O_DIRECTORY};
+    const fs::path madre = destino_.parent_path();
+    const Descriptor carpeta{madre.empty() ? "." : madre, O_RDONLY | O_DIRECTORY};
     Check(carpeta.IsOpen() && carpeta.Flush(), destino_);
   }
 
@@ -161,6 +164,10 @@ void ReplaceFile(const fs::path& archivo, std::string_view contenido) {
 void BackUpFile(const fs::path& archivo, const fs::path& copia) {
   const std::optional<fs::path> origen = TrueFile(archivo);
   if (!origen) return;
+  std::error_code error;
+  const bool esArchivo = fs::is_regular_file(*origen, error);
+  if (!esArchivo) Fail(archivo, error ? error.value() : EISDIR);
+  if (origen == TrueFile(copia)) Fail(copia, ELOOP);
   const Temporary nueva{copia};
   if (!nueva.Link(*origen)) nueva.Copy(*origen);
   nueva.TakeItsPlace();

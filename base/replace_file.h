@@ -11,9 +11,9 @@ namespace tasca {
 // alone.
 void ReplaceFile(const std::filesystem::path& archivo, std::string_view contenido);
 
-// Makes `copia` what `archivo` is now, in the place of any earlier copy; does nothing where there is
-// no `archivo`. The copy is a second name for the same file where the disk can give one: `archivo`
-// itself is never away, and replacing it parts the two. Throws RunTimeError.
+// Makes `copia` what `archivo` is now, in the place of any earlier copy; does nothing where there
+// is no `archivo`. The copy is a second name for the same file where the disk can give one:
+// `archivo` itself is never away, and replacing it parts the two. Throws RunTimeError.
 void BackUpFile(const std::filesystem::path& archivo, const std::filesystem::path& copia);
 
 }  // namespace tasca

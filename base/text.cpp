@@ -40,6 +40,8 @@ std::u16string_view Before(std::u16string_view texto, char16_t letra) {
   return texto.substr(0, texto.find(letra));
 }
 
+bool EqualExactly(std::u16string_view uno, std::u16string_view otro) { return uno == otro; }
+
 bool EqualIgnoringCase(std::u16string_view uno, std::u16string_view otro) {
   const auto minuscula = [](char16_t letra) {
     return letra >= u'A' && letra <= u'Z' ? static_cast<char16_t>(letra - u'A' + u'a') : letra;

@@ -20,7 +20,8 @@ bool Contains(std::u16string_view texto, std::u16string_view buscado);
 // The text before the first `letra`, or all of it when there is none.
 std::u16string_view Before(std::u16string_view texto, char16_t letra);
 
-// The same text, the letters A to Z and a to z taken as one.
+// The same text; the same text, the letters A to Z and a to z taken as one.
+bool EqualExactly(std::u16string_view uno, std::u16string_view otro);
 bool EqualIgnoringCase(std::u16string_view uno, std::u16string_view otro);
 
 // A character that shows nothing and could steer a terminal: below the blank, and 7F to 9F.

@@ -12,13 +12,9 @@
 namespace tasca {
 namespace {
 
-using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
-
-bool Iguales(std::u16string_view una, std::u16string_view otra) { return una == otra; }
-
 // Where a reader stands: the next phrase goes to (personaje, categoria, hueco).
 struct Lectura {
-  ComparacionEtiquetas Coinciden;
+  ComparacionEtiquetas Coinciden = nullptr;
   int Personaje = 0;
   int Categoria = 1;
   int Hueco = 0;
@@ -46,12 +42,8 @@ void LeerDatos(Table& t, LineReader& archivo, Lectura& en) {
 void LeerMarca(Table& t, LineReader& archivo, Lectura& en, std::u16string_view etiqueta) {
   en.Hueco = 1;
   if (en.Coinciden(etiqueta, EtiquetaDatos)) return LeerDatos(t, archivo, en);
-  const auto* const marca =
-      std::find_if(EtiquetasMensaje.begin(), EtiquetasMensaje.end(),
-                   [&](std::u16string_view conocida) { return en.Coinciden(etiqueta, conocida); });
-  if (marca != EtiquetasMensaje.end()) {
-    en.Categoria = static_cast<int>(marca - EtiquetasMensaje.begin()) + 1;
-  }
+  const int categoria = CategoriaDe(etiqueta, en.Coinciden);
+  if (categoria > 0) en.Categoria = categoria;
 }
 
 int LeerTodo(Table& t, ComparacionEtiquetas coinciden) {
@@ -104,7 +96,15 @@ Integer ValorOrdaguero(std::u16string_view texto) {
   return LeadingWhole(texto.substr(0, Bastantes));
 }
 
-void LeerPersonajes(Table& t) { LeerTodo(t, Iguales); }
+int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden) {
+  const auto* const conocida =
+      std::find_if(EtiquetasMensaje.begin(), EtiquetasMensaje.end(),
+                   [=](std::u16string_view otra) { return coinciden(etiqueta, otra); });
+  const auto posicion = static_cast<int>(conocida - EtiquetasMensaje.begin());
+  return conocida == EtiquetasMensaje.end() ? 0 : posicion + 1;
+}
+
+void LeerPersonajes(Table& t) { LeerTodo(t, EqualExactly); }
 
 // Kept: the game itself knows the tags only as they are written.
 int LeerPersonajesSinMayusculas(Table& t) { return LeerTodo(t, EqualIgnoringCase); }

@@ -15,6 +15,12 @@ inline constexpr std::array<std::u16string_view, 14> EtiquetasMensaje{
     u"QMus", u"NMus", u"TPar", u"NPar", u"TJue", u"NJue", u"Paso",
     u"Envi", u"EnvM", u"Orda", u"NQui", u"SQui", u"Vict", u"Derr"};
 
+// Compares the text of a marker with a tag.
+using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
+
+// The MessageCategory of a tag, 0 when there is none.
+int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden);
+
 // The marker that starts a record.
 inline constexpr std::u16string_view EtiquetaDatos = u"Datos";
 

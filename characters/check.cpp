@@ -126,17 +126,8 @@ void ExaminarFrase(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
   }
 }
 
-bool EsEtiqueta(Lectores quien, std::u16string_view etiqueta, std::u16string_view buscada) {
-  return quien == LectorEditor ? EqualIgnoringCase(etiqueta, buscada) : etiqueta == buscada;
-}
-
-// The number of the kind of phrase with this tag, 0 when there is none.
-int CategoriaDe(Lectores quien, std::u16string_view etiqueta) {
-  const auto* const marca = std::find_if(
-      EtiquetasMensaje.begin(), EtiquetasMensaje.end(),
-      [=](std::u16string_view buscada) { return EsEtiqueta(quien, etiqueta, buscada); });
-  return marca == EtiquetasMensaje.end() ? 0
-                                         : static_cast<int>(marca - EtiquetasMensaje.begin()) + 1;
+ComparacionEtiquetas ComparacionDe(Lectores quien) {
+  return quien == LectorEditor ? EqualIgnoringCase : EqualExactly;
 }
 
 // Every computer player without a phrase of its own says slot 1 of these two, and so does the
@@ -165,7 +156,7 @@ void EmpezarPersonaje(CuadernoFaltas& c, Lector& l) {
 
 void AnotarDesconocida(CuadernoFaltas& c, Lectores quien, std::u16string_view etiqueta) {
   std::u16string texto = Join(u"la marca ", Cita(etiqueta), u" es desconocida");
-  const int categoria = CategoriaDe(LectorEditor, etiqueta);
+  const int categoria = CategoriaDe(etiqueta, EqualIgnoringCase);
   if (categoria > 0) {
     texto +=
         Join(u": se escribe ", Cita(EtiquetasMensaje.at(static_cast<std::size_t>(categoria - 1))));
@@ -178,8 +169,9 @@ void AnotarDesconocida(CuadernoFaltas& c, Lectores quien, std::u16string_view et
 // True when the line starts a character.
 bool ExaminarMarca(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
   const std::u16string_view etiqueta = Before(linea, u'>');
-  const bool esDatos = EsEtiqueta(l.Quien, etiqueta, EtiquetaDatos);
-  const int categoria = CategoriaDe(l.Quien, etiqueta);
+  const ComparacionEtiquetas coinciden = ComparacionDe(l.Quien);
+  const bool esDatos = coinciden(etiqueta, EtiquetaDatos);
+  const int categoria = CategoriaDe(etiqueta, coinciden);
   l.Hueco = 1;
   if (esDatos) EmpezarPersonaje(c, l);
   if (categoria > 0) {

@@ -5,7 +5,7 @@
 #include "base/endings.h"
 #include "base/text.h"
 #include "characters/character_file.h"
-#include "table/phase_machine.h"
+#include "table/keys.h"
 
 namespace tasca {
 namespace {

@@ -77,7 +77,6 @@ void Command1_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 void Command2_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 
 // Enter and F2 on a phrase ask for its new text.
-inline constexpr int TeclaF2 = 113;
 void List3_KeyDown(Dialog1& d, Table& t, EditorPort& port, int KeyCode);
 
 // Button 0 saves the characters, 1 loads them.

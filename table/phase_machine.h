@@ -1,13 +1,9 @@
 #pragma once
 // The phase machine: every Enter runs the one step of the hand that Fase names.
 #include "table/game.h"
+#include "table/keys.h"
 
 namespace tasca {
-
-inline constexpr int TeclaEnter = 13;
-inline constexpr int TeclaQ = 81;
-inline constexpr int Tecla0 = 48;
-inline constexpr int MayusculasYControl = 3;  // Shift and Ctrl, nothing else
 
 // A key in the input line. Enter runs the step of Fase (an unknown phase does nothing); Q abandons
 // the hand, which is not counted, and starts a new one; Ctrl+Shift+0 lays all hands open. A key

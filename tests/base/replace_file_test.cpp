@@ -153,7 +153,7 @@ TEST(ReplaceFile, LeavesAFolderOfThatNameAlone) {
   carpeta.Write("f.txt/dentro", "x");
   const fs::path ruta = carpeta.Path() / "f.txt";
   EXPECT_EQ(ErrorOf([&] { ReplaceFile(ruta, "nuevo"); }),
-            SinEscribir(ruta, "hay una carpeta en su lugar."));
+            SinEscribir(ruta, "hay otra cosa en su lugar."));
   EXPECT_EQ(carpeta.Read("f.txt/dentro"), "x");
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
@@ -163,6 +163,23 @@ TEST(ReplaceFile, FailsWithoutAFolder) {
   const fs::path ruta = carpeta.Path() / "nada" / "f.txt";
   EXPECT_EQ(ErrorOf([&] { ReplaceFile(ruta, "nuevo"); }),
             SinEscribir(ruta, "no existe la carpeta."));
+}
+
+TEST(ReplaceFile, MakesAFileInTheFolderOneIsIn) {
+  const TempFolder carpeta;
+  const fs::path antes = fs::current_path();
+  fs::current_path(carpeta.Path());
+  EXPECT_EQ(ErrorOf([] { ReplaceFile("f.txt", "nuevo"); }), "");
+  fs::current_path(antes);
+  EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
+}
+
+TEST(ReplaceFile, SaysThatALinkLeadsToItself) {
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "f.txt";
+  fs::create_symlink("f.txt", ruta);
+  EXPECT_EQ(ErrorOf([&] { ReplaceFile(ruta, "nuevo"); }),
+            SinEscribir(ruta, "sus enlaces no llevan a un archivo propio."));
 }
 
 TEST(BackUpFile, KeepsWhatTheFileIsBeforeItIsReplaced) {
@@ -240,6 +257,26 @@ TEST(BackUpFile, LeavesTheLastCopyWhereThereIsNoFile) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak"}));
 }
 
+TEST(BackUpFile, RefusesAFolderInTheFilesPlace) {
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "f.txt";
+  fs::create_directory(ruta);
+  EXPECT_EQ(ErrorOf([&] { BackUpFile(ruta, carpeta.Path() / "f.bak"); }),
+            SinEscribir(ruta, "hay otra cosa en su lugar."));
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+// Else the new file would take the copy's place, and the old one would be lost.
+TEST(BackUpFile, RefusesAFileThatIsALinkToItsCopy) {
+  const TempFolder carpeta;
+  carpeta.Write("f.bak", "antes");
+  fs::create_symlink("f.bak", carpeta.Path() / "f.txt");
+  const fs::path copia = carpeta.Path() / "f.bak";
+  EXPECT_EQ(ErrorOf([&] { BackUpFile(carpeta.Path() / "f.txt", copia); }),
+            SinEscribir(copia, "sus enlaces no llevan a un archivo propio."));
+  EXPECT_EQ(carpeta.Read("f.bak"), "antes");
+}
+
 TEST(BackUpFile, LeavesAFolderInTheCopysPlaceAlone) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
@@ -247,7 +284,7 @@ TEST(BackUpFile, LeavesAFolderInTheCopysPlaceAlone) {
   carpeta.Write("f.bak/dentro", "x");
   const fs::path copia = carpeta.Path() / "f.bak";
   EXPECT_EQ(ErrorOf([&] { BackUpFile(carpeta.Path() / "f.txt", copia); }),
-            SinEscribir(copia, "hay una carpeta en su lugar."));
+            SinEscribir(copia, "hay otra cosa en su lugar."));
   EXPECT_EQ(carpeta.Read("f.txt"), "antes");
   EXPECT_EQ(carpeta.Read("f.bak/dentro"), "x");
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));

@@ -72,6 +72,11 @@ TEST(Join, PutsThePiecesTogetherAsTheyStand) {
   EXPECT_EQ(Join(-1, 2, CrLf), u"-12\r\n");
 }
 
+TEST(EqualExactly, TellsCapitalsFromSmallLetters) {
+  EXPECT_TRUE(EqualExactly(u"QMus", u"QMus"));
+  EXPECT_FALSE(EqualExactly(u"QMus", u"qMus"));
+}
+
 TEST(EqualIgnoringCase, TakesCapitalsAndSmallLettersAsOne) {
   EXPECT_TRUE(EqualIgnoringCase(u"QMus", u"qmUS"));
   EXPECT_TRUE(EqualIgnoringCase(u"AZaz", u"azAZ"));

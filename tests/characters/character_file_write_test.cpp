@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "base/code_page.h"
+#include "base/text.h"
 #include "characters/character_file.h"
 #include "tests/support/errors.h"
 #include "tests/support/tables.h"
@@ -133,7 +133,7 @@ TEST(EscribirPersonajes, LeavesTheFileWhenNoCopyCanBeMade) {
   std::filesystem::create_directory(c.carpeta.Path() / "Jugadores.bak");
   EXPECT_EQ(ErrorOf([&] { EscribirPersonajes(c.t, 1); }),
             "No se ha podido escribir el archivo " + (c.carpeta.Path() / "Jugadores.bak").string() +
-                ": hay una carpeta en su lugar." + FinDelPrograma);
+                ": hay otra cosa en su lugar." + FinDelPrograma);
   EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), "uno");
 }
 
@@ -174,7 +174,17 @@ TEST(LeerPersonajesSinMayusculas, CountsNoneInAnEmptyFileAndAHundredAtMost) {
   c.carpeta.Write("Jugadores.dat", archivo);
   EXPECT_EQ(LeerPersonajesSinMayusculas(c.t), 100);
   c.carpeta.Write("Jugadores.dat", archivo + "Datos>\r\n");
-  EXPECT_NE(ErrorOf([&] { LeerPersonajesSinMayusculas(c.t); }), "");
+  EXPECT_EQ(ErrorOf([&] { LeerPersonajesSinMayusculas(c.t); }),
+            (c.carpeta.Path() / "Jugadores.dat").string() +
+                ", línea 1801: hay más de 100 personajes." + FinDelPrograma);
+}
+
+TEST(CategoriaDe, IsTheNumberOfTheTag) {
+  EXPECT_EQ(CategoriaDe(u"QMus", EqualExactly), 1);
+  EXPECT_EQ(CategoriaDe(u"Derr", EqualExactly), 14);
+  EXPECT_EQ(CategoriaDe(u"derr", EqualExactly), 0);
+  EXPECT_EQ(CategoriaDe(u"derr", EqualIgnoringCase), 14);
+  EXPECT_EQ(CategoriaDe(u"Datos", EqualIgnoringCase), 0);
 }
 
 TEST(ValorOrdaguero, IsTheWholeNumberAtTheStart) {
@@ -187,8 +197,10 @@ TEST(ValorOrdaguero, IsTheWholeNumberAtTheStart) {
 }
 
 TEST(ValorOrdaguero, OverflowsOutside16Bits) {
-  EXPECT_NE(ErrorOf([] { ValorOrdaguero(u"32768"); }), "");
-  EXPECT_NE(ErrorOf([] { ValorOrdaguero(u"999999999999999999999"); }), "");
+  const std::string desbordamiento =
+      std::string{"Desbordamiento: el número no está entre -32768 y 32767."} + FinDelPrograma;
+  EXPECT_EQ(ErrorOf([] { ValorOrdaguero(u"32768"); }), desbordamiento);
+  EXPECT_EQ(ErrorOf([] { ValorOrdaguero(u"999999999999999999999"); }), desbordamiento);
 }
 
 }  // namespace

@@ -25,6 +25,16 @@ TEST(ModificarMensaje, AsksWithThePhraseThatStandsThere) {
   EXPECT_EQ(Utf8(e.t.Mensajes[2][9][3].Full()).substr(0, 12), "van & más  ");
 }
 
+TEST(ModificarMensaje, AsksWithNothingForAPhraseThatWasNeverFilled) {
+  Taller e{2};
+  ElegirFrase(e);
+  e.t.Mensajes[2][9][3] = FixedText<100>{};
+  e.port.Types(u"vale");
+  Command2_Click(e.d, e.t, e.port, 0);
+  EXPECT_EQ(e.port.TakeEvents(),
+            (Textos{"input[Mensaje envido & más]: Nuevo mensaje: (default )"}));
+}
+
 TEST(ModificarMensaje, CutsTheAnswerAndTrimsItThen) {
   Taller e{2};
   ElegirFrase(e);

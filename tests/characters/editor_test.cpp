@@ -99,6 +99,15 @@ TEST(GuardarPersonajes, Kept_BeforeLoadingWritesAnEmptyFile) {
   EXPECT_EQ(e.carpeta.Read("Jugadores.bak"), "lo de antes");
 }
 
+TEST(GuardarPersonajes, TellsNothingWhenItFails) {
+  Taller e{1};
+  std::filesystem::create_directory(e.carpeta.Path() / "Jugadores.bak");
+  EXPECT_EQ(ErrorOf([&] { GuardarPersonajes(e.d, e.t, e.port); }),
+            "No se ha podido escribir el archivo " + (e.carpeta.Path() / "Jugadores.bak").string() +
+                ": hay otra cosa en su lugar." + FinDelPrograma);
+  EXPECT_EQ(e.port.TakeEvents(), Textos{});
+}
+
 TEST(List1_Click, ShowsTheCharacter) {
   Taller e{3};
   List2_Click(e.d, e.t, 5);
@@ -192,7 +201,7 @@ TEST(NuevoJugador, EndsTheProgramForTheHundredAndFirst) {
 TEST(NuevoJugador, EndsTheProgramForAnOrdagueroOutside16Bits) {
   Taller e;
   e.d.Text2 = u"40000";
-  EXPECT_NE(ErrorOf([&] { Command1_Click(e.d, e.t, e.port, 0); }), "");
+  EXPECT_EQ(ErrorOf([&] { Command1_Click(e.d, e.t, e.port, 0); }), Desbordamiento);
 }
 
 TEST(ReleerJugador, StoresTheThreeTextsIntoTheSelectedCharacter) {
@@ -247,18 +256,45 @@ TEST(EliminarJugador, MovesTheLaterCharactersOnePlaceDown) {
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   EXPECT_EQ(e.d.NumPersonajes, 3);
-  EXPECT_EQ(e.Nombre(1), "P1");
-  EXPECT_EQ(e.Nombre(2), "P3");
-  EXPECT_EQ(e.t.Personajes[2].Ordaguero, 30);
-  EXPECT_EQ(e.Nombre(3), "P4");
-  EXPECT_EQ(e.Frase(1, 14, 3), "1-14-3");
-  EXPECT_EQ(e.Frase(2, 1, 1), "3-1-1");
-  EXPECT_EQ(e.Frase(2, 14, 3), "3-14-3");
-  EXPECT_EQ(e.Frase(3, 7, 2), "4-7-2");
-  for (const int categoria : {1, 14}) {
-    EXPECT_EQ(e.Frase(4, categoria, 1), "");
-    EXPECT_FALSE(e.NuncaLlenada(4, categoria, 1));
-  }
+  EXPECT_EQ(e.Datos(1), (Textos{"P1", "10", "H1"}));
+  EXPECT_EQ(e.Datos(2), (Textos{"P3", "30", "H3"}));
+  EXPECT_EQ(e.Datos(3), (Textos{"P4", "40", "H4"}));
+  EXPECT_EQ(e.FrasesDe(1), Taller::FrasesLlenas(1));
+  EXPECT_EQ(e.FrasesDe(2), Taller::FrasesLlenas(3));
+  EXPECT_EQ(e.FrasesDe(3), Taller::FrasesLlenas(4));
+}
+
+TEST(EliminarJugador, LeavesThePlaceOfTheLastOneWithBlankPhrases) {
+  Taller e{2};
+  List1_Click(e.d, e.t, 0);
+  e.port.Confirms(true);
+  Command1_Click(e.d, e.t, e.port, 1);
+  EXPECT_EQ(e.FrasesDe(2), Textos(14 * 3, ""));
+}
+
+TEST(EliminarJugador, Kept_CountsOneLessForAnEntryBeyondTheCount) {
+  Taller e{2};
+  CargarPersonajes(e.d, e.t, e.port);
+  List1_Click(e.d, e.t, 2);
+  e.port.Confirms(true);
+  const Table antes = e.t;
+  Command1_Click(e.d, e.t, e.port, 1);
+  EXPECT_EQ(e.t, antes);
+  EXPECT_EQ(e.d.NumPersonajes, 1);
+  EXPECT_EQ(Entradas(e.d.List1), (Textos{"1. P1", "2. P2", "2. P2"}));
+}
+
+TEST(EliminarJugador, Kept_TheCountMayFallBelowZero) {
+  Taller e{1};
+  CargarPersonajes(e.d, e.t, e.port);
+  List1_Click(e.d, e.t, 0);
+  e.port.Confirms(true).Confirms(true);
+  Command1_Click(e.d, e.t, e.port, 1);
+  Command1_Click(e.d, e.t, e.port, 1);
+  e.port.TakeEvents();
+  Command3_Click(e.d, e.t, e.port, 0);
+  EXPECT_EQ(e.port.TakeEvents(), (Textos{"box: Se han guardado datos de -1 jugadores"}));
+  EXPECT_EQ(e.carpeta.Read("Jugadores.dat"), "");
 }
 
 TEST(EliminarJugador, Kept_LeavesTheOldNumbersAndShowsTheFirstCharacter) {

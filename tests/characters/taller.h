@@ -18,6 +18,11 @@ using Textos = std::vector<std::string>;
 inline constexpr auto IndiceFuera =
     "El índice está fuera del intervalo. El programa va a terminar su ejecución.";
 
+// What it ends with when a number does not fit.
+inline constexpr auto Desbordamiento =
+    "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
+    "ejecución.";
+
 // The editor over a folder of its own. Character n is "Pn", Ordaguero 10 x n, story "Hn", and its
 // phrases are "n-category-slot".
 struct Taller {
@@ -48,6 +53,24 @@ struct Taller {
   }
 
   std::string Nombre(int n) const { return Utf8(t.Personajes[n].Nombre.Trimmed()); }
+  // Name, Ordaguero and story.
+  Textos Datos(int n) const {
+    const Personaje& personaje = t.Personajes[n];
+    return {Nombre(n), Utf8(ToText(personaje.Ordaguero)), Utf8(personaje.Historia.Trimmed())};
+  }
+  // All 42 phrases, and those of Llenar.
+  Textos FrasesDe(int n) const {
+    Textos frases;
+    for (int i = 0; i < 14 * 3; ++i) frases.push_back(Frase(n, i / 3 + 1, i % 3 + 1));
+    return frases;
+  }
+  static Textos FrasesLlenas(int n) {
+    Textos frases;
+    for (int i = 0; i < 14 * 3; ++i) {
+      frases.push_back(Utf8(Join(n, u"-", i / 3 + 1, u"-", i % 3 + 1)));
+    }
+    return frases;
+  }
   std::string Frase(int n, int categoria, int hueco) const {
     return Utf8(t.Mensajes[n][categoria][hueco].Trimmed());
   }

@@ -57,6 +57,12 @@ TEST(LeerReparto, ReadsAnEmptyTextAsNobody) {
   EXPECT_EQ(r.cuantos, 0);
 }
 
+TEST(LeerReparto, PassesOverTheMarkAtTheStartOfAText) {
+  Reparto r;
+  r.Leer("\xEF\xBB\xBF# el reparto\nNombre: Lola\n");
+  EXPECT_EQ(r.cuantos, 1);
+}
+
 TEST(LeerReparto, NamesTheLineOfEveryFault) {
   Reparto r;
   EXPECT_EQ(r.Fallo("QMus: Mus\n"), ", línea 1: el primer personaje no tiene nombre.");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <set>
 
 #include "characters/character_file.h"
 #include "tests/support/scripted_editor_port.h"
@@ -51,7 +52,6 @@ class EditorWindow : public testing::Test {
     return filas;
   }
   std::string Text(const char* nombre) { return Utf8(Find<GuardedText>(nombre)->toPlainText()); }
-  std::string Caption(const char* nombre) { return Utf8(Find<QPushButton>(nombre)->text()); }
 
   TempFolder carpeta_;
   Table t_;
@@ -65,20 +65,23 @@ class EditorWindow : public testing::Test {
 
 TEST_F(EditorWindow, HasTheCaptionsOfTheForm) {
   EXPECT_EQ(Utf8(ventana_.windowTitle()), "Dialog Caption");
-  const std::vector<std::pair<const char*, std::string>> etiquetas{
-      {"Label1", "&Nombre"},    {"Label2", "&Ordaguero"}, {"Label3", "&Historia"},
-      {"Label4", "&Jugadores"}, {"Label5", "&Jugada"},    {"Label6", "&Mensaje"}};
-  for (const auto& [nombre, rotulo] : etiquetas) {
-    EXPECT_EQ(Utf8(Find<QLabel>(nombre)->text()), rotulo);
+  Textos rotulos;
+  for (const char* const nombre : {"Label1", "Label2", "Label3", "Label4", "Label5", "Label6"}) {
+    rotulos.push_back(Utf8(Find<QLabel>(nombre)->text()));
   }
-  EXPECT_EQ(Caption("Command1_0"), "N&uevo jugador");
-  EXPECT_EQ(Caption("Command1_1"), "&Eliminar jugador");
-  EXPECT_EQ(Caption("Command1_2"), "Re&leer  datos jugador");
-  EXPECT_EQ(Caption("Command2_0"), "M&odificar mensaje(f2)");
-  EXPECT_EQ(Caption("Command2_1"), "E&liminar mensaje");
-  EXPECT_EQ(Caption("Command3_0"), "&Guardar en disco");
-  EXPECT_EQ(Caption("Command3_1"), "&Cargar de disco");
-  EXPECT_EQ(Caption("CbOK"), "Aceptar");
+  EXPECT_EQ(rotulos,
+            (Textos{"&Nombre", "&Ordaguero", "&Historia", "&Jugadores", "&Jugada", "&Mensaje"}));
+}
+
+TEST_F(EditorWindow, HasTheCaptionsOfTheButtons) {
+  Textos rotulos;
+  for (const char* const nombre : {"Command1_0", "Command1_1", "Command1_2", "Command2_0",
+                                   "Command2_1", "Command3_0", "Command3_1", "CbOK"}) {
+    rotulos.push_back(Utf8(Find<QPushButton>(nombre)->text()));
+  }
+  EXPECT_EQ(rotulos, (Textos{"N&uevo jugador", "&Eliminar jugador", "Re&leer  datos jugador",
+                             "M&odificar mensaje(f2)", "E&liminar mensaje", "&Guardar en disco",
+                             "&Cargar de disco", "Aceptar"}));
 }
 
 TEST_F(EditorWindow, StartsWithTheKindsOfPhraseAlone) {
@@ -135,12 +138,21 @@ TEST_F(EditorWindow, LeavesThePhrasesUnselectedAfterAKindIsChosen) {
   EXPECT_EQ(ventana_.State().List3.ListIndex, 0);
 }
 
-TEST_F(EditorWindow, GoesToTheNextControlWithTheSameAccessKey) {
+TEST_F(EditorWindow, GoesRoundTheControlsWithTheSameAccessKey) {
   Load();
-  Alt(Qt::Key_J);
-  EXPECT_EQ(Focus(), "List1");
-  Alt(Qt::Key_J);
-  EXPECT_EQ(Focus(), "List2");
+  const auto visitados = [this](Qt::Key tecla) {
+    std::set<std::string> nombres;
+    for (int vez = 0; vez < 4; ++vez) {
+      Alt(tecla);
+      nombres.insert(Focus());
+    }
+    return nombres;
+  };
+  using Nombres = std::set<std::string>;
+  EXPECT_EQ(visitados(Qt::Key_J), (Nombres{"List1", "List2"}));
+  EXPECT_EQ(visitados(Qt::Key_O), (Nombres{"Text2", "Command2_0"}));
+  EXPECT_EQ(visitados(Qt::Key_L), (Nombres{"Command1_2", "Command2_1"}));
+  EXPECT_EQ(port_.TakeEvents(), Textos{});
 }
 
 TEST_F(EditorWindow, ChangesAPhraseWithF2AndWithEnter) {
@@ -160,17 +172,15 @@ TEST_F(EditorWindow, ChangesAPhraseWithF2AndWithEnter) {
                     "input[Mensaje Quiero mus]: Nuevo mensaje: (default mus & más)"}));
 }
 
-TEST_F(EditorWindow, ChangesAPhraseWithADoubleClick) {
+TEST_F(EditorWindow, PressesTheFocusedButtonWithEnter) {
   Load();
   Alt(Qt::Key_J);
   Keys({Qt::Key_Down});
-  auto* const lista = Find<QListWidget>("List3");
-  const QPoint tercera = lista->visualItemRect(lista->item(2)).center();
-  QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier, tercera);
-  EXPECT_EQ(ventana_.State().List3.ListIndex, 2);
-  port_.Types(u"mus");
-  QTest::mouseDClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier, tercera);
-  EXPECT_EQ(Utf8(t_.Mensajes[1][1][3].Trimmed()), "mus");
+  Find<QListWidget>("List3")->setCurrentRow(0);
+  for (int vez = 0; vez < 3 && Focus() != "Command2_1"; ++vez) Alt(Qt::Key_L);
+  EXPECT_EQ(Focus(), "Command2_1");
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(Shown("List3").at(0), "");
 }
 
 TEST_F(EditorWindow, ClearsAPhrase) {
@@ -237,7 +247,9 @@ TEST_F(EditorWindow, SaysWhyItRefusesAKeyUntilTheNextOne) {
   Type(">");
   EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()),
             "El signo > no puede guardarse: separa las partes del archivo.");
+  EXPECT_EQ(port_.TakeEvents(), (Textos{"beep"}));
   Type("a");
+  EXPECT_EQ(port_.TakeEvents(), Textos{});
   EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "");
 }
 

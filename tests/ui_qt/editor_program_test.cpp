@@ -38,14 +38,14 @@ class EditorInWindows : public testing::Test {
     return estado;
   }
 
-  Step Alt(Qt::Key tecla) {
+  static Step Alt(Qt::Key tecla) {
     return [tecla](QWidget* ventana) { Press(ventana, tecla, Qt::AltModifier); };
   }
-  Step Key(Qt::Key tecla) {
+  static Step Key(Qt::Key tecla) {
     return [tecla](QWidget* ventana) { Press(ventana, tecla); };
   }
   // The box in front says this, and is answered by Enter.
-  Step Reads(const char* texto, Qt::Key tecla = Qt::Key_Return) {
+  static Step Reads(const char* texto, Qt::Key tecla = Qt::Key_Return) {
     return [texto, tecla](QWidget* ventana) {
       const auto* const caja = qobject_cast<QMessageBox*>(ventana);
       ASSERT_NE(caja, nullptr) << texto;
@@ -110,6 +110,14 @@ TEST_F(EditorInWindows, EndsWithTheMessageOfARunTimeError) {
       (carpeta_.Path() / "Jugadores.dat").string() +
       ": no se encuentra el archivo. El programa va a terminar su ejecución.";
   EXPECT_EQ(Work({Alt(Qt::Key_C), Reads(mensaje.c_str())}), 1);
+}
+
+TEST_F(EditorInWindows, EndsWithTheMessageOfASaveThatFails) {
+  std::filesystem::create_directory(carpeta_.Path() / "Jugadores.bak");
+  const std::string mensaje =
+      "No se ha podido escribir el archivo " + (carpeta_.Path() / "Jugadores.bak").string() +
+      ": hay otra cosa en su lugar. El programa va a terminar su ejecución.";
+  EXPECT_EQ(Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_G), Reads(mensaje.c_str())}), 1);
 }
 
 TEST_F(EditorInWindows, LeavesTheFileAloneWhenItEndsWithAnError) {

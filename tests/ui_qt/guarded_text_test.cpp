@@ -173,6 +173,22 @@ TEST_F(TextBox, KeepsTheSelectionWhenAMenuGivesTheFocusBack) {
   EXPECT_FALSE(caja_->textCursor().hasSelection());
 }
 
+TEST_F(TextBox, KeepsNoBreakSpaces) {
+  Show(20);
+  Paste(QStringLiteral("a\u00A0b"));
+  EXPECT_EQ(Text(), "a\u00A0b");
+  caja_->ShowText(u"c\u00A0d");
+  EXPECT_EQ(Text(), "c\u00A0d");
+}
+
+TEST_F(TextBox, LeavesOutWhatOnlyStoodForAnOddCharacterOnceItIsEdited) {
+  Show(20);
+  caja_->ShowText(u"a\rb\u0081c");
+  caja_->moveCursor(QTextCursor::End);
+  Type("d");
+  EXPECT_EQ(Text(), "abcd");
+}
+
 TEST_F(TextBox, GivesBackATextThatWasLeftAloneWithItsOddCharacters) {
   Show(20);
   const std::u16string raro{u"a\0b\u0081", 4};

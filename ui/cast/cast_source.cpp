@@ -2,7 +2,6 @@
 #include "ui/cast/cast_source.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "base/line_file.h"
@@ -20,11 +19,16 @@ class Lector {
 
   int Leer() {
     std::string bytes;
-    while (archivo_.NextBytes(bytes)) LeerLinea(FromUtf8(WithoutLineEnd(bytes)));
+    while (archivo_.NextBytes(bytes)) LeerLinea(SinMarca(FromUtf8(WithoutLineEnd(bytes))));
     return personaje_;
   }
 
  private:
+  // Some editors mark a UTF-8 text with a sign at its start that nobody sees.
+  static std::u16string SinMarca(const std::u16string& linea) {
+    return ReplaceAll(linea, u"\uFEFF", u"");
+  }
+
   void LeerLinea(std::u16string_view linea) {
     if (Trim(linea).empty() || linea.starts_with(u'#')) return;
     const std::u16string_view clave = Before(linea, u':');
@@ -49,12 +53,11 @@ class Lector {
   }
 
   void AnadirFrase(std::u16string_view clave, std::u16string_view texto) {
-    const auto* const etiqueta = std::find(EtiquetasMensaje.begin(), EtiquetasMensaje.end(), clave);
-    if (etiqueta == EtiquetasMensaje.end()) archivo_.Fail(Join(u"no se conoce «", clave, u"»."));
-    const auto indice = static_cast<std::size_t>(etiqueta - EtiquetasMensaje.begin());
-    if (frases_.at(indice) == HuecosFrase) archivo_.Fail(u"es la cuarta frase para esta ocasión.");
-    const int hueco = ++frases_.at(indice);
-    t_.Mensajes[personaje_][static_cast<int>(indice) + 1][hueco] = Comprobado(texto, AnchoFrase);
+    const int categoria = CategoriaDe(clave, EqualExactly);
+    if (categoria == 0) archivo_.Fail(Join(u"no se conoce «", clave, u"»."));
+    if (frases_[categoria] == HuecosFrase) archivo_.Fail(u"es la cuarta frase para esta ocasión.");
+    const int hueco = ++frases_[categoria];
+    t_.Mensajes[personaje_][categoria][hueco] = Comprobado(texto, AnchoFrase);
   }
 
   std::u16string_view Comprobado(std::u16string_view texto, int ancho) const {
@@ -75,7 +78,7 @@ class Lector {
   Table& t_;
   LineReader archivo_;
   int personaje_ = 0;
-  std::array<int, EtiquetasMensaje.size()> frases_{};  // of this character, by MessageCategory - 1
+  Array<int, 1, static_cast<int>(EtiquetasMensaje.size())> frases_;  // of this character
 };
 
 }  // namespace

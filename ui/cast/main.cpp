@@ -12,7 +12,7 @@
 int main(int argc, char** argv) {
   try {
     if (argc != 3) {
-      std::cerr << "usage: tasca-cast SOURCE TARGET (personajes.txt, Jugadores.dat)\n";
+      std::cerr << "Uso: tasca-cast PERSONAJES.TXT JUGADORES.DAT\n";
       return 2;
     }
     const auto mesa = std::make_unique<tasca::Table>();

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QScreen>
 #include <QStyleHints>
+#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -51,7 +52,7 @@ std::filesystem::path Application::Carpeta() {
 }
 
 int Application::Run(const std::function<void()>& abrir) {
-  QMetaObject::invokeMethod(QCoreApplication::instance(), abrir, Qt::QueuedConnection);
+  QTimer::singleShot(0, abrir);
   return QApplication::exec();
 }
 

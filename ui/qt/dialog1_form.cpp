@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "characters/character_file.h"
-#include "table/phase_machine.h"
+#include "table/keys.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qt_text.h"
 
@@ -55,7 +55,7 @@ std::array<QPushButton*, N> NewButtons(QWidget* padre, const QString& nombre,
   for (std::size_t i = 0; i < N; ++i) {
     botones.at(i) = Named(new QPushButton{QString::fromUtf16(rotulos.at(i)), padre},
                           nombre + QString::number(i));
-    botones.at(i)->setAutoDefault(false);
+    botones.at(i)->setAutoDefault(true);  // Enter presses it too
   }
   return botones;
 }
@@ -114,10 +114,11 @@ Dialog1Form::Dialog1Form(Table& t, EditorPort& port, Events sucesos)
 }
 
 GuardedText* Dialog1Form::NewText(const char* nombre, int maximo, int filas) {
-  return Named(
-      new GuardedText{this, maximo, filas,
-                      [this](std::u16string_view reparo) { estadoTexto_->ShowText(reparo); }},
-      QString::fromLatin1(nombre));
+  const auto alRechazar = [this](std::u16string_view reparo) {
+    estadoTexto_->ShowText(reparo);
+    if (!reparo.empty()) port_.Beep();
+  };
+  return Named(new GuardedText{this, maximo, filas, alRechazar}, QString::fromLatin1(nombre));
 }
 
 void Dialog1Form::Do(const std::function<void()>& suceso) {
@@ -150,8 +151,6 @@ void Dialog1Form::ConnectLists() {
   alElegir(list1_, [this](int posicion) { List1_Click(estado_, t_, posicion); });
   alElegir(list2_, [this](int posicion) { List2_Click(estado_, t_, posicion); });
   alElegir(list3_, [this](int posicion) { List3_Click(estado_, posicion); });
-  connect(list3_, &QListWidget::itemDoubleClicked, this,
-          [this] { Do([this] { Command2_Click(estado_, t_, port_, 0); }); });
 }
 
 void Dialog1Form::ConnectButtons() {
@@ -168,9 +167,9 @@ void Dialog1Form::ConnectButtons() {
 
 bool Dialog1Form::eventFilter(QObject* objeto, QEvent* suceso) {
   if (objeto != list3_ || suceso->type() != QEvent::KeyPress) return false;
-  const Tecla tecla = TeclaDe(*static_cast<QKeyEvent*>(suceso));
-  if (tecla.KeyCode != TeclaEnter && tecla.KeyCode != TeclaF2) return false;
-  Do([&] { List3_KeyDown(estado_, t_, port_, tecla.KeyCode); });
+  const int tecla = TeclaDe(dynamic_cast<const QKeyEvent&>(*suceso)).KeyCode;
+  if (tecla != TeclaEnter && tecla != TeclaF2) return false;
+  Do([&] { List3_KeyDown(estado_, t_, port_, tecla); });
   return true;
 }
 
@@ -217,7 +216,7 @@ QLayout* Dialog1Form::BuildPhrases() {
 }
 
 QLayout* Dialog1Form::BuildButtons() {
-  cbOK_->setAutoDefault(false);
+  cbOK_->setAutoDefault(true);
   auto* const botones = new QHBoxLayout;
   botones->addWidget(estadoTexto_, 1);
   for (QPushButton* const boton : command3_) botones->addWidget(boton);

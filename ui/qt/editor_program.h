@@ -36,7 +36,8 @@ class EditorProgram {
 
  private:
   void Run(const std::function<void()>& suceso);
-  // The window is to be closed: unsaved changes are not thrown away without asking.
+  // The window is to be closed: what is not on the disk yet is not thrown away without asking. What
+  // was only typed into the text boxes, and not made a character's, is.
   void Close();
   void Exit(int estado);
 

@@ -1,7 +1,6 @@
 // The three ways into a text box: keys, input methods, and the clipboard or the mouse.
 #include "ui/qt/guarded_text.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QtMath>
@@ -24,9 +23,16 @@ GuardedText::GuardedText(QWidget* padre, int maximo, int filas, Refusal alRechaz
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
+QString GuardedText::Typed() const {
+  // toPlainText() would make a blank of every no-break space.
+  return document()->toRawText().replace(QChar::ParagraphSeparator, QChar{u'\n'});
+}
+
+// What only stands for a character of a damaged file would be wrong once it is edited.
 std::u16string GuardedText::Text() const {
-  const bool intacto = toPlainText() == ToDisplay(mostrado_);
-  return intacto ? mostrado_ : toPlainText().toStdU16String();
+  QString texto = Typed();
+  if (texto == ToDisplay(mostrado_)) return mostrado_;
+  return texto.remove(QChar{u'\n'}).remove(QChar::ReplacementCharacter).toStdU16String();
 }
 
 void GuardedText::ShowText(std::u16string_view texto) {
@@ -37,11 +43,10 @@ void GuardedText::ShowText(std::u16string_view texto) {
 
 bool GuardedText::Accepts(const QString& insertado) {
   const auto escogido = textCursor().selectedText().size();
-  const auto largo = toPlainText().size() - escogido + insertado.size();
+  const auto largo = Typed().size() - escogido + insertado.size();
   const std::u16string_view reparo =
       ReparoAlTexto(insertado.toStdU16String(), static_cast<int>(largo), maximo_);
   alRechazar_(reparo);
-  if (!reparo.empty()) QApplication::beep();
   return reparo.empty();
 }
 

@@ -1,8 +1,7 @@
 // The translation of key events.
 #include "ui/qt/keys.h"
 
-#include "characters/editor.h"
-#include "table/phase_machine.h"
+#include "table/keys.h"
 
 namespace tasca {
 namespace {

@@ -1,6 +1,7 @@
 // A prompt, a guarded text box, its line of status, and two buttons.
 #include "ui/qt/phrase_box.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -20,8 +21,11 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   auto* const etiqueta = new QLabel{ToLabel(texto), &caja};
   etiqueta->setTextFormat(Qt::PlainText);
   auto* const estado = new StatusLine{&caja};
-  auto* const frase = new GuardedText{
-      &caja, maximo, 1, [estado](std::u16string_view reparo) { estado->ShowText(reparo); }};
+  const auto alRechazar = [estado](std::u16string_view reparo) {
+    estado->ShowText(reparo);
+    if (!reparo.empty()) QApplication::beep();
+  };
+  auto* const frase = new GuardedText{&caja, maximo, 1, alRechazar};
   frase->setObjectName(QStringLiteral("Text1"));
   frase->setMinimumWidth(60 * caja.fontMetrics().averageCharWidth());
   frase->ShowText(porDefecto);
@@ -33,9 +37,9 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   botones->addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
   QObject::connect(botones, &QDialogButtonBox::accepted, &caja, &QDialog::accept);
   QObject::connect(botones, &QDialogButtonBox::rejected, &caja, &QDialog::reject);
-  auto* const filas = new QVBoxLayout{&caja};
+  QVBoxLayout filas{&caja};
   for (QWidget* const fila : std::initializer_list<QWidget*>{etiqueta, frase, estado, botones}) {
-    filas->addWidget(fila);
+    filas.addWidget(fila);
   }
   return caja.exec() == QDialog::Accepted ? frase->Text() : std::u16string{};
 }
