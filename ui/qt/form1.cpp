@@ -56,20 +56,17 @@ bool Renovar(std::u16string& copiado, const std::u16string& texto) {
 
 }  // namespace
 
-Form1::Form1(Events sucesos)
+Form1::Form1(Events sucesos, bool conSonido)
     : sucesos_{std::move(sucesos)},
       text1_{new InputLine{this, [this](const QKeyEvent& suceso) { return KeyInText1(suceso); }}},
       text2_{new Transcript{this}},
       text3_{new QLineEdit{this}},
-      ayuda_{new QLabel{QStringLiteral("Enter: continuar   ·   Q: abandonar la mano   ·   "
-                                       "Re Pág y Av Pág: repasar lo dicho"),
-                        this}} {
+      ayuda_{new QLabel{this}} {
   ayuda_->setTextFormat(Qt::PlainText);
   setObjectName(QStringLiteral("Form1"));
   setWindowTitle(ToDisplay(TituloAplicacion));
   text1_->setObjectName(QStringLiteral("Text1"));
   text1_->setAccessibleName(QStringLiteral("Sus cartas"));
-  text1_->setAccessibleDescription(ayuda_->text());
   text2_->setObjectName(QStringLiteral("Text2"));
   text2_->setAccessibleName(QStringLiteral("Lo que pasa en la mesa"));
   text3_->setObjectName(QStringLiteral("Text3"));
@@ -78,6 +75,8 @@ Form1::Form1(Events sucesos)
   text2_->installEventFilter(this);
   text3_->installEventFilter(this);
   BuildLayout();
+  layout()->setMenuBar(BuildMenu(conSonido));
+  ShowHelp(conSonido);
   EnlargeTexts();
   resize(QGuiApplication::primaryScreen()->availableSize() * 0.8);
   text1_->setFocus();
@@ -95,6 +94,28 @@ void Form1::BuildLayout() {
   ventana->addWidget(ayuda_);
   setTabOrder(text1_, text2_);
   setTabOrder(text2_, text3_);
+}
+
+QMenuBar* Form1::BuildMenu(bool conSonido) {
+  auto* const menus = new QMenuBar{this};
+  auto* const opciones = menus->addMenu(QStringLiteral("&Opciones"));
+  auto* const sonido = opciones->addAction(QStringLiteral("&Sonido"));
+  sonido->setObjectName(QStringLiteral("Sonido"));
+  sonido->setShortcut(Qt::Key_F9);
+  sonido->setCheckable(true);
+  sonido->setChecked(conSonido);
+  connect(sonido, &QAction::toggled, this, [this](bool encendido) {
+    ShowHelp(encendido);
+    sucesos_.Sonido_Click(encendido);
+  });
+  return menus;
+}
+
+void Form1::ShowHelp(bool conSonido) {
+  ayuda_->setText(QStringLiteral("Enter: continuar   ·   Q: abandonar la mano   ·   "
+                                 "Re Pág y Av Pág: repasar lo dicho   ·   F9: %1 el sonido")
+                      .arg(conSonido ? QStringLiteral("quitar") : QStringLiteral("poner")));
+  text1_->setAccessibleDescription(ayuda_->text());
 }
 
 void Form1::ShowTexts(const Form1State& estado) {

@@ -2,6 +2,7 @@
 // The main window: the scoreboard Text3, the transcript Text2 and the input line Text1.
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -17,10 +18,12 @@ class Form1 : public QWidget {
   struct Events {
     // A key in Text1; it is used up when KeyCode comes back as 0.
     std::function<void(Integer& KeyCode, Integer Shift)> Text1_KeyDown;
+    // The player turns the sounds off or on.
+    std::function<void(bool encendido)> Sonido_Click;
     std::function<void()> Closed;
   };
 
-  explicit Form1(Events sucesos);
+  explicit Form1(Events sucesos, bool conSonido = true);
 
   // Copies the texts that the rules have changed since the last time; what the player has typed
   // into Text1 stays until then.
@@ -34,6 +37,8 @@ class Form1 : public QWidget {
 
  private:
   void BuildLayout();
+  QMenuBar* BuildMenu(bool conSonido);
+  void ShowHelp(bool conSonido);
   void EnlargeTexts();
   bool KeyInText1(const QKeyEvent& suceso);
 

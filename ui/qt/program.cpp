@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "sound/effects.h"
 #include "table/phase_machine.h"
 #include "table/start.h"
 #include "ui/qt/application.h"
@@ -18,6 +19,8 @@ Program::Program(std::filesystem::path carpeta) {
     enPaso_ = false;
     OpenDlgInicio();
   });
+  QObject::connect(&avisoSonido_, &QSocketNotifier::activated, &avisoSonido_,
+                   [this] { AttendSound(); });
 }
 
 void Program::OpenDlgInicio() {
@@ -47,9 +50,12 @@ void Program::CbOK_Click() {
 
 void Program::OpenForm1() {
   Form_Load(g_);
-  form1_ = std::make_unique<Form1>(Form1::Events{
-      .Text1_KeyDown = [this](Integer& tecla, Integer shift) { KeyDown(tecla, shift); },
-      .Closed = [this] { Exit(0); }});
+  form1_ = std::make_unique<Form1>(
+      Form1::Events{
+          .Text1_KeyDown = [this](Integer& tecla, Integer shift) { KeyDown(tecla, shift); },
+          .Sonido_Click = [this](bool encendido) { port_.Mp1().TurnOn(encendido); },
+          .Closed = [this] { Exit(0); }},
+      port_.Mp1().IsOn());
   form1_->ShowTexts(t_);
   form1_->showMaximized();
   port_.SetMainWindow(form1_.get());
@@ -72,6 +78,13 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
   if (!port_.TakeChangePlayers()) return;
   enPaso_ = true;
   cambio_.start();
+}
+
+// Comes between two keys or while a box is open, in the middle of a step then: the rules change
+// nothing but the sound's own fields.
+void Program::AttendSound() {
+  constexpr int parado = 0;
+  if (port_.Mp1().TakeEnd()) Run([this] { Mp1_FinReproduccion(g_, parado); });
 }
 
 bool Program::Run(const std::function<void()>& paso) {

@@ -1,6 +1,7 @@
 #pragma once
 // The program with windows: the start-up dialog, then the main window, and back when the player
 // wants other companions.
+#include <QSocketNotifier>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -28,6 +29,7 @@ class Program {
   void CbOK_Click();
   void OpenForm1();
   void KeyDown(Integer& KeyCode, Integer Shift);
+  void AttendSound();
   // Runs something of the rules; false when it has ended the program.
   bool Run(const std::function<void()>& paso);
   void ShowEnding(std::u16string_view mensaje);
@@ -40,6 +42,7 @@ class Program {
   std::unique_ptr<DlgInicioForm> dlgInicio_;
   std::unique_ptr<Form1> form1_;
   QTimer cambio_;  // the change of windows, right after the key that asked for it
+  QSocketNotifier avisoSonido_{port_.Mp1().Descriptor(), QSocketNotifier::Read};
   bool enPaso_ = false;
   bool terminando_ = false;
 };

@@ -1,4 +1,4 @@
-// Questions as modal boxes, the clock, and no sound yet.
+// Questions as modal boxes, the clock, the sounds.
 #include "ui/qt/qt_port.h"
 
 #include <QTime>
@@ -13,6 +13,7 @@ namespace tasca {
 void QtPort::SetStartWindow(QWidget* dlgInicio) {
   ventana_ = dlgInicio;
   form1_ = nullptr;
+  mp1_.Stop();
 }
 
 void QtPort::SetMainWindow(Form1* form1) {
@@ -51,9 +52,11 @@ std::u16string QtPort::InputBox(const Table& t, std::u16string_view texto,
   return AskText(ventana_, texto, titulo, porDefecto);
 }
 
-// The windows have no loudspeaker yet: the sounds are asked for, and nothing is heard.
-void QtPort::OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) {}
-void QtPort::StopSound(const Table& /*t*/) {}
+void QtPort::OpenSound(const Table& t, std::u16string_view archivo) {
+  mp1_.Open(t.Carpeta, archivo, t.Mp1);
+}
+
+void QtPort::StopSound(const Table& /*t*/) { mp1_.Stop(); }
 
 TimeOfDay QtPort::Now() {
   const QTime ahora = QTime::currentTime();

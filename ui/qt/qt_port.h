@@ -4,16 +4,19 @@
 
 #include "table/port.h"
 #include "ui/qt/form1.h"
+#include "ui/sound/media_player.h"
 
 namespace tasca {
 
 class QtPort : public Port {
  public:
-  // The window that the boxes belong to from now on; none before the first one.
+  // The window that the boxes belong to from now on; none before the first one. With the main
+  // window goes what it was playing.
   void SetStartWindow(QWidget* dlgInicio);
   void SetMainWindow(Form1* form1);
 
   QWidget* Window() const { return ventana_; }
+  MediaPlayer& Mp1() { return mp1_; }
   // Whether the step that has just ended asked for other players; asking forgets it.
   bool TakeChangePlayers();
 
@@ -33,6 +36,7 @@ class QtPort : public Port {
 
   QWidget* ventana_ = nullptr;
   Form1* form1_ = nullptr;
+  MediaPlayer mp1_;
   bool cambiarJugadores_ = false;
 };
 

@@ -35,6 +35,7 @@ void Console::Error(std::u16string_view mensaje) {
 
 std::u16string Console::ReadLine() {
   Flush();
+  if (espera_) espera_();
   std::string bytes;
   if (!std::getline(flujos_.In, bytes)) throw LeaveProgram{};
   if (flujos_.Echoes) {

@@ -1,5 +1,6 @@
 #pragma once
 // The player's end of the line: whole lines out, one line in at a time.
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -7,12 +8,15 @@
 namespace tasca {
 
 // Where a session is played. With `Echoes` the terminal itself shows what is typed, its Enter
-// included; without (a pipe, a file) the program ends the line of the prompt.
+// included; without (a pipe, a file) the program ends the line of the prompt. `Keyboard` is the
+// descriptor behind `In` of a player who can hear this machine's loudspeaker; without, the game is
+// silent.
 struct TerminalStreams {
   std::istream& In;
   std::ostream& Out;
   std::ostream& Err;
   bool Echoes = false;
+  int Keyboard = -1;
 };
 
 class Console {
@@ -28,6 +32,9 @@ class Console {
   // Tells on standard error why the program ends.
   void Error(std::u16string_view mensaje);
 
+  // From now on `espera` runs before each line is read; it returns once there is one.
+  void WaitWith(std::function<void()> espera) { espera_ = std::move(espera); }
+
   // The next line typed, without its line end. Throws LeaveProgram at the end of the input, and
   // RunTimeError when what was written has not arrived.
   std::u16string ReadLine();
@@ -36,6 +43,7 @@ class Console {
 
  private:
   TerminalStreams flujos_;
+  std::function<void()> espera_;
   bool lineaAbierta_ = false;
 };
 

@@ -1,6 +1,7 @@
 // The program tasca-terminal.
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
@@ -16,10 +17,19 @@ std::filesystem::path ProgramFolder(const char* orden) {
   return (error ? std::filesystem::path{orden} : propio).parent_path();
 }
 
+// Who plays from another machine would not hear this one's loudspeaker.
+int Keyboard() {
+  const bool delante = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
+  const bool lejos = std::getenv("SSH_CONNECTION") != nullptr || std::getenv("SSH_TTY") != nullptr;
+  return delante && !lejos ? STDIN_FILENO : -1;
+}
+
 }  // namespace
 
 int main(int /*argc*/, char** argv) {
-  return tasca::RunTerminal(
-      ProgramFolder(argv[0]),
-      {.In = std::cin, .Out = std::cout, .Err = std::cerr, .Echoes = ::isatty(STDIN_FILENO) != 0});
+  return tasca::RunTerminal(ProgramFolder(argv[0]), {.In = std::cin,
+                                                     .Out = std::cout,
+                                                     .Err = std::cerr,
+                                                     .Echoes = ::isatty(STDIN_FILENO) != 0,
+                                                     .Keyboard = Keyboard()});
 }

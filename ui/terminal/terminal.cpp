@@ -2,11 +2,14 @@
 #include "ui/terminal/terminal.h"
 
 #include <memory>
+#include <optional>
 
 #include "base/endings.h"
+#include "sound/effects.h"
 #include "table/phase_machine.h"
 #include "table/start.h"
 #include "ui/terminal/startup_prompts.h"
+#include "ui/terminal/waiting.h"
 
 namespace tasca {
 namespace {
@@ -17,7 +20,13 @@ void PrintHelp(Console& consola, Screen& pantalla) {
       u"Enter sigue la mano.\n"
       u"q abandona la mano y empieza otra.\n"
       u"0 enseña las cartas de los cuatro.\n"
+      u"sonido quita o pone el sonido.\n"
       u"salir, o Ctrl+D, deja el juego.");
+}
+
+void EndSound(Game& g) {
+  constexpr int parado = 0;
+  Mp1_FinReproduccion(g, parado);
 }
 
 void Press(Game& g, int tecla, int mayusculas = 0) {
@@ -25,8 +34,14 @@ void Press(Game& g, int tecla, int mayusculas = 0) {
   Text1_KeyDown(g, KeyCode, mayusculas);
 }
 
+void SwitchSound(Console& consola, MediaPlayer* mp1) {
+  if (mp1 == nullptr) return consola.Line(u"En esta terminal no hay sonido.");
+  mp1->TurnOn(!mp1->IsOn());
+  consola.Line(mp1->IsOn() ? u"Con sonido." : u"Sin sonido.");
+}
+
 // One line typed while the game waits for a key.
-void AttendLine(Game& g, Console& consola, Screen& pantalla) {
+void AttendLine(Game& g, Console& consola, Screen& pantalla, TerminalPort& puerto) {
   const std::u16string orden = Fold(consola.ReadLine());
   if (orden.empty()) {
     Press(g, TeclaEnter);
@@ -36,6 +51,8 @@ void AttendLine(Game& g, Console& consola, Screen& pantalla) {
     Press(g, Tecla0, MayusculasYControl);
   } else if (orden == u"?") {
     PrintHelp(consola, pantalla);
+  } else if (orden == u"sonido") {
+    SwitchSound(consola, puerto.Mp1());
   } else if (orden == u"salir") {
     throw LeaveProgram{};
   } else {
@@ -49,7 +66,7 @@ void PlayMatch(Game& g, Console& consola, Screen& pantalla, TerminalPort& puerto
   consola.Line(u"Enter sigue, q abandona la mano, ? repite sus cartas y el tanteo y da ayuda.");
   while (!puerto.TakeChangePlayers()) {
     pantalla.Show(g.t);
-    AttendLine(g, consola, pantalla);
+    AttendLine(g, consola, pantalla, puerto);
   }
 }
 
@@ -58,7 +75,8 @@ void PlayUntilThePlayerLeaves(Game& g, Console& consola, Screen& pantalla, Termi
     for (;;) {
       AskStartup(g, consola);
       PlayMatch(g, consola, pantalla, puerto);
-      // The main window goes, and with it what it showed.
+      // The main window goes, and with it what it showed and played.
+      puerto.StopSound(g.t);
       static_cast<Form1State&>(g.t) = {};
       pantalla.Show(g.t);
     }
@@ -77,8 +95,11 @@ int RunTerminal(const std::filesystem::path& carpeta, const TerminalStreams& flu
   Rnd rnd;
   Console consola{flujos};
   Screen pantalla{consola};
-  TerminalPort puerto{consola, pantalla, reloj};
+  std::optional<MediaPlayer> mp1;
+  if (flujos.Keyboard >= 0) mp1.emplace();
+  TerminalPort puerto{consola, pantalla, reloj, mp1 ? &*mp1 : nullptr};
   Game g{*mesa, rnd, puerto};
+  if (mp1) consola.WaitWith([&] { WaitForLine(flujos.Keyboard, *mp1, [&g] { EndSound(g); }); });
   try {
     PlayUntilThePlayerLeaves(g, consola, pantalla, puerto);
     return 0;

@@ -46,7 +46,7 @@ TimeOfDay LocalTime() {
           .Segundo = std::min(local.tm_sec, UltimoSegundo)};
 }
 
-TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj)
+TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1)
     : consola_{consola},
       pantalla_{pantalla},
       preguntas_{consola,
@@ -56,7 +56,8 @@ TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj)
                    consola_.Line(u"Enter da la respuesta que está entre corchetes.");
                    return true;
                  }},
-      reloj_{reloj} {}
+      reloj_{reloj},
+      mp1_{mp1} {}
 
 bool TerminalPort::TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
 
@@ -83,6 +84,14 @@ void TerminalPort::ShowDialog(const Table& t, Dialog& dialogo) {
   const int boton = preguntas_.Choose(BiddingPrompt(dialogo, ofrecidos), ofrecidos,
                                       ToText(dialogo.Foco), dialogo.Foco);
   Command1_Click(dialogo, boton);
+}
+
+void TerminalPort::OpenSound(const Table& t, std::u16string_view archivo) {
+  if (mp1_ != nullptr) mp1_->Open(t.Carpeta, archivo, t.Mp1);
+}
+
+void TerminalPort::StopSound(const Table& /*t*/) {
+  if (mp1_ != nullptr) mp1_->Stop();
 }
 
 }  // namespace tasca

@@ -1,6 +1,7 @@
 #pragma once
 // The rules' questions, put at the terminal.
 #include "table/port.h"
+#include "ui/sound/media_player.h"
 #include "ui/terminal/prompts.h"
 #include "ui/terminal/screen.h"
 
@@ -10,11 +11,13 @@ using Clock = TimeOfDay (*)();
 // The local time of day.
 TimeOfDay LocalTime();
 
-// Before every question it shows what is new at the table. It has no loudspeaker.
+// Before every question it shows what is new at the table.
 class TerminalPort : public Port {
  public:
-  TerminalPort(Console& consola, Screen& pantalla, Clock reloj);
+  // Without a media player the sounds are not heard.
+  TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1 = nullptr);
 
+  MediaPlayer* Mp1() const { return mp1_; }
   // True once after the player has asked for other companions.
   bool TakeChangePlayers();
 
@@ -23,8 +26,8 @@ class TerminalPort : public Port {
   std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
                           std::u16string_view porDefecto) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
-  void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
-  void StopSound(const Table& /*t*/) override {}
+  void OpenSound(const Table& t, std::u16string_view archivo) override;
+  void StopSound(const Table& t) override;
   TimeOfDay Now() override { return reloj_(); }
   void ChangePlayers() override { cambiarJugadores_ = true; }
 
@@ -33,6 +36,7 @@ class TerminalPort : public Port {
   Screen& pantalla_;
   Prompts preguntas_;
   Clock reloj_;
+  MediaPlayer* mp1_;
   bool cambiarJugadores_ = false;
 };
 
