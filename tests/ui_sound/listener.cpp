@@ -1,0 +1,34 @@
+// Waiting with a limit.
+#include "tests/ui_sound/listener.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <thread>
+
+namespace tasca::test {
+
+int AttendEnds(MediaPlayer& mp1, std::chrono::milliseconds limite,
+               const std::function<bool()>& alTerminar) {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point fin = Clock::now() + limite;
+  int finales = 0;
+  for (;;) {
+    const auto resto = std::chrono::duration_cast<std::chrono::milliseconds>(fin - Clock::now());
+    pollfd suceso{.fd = mp1.Descriptor(), .events = POLLIN, .revents = 0};
+    if (resto.count() <= 0 || ::poll(&suceso, 1, static_cast<int>(resto.count())) == 0) {
+      return finales;
+    }
+    if (!mp1.TakeEnd()) continue;
+    ++finales;
+    if (alTerminar()) return finales;
+  }
+}
+
+bool WaitForEnd(MediaPlayer& mp1) {
+  return AttendEnds(mp1, std::chrono::seconds{10}, [] { return true; }) == 1;
+}
+
+void LetTheSilencePass() { std::this_thread::sleep_for(std::chrono::milliseconds{200}); }
+
+}  // namespace tasca::test

@@ -1,0 +1,222 @@
+// Decoding, recording and recognising.
+#include "tests/ui_sound/recording.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
+#include <optional>
+#include <span>
+
+namespace tasca::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr double Frecuencia = 44100;
+constexpr std::array<const char*, 4> Archivos{"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3",
+                                              "Son_DaUnaCarta.wav", "Son_aplauso.wav"};
+
+using Samples = std::span<const double>;
+
+struct Sides {
+  std::vector<double> Izquierda;
+  std::vector<double> Derecha;
+};
+
+Sides Split(const std::string& bytes) {
+  Sides lados;
+  for (std::size_t i = 0; i + 3 < bytes.size(); i += 4) {
+    std::array<std::int16_t, 2> par{};
+    std::copy_n(bytes.data() + i, sizeof par, reinterpret_cast<char*>(par.data()));  // NOLINT
+    lados.Izquierda.push_back(par[0]);
+    lados.Derecha.push_back(par[1]);
+  }
+  return lados;
+}
+
+double Product(Samples uno, Samples otro) {
+  return std::inner_product(uno.begin(), uno.end(), otro.begin(), 0.0);
+}
+
+// The factor between a sound and a stretch of the same length, if the one is the other made louder
+// or softer.
+std::optional<double> FactorBetween(Samples sonido, Samples tramo) {
+  const double factor = Product(sonido, tramo) / Product(sonido, sonido);
+  const double energia = Product(tramo, tramo);
+  const double resto = energia - factor * factor * Product(sonido, sonido);
+  constexpr double redondeo = 0.34;  // the mean square error that rounding a sample can leave
+  const double permitido = 1e-3 * energia + redondeo * static_cast<double>(tramo.size());
+  if (energia == 0 || resto > permitido) return std::nullopt;
+  return factor;
+}
+
+std::size_t FirstSound(Samples muestras) {
+  return static_cast<std::size_t>(
+      std::find_if(muestras.begin(), muestras.end(), [](double m) { return m != 0; }) -
+      muestras.begin());
+}
+
+// As long as `factor` times the sound is what was recorded.
+std::size_t HeardLength(Samples sonido, Samples tramo, double factor) {
+  std::size_t largo = 0;
+  while (largo < std::min(sonido.size(), tramo.size()) &&
+         std::abs(tramo[largo] - factor * sonido[largo]) <= 2) {
+    ++largo;
+  }
+  return largo;
+}
+
+// Chooses SDL's driver while it lives.
+class Driver {
+ public:
+  explicit Driver(const char* nombre) {
+    if (const char* const antes = std::getenv(Variable)) antes_ = antes;  // NOLINT
+    ::setenv(Variable, nombre, 1);                                        // NOLINT
+  }
+  Driver(const Driver&) = delete;
+  Driver& operator=(const Driver&) = delete;
+  ~Driver() { ::setenv(Variable, antes_.c_str(), 1); }  // NOLINT
+
+ private:
+  static constexpr const char* Variable = "SDL_AUDIODRIVER";
+  std::string antes_;
+};
+
+// To the tenth, and without a sign before zero.
+double Decibels(double factor) { return std::round(200 * std::log10(factor)) / 10 + 0.0; }
+
+struct Found {
+  Heard Que;
+  std::size_t Desde = 0;
+};
+
+// A silent side tells nothing about its neighbour: both are the factor of a stretch of the loudest
+// part that the beginning of a sound has.
+std::optional<Found> FindAt(const Sides& lados, std::size_t desde, const std::string& archivo,
+                            Samples sonido) {
+  const std::size_t prueba = std::min<std::size_t>(sonido.size(), 4410);
+  if (desde + prueba > lados.Izquierda.size()) return std::nullopt;
+  const auto izquierda =
+      FactorBetween(sonido.first(prueba), Samples{lados.Izquierda}.subspan(desde, prueba));
+  const auto derecha =
+      FactorBetween(sonido.first(prueba), Samples{lados.Derecha}.subspan(desde, prueba));
+  if (!izquierda || !derecha) return std::nullopt;
+  const std::size_t largo =
+      HeardLength(sonido, Samples{lados.Izquierda}.subspan(desde), *izquierda);
+  if (largo < prueba) return std::nullopt;
+  return Found{.Que = {.Archivo = archivo,
+                       .Segundos = static_cast<double>(largo) / Frecuencia,
+                       .Izquierda = Decibels(*izquierda),
+                       .Derecha = Decibels(*derecha)},
+               .Desde = desde};
+}
+
+struct Sound {
+  std::string Archivo;
+  std::vector<double> Muestras;
+};
+
+std::vector<Sound> AllSounds() {
+  std::vector<Sound> sonidos;
+  for (const char* const archivo : Archivos) {
+    sonidos.push_back({archivo, Decoded(fs::path{TASCA_SOURCE_DIR} / "data" / archivo)});
+  }
+  return sonidos;
+}
+
+// The sound whose first audible sample is at `primera` or, made softer, a little before.
+std::optional<Found> FindAround(const Sides& lados, std::size_t primera,
+                                const std::vector<Sound>& sonidos) {
+  constexpr std::size_t masSuave = 400;
+  for (const Sound& sonido : sonidos) {
+    const std::size_t entrada = FirstSound(sonido.Muestras);
+    for (std::size_t antes = entrada; antes <= entrada + masSuave && antes <= primera; ++antes) {
+      if (const auto visto = FindAt(lados, primera - antes, sonido.Archivo, sonido.Muestras)) {
+        return visto;
+      }
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<double> Decoded(const fs::path& archivo) {
+  const Driver driver{"dummy"};
+  EXPECT_EQ(SDL_InitSubSystem(SDL_INIT_AUDIO), 0) << SDL_GetError();
+  EXPECT_EQ(Mix_OpenAudioDevice(44100, AUDIO_S16SYS, 2, 1024, nullptr, 0), 0) << SDL_GetError();
+  Mix_Chunk* const sonido = Mix_LoadWAV(archivo.c_str());
+  EXPECT_NE(sonido, nullptr) << archivo;
+  std::string bytes;
+  if (sonido != nullptr) {
+    bytes.assign(reinterpret_cast<const char*>(sonido->abuf), sonido->alen);  // NOLINT
+  }
+  Mix_FreeChunk(sonido);
+  Mix_CloseAudio();
+  Mix_Quit();
+  SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  const Sides lados = Split(bytes);
+  EXPECT_EQ(lados.Izquierda, lados.Derecha) << archivo;
+  return lados.Izquierda;
+}
+
+std::vector<Heard> Listen(const fs::path& grabacion) {
+  std::ifstream archivo{grabacion, std::ios::binary};
+  const Sides lados = Split({std::istreambuf_iterator<char>{archivo}, {}});
+  const std::vector<Sound> sonidos = AllSounds();
+  const Samples ambos{lados.Izquierda};
+  std::vector<Heard> oidos;
+  for (std::size_t aqui = 0;;) {
+    aqui += FirstSound(ambos.subspan(aqui));
+    if (aqui == ambos.size()) return oidos;
+    const auto visto = FindAround(lados, aqui, sonidos);
+    if (!visto) {
+      ADD_FAILURE() << "something else is heard after " << static_cast<double>(aqui) / Frecuencia << " s";
+      return oidos;
+    }
+    oidos.push_back(visto->Que);
+    aqui = visto->Desde + static_cast<std::size_t>(std::lround(visto->Que.Segundos * Frecuencia));
+  }
+}
+
+std::vector<std::string> Described(const std::vector<Heard>& oidos) {
+  std::vector<std::string> textos;
+  for (const Heard& oido : oidos) {
+    const double entero =
+        static_cast<double>(Decoded(fs::path{TASCA_SOURCE_DIR} / "data" / oido.Archivo).size()) /
+        Frecuencia;
+    EXPECT_NEAR(oido.Segundos, entero, 0.001) << oido.Archivo;
+    std::array<char, 80> texto{};
+    (void)std::snprintf(texto.data(), texto.size(), "%s %.1f %.1f", oido.Archivo.c_str(),
+                        oido.Izquierda, oido.Derecha);
+    textos.emplace_back(texto.data());
+  }
+  return textos;
+}
+
+SoundFolder::SoundFolder() {
+  for (const char* const archivo : Archivos) {
+    fs::copy_file(fs::path{TASCA_SOURCE_DIR} / "data" / archivo, Path() / archivo);
+  }
+  fs::create_symlink(TASCA_SOUND_PROGRAM, Path() / "tasca-sound");
+  const auto poner = [](const char* nombre, const std::string& valor) {
+    EXPECT_EQ(::setenv(nombre, valor.c_str(), 1), 0);  // NOLINT(concurrency-mt-unsafe)
+  };
+  poner("SDL_AUDIODRIVER", "disk");
+  poner("SDL_DISKAUDIOFILE", Recording().string());
+  poner("SDL_DISKAUDIODELAY", "1");
+}
+
+void TakeLoudspeakerAway() {
+  EXPECT_EQ(::setenv("SDL_AUDIODRIVER", "ninguno", 1), 0);  // NOLINT(concurrency-mt-unsafe)
+}
+
+}  // namespace tasca::test
