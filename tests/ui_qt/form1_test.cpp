@@ -31,6 +31,7 @@ class Form1Window : public testing::Test {
   QLineEdit* Text3() { return Control<QLineEdit>(&ventana_, "Text3"); }
 
   std::vector<Pulsada> teclas_;
+  std::vector<bool> sonidos_;
   int cerrada_ = 0;
   Form1State estado_;
   Form1 ventana_{{.Text1_KeyDown =
@@ -38,6 +39,7 @@ class Form1Window : public testing::Test {
                         teclas_.emplace_back(tecla, shift);
                         if (tecla == TeclaEnter || tecla == TeclaQ) tecla = 0;
                       },
+                  .Sonido_Click = [this](bool encendido) { sonidos_.push_back(encendido); },
                   .Closed = [this] { ++cerrada_; }}};
 };
 
@@ -179,6 +181,55 @@ TEST_F(Form1Window, ShowsTextFromFilesAsPlainText) {
   for (const QLabel* const etiqueta : ventana_.findChildren<QLabel*>()) {
     EXPECT_EQ(etiqueta->textFormat(), Qt::PlainText) << Utf8(etiqueta->text());
   }
+}
+
+TEST_F(Form1Window, TurnsTheSoundOffAndOnByF9FromAnyControl) {
+  const auto* const sonido = Control<QAction>(&ventana_, "Sonido");
+  EXPECT_TRUE(sonido->isChecked());
+  Press(&ventana_, Qt::Key_F9);
+  EXPECT_FALSE(sonido->isChecked());
+  Text2()->setFocus();
+  Press(&ventana_, Qt::Key_F9);
+  EXPECT_EQ(sonidos_, (std::vector<bool>{false, true}));
+  EXPECT_TRUE(teclas_.empty()) << "the rules do not get this key";
+  EXPECT_TRUE(Text2()->hasFocus());
+}
+
+TEST_F(Form1Window, OffersTheSoundInAMenu) {
+  const auto* const menu = ventana_.findChild<QMenuBar*>();
+  ASSERT_NE(menu, nullptr);
+  ASSERT_EQ(menu->actions().size(), 1);
+  const QMenu* const opciones = menu->actions().constFirst()->menu();
+  EXPECT_EQ(Utf8(opciones->title()), "&Opciones");
+  QAction* const sonido = opciones->actions().constFirst();
+  EXPECT_EQ(Utf8(sonido->text()), "&Sonido");
+  EXPECT_TRUE(sonido->isCheckable());
+  EXPECT_EQ(sonido->shortcut(), QKeySequence{Qt::Key_F9});
+  sonido->trigger();
+  EXPECT_EQ(sonidos_, std::vector<bool>{false});
+}
+
+TEST_F(Form1Window, SaysWhatF9WillDo) {
+  const auto seLee = [this](const char* texto) {
+    const QString ayuda = Text1()->accessibleDescription();
+    bool visible = false;
+    for (const QLabel* const etiqueta : ventana_.findChildren<QLabel*>()) {
+      visible = visible || etiqueta->text() == ayuda;
+    }
+    return visible && ayuda.contains(QString::fromUtf8(texto));
+  };
+  EXPECT_TRUE(seLee("F9: quitar el sonido"));
+  Press(&ventana_, Qt::Key_F9);
+  EXPECT_TRUE(seLee("F9: poner el sonido"));
+}
+
+TEST(Form1, OpensWithTheSoundAsItWas) {
+  const Form1 ventana{{}, false};
+  EXPECT_FALSE(Control<QAction>(&ventana, "Sonido")->isChecked());
+  EXPECT_NE(Control<QWidget>(&ventana, "Text1")
+                ->accessibleDescription()
+                .indexOf(QStringLiteral("poner el sonido")),
+            -1);
 }
 
 TEST_F(Form1Window, SaysThatItHasBeenClosed) {

@@ -49,6 +49,12 @@ TEST_F(Session, OpensTheTableAndLeavesAtTheEndOfTheInput) {
   EXPECT_EQ(Count(mesa, "\n"), 9) << "the hand is told once, in the transcript";
 }
 
+TEST_F(Session, SaysThatAPipeHasNoSound) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, Puerta + "Sonido\n");
+  EXPECT_EQ(Count(sesion.Out, "En esta terminal no hay sonido.\n"), 1);
+}
+
 TEST_F(Session, TakesInputWithWindowsLineEnds) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, "Eva\r\n3\r\n\r\n\r\n\r\n\r\n\r\nsalir\r\n");
@@ -157,6 +163,7 @@ TEST_F(Session, HelpsWithoutPlayingOn) {
       mesa.ends_with("Enter sigue la mano.\n"
                      "q abandona la mano y empieza otra.\n"
                      "0 enseña las cartas de los cuatro.\n"
+                     "sonido quita o pone el sonido.\n"
                      "salir, o Ctrl+D, deja el juego.\n"))
       << mesa;
   EXPECT_EQ(Count(mesa, "Sus cartas son"), 1);

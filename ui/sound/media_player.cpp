@@ -35,6 +35,7 @@ pid_t Spawn(const std::filesystem::path& programa, int extremo) {
   for (const int salida : {STDOUT_FILENO, STDERR_FILENO}) {
     ::posix_spawn_file_actions_addopen(&acciones, salida, "/dev/null", O_WRONLY, 0);
   }
+  ::posix_spawn_file_actions_addclosefrom_np(&acciones, STDERR_FILENO + 1);
   std::string nombre = programa.native();
   const std::array<char*, 2> argumentos{nombre.data(), nullptr};
   pid_t proceso = 0;

@@ -1,0 +1,139 @@
+// Sounds while the program is played in its windows.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTest>
+#include <utility>
+
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
+#include "tests/ui_sound/listener.h"
+#include "tests/ui_sound/recording.h"
+#include "ui/qt/program.h"
+
+namespace tasca::test {
+namespace {
+
+using Oidos = std::vector<std::string>;
+
+// A player who cuts the mus, takes what Enter gives and plays one short match.
+class ProgramWithSound : public testing::Test {
+ protected:
+  ProgramWithSound() { SetTable(carpeta_, "1\r\n1\r\n1\r\n"); }
+
+  int Play() {
+    Program programa{carpeta_.Path()};
+    bool abierto = false;
+    return PlayUntilEnd(
+        [&] {
+          if (!std::exchange(abierto, true)) return programa.OpenDlgInicio();
+          TakeTurn();
+        },
+        10'000'000);
+  }
+
+  void TakeTurn() {
+    if (QWidget* const caja = QApplication::activeModalWidget()) return enLaCaja_(caja);
+    if (QWidget* const dlgInicio = VisibleWindow("DlgInicio"))
+      return Press(dlgInicio, Qt::Key_Return);
+    if (QWidget* const form1 = VisibleWindow("Form1")) enLaMesa_(form1);
+  }
+
+  static void Answer(QWidget* caja) {
+    const auto* const mensaje = qobject_cast<QMessageBox*>(caja);
+    const QString pregunta = mensaje != nullptr ? mensaje->text() + caja->windowTitle() : QString{};
+    const bool no = pregunta.contains(QStringLiteral("¿mus?")) ||
+                    pregunta.contains(QStringLiteral("¿Desea jugar otra partida?"));
+    Press(caja, no ? Qt::Key_N : Qt::Key_Return);
+  }
+
+  Oidos Recorded() const {
+    LetTheSilencePass();
+    return Described(Listen(carpeta_.Recording()));
+  }
+
+  SoundFolder carpeta_;
+  std::function<void(QWidget*)> enLaCaja_ = Answer;
+  std::function<void(QWidget*)> enLaMesa_ = [](QWidget* ventana) {
+    Press(ventana, Qt::Key_Return);
+  };
+};
+
+const Oidos Comienzo{"Son_BarajaCartas.mp3 0.0 0.0", "Son_ReparteCartas.mp3 0.0 0.0"};
+constexpr int DeSobra = 2000;  // milliseconds in which both sounds are written
+
+TEST_F(ProgramWithSound, PlaysAMatchToTheEnd) { EXPECT_EQ(Play(), 0); }
+
+TEST_F(ProgramWithSound, PlaysAMatchToTheEndWithoutADevice) {
+  TakeLoudspeakerAway();
+  EXPECT_EQ(Play(), 0);
+}
+
+TEST_F(ProgramWithSound, PlaysAMatchToTheEndWithoutItsFiles) {
+  for (const char* const archivo : {"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3",
+                                    "Son_DaUnaCarta.wav", "Son_aplauso.wav", "tasca-sound"}) {
+    std::filesystem::remove(carpeta_.Path() / archivo);
+  }
+  EXPECT_EQ(Play(), 0);
+}
+
+TEST_F(ProgramWithSound, ShufflesAndDealsWhileNobodyDoesAnything) {
+  QElapsedTimer reloj;
+  enLaMesa_ = [&reloj](QWidget* ventana) {
+    if (!reloj.isValid()) reloj.start();
+    if (reloj.hasExpired(DeSobra)) ventana->close();
+  };
+  EXPECT_EQ(Play(), 0);
+  EXPECT_EQ(Recorded(), Comienzo);
+}
+
+TEST_F(ProgramWithSound, DealsAfterTheShuffleWhileABoxIsOpen) {
+  QElapsedTimer reloj;
+  enLaCaja_ = [&reloj](QWidget*) {
+    if (!reloj.isValid()) reloj.start();
+    if (reloj.hasExpired(DeSobra)) QCoreApplication::exit(0);
+  };
+  EXPECT_EQ(Play(), 0);
+  EXPECT_EQ(Recorded(), Comienzo);
+}
+
+TEST_F(ProgramWithSound, IsSilentFromF9OnToTheEnd) {
+  QElapsedTimer reloj;
+  enLaMesa_ = [&reloj](QWidget* ventana) {
+    if (!reloj.isValid()) {
+      reloj.start();
+    } else if (reloj.hasExpired(DeSobra)) {
+      if (Control<QAction>(ventana, "Sonido")->isChecked()) Press(ventana, Qt::Key_F9);
+      Press(ventana, Qt::Key_Return);
+    }
+  };
+  EXPECT_EQ(Play(), 0);
+  EXPECT_EQ(Recorded(), Comienzo);
+}
+
+TEST_F(ProgramWithSound, StaysSilentAtTheNextTable) {
+  int inicios = 0;
+  std::vector<bool> conSonido;
+  enLaMesa_ = [&](QWidget* ventana) {
+    if (inicios != 0) {
+      conSonido.push_back(Control<QAction>(ventana, "Sonido")->isChecked());
+      return static_cast<void>(ventana->close());
+    }
+    if (Control<QAction>(ventana, "Sonido")->isChecked()) Press(ventana, Qt::Key_F9);
+    Press(ventana, Qt::Key_Return);
+  };
+  enLaCaja_ = [&inicios](QWidget* caja) {
+    const auto* const mensaje = qobject_cast<QMessageBox*>(caja);
+    if (mensaje == nullptr || !mensaje->text().startsWith(QStringLiteral("¿Desea"))) {
+      return Answer(caja);
+    }
+    inicios += mensaje->text().contains(QStringLiteral("cambiar")) ? 1 : 0;
+    Press(caja, Qt::Key_S);
+  };
+  EXPECT_EQ(Play(), 0);
+  EXPECT_EQ(conSonido, std::vector<bool>{false});
+}
+
+}  // namespace
+}  // namespace tasca::test

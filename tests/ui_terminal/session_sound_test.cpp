@@ -1,0 +1,94 @@
+// A session whose player can hear the loudspeaker.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <functional>
+#include <sstream>
+#include <streambuf>
+#include <string>
+#include <thread>
+
+#include "tests/ui_sound/recording.h"
+#include "tests/ui_terminal/sessions.h"
+#include "ui/terminal/terminal.h"
+
+namespace tasca::test {
+namespace {
+
+using Oidos = std::vector<std::string>;
+
+// What is typed, one character after the other, as it comes.
+class KeyboardInput : public std::streambuf {
+ public:
+  explicit KeyboardInput(int descriptor) : descriptor_{descriptor} {}
+
+ protected:
+  int_type underflow() override {
+    if (::read(descriptor_, &letra_, 1) != 1) return traits_type::eof();
+    setg(&letra_, &letra_, &letra_ + 1);
+    return traits_type::to_int_type(letra_);
+  }
+
+ private:
+  int descriptor_;
+  char letra_ = 0;
+};
+
+class SessionWithSound : public testing::Test {
+ protected:
+  SessionWithSound() { LlenarCarpeta(carpeta_); }
+
+  using Typist = std::function<void(const std::string& texto)>;
+  // Plays what `jugador` types, at his own pace, until he stops.
+  std::string Play(const std::function<void(const Typist&)>& jugador) {
+    std::array<int, 2> tubo{-1, -1};
+    EXPECT_EQ(::pipe(tubo.data()), 0);
+    std::jthread delante{[&] {
+      jugador([&](const std::string& texto) {
+        EXPECT_EQ(::write(tubo[1], texto.data(), texto.size()), ::ssize_t(texto.size()));
+      });
+      ::close(tubo[1]);
+    }};
+    KeyboardInput teclado{tubo[0]};
+    std::istream in{&teclado};
+    std::ostringstream out;
+    EXPECT_EQ(RunTerminal(carpeta_.Path(), {.In = in, .Out = out, .Err = out, .Keyboard = tubo[0]}),
+              0);
+    delante.join();
+    ::close(tubo[0]);
+    return out.str();
+  }
+
+  static void Wait() { std::this_thread::sleep_for(std::chrono::seconds{2}); }
+
+  SoundFolder carpeta_;
+};
+
+const std::string Puerta = "\n\n\n\n\n\n\n";
+
+TEST_F(SessionWithSound, ShufflesAndDealsWhileItWaitsForALine) {
+  Play([](const Typist& teclear) {
+    teclear(Puerta);
+    Wait();
+  });
+  EXPECT_EQ(Described(Listen(carpeta_.Recording())),
+            (Oidos{"Son_BarajaCartas.mp3 0.0 0.0", "Son_ReparteCartas.mp3 0.0 0.0"}));
+}
+
+TEST_F(SessionWithSound, IsSilentOnDemandAndGoesOn) {
+  const std::string salida = Play([](const Typist& teclear) {
+    teclear(Puerta + "sonido\nq\nq\n");
+    Wait();
+    teclear("sonido\nq\n");
+    Wait();
+  });
+  EXPECT_NE(salida.find("Sin sonido.\n"), std::string::npos);
+  EXPECT_NE(salida.find("Con sonido.\n"), std::string::npos);
+  const std::vector<Heard> oidos = Listen(carpeta_.Recording());
+  ASSERT_EQ(oidos.size(), 1U) << "the recording begins anew with the device";
+  EXPECT_EQ(oidos.front().Archivo, "Son_ReparteCartas.mp3");
+}
+
+}  // namespace
+}  // namespace tasca::test
