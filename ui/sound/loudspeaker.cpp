@@ -15,7 +15,7 @@ constexpr int Canal = 0;
 
 // A file of the game, and nothing that could be read for ever.
 bool MayHoldSound(const std::filesystem::path& archivo) {
-  constexpr std::uintmax_t maximo = 16 * 1024 * 1024;
+  constexpr std::uintmax_t maximo = 16'000'000;
   std::error_code error;
   if (!std::filesystem::is_regular_file(archivo, error)) return false;
   const std::uintmax_t bytes = std::filesystem::file_size(archivo, error);
