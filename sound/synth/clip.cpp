@@ -18,7 +18,10 @@ struct Biquad {
   double b0, b1, b2, a0, a1, a2;
 
   void Run(Clip& clip) const {
-    double x1 = 0, x2 = 0, y1 = 0, y2 = 0;
+    double x1 = 0;
+    double x2 = 0;
+    double y1 = 0;
+    double y2 = 0;
     for (double& x0 : clip) {
       const double y0 = (b0 * x0 + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2) / a0;
       x2 = x1;
@@ -91,7 +94,10 @@ double RoundedOff(double muestra) {
 
 }  // namespace
 
-Clip Silence(double segundos) { return Clip(Count(segundos), 0.0); }
+Clip Silence(double segundos) {
+  Clip nada(Count(segundos), 0.0);
+  return nada;
+}
 
 Clip Noise(double segundos, Rnd& rnd) {
   Clip ruido(Count(segundos));
@@ -184,7 +190,7 @@ void Finish(Clip& clip) {
   const std::size_t entrada = Count(0.001);
   const std::size_t salida = std::min(Count(0.05), clip.size() / 5);
   for (std::size_t i = 0; i < clip.size(); ++i) {
-    const double desdeElFinal = static_cast<double>(clip.size() - 1 - i);
+    const auto desdeElFinal = static_cast<double>(clip.size() - 1 - i);
     const double borde = std::min({1.0, static_cast<double>(i) / static_cast<double>(entrada),
                                    desdeElFinal / static_cast<double>(salida)});
     clip[i] = borde * RoundedOff(factor * clip[i]);

@@ -17,10 +17,14 @@ std::filesystem::path ProgramFolder(const char* orden) {
   return (error ? std::filesystem::path{orden} : propio).parent_path();
 }
 
+bool IsSet(const char* variable) {
+  return std::getenv(variable) != nullptr;  // NOLINT(concurrency-mt-unsafe): there is one thread
+}
+
 // Who plays from another machine would not hear this one's loudspeaker.
 int Keyboard() {
   const bool delante = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
-  const bool lejos = std::getenv("SSH_CONNECTION") != nullptr || std::getenv("SSH_TTY") != nullptr;
+  const bool lejos = IsSet("SSH_CONNECTION") || IsSet("SSH_TTY");
   return delante && !lejos ? STDIN_FILENO : -1;
 }
 
