@@ -8,12 +8,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iomanip>
 #include <numeric>
 #include <optional>
 #include <span>
+#include <sstream>
 
 namespace tasca::test {
 namespace {
@@ -126,6 +127,7 @@ struct Sound {
 
 std::vector<Sound> AllSounds() {
   std::vector<Sound> sonidos;
+  sonidos.reserve(Archivos.size());
   for (const char* const archivo : Archivos) {
     sonidos.push_back({archivo, Decoded(fs::path{TASCA_SOURCE_DIR} / "data" / archivo)});
   }
@@ -139,7 +141,7 @@ std::optional<Found> FindAround(const Sides& lados, std::size_t primera,
   for (const Sound& sonido : sonidos) {
     const std::size_t entrada = FirstSound(sonido.Muestras);
     for (std::size_t antes = entrada; antes <= entrada + masSuave && antes <= primera; ++antes) {
-      if (const auto visto = FindAt(lados, primera - antes, sonido.Archivo, sonido.Muestras)) {
+      if (auto visto = FindAt(lados, primera - antes, sonido.Archivo, sonido.Muestras)) {
         return visto;
       }
     }
@@ -179,7 +181,8 @@ std::vector<Heard> Listen(const fs::path& grabacion) {
     if (aqui == ambos.size()) return oidos;
     const auto visto = FindAround(lados, aqui, sonidos);
     if (!visto) {
-      ADD_FAILURE() << "something else is heard after " << static_cast<double>(aqui) / Frecuencia << " s";
+      ADD_FAILURE() << "something else is heard after " << static_cast<double>(aqui) / Frecuencia
+                    << " s";
       return oidos;
     }
     oidos.push_back(visto->Que);
@@ -194,10 +197,10 @@ std::vector<std::string> Described(const std::vector<Heard>& oidos) {
         static_cast<double>(Decoded(fs::path{TASCA_SOURCE_DIR} / "data" / oido.Archivo).size()) /
         Frecuencia;
     EXPECT_NEAR(oido.Segundos, entero, 0.001) << oido.Archivo;
-    std::array<char, 80> texto{};
-    (void)std::snprintf(texto.data(), texto.size(), "%s %.1f %.1f", oido.Archivo.c_str(),
-                        oido.Izquierda, oido.Derecha);
-    textos.emplace_back(texto.data());
+    std::ostringstream texto;
+    texto << oido.Archivo << std::fixed << std::setprecision(1) << ' ' << oido.Izquierda << ' '
+          << oido.Derecha;
+    textos.push_back(texto.str());
   }
   return textos;
 }

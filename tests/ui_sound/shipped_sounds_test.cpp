@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <string_view>
 
 #include "sound/synth/applause.h"
 #include "sound/synth/cards.h"
@@ -23,9 +24,9 @@ struct Shipped {
 
 class ShippedSound : public testing::TestWithParam<Shipped> {
  protected:
-  fs::path Archivo() const { return fs::path{TASCA_SOURCE_DIR} / "data" / GetParam().Archivo; }
+  static fs::path Archivo() { return fs::path{TASCA_SOURCE_DIR} / "data" / GetParam().Archivo; }
 
-  std::string Bytes() const {
+  static std::string Bytes() {
     std::ifstream archivo{Archivo(), std::ios::binary};
     return {std::istreambuf_iterator<char>{archivo}, {}};
   }
@@ -79,20 +80,27 @@ TEST_P(ShippedSound, IsAsLoudAsTheOthers) {
   EXPECT_NEAR(LevelOfTheLoudestTenth(Decoded(Archivo())), -20, 1.5);
 }
 
+void ExpectOneSideOf44100(std::string_view wav) {
+  using namespace std::string_view_literals;
+  EXPECT_EQ(wav.substr(20, 4), "\1\0\1\0"sv) << "plain samples of one side";
+  EXPECT_EQ(wav.substr(24, 4), "\x44\xAC\0\0"sv) << "44100";
+  EXPECT_EQ(wav.substr(34, 2), "\x10\0"sv) << "16 bits";
+}
+
+void ExpectFramesOf44100(std::string_view mp3) {
+  const auto bits = [mp3](std::size_t i, unsigned mascara) {
+    return static_cast<unsigned char>(mp3[i]) & mascara;
+  };
+  EXPECT_EQ(bits(0, 0xFF), 0xFFU) << "a frame";
+  EXPECT_EQ(bits(1, 0xFE), 0xFAU) << "MPEG 1, layer 3";
+  EXPECT_EQ(bits(2, 0x0C), 0U) << "44100";
+  EXPECT_EQ(bits(3, 0xC0), 0xC0U) << "one side";
+}
+
 TEST_P(ShippedSound, Has44100SamplesASecondOfOneSide) {
   const std::string bytes = Bytes();
   ASSERT_GT(bytes.size(), 44U);
-  if (bytes.starts_with("RIFF")) {
-    EXPECT_EQ(bytes.substr(20, 4), std::string("\1\0\1\0", 4)) << "plain samples of one side";
-    EXPECT_EQ(bytes.substr(24, 4), std::string("\x44\xAC\0\0", 4)) << "44100";
-    EXPECT_EQ(bytes.substr(34, 2), std::string("\x10\0", 2)) << "16 bits";
-  } else {
-    const auto byte = [&bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-    EXPECT_EQ(byte(0), 0xFF) << "a frame";
-    EXPECT_EQ(byte(1) & 0xFE, 0xFA) << "MPEG 1, layer 3";
-    EXPECT_EQ(byte(2) & 0x0C, 0) << "44100";
-    EXPECT_EQ(byte(3) & 0xC0, 0xC0) << "one side";
-  }
+  bytes.starts_with("RIFF") ? ExpectOneSideOf44100(bytes) : ExpectFramesOf44100(bytes);
 }
 
 // Sample by sample, but for what MP3 leaves out.

@@ -14,8 +14,8 @@ namespace {
 // A keyboard whose player types when the test says so.
 class Waiting : public testing::Test {
  protected:
-  Waiting() { EXPECT_EQ(::pipe(tubo_.data()), 0); }
-  ~Waiting() override {
+  void SetUp() override { ASSERT_EQ(::pipe(tubo_.data()), 0); }
+  void TearDown() override {
     ::close(tubo_[0]);
     HangUp();
   }
