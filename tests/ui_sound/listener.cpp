@@ -29,6 +29,12 @@ bool WaitForEnd(MediaPlayer& mp1) {
   return AttendEnds(mp1, std::chrono::seconds{10}, [] { return true; }) == 1;
 }
 
+bool WaitForNews(const MediaPlayer& mp1) {
+  constexpr int medioMinuto = 30'000;
+  pollfd suceso{.fd = mp1.Descriptor(), .events = POLLIN, .revents = 0};
+  return ::poll(&suceso, 1, medioMinuto) == 1;
+}
+
 void LetTheSilencePass() { std::this_thread::sleep_for(std::chrono::milliseconds{200}); }
 
 }  // namespace tasca::test

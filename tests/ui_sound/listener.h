@@ -15,6 +15,9 @@ int AttendEnds(MediaPlayer& mp1, std::chrono::milliseconds limite,
 // One end; false when it does not come within ten seconds.
 bool WaitForEnd(MediaPlayer& mp1);
 
+// Something to take, be it an end or not; false when it does not come within half a minute.
+bool WaitForNews(const MediaPlayer& mp1);
+
 // Lets the recording be written on.
 void LetTheSilencePass();
 

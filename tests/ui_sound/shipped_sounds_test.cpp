@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <ostream>
 #include <string_view>
 
 #include "sound/synth/applause.h"
@@ -21,6 +22,8 @@ struct Shipped {
   double HastaSegundos;
   synth::Clip (*Hacer)();
 };
+
+void PrintTo(const Shipped& sonido, std::ostream* out) { *out << sonido.Archivo; }
 
 class ShippedSound : public testing::TestWithParam<Shipped> {
  protected:
