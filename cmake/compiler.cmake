@@ -8,8 +8,14 @@ add_compile_options(-ffp-contract=off)
 add_compile_definitions(_GLIBCXX_ASSERTIONS)
 
 if(TASCA_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
+  # Only clang sees a value that does not survive a conversion, such as a wrapped 16-bit number.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    list(APPEND sanitizers -fsanitize=implicit-conversion
+      -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/system_headers.ignore)
+  endif()
+  add_compile_options(${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(${sanitizers})
 endif()
 
 # All programs in one folder: it is the program's folder, where the game's files lie.

@@ -42,7 +42,10 @@ std::string RandomPlayer::Settings() {
 std::string RandomPlayer::Start() {
   constexpr std::array<std::string_view, 4> seats{"[0, 0, 0]", "[1, 2, 3]", "[3, 0, 1]",
                                                   "[2, 3, 0]"};
-  const std::string clock = List(Any(24), Any(60), Any(60));
+  const int hour = Any(24);
+  const int minute = Any(60);
+  const int second = Any(60);
+  const std::string clock = List(hour, minute, second);
   const std::string combos{seats.at(static_cast<std::size_t>(Any(4)))};
   const std::string names = Word(Sometimes(50));
   const std::string phrases = Word(provocation_ != Provocation::NoPhrases);

@@ -1,0 +1,85 @@
+// tasca-signature GAMES [FILE]: one number over everything that so many random games ask, say and
+// hold. It is the same from every compiler and at every level of optimisation; with FILE it must be
+// the one that is kept there for as many games.
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+
+#include "tests/ui_trace/random_game.h"
+
+namespace tasca::test {
+namespace {
+
+// FNV-1a, 64 bits.
+class Hash {
+ public:
+  void Add(const std::string& bytes) {
+    constexpr std::uint64_t Primo = 1099511628211U;
+    for (const char byte : bytes) valor_ = (valor_ ^ static_cast<unsigned char>(byte)) * Primo;
+  }
+  std::string Text() const {
+    std::ostringstream texto;
+    texto << std::hex << valor_;
+    return texto.str();
+  }
+
+ private:
+  std::uint64_t valor_ = 14695981039346656037U;
+};
+
+Provocation ProvocationOf(std::uint32_t seed) {
+  return seed % 10 == 0 ? Provocation::HugeAmounts : Provocation::None;
+}
+
+std::string SignatureOf(std::uint32_t games) {
+  const std::filesystem::path characters = TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat";
+  Hash hash;
+  for (std::uint32_t seed = 1; seed <= games; ++seed) {
+    const RandomGame game = PlayRandomGame(characters, seed, 8, ProvocationOf(seed));
+    if (!game.Fault.empty())
+      throw std::runtime_error{"seed " + std::to_string(seed) + ": " + game.Fault};
+    hash.Add(game.In);
+    hash.Add(game.Out);
+  }
+  return hash.Text();
+}
+
+// The signature in a file of lines "GAMES SIGNATURE".
+std::string KeptSignature(const char* path, std::uint32_t games) {
+  std::ifstream lines{path};
+  std::uint32_t ofGames = 0;
+  std::string signature;
+  while (lines >> ofGames >> signature) {
+    if (ofGames == games) return signature;
+  }
+  throw std::runtime_error{"no signature is kept for so many games"};
+}
+
+int Compare(const std::string& found, const std::string& kept) {
+  if (found == kept) return 0;
+  std::cout << "but " << kept << " is kept\n";
+  return 1;
+}
+
+}  // namespace
+}  // namespace tasca::test
+
+int main(int argc, char** argv) {
+  try {
+    if (argc < 2 || argc > 3) throw std::runtime_error{"GAMES [FILE]"};
+    std::uint32_t games = 0;
+    std::from_chars(argv[1], argv[1] + std::strlen(argv[1]), games);
+    const std::string found = tasca::test::SignatureOf(games);
+    std::cout << games << ' ' << found << '\n';
+    return argc == 2 ? 0 : tasca::test::Compare(found, tasca::test::KeptSignature(argv[2], games));
+  } catch (const std::exception& error) {
+    std::cerr << "tasca-signature: " << error.what() << '\n';
+    return 2;
+  }
+}
