@@ -186,6 +186,11 @@ TEST_P(SaveFaults, AForbiddenCallLeavesWholeFilesAndIsTold) {
   ExpectWholeFilesAfterErrors("EACCES");
 }
 
+TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
+  SaveWithFaultAtEveryCall("error=EINTR", IsAboutFiles,
+                           [this](const Outcome& fin) { ExpectASaveOrAMessage(fin); });
+}
+
 // What only the machine's memory holds is lost when the current goes.
 TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   std::string orden;
@@ -197,6 +202,19 @@ TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   EXPECT_NE(orden.find("write fsync close rename openat fsync close "), std::string::npos) << orden;
 }
 
+// A signal that comes in between is nothing to give up for.
+class SaveInterrupted : public SaveFaults {};
+
+TEST_P(SaveInterrupted, GoesOnWriting) {
+  const std::set<std::string> deEscribir{"openat", "write", "fsync"};
+  for (const Call& llamada : CallsOfASave(GetParam())) {
+    if (!deEscribir.contains(llamada.Name)) continue;
+    SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count));
+    EXPECT_EQ(SaveWith(llamada, "error=EINTR").Status, 0);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(WithLinks, SaveInterrupted, testing::Values(DiscoCorriente));
 INSTANTIATE_TEST_SUITE_P(WithLinks, SaveFaults, testing::Values(DiscoCorriente));
 INSTANTIATE_TEST_SUITE_P(WithoutLinks, SaveFaults, testing::Values(DiscoSinEnlaces));
 
