@@ -1,0 +1,25 @@
+#pragma once
+// A port for what is not asked here: it answers No, types nothing, and counts its boxes.
+#include "table/port.h"
+
+namespace tasca::test {
+
+class QuietPort : public Port {
+ public:
+  int Boxes = 0;
+
+  void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override { ++Boxes; }
+  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& /*pregunta*/) override { return false; }
+  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
+                          std::u16string_view /*titulo*/,
+                          std::u16string_view /*porDefecto*/) override {
+    return {};
+  }
+  void ShowDialog(const Table& /*t*/, Dialog& /*dialogo*/) override {}
+  void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
+  void StopSound(const Table& /*t*/) override {}
+  TimeOfDay Now() override { return {}; }
+  void ChangePlayers() override {}
+};
+
+}  // namespace tasca::test
