@@ -1,0 +1,75 @@
+// Lines of a gibibyte, in files that take no room on the disk. What the game needs of memory does
+// not grow with them.
+#include <gtest/gtest.h>
+
+#include "tests/bad_inputs/outcomes.h"
+#include "tests/characters/fichero.h"
+
+namespace tasca::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t Gibibyte = std::uintmax_t{1} << 30U;
+
+// What a table, a whole hand and the longest allowed line take, generously.
+constexpr int MebibytesEnough = 48;
+
+// The file goes on with a gibibyte of NULs, in the line where it ended.
+void Stretch(const fs::path& archivo) {
+  fs::resize_file(archivo, fs::file_size(archivo) + Gibibyte);
+}
+
+struct LongLine {
+  std::string Name;
+  int Linea;  // of the character file; the lines before it are good
+};
+
+void PrintTo(const LongLine& caso, std::ostream* salida) { *salida << caso.Name; }
+
+class GibibyteLine : public testing::TestWithParam<LongLine> {};
+
+TEST_P(GibibyteLine, EndsTheProgramWithItsLineAndTakesNoMemory) {
+  const int linea = GetParam().Linea;
+  const TempFolder carpeta;
+  std::string bytes = Fichero{}.Cortar(linea).Bytes();
+  bytes.resize(bytes.size() - 2);
+  carpeta.Write("Jugadores.dat", bytes);
+  Stretch(carpeta.Path() / "Jugadores.dat");
+  EXPECT_LT(MemoryGrownBy([&] { OutcomesIn(carpeta.Path()); }), MebibytesEnough);
+  EXPECT_EQ(OutcomesIn(carpeta.Path()), AllEndWith("Jugadores.dat, línea " + std::to_string(linea) +
+                                                   ": la línea es demasiado larga."));
+}
+
+INSTANTIATE_TEST_SUITE_P(CharacterFile, GibibyteLine,
+                         testing::Values(LongLine{"FirstLine", 1}, LongLine{"Name", 130},
+                                         LongLine{"Ordaguero", 131}, LongLine{"Story", 132},
+                                         LongLine{"Tag", 133}, LongLine{"Phrase", 134},
+                                         LongLine{"LastLine", 160}),
+                         [](const testing::TestParamInfo<LongLine>& caso) {
+                           return caso.param.Name;
+                         });
+
+class GibibyteSetting : public testing::TestWithParam<int> {};
+
+TEST_P(GibibyteSetting, EndsTheProgramWithItsLineUnlessItIsNeverRead) {
+  const TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", Fichero{}.Bytes());
+  std::string bytes;
+  for (int i = 1; i < GetParam(); ++i) bytes += "7\r\n";
+  carpeta.Write("mus.ini", bytes + "7");
+  Stretch(carpeta.Path() / "mus.ini");
+  std::string esperado = "plays";
+  if (GetParam() <= 4) {
+    esperado = "mus.ini, línea " + std::to_string(GetParam()) + ": la línea es demasiado larga.";
+  }
+  EXPECT_EQ(Play(carpeta.Path()).Outcome, esperado);
+  carpeta.Write("mus.ini", bytes + "7");
+  Stretch(carpeta.Path() / "mus.ini");
+  EXPECT_LT(MemoryGrownBy([&] { Play(carpeta.Path()); }), MebibytesEnough);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, GibibyteSetting, testing::Range(1, 7));
+
+}  // namespace
+}  // namespace tasca::test
