@@ -1,7 +1,6 @@
 // Setting up the toolkit, and catching what the rules throw.
 #include "ui/qt/application.h"
 
-#include <QFile>
 #include <QScreen>
 #include <QStyleHints>
 #include <QTimer>
@@ -45,10 +44,6 @@ Application::Application(int& argc, char** argv) : aplicacion_{Quietly(argc), ar
   // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
   QGuiApplication::styleHints()->setCursorFlashTime(0);
   EnlargeOnTallScreens();
-}
-
-std::filesystem::path Application::Carpeta() {
-  return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
 }
 
 int Application::Run(const std::function<void()>& abrir) {

@@ -2,7 +2,6 @@
 // What the programs with windows share: the toolkit set up for a long, quiet evening, and the two
 // ways in which a rule ends the program. No exception passes through the event loop.
 #include <QApplication>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -15,8 +14,6 @@ class Application {
  public:
   Application(int& argc, char** argv);
 
-  // The program's own folder.
-  static std::filesystem::path Carpeta();
   // Runs `abrir` from the event loop, and the loop to its end; the exit status.
   static int Run(const std::function<void()>& abrir);
 

@@ -1,9 +1,10 @@
 // tasca-editor: the editor of the character file.
+#include "ui/program_folder.h"
 #include "ui/qt/application.h"
 #include "ui/qt/editor_program.h"
 
 int main(int argc, char** argv) {
   const tasca::Application aplicacion{argc, argv};
-  tasca::EditorProgram programa{tasca::Application::Carpeta()};
+  tasca::EditorProgram programa{tasca::ProgramFolder(argv[0])};
   return tasca::Application::Run([&programa] { programa.Open(); });
 }

@@ -2,20 +2,12 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
-#include <system_error>
 
+#include "ui/program_folder.h"
 #include "ui/terminal/terminal.h"
 
 namespace {
-
-// The executable's folder, where the game's files lie.
-std::filesystem::path ProgramFolder(const char* orden) {
-  std::error_code error;
-  const std::filesystem::path propio = std::filesystem::read_symlink("/proc/self/exe", error);
-  return (error ? std::filesystem::path{orden} : propio).parent_path();
-}
 
 bool IsSet(const char* variable) {
   return std::getenv(variable) != nullptr;  // NOLINT(concurrency-mt-unsafe): there is one thread
@@ -31,9 +23,9 @@ int Keyboard() {
 }  // namespace
 
 int main(int /*argc*/, char** argv) {
-  return tasca::RunTerminal(ProgramFolder(argv[0]), {.In = std::cin,
-                                                     .Out = std::cout,
-                                                     .Err = std::cerr,
-                                                     .Echoes = ::isatty(STDIN_FILENO) != 0,
-                                                     .Keyboard = Keyboard()});
+  return tasca::RunTerminal(tasca::ProgramFolder(argv[0]), {.In = std::cin,
+                                                            .Out = std::cout,
+                                                            .Err = std::cerr,
+                                                            .Echoes = ::isatty(STDIN_FILENO) != 0,
+                                                            .Keyboard = Keyboard()});
 }

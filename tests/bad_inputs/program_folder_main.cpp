@@ -1,0 +1,6 @@
+// Prints the folder in which it lies.
+#include <iostream>
+
+#include "ui/program_folder.h"
+
+int main(int /*argc*/, char** argv) { std::cout << tasca::ProgramFolder(argv[0]).native(); }
