@@ -4,25 +4,19 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
 
 #include "tests/support/temp_folder.h"
 #include "tests/traces/compare.h"
+#include "tests/traces/read_file.h"
 #include "ui/trace/session.h"
 
 namespace tasca::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string ReadAll(const fs::path& file) {
-  std::ifstream stream{file, std::ios::binary};
-  if (!stream) throw std::runtime_error{"cannot read " + file.string()};
-  return {std::istreambuf_iterator<char>{stream}, {}};
-}
 
 void WriteAll(const fs::path& file, const std::string& text) {
   std::ofstream stream{file, std::ios::binary};
@@ -35,24 +29,40 @@ struct Outcome {
   std::string Status;  // one line
 };
 
-// Plays in a copy of the folder that all games share, with the game's own files over it: the
-// program rewrites the player's name in "mus.ini".
+// The folder that all games share, without the files that the game does not want, and the game's
+// own files over it.
+void FillFolder(const fs::path& folder, const fs::path& game) {
+  constexpr auto how = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
+  fs::copy(game.parent_path() / "folder", folder, how);
+  if (fs::exists(game / "without")) {
+    for (const std::string& file : LinesOf(ReadFile(game / "without"))) fs::remove(folder / file);
+  }
+  if (fs::exists(game / "folder")) fs::copy(game / "folder", folder, how);
+}
+
+// The errors of a file tell where it lies, which changes from run to run.
+std::string WithoutFolder(std::string out, const std::string& folder) {
+  for (auto at = out.find(folder); at != std::string::npos; at = out.find(folder, at)) {
+    out.replace(at, folder.size(), "FOLDER");
+  }
+  return out;
+}
+
+// Plays in a copy of the folder: the program rewrites the player's name in "mus.ini".
 Outcome PlayGame(const fs::path& game) {
   const TempFolder folder;
-  constexpr auto how = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
-  fs::copy(game.parent_path() / "folder", folder.Path(), how);
-  if (fs::exists(game / "folder")) fs::copy(game / "folder", folder.Path(), how);
-  std::istringstream in{ReadAll(game / "in.jsonl")};
+  FillFolder(folder.Path(), game);
+  std::istringstream in{ReadFile(game / "in.jsonl")};
   std::ostringstream out;
   const int status = RunTrace(folder.Path(), in, out, std::cerr);
-  return {out.str(), std::to_string(status) + "\n"};
+  return {WithoutFolder(out.str(), folder.Path().string()), std::to_string(status) + "\n"};
 }
 
 int Check(const fs::path& game, const Outcome& outcome) {
   const auto difference =
-      FirstDifference(LinesOf(ReadAll(game / "out.jsonl")), LinesOf(outcome.Out));
+      FirstDifference(LinesOf(ReadFile(game / "out.jsonl")), LinesOf(outcome.Out));
   if (difference) std::cout << (game / "out.jsonl").string() << ", " << *difference << '\n';
-  const std::string status = ReadAll(game / "status");
+  const std::string status = ReadFile(game / "status");
   if (status != outcome.Status) {
     std::cout << "exit status: expected " << status << "got " << outcome.Status;
   }
