@@ -2,15 +2,13 @@
 // stops the program, the checker has a fault that says so, and no fault says so of a line before.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
-#include <optional>
 #include <random>
 
-#include "base/endings.h"
 #include "characters/character_file.h"
 #include "characters/check.h"
 #include "tests/characters/fichero.h"
+#include "tests/characters/paradas.h"
 #include "tests/startup/inicio.h"
 
 namespace tasca::test {
@@ -32,48 +30,8 @@ std::string FicheroAlAzar(std::mt19937& azar) {
   return bytes;
 }
 
-// The line at which a reader ends the program, from its message.
-std::optional<int> LineaDe(const RunTimeError& error) {
-  const std::string mensaje = Utf8(error.Message());
-  const std::string marca = ", línea ";
-  const std::size_t en = mensaje.find(marca);
-  return en == std::string::npos ? std::nullopt
-                                 : std::optional{std::stoi(mensaje.substr(en + marca.size()))};
-}
-
-template <class Leer>
-std::optional<int> DondeSeDetiene(const Leer& leer) {
-  try {
-    leer();
-    return std::nullopt;
-  } catch (const RunTimeError& error) {
-    return LineaDe(error);
-  }
-}
-
-bool Detiene(const Falta& falta, const std::string& lector) {
-  const std::string texto = Utf8(falta.Texto);
-  if (texto.find("y aquí se detiene el programa") == std::string::npos) return false;
-  const std::size_t solo = texto.find("(solo para ");
-  return solo == std::string::npos || texto.find(lector, solo) != std::string::npos;
-}
-
-// The first line at which the checker has the reader stop.
-std::optional<int> DondeDice(const Revision& revision, const std::string& lector) {
-  const auto primera =
-      std::find_if(revision.Faltas.begin(), revision.Faltas.end(),
-                   [&lector](const Falta& falta) { return Detiene(falta, lector); });
-  return primera == revision.Faltas.end() ? std::nullopt : std::optional{primera->Linea};
-}
-
-bool DiceEn(const Revision& revision, int linea, const std::string& lector) {
-  return std::any_of(revision.Faltas.begin(), revision.Faltas.end(), [&](const Falta& falta) {
-    return falta.Linea == linea && Detiene(falta, lector);
-  });
-}
-
 // A thousand files, of which neither few nor most stop the reader.
-void CompararDondeSeDetiene(const std::string& lector, const std::function<void(Table&)>& leer) {
+void CompararDondeSeDetiene(std::u16string_view lector, const std::function<void(Table&)>& leer) {
   std::mt19937 azar{1};
   int detenidos = 0;
   for (int i = 0; i < 1000; ++i) {
@@ -89,11 +47,11 @@ void CompararDondeSeDetiene(const std::string& lector, const std::function<void(
 }
 
 TEST(RevisarPersonajes, StopsWhereTheGamesReaderStops) {
-  CompararDondeSeDetiene("el juego", [](Table& t) { LeerPersonajes(t); });
+  CompararDondeSeDetiene(u"el juego", [](Table& t) { LeerPersonajes(t); });
 }
 
 TEST(RevisarPersonajes, StopsWhereTheEditorsReaderStops) {
-  CompararDondeSeDetiene("el editor", [](Table& t) { LeerPersonajesSinMayusculas(t); });
+  CompararDondeSeDetiene(u"el editor", [](Table& t) { LeerPersonajesSinMayusculas(t); });
 }
 
 TEST(RevisarPersonajes, FindsWhatStopsTheStartUpDialog) {
@@ -105,7 +63,7 @@ TEST(RevisarPersonajes, FindsWhatStopsTheStartUpDialog) {
     const auto donde = DondeSeDetiene([&inicio, &bytes] { inicio.Cargar(bytes); });
     const Revision revision = RevisarPersonajes(ArchivoPersonajes(inicio.t));
     detenidos += donde ? 1 : 0;
-    EXPECT_TRUE(!donde || DiceEn(revision, *donde, "el diálogo de inicio")) << bytes;
+    EXPECT_TRUE(!donde || DiceEn(revision, *donde, u"el diálogo de inicio")) << bytes;
   }
   EXPECT_GT(detenidos, 100);
   EXPECT_LT(detenidos, 900);

@@ -16,8 +16,7 @@ struct RandomGame {
   std::string Fault;  // "" when all was as it must be
 };
 
-// Plays with this character file in a folder of its own. A game that was not provoked must end
-// well; a provoked one may also end in the run-time error that it asks for.
+// Plays with this character file in a folder of its own. The same seed always plays the same.
 RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed, int hands,
                           Provocation provocation);
 

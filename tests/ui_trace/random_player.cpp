@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "tests/ui_trace/invariants.h"
 
@@ -21,20 +22,27 @@ std::string YesOrNo(bool yes) {
   return R"({"button": ")" + std::string{yes ? "yes" : "no"} + "\"}";
 }
 
+std::string_view ErrorOf(Provocation provocation) {
+  switch (provocation) {
+    case Provocation::NoPhrases:
+      return "Un personaje no tiene nada que decir";
+    case Provocation::HugeAmounts:
+      return "Desbordamiento";
+    default:
+      return {};
+  }
+}
+
 }  // namespace
 
-RandomPlayer::RandomPlayer(std::uint32_t seed, int hands, Provocation provocation)
-    : engine_{seed}, hands_{hands}, provocation_{provocation} {}
-
-int RandomPlayer::Any(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
-
-bool RandomPlayer::Sometimes(int percent) { return Any(100) < percent; }
+RandomPlayer::RandomPlayer(Chooser any, int hands, Provocation provocation)
+    : any_{std::move(any)}, hands_{hands}, provocation_{provocation} {}
 
 std::string RandomPlayer::Settings() {
   constexpr std::array<int, 6> stones{1, 5, 12, 25, 40, 200};
-  const int piedras = stones.at(static_cast<std::size_t>(Any(6)));
-  const int juegos = Any(5) + 1;
-  const int vacas = Any(5) + 1;
+  const int piedras = stones.at(static_cast<std::size_t>(any_(6)));
+  const int juegos = any_(5) + 1;
+  const int vacas = any_(5) + 1;
   return std::to_string(piedras) + "\r\n" + std::to_string(juegos) + "\r\n" +
          std::to_string(vacas) + "\r\nAna> Nombre\r\n";
 }
@@ -42,45 +50,45 @@ std::string RandomPlayer::Settings() {
 std::string RandomPlayer::Start() {
   constexpr std::array<std::string_view, 4> seats{"[0, 0, 0]", "[1, 2, 3]", "[3, 0, 1]",
                                                   "[2, 3, 0]"};
-  const int hour = Any(24);
-  const int minute = Any(60);
-  const int second = Any(60);
+  const int hour = any_(24);
+  const int minute = any_(60);
+  const int second = any_(60);
   const std::string clock = List(hour, minute, second);
-  const std::string combos{seats.at(static_cast<std::size_t>(Any(4)))};
+  const std::string combos{seats.at(static_cast<std::size_t>(any_(4)))};
   const std::string names = Word(Sometimes(50));
   const std::string phrases = Word(provocation_ != Provocation::NoPhrases);
-  const std::string option = std::to_string(Any(2));
+  const std::string option = std::to_string(any_(2));
   return R"({"start": {"clock": )" + clock + R"(, "combos": )" + combos + R"(, "checks": [)" +
          names + ", " + phrases + R"(], "option": )" + option + "}}";
 }
 
 std::string RandomPlayer::Move() {
   if (Sometimes(90)) return R"({"key": 13})";
-  if (Sometimes(60)) return R"({"sound": )" + std::to_string(Any(4) * 2) + "}";
+  if (Sometimes(60)) return R"({"sound": )" + std::to_string(any_(4) * 2) + "}";
   if (Sometimes(30)) return R"({"key": 81})";
   if (Sometimes(50)) return R"({"key": 48, "shift": 3})";
-  return R"({"key": )" + std::to_string(Any(256)) + "}";
+  return R"({"key": )" + std::to_string(any_(256)) + "}";
 }
 
 std::string RandomPlayer::Amount() {
   if (Sometimes(15)) return R"({"button": "cancel"})";
   if (Sometimes(10)) return R"({"text": "muchas"})";
   const int greatest = provocation_ == Provocation::HugeAmounts ? 60000 : 12;
-  return R"({"text": ")" + std::to_string(Any(greatest)) + "\"}";
+  return R"({"text": ")" + std::to_string(any_(greatest)) + "\"}";
 }
 
 // Órdagos are rare, or no hand would ever be counted.
 std::string RandomPlayer::Button(const ordered_json& dialog) {
   constexpr int againstAnOrdago = -2;
-  if (dialog["mode"] == againstAnOrdago) return R"({"result": )" + std::to_string(Any(2)) + "}";
-  return R"({"result": )" + std::to_string(Sometimes(5) ? 3 : Any(3)) + "}";
+  if (dialog["mode"] == againstAnOrdago) return R"({"result": )" + std::to_string(any_(2)) + "}";
+  return R"({"result": )" + std::to_string(Sometimes(5) ? 3 : any_(3)) + "}";
 }
 
 std::string RandomPlayer::Answer(const ordered_json& question) {
   if (question["event"] == "dialog") return Button(question);
   if (question["event"] == "inputbox") {
     if (question["title"] != "Sustituir cartas") return Amount();
-    return R"({"text": ")" + std::to_string(Any(10000)) + "\"}";
+    return R"({"text": ")" + std::to_string(any_(10000)) + "\"}";
   }
   if (question["text"] == "¿Desea cambiar de jugadores?") return YesOrNo(Sometimes(5));
   if (question["text"] == "¿Desea jugar otra partida?") return YesOrNo(Sometimes(95));
@@ -103,6 +111,16 @@ std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {
   if (!fault_.empty() || handsPlayed_ >= hands_) return std::nullopt;
   const ordered_json& last = events.back();
   return last["event"] == "state" ? Move() : Answer(last);
+}
+
+std::string RandomPlayer::FaultOf(const Conversation& game) const {
+  if (!fault_.empty()) return fault_;
+  if (!game.Err.empty()) return "a message: " + game.Err;
+  if (game.Status == 0) return {};
+  const std::string_view allowed = ErrorOf(provocation_);
+  const bool asked = game.Status == 1 && !allowed.empty() && !game.Rest.empty() &&
+                     game.Rest.back().dump().find(allowed) != std::string::npos;
+  return asked ? "" : "an end that nobody asked for, status " + std::to_string(game.Status);
 }
 
 }  // namespace tasca::test

@@ -1,7 +1,6 @@
 #pragma once
 // A player who does anything that is allowed, and looks at every state as it comes by.
-#include <cstdint>
-#include <random>
+#include <functional>
 #include <string>
 
 #include "tests/ui_trace/conversation.h"
@@ -11,10 +10,13 @@ namespace tasca::test {
 // What a random game may try besides good play.
 enum class Provocation { None, NoPhrases, HugeAmounts };
 
+// Says a whole number from 0 to n - 1: what the player does depends on nothing else.
+using Chooser = std::function<int(int n)>;
+
 class RandomPlayer {
  public:
-  // Plays until so many hands have ended. The same seed always plays the same.
-  RandomPlayer(std::uint32_t seed, int hands, Provocation provocation);
+  // Plays until so many hands have ended.
+  RandomPlayer(Chooser any, int hands, Provocation provocation);
 
   // A "mus.ini" with match parameters that make long and short matches.
   std::string Settings();
@@ -22,13 +24,14 @@ class RandomPlayer {
   std::optional<std::string> operator()(const TraceEvents& events);
 
   int HandsPlayed() const { return handsPlayed_; }
-  // The first thing that was not as it must always be; "" when all was.
-  const std::string& Fault() const { return fault_; }
+  // The first thing that was not as it must always be, the end of the game included; "" when all
+  // was. A game that was not provoked must end well; a provoked one may also end in the run-time
+  // error that it asks for.
+  std::string FaultOf(const Conversation& game) const;
 
  private:
-  // A whole number from 0 to n - 1; true `percent` times of a hundred.
-  int Any(int n);
-  bool Sometimes(int percent);
+  // True `percent` times of a hundred.
+  bool Sometimes(int percent) { return any_(100) < percent; }
 
   void Look(const nlohmann::ordered_json& state);
   std::string Start();
@@ -37,7 +40,7 @@ class RandomPlayer {
   std::string Button(const nlohmann::ordered_json& dialog);
   std::string Answer(const nlohmann::ordered_json& question);
 
-  std::mt19937 engine_;
+  Chooser any_;
   int hands_;
   Provocation provocation_;
   int handsPlayed_ = 0;
