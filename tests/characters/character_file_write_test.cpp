@@ -153,6 +153,17 @@ TEST(LeerPersonajesSinMayusculas, ReadsBackWhatWasWritten) {
   EXPECT_EQ(leida, c.t);
 }
 
+// The sign takes one of the three places that are read.
+TEST(LeerPersonajesSinMayusculas, Kept_ANegativeOrdagueroLosesADigitWheneverItIsReadBack) {
+  Carpeta c;
+  c.t.Personajes[1].Ordaguero = -57;
+  for (const int leido : {-5, 0, 0}) {
+    EscribirPersonajes(c.t, 1);
+    LeerPersonajesSinMayusculas(c.t);
+    EXPECT_EQ(c.t.Personajes[1].Ordaguero, leido);
+  }
+}
+
 TEST(LeerPersonajesSinMayusculas, Kept_TakesTagsInAnyCase) {
   Carpeta c;
   c.carpeta.Write("Jugadores.dat",
