@@ -18,5 +18,15 @@ if(TASCA_SANITIZE)
   add_link_options(${sanitizers})
 endif()
 
+# The fuzzer sees which way our code takes; every fault that a sanitizer knows ends the run.
+if(TASCA_FUZZ)
+  add_compile_options(
+    -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow -fno-sanitize-recover=all
+    -fno-omit-frame-pointer
+    -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/foreign.txt
+    -fsanitize-coverage-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/unwatched.txt)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # All programs in one folder: it is the program's folder, where the game's files lie.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
