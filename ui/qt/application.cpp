@@ -47,7 +47,10 @@ Application::Application(int& argc, char** argv) : aplicacion_{Quietly(argc), ar
 }
 
 int Application::Run(const std::function<void()>& abrir) {
-  QTimer::singleShot(0, abrir);
+  QTimer comienzo;
+  comienzo.setSingleShot(true);
+  QObject::connect(&comienzo, &QTimer::timeout, &comienzo, abrir);
+  comienzo.start();
   return QApplication::exec();
 }
 
