@@ -50,28 +50,21 @@ std::string Offered(Table& t) {
   return "offers " + std::to_string(d->Combo1.List.size() - 1);
 }
 
-// Plays a hand, betting whenever it may.
-class Bettor {
- public:
-  std::optional<std::string> operator()(const TraceEvents& sucesos) {
-    if (sucesos.empty()) return R"({"start": {"clock": [0, 0, 0], "combos": [0, 0, 0]}})";
-    const ordered_json& ultimo = sucesos.back();
-    if (ultimo["event"] != "state") return Answer(ultimo);
-    if (first_.is_null()) first_ = ultimo;
-    if (ultimo["Fase"] == -1) return std::nullopt;
-    return R"({"key": 13})";
-  }
+std::string Answer(const ordered_json& pregunta) {
+  if (pregunta["event"] == "dialog") return R"({"result": 1})";
+  return pregunta["event"] == "inputbox" ? R"({"text": "2"})" : R"({"button": "no"})";
+}
 
-  const ordered_json& FirstState() const { return first_; }
-
- private:
-  static std::string Answer(const ordered_json& pregunta) {
-    if (pregunta["event"] == "dialog") return R"({"result": 1})";
-    return pregunta["event"] == "inputbox" ? R"({"text": "2"})" : R"({"button": "no"})";
-  }
-
-  ordered_json first_;
-};
+// The next line of a player who bets whenever he may, until the hand is over. Notes the first
+// state.
+std::optional<std::string> NextLine(const TraceEvents& sucesos, ordered_json& primero) {
+  if (sucesos.empty()) return R"({"start": {"clock": [0, 0, 0], "combos": [0, 0, 0]}})";
+  const ordered_json& ultimo = sucesos.back();
+  if (ultimo["event"] != "state") return Answer(ultimo);
+  if (primero.is_null()) primero = ultimo;
+  if (ultimo["Fase"] == -1) return std::nullopt;
+  return R"({"key": 13})";
+}
 
 }  // namespace
 
@@ -93,15 +86,15 @@ Outcomes OutcomesIn(const fs::path& carpeta) {
 }
 
 Played Play(const fs::path& carpeta) {
-  Bettor jugador;
-  const Conversation partida =
-      Converse(carpeta, [&jugador](const TraceEvents& sucesos) { return jugador(sucesos); });
+  ordered_json primero;
+  const Conversation partida = Converse(
+      carpeta, [&primero](const TraceEvents& sucesos) { return NextLine(sucesos, primero); });
   EXPECT_EQ(partida.Err, "");
-  if (partida.Status == 0) return {"plays", jugador.FirstState()};
+  if (partida.Status == 0) return {"plays", primero};
   const ordered_json fin = partida.Rest.empty() ? ordered_json{} : partida.Rest.back();
   EXPECT_EQ(partida.Status, 1);
   EXPECT_EQ(fin.value("reason", ""), "error");
-  return {WithoutFolder(fin.value("text", ""), carpeta), jugador.FirstState()};
+  return {WithoutFolder(fin.value("text", ""), carpeta), primero};
 }
 
 Outcomes OutcomesOf(const std::string& archivo) {
@@ -114,7 +107,7 @@ int MemoryGrownBy(const std::function<void()>& hacer) {
   const auto maximo = [] {
     rusage uso{};
     ::getrusage(RUSAGE_SELF, &uso);
-    return uso.ru_maxrss / 1024;
+    return uso.ru_maxrss / 1024;  // NOLINT(cppcoreguidelines-pro-type-union-access)
   };
   const pid_t hijo = ::fork();
   if (hijo == 0) {

@@ -25,7 +25,7 @@ void PrintTo(const FolderName& caso, std::ostream* salida) { *salida << caso.Nam
 class ProgramFolderNamed : public testing::TestWithParam<FolderName> {
  protected:
   fs::path Make() const {
-    const fs::path carpeta = padre_.Path() / GetParam().Bytes;
+    fs::path carpeta = padre_.Path() / GetParam().Bytes;
     fs::create_directory(carpeta);
     return carpeta;
   }

@@ -169,8 +169,6 @@ Resultados TodosContraTodos(Duelo& duelo, Fallos& fallos) {
   return resultados;
 }
 
-int Signo(int numero) { return (numero > 0) - (numero < 0); }
-
 // The game's own results are an order: each hand has a rank, the number of hands that it beats less
 // those that beat it, and of two hands the one with the higher rank wins, whichever stands first.
 // So no two hands beat each other, and no three in a circle.
@@ -184,7 +182,7 @@ void ComprobarOrden(const Resultados& resultados, Fallos& fallos) {
   const std::vector<Patron> patrones = Patrones();
   for (std::size_t i = 0; i < patrones.size(); ++i) {
     for (std::size_t j = 0; j < patrones.size(); ++j) {
-      if (resultados[i][j] != Signo(rangos[i] - rangos[j])) {
+      if (resultados[i][j] != std::clamp(rangos[i] - rangos[j], -1, 1)) {
         fallos.Anadir(Escrita(patrones[i]) + "and " + Escrita(patrones[j]) + "are out of order");
       }
     }

@@ -3,8 +3,8 @@
 // each value, and nothing is taken from the cards' records, their order in the hand or the game's
 // own comparisons.
 #include <array>
-#include <compare>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace tasca::test {
@@ -46,8 +46,6 @@ struct Pares {
   Clase Que = Clase::Nada;
   int Alto = 0;
   int Bajo = 0;
-
-  auto operator<=>(const Pares&) const = default;
 };
 
 inline Pares ParesDe(const Cuentas& mano) {
@@ -81,7 +79,10 @@ inline bool MejorPequena(const Cuentas& una, const Cuentas& otra) {
   return una[valor] > otra[valor];
 }
 inline bool MejoresPares(const Cuentas& una, const Cuentas& otra) {
-  return ParesDe(una) > ParesDe(otra);
+  const auto orden = [](const Pares& pares) {
+    return std::tuple{pares.Que, pares.Alto, pares.Bajo};
+  };
+  return orden(ParesDe(una)) > orden(ParesDe(otra));
 }
 // 31, 32, then 40 down to 33, then no juego at all.
 inline int LugarDelJuego(int puntos) {
