@@ -14,7 +14,7 @@ namespace {
 
 const Textos SinFaltas;
 const std::string Ampersand =
-    "el signo \"&\" se ve tal cual: solo en las frases de \"EnvM\" es la cantidad.";
+    R"(el signo "&" se ve tal cual: solo en las frases de "EnvM" es la cantidad.)";
 const std::string Vacia =
     "la frase está vacía: el programa se detiene cuando un jugador va a decirla.";
 
@@ -344,13 +344,16 @@ TEST(RevisarPersonajes, FindsFewerThanThreePlayers) {
 }
 
 TEST(RevisarPersonajes, ListsTheFaultsByLine) {
+  const std::string ordaguero =
+      "66: el valor de ordaguero \"x\" no es un número entero de tres caracteres como mucho: se "
+      "lee "
+      "0.";
   EXPECT_EQ(
       Faltas(Fichero{}.Cortar(128).Cambiar(70, "&").Quitar(64).Cambiar(6, "").Cambiar(66, "x")),
       (Textos{"6: " + Vacia,
               "33: al personaje 2 le falta la frase 1 de \"Derr\", la de quien no tiene otra.",
-              "66: el valor de ordaguero \"x\" no es un número entero de tres caracteres como "
-              "mucho: se lee 0.",
-              "69: " + Ampersand, "0: los jugadores que se ofrecen son 2, y hacen falta 3."}));
+              ordaguero, "69: " + Ampersand,
+              "0: los jugadores que se ofrecen son 2, y hacen falta 3."}));
 }
 
 // What cannot be read at all.

@@ -269,7 +269,7 @@ TEST(EliminarJugador, LeavesThePlaceOfTheLastOneWithBlankPhrases) {
   List1_Click(e.d, e.t, 0);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.FrasesDe(2), Textos(14 * 3, ""));
+  EXPECT_EQ(e.FrasesDe(2), Textos(42, ""));
 }
 
 TEST(EliminarJugador, Kept_CountsOneLessForAnEntryBeyondTheCount) {
