@@ -2,6 +2,7 @@
 // and say the same as the first reading.
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "base/endings.h"
 #include "characters/character_file.h"
@@ -27,13 +28,25 @@ void LeaveOutNegatives(Table& t, int count) {
   }
 }
 
-void CompareHeads(const Table& t, const Table& again, int count) {
-  for (int number = 1; number <= count; ++number) {
-    const Personaje& one = t.Personajes[number];
-    const Personaje& other = again.Personajes[number];
-    Require(one.Nombre == other.Nombre && one.Ordaguero == other.Ordaguero &&
-                one.Historia == other.Historia,
-            "the head of a record comes back");
+// The phrases of one kind that can be said and written, in their order.
+std::vector<std::u16string_view> PhrasesOf(const Table& t, int number, int category) {
+  std::vector<std::u16string_view> phrases;
+  for (const auto& phrase : t.Mensajes[number][category]) {
+    const std::u16string_view text = phrase.Trimmed();
+    if (!text.empty() && text.find(u'\0') == std::u16string_view::npos) phrases.push_back(text);
+  }
+  return phrases;
+}
+
+void CompareCharacter(const Table& t, const Table& again, int number) {
+  const Personaje& one = t.Personajes[number];
+  const Personaje& other = again.Personajes[number];
+  Require(one.Nombre == other.Nombre && one.Ordaguero == other.Ordaguero &&
+              one.Historia == other.Historia,
+          "the head of a record comes back");
+  for (int category = 1; category <= std::ssize(EtiquetasMensaje); ++category) {
+    Require(PhrasesOf(t, number, category) == PhrasesOf(again, number, category),
+            "the phrases come back");
   }
 }
 
@@ -76,7 +89,7 @@ void Run(std::string_view input) {
   LeaveOutNegatives(first.t, *count);
   const std::string written = TextoPersonajes(first.t, *count);
   Require(Read(second, folder, written) == *count, "as many characters come back");
-  CompareHeads(first.t, second.t, *count);
+  for (int number = 1; number <= *count; ++number) CompareCharacter(first.t, second.t, number);
   Require(TextoPersonajes(second.t, *count) == written, "the second writing is the first");
   LeerPersonajes(second.t);  // what is written has the tags that the game knows
 }
