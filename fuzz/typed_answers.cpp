@@ -71,19 +71,27 @@ void RequireWholeHands(const Table& t) {
   }
 }
 
-// Three passes, so that the deck runs out.
-void ThrowAway(Game& g, const std::u16string& text) {
-  constexpr int Passes = 3;
+void ThrowAway(Game& g, std::u16string_view text) {
+  g.t.Text2.clear();
+  Descartar(g);
+  RequireWholeHands(g.t);
+  int thrown = 0;
+  for (const char16_t card : {u'1', u'2', u'3', u'4'}) thrown += Contains(text, {&card, 1}) ? 1 : 0;
+  Require(Contains(g.t.Text2, Join(u"El jugador 1 cambia ", thrown, u" cartas.")),
+          "the player changes the cards that have been named");
+}
+
+// A pass for every line of the text, and as many as run the deck out.
+void ThrowAwayAgainAndAgain(Game& g, FixedAnswers& port, const std::u16string& text) {
+  constexpr int Passes = 8;
+  std::u16string_view rest = text;
   for (int pass = 0; pass < Passes; ++pass) {
-    g.t.Text2.clear();
-    Descartar(g);
-    RequireWholeHands(g.t);
-    int thrown = 0;
-    for (const char16_t card : {u'1', u'2', u'3', u'4'})
-      thrown += Contains(text, {&card, 1}) ? 1 : 0;
-    Require(Contains(g.t.Text2, Join(u"El jugador 1 cambia ", thrown, u" cartas.")),
-            "the player changes the cards that have been named");
+    const std::u16string_view line = Before(rest, u'\n');
+    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+    port.Text = line;
+    ThrowAway(g, line);
   }
+  port.Text = text;
 }
 
 void Bet(Game& g, void (*open)(Game&), void (*answer)(Game&)) {
@@ -112,12 +120,12 @@ void Run(std::string_view input) {
   FixedAnswers port;
   port.Button = bytes.Below(4);
   OrdenarDesde(t, port.Button + 1);
-  port.Text = TextOf(bytes);
-  LookAtTheNumber(port.Text);
-  LookAtThePropensity(port.Text);
+  const std::u16string text = TextOf(bytes);
+  LookAtTheNumber(text);
+  LookAtThePropensity(text);
   Rnd rnd;
   Game g{t, rnd, port};
-  ThrowAway(g, port.Text);
+  ThrowAwayAgainAndAgain(g, port, text);
   Bet(g, LanceGrande, EnviteGrande);
   Bet(g, LancePunto, EnvitePunto);
 }
