@@ -17,6 +17,9 @@ int CuentaCartas(const Table& t, Seat asiento, int valor);
 // The sum of the seat's four ValorJuego.
 int PuntosJuego(const Table& t, Seat asiento);
 
+// The points of the best juego, and the fewest that are one.
+inline constexpr int Treintayuna = 31;
+
 // Builds the card records and a fresh deck, and shuffles it once (40,001 draws).
 void CrearBaraja(Table& t, Rnd& rnd);
 

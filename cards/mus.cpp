@@ -72,7 +72,6 @@ bool DecideMus(const Table& t, Rnd& rnd, Seat asiento) {
 }
 
 int PuntuacionMus(const Table& t, Seat asiento) {
-  constexpr int Treintayuna = 31;
   constexpr int Treintaydos = 32;
   constexpr int Cerca = 7;
   int puntuacion = 0;

@@ -168,7 +168,6 @@ Pareja QuienSeSacaJuego(Game& g) {
 }
 
 Pareja ContarJuego(Game& g) {
-  constexpr int Treintayuna = 31;
   Table& t = g.t;
   const Pareja pareja = QuienSeSacaJuego(g);
   const int conJuego = CuentaAsientos(t, pareja, TieneJuego);

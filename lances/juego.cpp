@@ -12,8 +12,6 @@
 namespace tasca {
 namespace {
 
-constexpr int Treintayuna = 31;
-
 constexpr PreguntaDeclaracion PreguntaJuego{
     .Titulo = u"¿Tiene Juego?",
     .SiEnRealidad = u"sí tiene Juego, y eso es lo que dice (por lo que pudiera pasar...)",

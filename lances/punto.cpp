@@ -10,8 +10,6 @@
 namespace tasca {
 namespace {
 
-constexpr int Treintayuna = 31;
-
 // How far the seat's points are from 31.
 int Distancia(const Table& t, Seat asiento) { return Treintayuna - PuntosJuego(t, asiento); }
 
