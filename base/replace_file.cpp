@@ -77,7 +77,8 @@ class Descriptor {
     while (!contenido.empty()) {
       const ssize_t escritos =
           Again([&] { return ::write(numero_, contenido.data(), contenido.size()); });
-      if (escritos < 0) return false;
+      if (escritos == 0) errno = ENOSPC;
+      if (escritos <= 0) return false;
       contenido.remove_prefix(static_cast<std::size_t>(escritos));
     }
     return true;

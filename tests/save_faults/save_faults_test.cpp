@@ -51,9 +51,23 @@ const std::string MuchoAntes = CastOf(u"mucho antes");
 const std::string Nuevo = CastOf(u"nuevo");
 const std::string Despues = CastOf(u"despues");
 
-std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) {
-  return std::string{TASCA_SAVE_ONCE} + " " + carpeta.Path().string() + " " + nombre;
-}
+// How the disk is that takes the save: what the tracer does to every call, and the program.
+struct Disk {
+  std::string_view Name;
+  std::string Tracer;
+  std::string Program;
+
+  std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
+    return Program + " " + carpeta.Path().string() + " " + nombre;
+  }
+};
+
+void PrintTo(const Disk& disco, std::ostream* salida) { *salida << disco.Name; }
+
+const std::string Nada = "-e inject=getppid:delay_enter=0";
+const Disk DiscoCorriente{"WithLinks", Nada, TASCA_SAVE_ONCE};
+const Disk DiscoSinEnlaces{"WithoutLinks", "-e inject=link:error=EPERM", TASCA_SAVE_ONCE};
+const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
 
 // The leak checker is a tracer of its own, and there can be but one.
 std::string Traced(const std::string& opciones, const std::string& orden) {
@@ -67,11 +81,12 @@ struct Call {
 };
 
 // The calls between the two marks, of a save that goes well.
-std::vector<Call> CallsOfASave(const std::string& disco) {
+std::vector<Call> CallsOfASave(const Disk& disco) {
   const TempFolder carpeta;
   carpeta.Write("Jugadores.dat", Antes);
   const std::string traza = (carpeta.Path() / "trace").string();
-  EXPECT_EQ(RunCommand(Traced(disco + " -o " + traza, SaveIn(carpeta, "nuevo"))).Status, 0);
+  EXPECT_EQ(
+      RunCommand(Traced(disco.Tracer + " -o " + traza, disco.SaveIn(carpeta, "nuevo"))).Status, 0);
   std::ifstream lineas{traza};
   std::map<std::string, int> cuenta;
   std::vector<Call> llamadas;
@@ -95,11 +110,7 @@ bool IsAboutFiles(const Call& llamada) {
   return !deMemoria.contains(llamada.Name);
 }
 
-// What the tracer does to every save: nothing, or it lets no file have a second name.
-constexpr auto DiscoCorriente = "-e inject=getppid:delay_enter=0";
-constexpr auto DiscoSinEnlaces = "-e inject=link:error=EPERM";
-
-class SaveFaults : public testing::TestWithParam<const char*> {
+class SaveFaults : public testing::TestWithParam<Disk> {
  protected:
   void SetUp() override {
     if (RunCommand("strace -o /dev/null true").Status != 0) {
@@ -127,7 +138,7 @@ class SaveFaults : public testing::TestWithParam<const char*> {
   Outcome SaveWith(const Call& llamada, const std::string& fallo) const {
     const std::string inyeccion = " -e inject=" + llamada.Name + ":" + fallo +
                                   ":when=" + std::to_string(llamada.Count) + " -o /dev/null";
-    return RunCommand(Traced(GetParam() + inyeccion, SaveIn(carpeta_, "nuevo")));
+    return RunCommand(Traced(GetParam().Tracer + inyeccion, GetParam().SaveIn(carpeta_, "nuevo")));
   }
 
   // Either file is whole, and no step was taken before the one that protects it.
@@ -141,7 +152,7 @@ class SaveFaults : public testing::TestWithParam<const char*> {
   // A later save finds nothing in its way and leaves nothing behind.
   void ExpectTheNextSaveToSucceed() const {
     const std::string antes = carpeta_.Read("Jugadores.dat");
-    const Outcome fin = RunCommand(SaveIn(carpeta_, "despues"));
+    const Outcome fin = RunCommand(GetParam().SaveIn(carpeta_, "despues"));
     EXPECT_EQ(fin.Status, 0) << fin.Output;
     EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Despues);
     EXPECT_EQ(carpeta_.Read("Jugadores.bak"), antes);
@@ -149,8 +160,8 @@ class SaveFaults : public testing::TestWithParam<const char*> {
   }
 
   // A save that went well although a call failed has saved; any other has said what it could not
-  // do.
-  void ExpectASaveOrAMessage(const Outcome& fin) const {
+  // do, and why.
+  void ExpectASaveOrAMessage(const Outcome& fin, const std::string& motivo) const {
     if (fin.Status == 0) {
       EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Nuevo);
       return;
@@ -159,14 +170,14 @@ class SaveFaults : public testing::TestWithParam<const char*> {
     const std::string archivo = (carpeta_.Path() / "Jugadores.").string();
     EXPECT_TRUE(fin.Output.starts_with("No se ha podido escribir el archivo " + archivo))
         << fin.Output;
-    EXPECT_TRUE(fin.Output.ends_with(FinDelPrograma)) << fin.Output;
+    EXPECT_TRUE(fin.Output.ends_with(": " + motivo + FinDelPrograma)) << fin.Output;
   }
 
-  void ExpectWholeFilesAfterErrors(const std::string& error) {
+  void ExpectWholeFilesAfterErrors(const std::string& error, const std::string& motivo) {
     int contados = 0;
     SaveWithFaultAtEveryCall("error=" + error, IsAboutFiles, [&](const Outcome& fin) {
       contados += fin.Status;
-      ExpectASaveOrAMessage(fin);
+      ExpectASaveOrAMessage(fin, motivo);
     });
     EXPECT_GE(contados, 8);
   }
@@ -179,30 +190,38 @@ TEST_P(SaveFaults, AKillLeavesWholeFiles) {
   const auto todas = [](const Call& /*llamada*/) { return true; };
   int muertes = 0;
   SaveWithFaultAtEveryCall("signal=KILL", todas, [&](const Outcome& fin) {
-    if (fin.Status != 128 + SIGKILL) return ExpectASaveOrAMessage(fin);
+    if (fin.Status == 0) return;
+    EXPECT_EQ(fin.Status, 128 + SIGKILL);
     ++muertes;
   });
   EXPECT_GE(muertes, 20);
 }
 
-TEST_P(SaveFaults, ABrokenDiskLeavesWholeFilesAndIsTold) { ExpectWholeFilesAfterErrors("EIO"); }
-TEST_P(SaveFaults, AFullDiskLeavesWholeFilesAndIsTold) { ExpectWholeFilesAfterErrors("ENOSPC"); }
+TEST_P(SaveFaults, ABrokenDiskLeavesWholeFilesAndIsTold) {
+  ExpectWholeFilesAfterErrors("EIO", "el disco falla.");
+}
+TEST_P(SaveFaults, AFullDiskLeavesWholeFilesAndIsTold) {
+  ExpectWholeFilesAfterErrors("ENOSPC", "no queda sitio en el disco.");
+}
 TEST_P(SaveFaults, AForbiddenCallLeavesWholeFilesAndIsTold) {
-  ExpectWholeFilesAfterErrors("EACCES");
+  ExpectWholeFilesAfterErrors("EACCES", "no hay permiso para escribir.");
+}
+TEST_P(SaveFaults, ADiskToReadFromLeavesWholeFilesAndIsTold) {
+  ExpectWholeFilesAfterErrors("EROFS", "el disco es de solo lectura.");
 }
 
 TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
-  SaveWithFaultAtEveryCall("error=EINTR", IsAboutFiles,
-                           [this](const Outcome& fin) { ExpectASaveOrAMessage(fin); });
+  SaveWithFaultAtEveryCall("error=EINTR", IsAboutFiles, [this](const Outcome& fin) {
+    ExpectASaveOrAMessage(fin, "error 4 del sistema.");
+  });
 }
 
 // What only the machine's memory holds is lost when the current goes.
 TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   std::string orden;
   for (const Call& llamada : CallsOfASave(GetParam())) orden += llamada.Name + " ";
-  const std::string copia = GetParam() == std::string_view{DiscoCorriente}
-                                ? "link rename "
-                                : "openat fsync close rename ";
+  const std::string copia =
+      GetParam().Name == DiscoSinEnlaces.Name ? "openat fsync close rename " : "link rename ";
   EXPECT_NE(orden.find(copia + "openat fsync close "), std::string::npos) << orden;
   EXPECT_NE(orden.find("write fsync close rename openat fsync close "), std::string::npos) << orden;
 }
@@ -219,9 +238,32 @@ TEST_P(SaveInterrupted, GoesOnWriting) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(WithLinks, SaveInterrupted, testing::Values(DiscoCorriente));
-INSTANTIATE_TEST_SUITE_P(WithLinks, SaveFaults, testing::Values(DiscoCorriente));
-INSTANTIATE_TEST_SUITE_P(WithoutLinks, SaveFaults, testing::Values(DiscoSinEnlaces));
+// A disk that takes nothing at all is full: to go on would be to go on for ever.
+TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
+  for (const Call& llamada : CallsOfASave(GetParam())) {
+    if (llamada.Name != "write") continue;
+    SCOPED_TRACE(llamada.Count);
+    carpeta_.Write("Jugadores.dat", Antes);
+    const Outcome fin = SaveWith(llamada, "retval=0");
+    EXPECT_EQ(fin.Status, 1);
+    EXPECT_NE(fin.Output.find(": no queda sitio en el disco."), std::string::npos) << fin.Output;
+    ExpectTheNextSaveToSucceed();
+  }
+}
+
+// A disk that takes less than it is given is given the rest.
+TEST(SaveInBits, WritesAFewBytesAtATime) {
+  int escrituras = 0;
+  for (const Call& llamada : CallsOfASave(DiscoLento)) escrituras += llamada.Name == "write";
+  EXPECT_EQ(escrituras, (std::ssize(Nuevo) + 4) / 5);
+}
+
+const auto ByDisk = [](const testing::TestParamInfo<Disk>& disco) {
+  return std::string{disco.param.Name};
+};
+INSTANTIATE_TEST_SUITE_P(, SaveInterrupted, testing::Values(DiscoCorriente, DiscoLento), ByDisk);
+INSTANTIATE_TEST_SUITE_P(, SaveFaults, testing::Values(DiscoCorriente, DiscoSinEnlaces, DiscoLento),
+                         ByDisk);
 
 }  // namespace
 }  // namespace tasca::test
