@@ -200,5 +200,13 @@ TEST(LineReader, SaysThatAFileCannotBeRead) {
             ruta.string() + ": no se puede leer el archivo." + FinDelPrograma);
 }
 
+// Address 0 of this process can be opened and never read, like a disk that fails.
+TEST(LineReader, SaysWhereAFileCannotBeReadAnyFurther) {
+  LineReader archivo{"/proc/self/mem"};
+  std::u16string linea;
+  EXPECT_EQ(ErrorOf([&] { archivo.Next(linea); }),
+            std::string{"/proc/self/mem, línea 1: no se puede leer el archivo."} + FinDelPrograma);
+}
+
 }  // namespace
 }  // namespace tasca
