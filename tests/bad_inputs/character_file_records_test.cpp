@@ -119,8 +119,6 @@ TEST_P(BadRecords, HaveTheirOutcome) {
   EXPECT_EQ(OutcomesOf(GetParam().Bytes), GetParam().Expected);
 }
 
-const auto ByName = [](const testing::TestParamInfo<BadFile>& caso) { return caso.param.Name; };
-
 INSTANTIATE_TEST_SUITE_P(Cut, BadRecords, testing::ValuesIn(CutRecords()), ByName);
 INSTANTIATE_TEST_SUITE_P(Counts, BadRecords, testing::ValuesIn(Counts()), ByName);
 INSTANTIATE_TEST_SUITE_P(OddLines, BadRecords, testing::ValuesIn(OddLines()), ByName);

@@ -107,8 +107,6 @@ TEST_P(BadCharacterFile, HasItsOutcome) {
   EXPECT_EQ(OutcomesOf(GetParam().Bytes), GetParam().Expected);
 }
 
-const auto ByName = [](const testing::TestParamInfo<BadFile>& caso) { return caso.param.Name; };
-
 INSTANTIATE_TEST_SUITE_P(LineEnds, BadCharacterFile, testing::ValuesIn(LineEnds()), ByName);
 INSTANTIATE_TEST_SUITE_P(Letters, BadCharacterFile, testing::ValuesIn(Letters()), ByName);
 

@@ -20,14 +20,14 @@ void Stretch(const fs::path& archivo) {
   fs::resize_file(archivo, fs::file_size(archivo) + Gibibyte);
 }
 
-struct LongLine {
+struct HugeLine {
   std::string Name;
   int Linea;  // of the character file; the lines before it are good
 };
 
-void PrintTo(const LongLine& caso, std::ostream* salida) { *salida << caso.Name; }
+void PrintTo(const HugeLine& caso, std::ostream* salida) { *salida << caso.Name; }
 
-class GibibyteLine : public testing::TestWithParam<LongLine> {};
+class GibibyteLine : public testing::TestWithParam<HugeLine> {};
 
 TEST_P(GibibyteLine, EndsTheProgramWithItsLineAndTakesNoMemory) {
   const int linea = GetParam().Linea;
@@ -42,11 +42,11 @@ TEST_P(GibibyteLine, EndsTheProgramWithItsLineAndTakesNoMemory) {
 }
 
 INSTANTIATE_TEST_SUITE_P(CharacterFile, GibibyteLine,
-                         testing::Values(LongLine{"FirstLine", 1}, LongLine{"Name", 130},
-                                         LongLine{"Ordaguero", 131}, LongLine{"Story", 132},
-                                         LongLine{"Tag", 133}, LongLine{"Phrase", 134},
-                                         LongLine{"LastLine", 160}),
-                         [](const testing::TestParamInfo<LongLine>& caso) {
+                         testing::Values(HugeLine{"FirstLine", 1}, HugeLine{"Name", 130},
+                                         HugeLine{"Ordaguero", 131}, HugeLine{"Story", 132},
+                                         HugeLine{"Tag", 133}, HugeLine{"Phrase", 134},
+                                         HugeLine{"LastLine", 160}),
+                         [](const testing::TestParamInfo<HugeLine>& caso) {
                            return caso.param.Name;
                          });
 

@@ -1,6 +1,8 @@
 #pragma once
 // What comes of a program folder that is not as it should be: either the game plays, or it ends
 // with one message. Every test states which.
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <functional>
 #include <nlohmann/json.hpp>
@@ -63,5 +65,9 @@ struct BadFile {
 };
 
 inline void PrintTo(const BadFile& archivo, std::ostream* salida) { *salida << archivo.Name; }
+
+inline constexpr auto ByName = [](const testing::TestParamInfo<BadFile>& archivo) {
+  return archivo.param.Name;
+};
 
 }  // namespace tasca::test

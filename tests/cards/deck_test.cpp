@@ -24,13 +24,13 @@ using Mazo = Array<Integer, 1, 40>;
 constexpr std::string_view Recoger = "box: Necesario recoger y barajar cartas descartadas";
 
 // A table whose deck is 1 to 40 in order, and a port.
-struct Sala {
+struct MesaConBaraja {
   Table t = MesaDePrueba();
   DrawList rnd;
   ScriptedPort port;
   Game g{t, rnd, port};
 
-  Sala() : rnd{} {
+  MesaConBaraja() : rnd{} {
     for (int i = 1; i <= 40; ++i) t.Baraja[i] = i;
   }
 };
@@ -152,7 +152,7 @@ TEST(Barajar, GoesOnFromTheDeckAsItLies) {
 }
 
 TEST(Barajar, TouchesOnlyTheFirstPositions) {
-  Sala sala;
+  MesaConBaraja sala;
   Rnd rnd;
   rnd.Seed(9);
   Barajar(sala.t, rnd, 5);
@@ -174,7 +174,7 @@ TEST(Barajar, KeepsEveryCard) {
 
 TEST(Barajar, Kept_DrawsOnceForNothingFirst) {
   // With one card nothing can change places, but the draws are made.
-  Sala sala;
+  MesaConBaraja sala;
   Rnd rnd;
   rnd.Seed(11);
   Barajar(sala.t, rnd, 1);
@@ -194,7 +194,7 @@ TEST(Barajar, RecursWithTheSameSeed) {
 
 TEST(Repartir, FillsTheSlotsFromTheLastToTheFirst) {
   // 4, 14, 24, 34 are the four Cuatros: equal cards stay where they were dealt.
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Baraja[1] = 4;
   sala.t.Baraja[2] = 14;
   sala.t.Baraja[3] = 24;
@@ -207,7 +207,7 @@ TEST(Repartir, FillsTheSlotsFromTheLastToTheFirst) {
 
 TEST(Repartir, ReplacesOnlyTheLastSlotsForFewerCards) {
   for (int cartas = 0; cartas <= 4; ++cartas) {
-    Sala sala;
+    MesaConBaraja sala;
     sala.t.Manos[3] = {4, 14, 24, 34};
     sala.t.Baraja[7] = 4;
     sala.t.Baraja[8] = 14;
@@ -224,7 +224,7 @@ TEST(Repartir, ReplacesOnlyTheLastSlotsForFewerCards) {
 
 TEST(Repartir, SortsByFallingValue) {
   // Cinco, Rey, Sota and Cuatro.
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Baraja[1] = 5;
   sala.t.Baraja[2] = 10;
   sala.t.Baraja[3] = 8;
@@ -234,7 +234,7 @@ TEST(Repartir, SortsByFallingValue) {
 }
 
 TEST(Repartir, SortsWithoutDealing) {
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Manos[4] = {4, 10, 0, 8};
   Repartir(sala.g, 4, 0);
   EXPECT_EQ(sala.t.Manos[4], (Mano{10, 8, 4, 0}));
@@ -243,7 +243,7 @@ TEST(Repartir, SortsWithoutDealing) {
 
 TEST(Repartir, KeepsCardsOfEqualValueInTheirOrder) {
   // Tres, Rey, As, Dos.
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Manos[1] = {3, 10, 1, 2};
   Repartir(sala.g, 1, 0);
   EXPECT_EQ(sala.t.Manos[1], (Mano{3, 10, 1, 2}));
@@ -254,14 +254,14 @@ TEST(Repartir, KeepsCardsOfEqualValueInTheirOrder) {
 }
 
 TEST(Repartir, LeavesTwoEmptySlotsAtTheEnd) {
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Manos[1] = {0, 10, 0, 4};
   Repartir(sala.g, 1, 0);
   EXPECT_EQ(sala.t.Manos[1], (Mano{10, 4, 0, 0}));
 }
 
 TEST(Repartir, TakesTheFortiethCardAndSaysThatTheDeckIsOver) {
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.CartaSiguiente = 37;
   Repartir(sala.g, 1, 4);
   EXPECT_EQ(sala.t.Manos[1], (Mano{40, 39, 38, 37}));
@@ -270,7 +270,7 @@ TEST(Repartir, TakesTheFortiethCardAndSaysThatTheDeckIsOver) {
 }
 
 TEST(Repartir, SaysNothingBeforeTheFortiethCard) {
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.CartaSiguiente = 36;
   Repartir(sala.g, 1, 4);
   EXPECT_EQ(sala.t.CartaSiguiente, 40);
@@ -279,7 +279,7 @@ TEST(Repartir, SaysNothingBeforeTheFortiethCard) {
 
 TEST(Repartir, Kept_GoesOnWithTheFirstCardOfTheDeckAsItLies) {
   // Position 1 holds the last discard of the pile; nothing is shuffled.
-  Sala sala;
+  MesaConBaraja sala;
   sala.t.Baraja[39] = 39;  // Caballo
   sala.t.Baraja[40] = 38;  // Sota
   sala.t.Baraja[1] = 27;   // Siete
@@ -294,7 +294,7 @@ TEST(Repartir, Kept_GoesOnWithTheFirstCardOfTheDeckAsItLies) {
 }
 
 TEST(Repartir, ToldOncePerTurnOfTheDeck) {
-  Sala sala;
+  MesaConBaraja sala;
   for (int i = 0; i < 21; ++i) Repartir(sala.g, 1, 4);
   EXPECT_EQ(sala.port.TakeEvents(), (Sucesos{std::string{Recoger}, std::string{Recoger}}));
   EXPECT_EQ(sala.t.CartaSiguiente, 5);

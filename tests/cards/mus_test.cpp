@@ -16,7 +16,7 @@ namespace {
 using Sucesos = std::vector<std::string>;
 using Orden = Array<Integer, 1, 4>;
 
-constexpr auto Pregunta = "yesno[¿mus?]:  (icon, default yes)";
+constexpr auto PreguntaMus = "yesno[¿mus?]:  (icon, default yes)";
 constexpr float Quiere = 0.0F;        // a draw with which a seat wants mus
 constexpr float NoQuiere = 0.96875F;  // one with which it does not
 constexpr float Primera = 0.0F;       // a draw for the first phrase
@@ -47,7 +47,7 @@ TEST(FaseMus, EndsWhenTheHumanRefuses) {
   port.No();
   Game g{t, rnd, port};
   FaseMus(g);
-  EXPECT_EQ(port.TakeEvents(), (Sucesos{Pregunta}));
+  EXPECT_EQ(port.TakeEvents(), (Sucesos{PreguntaMus}));
   EXPECT_EQ(Utf8(t.Text2), "Ana: NMus1\r\nAna es mano\rPulse enter para continuar");
   EXPECT_EQ(t.Fase, 1);
   EXPECT_EQ(t.ParejaCortaMus, 1);

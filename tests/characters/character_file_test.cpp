@@ -52,8 +52,8 @@ struct Lectura {
 };
 
 // A record's four lines.
-std::string Registro(const std::string& nombre, const std::string& ordaguero = "050",
-                     const std::string& historia = "una historia") {
+std::string RegistroLeido(const std::string& nombre, const std::string& ordaguero = "050",
+                          const std::string& historia = "una historia") {
   return "Datos>\r\n" + nombre + "\r\n" + ordaguero + "\r\n" + historia + "\r\n";
 }
 
@@ -89,7 +89,7 @@ TEST(LeerPersonajes, ReadsARecord) {
 TEST(LeerPersonajes, KnowsTheFourteenMarkers) {
   const std::array<std::string, 14> marcas{"QMus", "NMus", "TPar", "NPar", "TJue", "NJue", "Paso",
                                            "Envi", "EnvM", "Orda", "NQui", "SQui", "Vict", "Derr"};
-  std::string archivo = Registro("Berta");
+  std::string archivo = RegistroLeido("Berta");
   for (const std::string& marca : marcas) archivo += UnaFrase(marca, "frase de " + marca);
   Lectura l;
   l.Leer(archivo);
@@ -103,7 +103,7 @@ TEST(LeerPersonajes, KnowsTheFourteenMarkers) {
 TEST(LeerPersonajes, NumbersCharactersFromOneInTheOrderOfTheFile) {
   Lectura l;
   l.t.Personajes[0].Nombre = u"Ana";
-  l.Leer(Registro("Berta") + "QMus>\r\nmus\r\n" + Registro("Dora") + "QMus>\r\nvale\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\nmus\r\n" + RegistroLeido("Dora") + "QMus>\r\nvale\r\n");
   EXPECT_EQ(Utf8(l.t.Personajes[0].Nombre.Trimmed()), "Ana");
   EXPECT_EQ(Utf8(l.t.Personajes[1].Nombre.Trimmed()), "Berta");
   EXPECT_EQ(Utf8(l.t.Personajes[2].Nombre.Trimmed()), "Dora");
@@ -121,7 +121,7 @@ TEST(LeerPersonajes, ReadsAnEmptyFileAsNoCharacters) {
 
 TEST(LeerPersonajes, TrimsBlanksOfNamesStoriesAndPhrases) {
   Lectura l;
-  l.Leer(Registro("  Berta  ", "050", "  Vende jarabes.  ") + "QMus>\r\n  mus " +
+  l.Leer(RegistroLeido("  Berta  ", "050", "  Vende jarabes.  ") + "QMus>\r\n  mus " +
          std::string(90, ' ') + "\r\n");
   EXPECT_TRUE(l.t.Personajes[1].Nombre.Full().starts_with(u"Berta  "));
   EXPECT_TRUE(l.t.Personajes[1].Historia.Full().starts_with(u"Vende jarabes.  "));
@@ -133,7 +133,7 @@ TEST(LeerPersonajes, CutsEveryTextToItsWidth) {
   const std::string doscientas(200, 'b');
   for (const std::string sobra : {"", "x"}) {
     Lectura l;
-    l.Leer(Registro(cien + sobra, "050", doscientas + sobra) + UnaFrase("QMus", cien + sobra));
+    l.Leer(RegistroLeido(cien + sobra, "050", doscientas + sobra) + UnaFrase("QMus", cien + sobra));
     EXPECT_EQ(Utf8(l.t.Personajes[1].Nombre.Full()), cien);
     EXPECT_EQ(Utf8(l.t.Personajes[1].Historia.Full()), doscientas);
     EXPECT_EQ(Utf8(l.t.Mensajes[1][1][1].Full()), cien);
@@ -163,7 +163,7 @@ TEST(LeerPersonajes, AcceptsEitherLineEndAndALastLineWithoutOne) {
 
 TEST(LeerPersonajes, ReadsTheLettersOfWindows1252) {
   Lectura l;
-  l.Leer(Registro("El t\xEDo \xC1ngel", "050", "cobra en \x80 \x81") +
+  l.Leer(RegistroLeido("El t\xEDo \xC1ngel", "050", "cobra en \x80 \x81") +
          "QMus>\r\n\x93\xF1o\xF1o\x94 \xBFmus?\r\n");
   EXPECT_EQ(Utf8(l.t.Personajes[1].Nombre.Trimmed()), "El tío Ángel");
   EXPECT_EQ(Utf8(l.t.Personajes[1].Historia.Trimmed()), "cobra en € \u0081");
@@ -183,14 +183,14 @@ TEST(LeerPersonajes, ReadsTheFirstThreeCharactersOfTheOrdaguero) {
   };
   for (const Caso& caso : casos) {
     Lectura l;
-    l.Leer(Registro("Berta", caso.Linea));
+    l.Leer(RegistroLeido("Berta", caso.Linea));
     EXPECT_EQ(l.t.Personajes[1].Ordaguero, caso.Valor) << '"' << caso.Linea << '"';
   }
 }
 
 TEST(LeerPersonajes, ReadsABlankLineAsABlankPhrase) {
   Lectura l;
-  l.Leer(Registro("Berta") + "QMus>\r\n\r\n   \r\nmus\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\n\r\n   \r\nmus\r\n");
   for (const int hueco : {1, 2}) {
     EXPECT_EQ(l.Frase(1, 1, hueco), "");
     EXPECT_FALSE(l.NuncaLlenada(1, 1, hueco));
@@ -200,7 +200,7 @@ TEST(LeerPersonajes, ReadsABlankLineAsABlankPhrase) {
 
 TEST(LeerPersonajes, StartsWithTheFirstPhraseAfterEveryMarker) {
   Lectura l;
-  l.Leer(Registro("Berta") + "QMus>\r\nuno\r\ndos\r\nNMus>\r\ntres\r\nQMus>\r\ncuatro\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\nuno\r\ndos\r\nNMus>\r\ntres\r\nQMus>\r\ncuatro\r\n");
   EXPECT_EQ(l.Frase(1, 1, 1), "cuatro");
   EXPECT_EQ(l.Frase(1, 1, 2), "dos");
   EXPECT_EQ(l.Frase(1, 2, 1), "tres");
@@ -218,7 +218,7 @@ TEST(LeerPersonajes, KnowsAMarkerByItsTextBeforeTheFirstSign) {
 
 TEST(LeerPersonajes, TakesALineWithTheSignAnywhereForAMarker) {
   Lectura l;
-  l.Leer(Registro("Berta") + "NMus>\r\nuno\r\ndos\r\nno > esto\r\ntres\r\nhola>\r\n>\r\n");
+  l.Leer(RegistroLeido("Berta") + "NMus>\r\nuno\r\ndos\r\nno > esto\r\ntres\r\nhola>\r\n>\r\n");
   EXPECT_EQ(l.Frase(1, 2, 1), "tres");  // the marker started the phrases anew
   EXPECT_EQ(l.Frase(1, 2, 2), "dos");
   EXPECT_TRUE(l.NuncaLlenada(1, 2, 3));
@@ -227,7 +227,7 @@ TEST(LeerPersonajes, TakesALineWithTheSignAnywhereForAMarker) {
 TEST(LeerPersonajes, LetsUnknownMarkersOnlyStartThePhrasesAnew) {
   for (const std::string marca : {"Otra", " NMus", "NMus ", "nmus", "NMUS", "xPaso", "", "Dato"}) {
     Lectura l;
-    l.Leer(Registro("Berta") + "TPar>\r\nuno\r\ndos\r\n" + marca + ">\r\ntres\r\n");
+    l.Leer(RegistroLeido("Berta") + "TPar>\r\nuno\r\ndos\r\n" + marca + ">\r\ntres\r\n");
     EXPECT_EQ(l.Frase(1, 3, 1), "tres") << marca;
     EXPECT_EQ(l.Frase(1, 3, 2), "dos") << marca;
     EXPECT_TRUE(l.NuncaLlenada(1, 2, 1)) << marca;
@@ -237,8 +237,8 @@ TEST(LeerPersonajes, LetsUnknownMarkersOnlyStartThePhrasesAnew) {
 // The editor's reader takes no notice of case; this one does.
 TEST(LeerPersonajes, Kept_LowerCaseMarkersAreUnknown) {
   Lectura l;
-  l.Leer(Registro("Berta") + "qmus>\r\nuno\r\nnmus>\r\ndos\r\ntres\r\nenvi>\r\ncuatro\r\n" +
-         Registro("Dora") + "NMus>\r\nno\r\npaso>\r\ncinco\r\n");
+  l.Leer(RegistroLeido("Berta") + "qmus>\r\nuno\r\nnmus>\r\ndos\r\ntres\r\nenvi>\r\ncuatro\r\n" +
+         RegistroLeido("Dora") + "NMus>\r\nno\r\npaso>\r\ncinco\r\n");
   EXPECT_EQ(l.Frase(1, 1, 1), "cuatro");
   EXPECT_EQ(l.Frase(1, 1, 2), "tres");
   EXPECT_TRUE(l.NuncaLlenada(1, 2, 1));
@@ -256,9 +256,9 @@ TEST(LeerPersonajes, Kept_ALowerCaseRecordMarkerStartsNoRecord) {
 
 TEST(LeerPersonajes, Kept_AFourthAndAFifthPhraseTakeTheThirdsPlace) {
   Lectura l;
-  l.Leer(Registro("Berta") + "QMus>\r\nuno\r\ndos\r\ntres\r\ncuatro\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\nuno\r\ndos\r\ntres\r\ncuatro\r\n");
   EXPECT_EQ(l.Frase(1, 1, 3), "cuatro");
-  l.Leer(Registro("Berta") + "QMus>\r\nuno\r\ndos\r\ntres\r\ncuatro\r\ncinco\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\nuno\r\ndos\r\ntres\r\ncuatro\r\ncinco\r\n");
   EXPECT_EQ(l.Frase(1, 1, 1), "uno");
   EXPECT_EQ(l.Frase(1, 1, 2), "dos");
   EXPECT_EQ(l.Frase(1, 1, 3), "cinco");
@@ -267,7 +267,8 @@ TEST(LeerPersonajes, Kept_AFourthAndAFifthPhraseTakeTheThirdsPlace) {
 
 TEST(LeerPersonajes, Kept_ANewRecordGoesOnWithTheLastKindOfPhrase) {
   Lectura l;
-  l.Leer(Registro("Berta") + "suelta\r\nSQui>\r\nquiero\r\n" + Registro("Dora") + "otra\r\n");
+  l.Leer(RegistroLeido("Berta") + "suelta\r\nSQui>\r\nquiero\r\n" + RegistroLeido("Dora") +
+         "otra\r\n");
   EXPECT_EQ(l.Frase(1, 1, 1), "suelta");
   EXPECT_EQ(l.Frase(1, 12, 1), "quiero");
   EXPECT_EQ(l.Frase(2, 12, 1), "otra");
@@ -279,7 +280,7 @@ TEST(LeerPersonajes, Kept_WhatTheFileDoesNotFillStaysAsItWas) {
   l.t.Personajes[2].Nombre = u"Dora";
   l.t.Mensajes[1][1][2] = u"de antes";
   l.t.Mensajes[2][5][1] = u"también";
-  l.Leer(Registro("Berta") + "QMus>\r\nmus\r\n");
+  l.Leer(RegistroLeido("Berta") + "QMus>\r\nmus\r\n");
   EXPECT_EQ(Utf8(l.t.Personajes[2].Nombre.Trimmed()), "Dora");
   EXPECT_EQ(l.Frase(1, 1, 1), "mus");
   EXPECT_EQ(l.Frase(1, 1, 2), "de antes");
@@ -304,7 +305,7 @@ TEST(LeerPersonajes, EndsTheProgramForARecordCutShort) {
        "Jugadores.dat, línea 3: el archivo se acaba y falta el valor de ordaguero"},
       {"Datos>\r\nBerta\r\n040\r\n",
        "Jugadores.dat, línea 4: el archivo se acaba y falta la historia"},
-      {Registro("Berta") + "Datos>\r\nDora\r\n040",
+      {RegistroLeido("Berta") + "Datos>\r\nDora\r\n040",
        "Jugadores.dat, línea 8: el archivo se acaba y falta la historia"},
   };
   for (const Caso& caso : casos) {
@@ -319,25 +320,26 @@ TEST(LeerPersonajes, EndsTheProgramForAPhraseBeforeTheFirstRecord) {
   const std::string resto =
       ": hay una frase antes del primer personaje. El programa va a terminar su ejecución.";
   Lectura l;
-  EXPECT_EQ(l.Fallo("hola\r\n" + Registro("Berta")), "Jugadores.dat, línea 1" + resto);
-  EXPECT_EQ(l.Fallo("\r\n" + Registro("Berta")), "Jugadores.dat, línea 1" + resto);
-  EXPECT_EQ(l.Fallo("QMus>\r\nhola\r\n" + Registro("Berta")), "Jugadores.dat, línea 2" + resto);
+  EXPECT_EQ(l.Fallo("hola\r\n" + RegistroLeido("Berta")), "Jugadores.dat, línea 1" + resto);
+  EXPECT_EQ(l.Fallo("\r\n" + RegistroLeido("Berta")), "Jugadores.dat, línea 1" + resto);
+  EXPECT_EQ(l.Fallo("QMus>\r\nhola\r\n" + RegistroLeido("Berta")),
+            "Jugadores.dat, línea 2" + resto);
 }
 
 TEST(LeerPersonajes, AllowsMarkersBeforeTheFirstRecord) {
   Lectura l;
-  l.Leer("Otra>\r\nPaso>\r\n" + Registro("Berta") + "me quedo\r\n");
+  l.Leer("Otra>\r\nPaso>\r\n" + RegistroLeido("Berta") + "me quedo\r\n");
   EXPECT_EQ(l.Frase(1, 7, 1), "me quedo");
 }
 
 TEST(LeerPersonajes, HasRoomForAHundredCharacters) {
   std::string archivo;
-  for (int i = 1; i <= 100; ++i) archivo += Registro("Numero " + std::to_string(i));
+  for (int i = 1; i <= 100; ++i) archivo += RegistroLeido("Numero " + std::to_string(i));
   Lectura l;
   l.Leer(archivo + "Derr>\r\nadios\r\n");
   EXPECT_EQ(Utf8(l.t.Personajes[100].Nombre.Trimmed()), "Numero 100");
   EXPECT_EQ(l.Frase(100, 14, 1), "adios");
-  EXPECT_EQ(l.Fallo(archivo + Registro("Numero 101")),
+  EXPECT_EQ(l.Fallo(archivo + RegistroLeido("Numero 101")),
             "Jugadores.dat, línea 401: hay más de 100 personajes. El programa va a terminar su "
             "ejecución.");
 }

@@ -13,7 +13,7 @@
 namespace tasca::test {
 namespace {
 
-using Nombres = std::vector<std::string>;
+using Archivos = std::vector<std::string>;
 
 // A phrase as it stands in the file: a hundred characters and the line end.
 std::string Frase(const std::string& frase) {
@@ -21,8 +21,8 @@ std::string Frase(const std::string& frase) {
 }
 
 // The lines of a record and its fourteen markers; `frases` follow the first one.
-std::string Registro(const std::string& nombre, const std::string& ordaguero,
-                     const std::string& historia, const std::string& frases = {}) {
+std::string RegistroEscrito(const std::string& nombre, const std::string& ordaguero,
+                            const std::string& historia, const std::string& frases = {}) {
   return "Datos>\r\n" + nombre + "\r\n" + ordaguero + "\r\n" + historia + "\r\nQMus>\r\n" + frases +
          "NMus>\r\nTPar>\r\nNPar>\r\nTJue>\r\nNJue>\r\nPaso>\r\nEnvi>\r\nEnvM>\r\nOrda>\r\nNQui>"
          "\r\n"
@@ -41,8 +41,8 @@ TEST(TextoPersonajes, WritesARecordWithAllItsMarkers) {
   Table t = ConPersonaje(u"La boticaria", 40, u"Vende jarabes.");
   t.Mensajes[1][1][1] = u"Mus, y jarabe";
   t.Mensajes[1][1][2] = u"Venga mus";
-  EXPECT_EQ(TextoPersonajes(t, 1), Registro("La boticaria", "040", "Vende jarabes.",
-                                            Frase("Mus, y jarabe") + Frase("Venga mus")));
+  EXPECT_EQ(TextoPersonajes(t, 1), RegistroEscrito("La boticaria", "040", "Vende jarabes.",
+                                                   Frase("Mus, y jarabe") + Frase("Venga mus")));
 }
 
 TEST(TextoPersonajes, WritesEveryKindUnderItsMarker) {
@@ -66,7 +66,7 @@ TEST(TextoPersonajes, WritesOrdagueroWithAtLeastThreeDigits) {
       {-100, "-100"}, {32767, "32767"}, {999, "999"},   {-32768, "-32768"}};
   for (const auto& [valor, escrito] : casos) {
     EXPECT_EQ(TextoPersonajes(ConPersonaje(u"Berta", valor, u"Cose."), 1),
-              Registro("Berta", escrito, "Cose."));
+              RegistroEscrito("Berta", escrito, "Cose."));
   }
 }
 
@@ -75,15 +75,16 @@ TEST(TextoPersonajes, LeavesOutPhrasesThatAreBlankOrWereNeverFilled) {
   t.Mensajes[1][1][1] = u"uno";
   t.Mensajes[1][1][2] = u"   ";
   t.Mensajes[1][1][3] = u"tres";
-  EXPECT_EQ(TextoPersonajes(t, 1), Registro("Berta", "050", "Cose.", Frase("uno") + Frase("tres")));
+  EXPECT_EQ(TextoPersonajes(t, 1),
+            RegistroEscrito("Berta", "050", "Cose.", Frase("uno") + Frase("tres")));
   t.Mensajes[1][1][1] = std::u16string_view{u"a\0b", 3};
-  EXPECT_EQ(TextoPersonajes(t, 1), Registro("Berta", "050", "Cose.", Frase("tres")));
+  EXPECT_EQ(TextoPersonajes(t, 1), RegistroEscrito("Berta", "050", "Cose.", Frase("tres")));
 }
 
 TEST(TextoPersonajes, Kept_OnlyPhrasesKeepTheirPadding) {
   Table t = ConPersonaje(u"  Berta", 50, u" Cose. ");
   t.Mensajes[1][1][1] = u"  mus";
-  EXPECT_EQ(TextoPersonajes(t, 1), Registro("Berta", "050", "Cose.", Frase("  mus")));
+  EXPECT_EQ(TextoPersonajes(t, 1), RegistroEscrito("Berta", "050", "Cose.", Frase("  mus")));
 }
 
 TEST(TextoPersonajes, WritesTheCharactersInTheirOrderUpToTheCount) {
@@ -92,14 +93,14 @@ TEST(TextoPersonajes, WritesTheCharactersInTheirOrderUpToTheCount) {
   t.Personajes[2].Historia = u"Canta.";
   t.Personajes[3].Nombre = u"sobra";
   EXPECT_EQ(TextoPersonajes(t, 2),
-            Registro("Berta", "050", "Cose.") + Registro("Dora", "000", "Canta."));
+            RegistroEscrito("Berta", "050", "Cose.") + RegistroEscrito("Dora", "000", "Canta."));
   EXPECT_EQ(TextoPersonajes(t, 0), "");
   EXPECT_EQ(TextoPersonajes(t, -1), "");
 }
 
 TEST(TextoPersonajes, WritesTheLettersOfWindows1252) {
   EXPECT_EQ(TextoPersonajes(ConPersonaje(u"el tío Ángel", 50, u"Cobra en €."), 1),
-            Registro("el t\xEDo \xC1ngel", "050", "Cobra en \x80."));
+            RegistroEscrito("el t\xEDo \xC1ngel", "050", "Cobra en \x80."));
 }
 
 struct Carpeta {
@@ -112,8 +113,8 @@ struct Carpeta {
 TEST(EscribirPersonajes, MakesTheFileAndNoCopyWhereThereWasNone) {
   const Carpeta c;
   EscribirPersonajes(c.t, 1);
-  EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), Registro("Berta", "050", "Cose."));
-  EXPECT_EQ(c.carpeta.Names(), (Nombres{"Jugadores.dat"}));
+  EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), RegistroEscrito("Berta", "050", "Cose."));
+  EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.dat"}));
 }
 
 TEST(EscribirPersonajes, KeepsTheLastFileAndNoneBeforeIt) {
@@ -122,9 +123,9 @@ TEST(EscribirPersonajes, KeepsTheLastFileAndNoneBeforeIt) {
   EscribirPersonajes(c.t, 1);
   EXPECT_EQ(c.carpeta.Read("Jugadores.bak"), "uno");
   EscribirPersonajes(c.t, 0);
-  EXPECT_EQ(c.carpeta.Read("Jugadores.bak"), Registro("Berta", "050", "Cose."));
+  EXPECT_EQ(c.carpeta.Read("Jugadores.bak"), RegistroEscrito("Berta", "050", "Cose."));
   EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), "");
-  EXPECT_EQ(c.carpeta.Names(), (Nombres{"Jugadores.bak", "Jugadores.dat"}));
+  EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.bak", "Jugadores.dat"}));
 }
 
 TEST(EscribirPersonajes, LeavesTheFileWhenNoCopyCanBeMade) {
@@ -181,7 +182,7 @@ TEST(LeerPersonajesSinMayusculas, CountsNoneInAnEmptyFileAndAHundredAtMost) {
   c.carpeta.Write("Jugadores.dat", "");
   EXPECT_EQ(LeerPersonajesSinMayusculas(c.t), 0);
   std::string archivo;
-  for (int i = 0; i < 100; ++i) archivo += Registro("Lola", "050", "Baila.");
+  for (int i = 0; i < 100; ++i) archivo += RegistroEscrito("Lola", "050", "Baila.");
   c.carpeta.Write("Jugadores.dat", archivo);
   EXPECT_EQ(LeerPersonajesSinMayusculas(c.t), 100);
   c.carpeta.Write("Jugadores.dat", archivo + "Datos>\r\n");

@@ -364,6 +364,10 @@ TEST(RevisarPersonajes, ThrowsForAFileThatIsNotThereAndForAFolder) {
   EXPECT_THROW(RevisarPersonajes(carpeta.Path()), RunTimeError);
 }
 
+TEST(RevisarPersonajes, ThrowsForAFileThatCannotBeReadToItsEnd) {
+  EXPECT_THROW(RevisarPersonajes("/proc/self/mem"), RunTimeError);
+}
+
 TEST(RevisarPersonajes, LeavesAFileAtThatWhenItsFaultsNeverEnd) {
   const Revision revision = Revisar(std::string(1'000'000, '\n'));
   ASSERT_FALSE(revision.Faltas.empty());

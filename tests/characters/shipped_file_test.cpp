@@ -81,7 +81,7 @@ Table MesaConDatos() {
   return t;
 }
 
-std::vector<std::u16string> Nombres() {
+std::vector<std::u16string> NombresLeidos() {
   const Table t = MesaConDatos();
   std::vector<std::u16string> nombres;
   for (int personaje = 1; personaje <= CuantosPersonajes(); ++personaje) {
@@ -90,15 +90,15 @@ std::vector<std::u16string> Nombres() {
   return nombres;
 }
 
-struct Frase {
+struct FraseLeida {
   int Personaje;
   MessageCategory Categoria;
   std::u16string Texto;
 };
 
-std::vector<Frase> Frases() {
+std::vector<FraseLeida> Frases() {
   const Table t = MesaConDatos();
-  std::vector<Frase> frases;
+  std::vector<FraseLeida> frases;
   for (int personaje = 1; personaje <= CuantosPersonajes(); ++personaje) {
     for (int i = 0; i < 14 * 3; ++i) {
       const auto categoria = static_cast<MessageCategory>(i / 3 + 1);
@@ -110,9 +110,9 @@ std::vector<Frase> Frases() {
 }
 
 // The phrases, as the game reads them, that break a rule.
-Textos FrasesQue(const std::function<bool(const Frase&)>& falla) {
+Textos FrasesQue(const std::function<bool(const FraseLeida&)>& falla) {
   Textos malas;
-  for (const Frase& frase : Frases()) {
+  for (const FraseLeida& frase : Frases()) {
     if (!falla(frase)) continue;
     malas.push_back("character " + std::to_string(frase.Personaje) + ", kind " +
                     std::to_string(static_cast<int>(frase.Categoria)) + ": " + Utf8(frase.Texto));
@@ -185,14 +185,14 @@ TEST(ShippedFile, GivesOrdagueroThreeDigitsBetween5And95) {
 
 TEST(ShippedFile, FillsEverySlotOfEveryCharacter) {
   EXPECT_EQ(Frases().size(), static_cast<std::size_t>(CuantosPersonajes()) * 14 * 3);
-  EXPECT_EQ(FrasesQue([](const Frase& frase) {
+  EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               return frase.Texto.empty() || frase.Texto.find(u'\0') != std::u16string::npos;
             }),
             Ninguno);
 }
 
 TEST(ShippedFile, HasAnAmpersandWhereAnAmountComesAndNowhereElse) {
-  EXPECT_EQ(FrasesQue([](const Frase& frase) {
+  EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               return Contains(frase.Texto, u"&") != (frase.Categoria == MessageCategory::EnvM);
             }),
             Ninguno);
@@ -203,7 +203,7 @@ TEST(ShippedFile, HasAnAmpersandWhereAnAmountComesAndNowhereElse) {
 }
 
 TEST(ShippedFile, OpensWhatItClosesInExclamationsQuestionsAndQuotes) {
-  EXPECT_EQ(FrasesQue([](const Frase& frase) {
+  EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               const auto cuenta = [&frase](char16_t letra) {
                 return std::count(frase.Texto.begin(), frase.Texto.end(), letra);
               };
@@ -215,12 +215,13 @@ TEST(ShippedFile, OpensWhatItClosesInExclamationsQuestionsAndQuotes) {
 
 TEST(ShippedFile, NeverSaysTheSameTwice) {
   std::set<std::u16string> dichas;
-  EXPECT_EQ(FrasesQue([&dichas](const Frase& frase) { return !dichas.insert(frase.Texto).second; }),
-            Ninguno);
+  EXPECT_EQ(
+      FrasesQue([&dichas](const FraseLeida& frase) { return !dichas.insert(frase.Texto).second; }),
+      Ninguno);
 }
 
 TEST(ShippedFile, StartsEachPhraseOfTheIndirectSetAndNoOtherWithQue) {
-  EXPECT_EQ(FrasesQue([](const Frase& frase) {
+  EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               if (frase.Personaje == 1) return !frase.Texto.starts_with(u"que ");
               return frase.Texto.starts_with(u"que");
             }),
@@ -228,7 +229,7 @@ TEST(ShippedFile, StartsEachPhraseOfTheIndirectSetAndNoOtherWithQue) {
 }
 
 TEST(ShippedFile, StartsWithTheTwoDefaultSetsAndHasNoOther) {
-  const std::vector<std::u16string> nombres = Nombres();
+  const std::vector<std::u16string> nombres = NombresLeidos();
   ASSERT_GE(nombres.size(), 2U);
   EXPECT_EQ(Utf8(nombres[0]), "Default estilo indirecto");
   EXPECT_EQ(Utf8(nombres[1]), "Default estilo directo");
@@ -238,7 +239,7 @@ TEST(ShippedFile, StartsWithTheTwoDefaultSetsAndHasNoOther) {
 }
 
 TEST(ShippedFile, OffersSixteenCharactersOfDifferentNames) {
-  const std::vector<std::u16string> nombres = Nombres();
+  const std::vector<std::u16string> nombres = NombresLeidos();
   EXPECT_EQ(nombres.size(), 18U);
   EXPECT_EQ(std::set<std::u16string>(nombres.begin(), nombres.end()).size(), nombres.size());
 }
@@ -251,7 +252,7 @@ TEST(ShippedFile, IsWrittenBackByteForByte) {
 }
 
 TEST(ShippedFile, HasTwoNamesThatTheCountContractsToDel) {
-  const std::vector<std::u16string> nombres = Nombres();
+  const std::vector<std::u16string> nombres = NombresLeidos();
   const auto empiezan = [&nombres](std::u16string_view principio) {
     return std::count_if(nombres.begin(), nombres.end(), [principio](const std::u16string& nombre) {
       return nombre.starts_with(principio);
@@ -276,12 +277,12 @@ TEST(ShippedFile, OffersAllOtherCharactersWithTheirStories) {
     ofrecidos.push_back(d.Combo1.List[i].Texto);
     if (!d.HistoriaInicio[d.Combo1.List[i].Personaje].Trimmed().ends_with(u'.')) ++sinHistoria;
   }
-  EXPECT_EQ(ofrecidos, Nombres());
+  EXPECT_EQ(ofrecidos, NombresLeidos());
   EXPECT_EQ(sinHistoria, 0);
 }
 
 TEST(ShippedFile, LetsTheBoticariaDeclareHerParesAsThePreviewDoes) {
-  const std::vector<std::u16string> nombres = Nombres();
+  const std::vector<std::u16string> nombres = NombresLeidos();
   const auto boticaria = std::find(nombres.begin(), nombres.end(), u"La boticaria");
   ASSERT_NE(boticaria, nombres.end());
   const int personaje = static_cast<int>(boticaria - nombres.begin()) + 1;

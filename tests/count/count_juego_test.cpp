@@ -9,8 +9,6 @@ namespace {
 
 const std::string SinJuego = "7 6 5 4";
 
-const std::string Antes = GrandeYPequenaPagadas + "\r\n";
-
 // Somebody has juego; the pares of these hands were settled and are nobody's.
 struct RecuentoJuego : Recuento {
   RecuentoJuego(const std::array<std::string, 4>& manos, int apuesta) {

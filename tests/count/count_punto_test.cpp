@@ -7,8 +7,6 @@
 namespace tasca::test {
 namespace {
 
-const std::string Antes = GrandeYPequenaPagadas + "\r\n";
-
 TEST(ContarPunto, GivesTheStonesOfAnAcceptedBet) {
   Recuento mano;
   DarMano(mano.t, 4, "7 7 5 4");  // 23 points

@@ -34,6 +34,9 @@ struct Recuento {
 inline const std::string GrandeYPequenaPagadas =
     "la grande ya estaba contada \r\nla pequeña ya estaba contada \r\n";
 
+// What stands before the lance in which a hand without pares ends.
+inline const std::string Antes = GrandeYPequenaPagadas + "\r\n";
+
 inline const std::string PuntoYaContado = "El Punto ya estaba contado \r\n";
 
 // The last two lines of a count that ends no juego; the human's pareja first.

@@ -17,7 +17,7 @@
 namespace tasca::test {
 namespace {
 
-constexpr std::size_t TodasLasManos = 330;
+constexpr std::size_t TodosLosPatrones = 330;
 
 // A hand as card numbers, the highest first, and as counts.
 struct Patron {
@@ -194,7 +194,7 @@ void Comprobar(const Comparacion& comparacion, int cajas = 0) {
   Fallos fallos;
   const Resultados resultados = TodosContraTodos(duelo, fallos);
   ComprobarOrden(resultados, fallos);
-  EXPECT_EQ(resultados.size(), TodasLasManos);
+  EXPECT_EQ(resultados.size(), TodosLosPatrones);
   EXPECT_EQ(duelo.Cajas(), cajas);
   EXPECT_EQ(fallos.Texto(), "");
 }
@@ -221,7 +221,7 @@ TEST(ExhaustiveWinners, OfTheJuego) {
 TEST(ExhaustiveWinners, OfThePunto) {
   int conJuego = 0;
   for (const Patron& patron : Patrones()) conJuego += Puntos(patron.Valores) >= 31 ? 1 : 0;
-  constexpr int manos = static_cast<int>(TodasLasManos);
+  constexpr int manos = static_cast<int>(TodosLosPatrones);
   const int cajas = 4 * (manos * manos * 2 + 2 * manos * conJuego);
   Comprobar({MejorPunto, MejorElPunto, {10, 10, 10, 1}}, cajas);
 }

@@ -196,14 +196,14 @@ TEST_F(RespondePunto, GoesFromOrdagoToQuieroAsManoWithThirty) {
   EXPECT_EQ(Responde(30, Primero, {Maxima}), Decision::Quiero);
 }
 
-struct CasoRespuesta {
+struct CasoRespuestaPunto {
   int puntos = 0;
   PorAsiento orden;
   float sacada = 0;
   Decision decision = Decision::NoQuiero;
 };
 
-constexpr std::array<CasoRespuesta, 11> CasosRespuesta{{
+constexpr std::array<CasoRespuestaPunto, 11> CasosRespuestaPunto{{
     {30, Segundo, 0.25F - 2 * Minima, Decision::EnvidoMas},  // 2
     {30, Segundo, 0.25F, Decision::Quiero},
     {29, Primero, 0.25F - 2 * Minima, Decision::EnvidoMas},
@@ -218,7 +218,7 @@ constexpr std::array<CasoRespuesta, 11> CasosRespuesta{{
 }};
 
 TEST_F(RespondePunto, MultipliesTheDistanceByThePlace) {
-  for (const CasoRespuesta& caso : CasosRespuesta) {
+  for (const CasoRespuestaPunto& caso : CasosRespuestaPunto) {
     EXPECT_EQ(Responde(caso.puntos, caso.orden, {caso.sacada}), caso.decision)
         << caso.puntos << " with mano " << caso.orden[1] << ", draw " << caso.sacada;
   }

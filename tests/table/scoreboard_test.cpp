@@ -19,7 +19,7 @@ using Sucesos = std::vector<std::string>;
 using Tantos = Array<Integer, 0, 1>;
 
 // A table, a seeded generator and a port.
-struct Sala {
+struct SalaSinSemilla {
   Table t = MesaDePrueba();
   Rnd rnd;
   ScriptedPort port;
@@ -50,7 +50,7 @@ TEST(MostrarTanteo, WritesNegativeStonesToo) {
 }
 
 TEST(ComprobarVaca, OnlyRefreshesTheScoreboardWithoutAWinner) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {1, 1};
   sala.t.Piedras = {3, 4};
   Table esperada = sala.t;
@@ -61,7 +61,7 @@ TEST(ComprobarVaca, OnlyRefreshesTheScoreboardWithoutAWinner) {
 }
 
 TEST(ComprobarVaca, GivesTheVacaForTwoJuegosOfThree) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {2, 1};
   sala.t.Vacas = {0, 1};
   sala.t.Piedras = {5, 6};
@@ -76,7 +76,7 @@ TEST(ComprobarVaca, GivesTheVacaForTwoJuegosOfThree) {
 }
 
 TEST(ComprobarVaca, GivesTheVacaToTheHumansPareja) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {0, 2};
   ComprobarVaca(sala.g);
   EXPECT_EQ(sala.port.TakeEvents(),
@@ -86,7 +86,7 @@ TEST(ComprobarVaca, GivesTheVacaToTheHumansPareja) {
 }
 
 TEST(ComprobarVaca, Kept_PrefersTheHumansParejaWhenBothQualify) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {3, 2};
   ComprobarVaca(sala.g);
   EXPECT_EQ(sala.t.Vacas, (Tantos{0, 1}));
@@ -102,7 +102,7 @@ constexpr std::array<CasoLimite, 8> LimitesJuegos{
 
 // The vacas of a pareja that has won so many juegos.
 int VacasWith(int alMejorDe, Pareja pareja, int juegos) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.JuegosVaca = alMejorDe;
   sala.t.Juegos[pareja] = juegos;
   ComprobarVaca(sala.g);
@@ -124,7 +124,7 @@ constexpr std::array<CasoLimite, 7> LimitesVacas{
 
 // Whether the vaca that makes so many for a pareja ends the match.
 bool MatchEndsWith(int alMejorDe, Pareja pareja, int vacas) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.VacasPartida = alMejorDe;
   sala.t.Vacas[pareja] = vacas - 1;
   sala.t.Juegos[pareja] = 2;
@@ -157,7 +157,7 @@ constexpr auto VacaACero =
     "box: La pareja 0 gana esta vaca. El resultado ha sido de 0 a 0 partidas.|0 a 0 vaca.";
 
 TEST(ComprobarVaca, EndsTheMatchBeforeItTellsTheVaca) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {1, 2};
   sala.t.Vacas = {0, 1};
   sala.port.Yes().Yes();
@@ -170,7 +170,7 @@ TEST(ComprobarVaca, EndsTheMatchBeforeItTellsTheVaca) {
 }
 
 TEST(ComprobarVaca, Kept_ShowsZerosAfterANewMatchHasBeenSetUp) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {2, 1};
   sala.t.Vacas = {1, 1};
   sala.port.Yes().No();
@@ -181,14 +181,14 @@ TEST(ComprobarVaca, Kept_ShowsZerosAfterANewMatchHasBeenSetUp) {
 }
 
 TEST(FinPartida, Kept_WritesNoBlankBeforeGana) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.port.Yes().Yes();
   FinPartida(sala.g, 0);
   EXPECT_EQ(sala.port.TakeEvents().front(), "box: La pareja 0gana esta vaca.");
 }
 
 TEST(FinPartida, NamesTheOpponentsWhenTheyAreCalledByName) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.UsarNombres = true;
   sala.t.Mensajes[3][13][1] = u"  ¡Otra será!  ";
   sala.t.Mensajes[5][13][1] = u"Buen juego";
@@ -200,7 +200,7 @@ TEST(FinPartida, NamesTheOpponentsWhenTheyAreCalledByName) {
 }
 
 TEST(FinPartida, TakesTheOpponentsWordsForTheirDefeat) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.UsarNombres = true;
   sala.t.Mensajes[3][14][1] = u"Ya veremos";
   sala.t.Mensajes[5][14][1] = u"";
@@ -213,7 +213,7 @@ TEST(FinPartida, TakesTheOpponentsWordsForTheirDefeat) {
 
 TEST(FinPartida, ApplaudsOnlyTheHumansPareja) {
   for (const Pareja pareja : {0, 1}) {
-    Sala sala;
+    SalaSinSemilla sala;
     sala.port.Yes().Yes();
     FinPartida(sala.g, pareja);
     EXPECT_EQ(sala.port.TakeEvents().at(1) == Aplauso, pareja == 1);
@@ -221,7 +221,7 @@ TEST(FinPartida, ApplaudsOnlyTheHumansPareja) {
 }
 
 TEST(FinPartida, LeavesWhenThePlayerHasHadEnough) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Vacas = {2, 0};
   sala.port.No();
   EXPECT_THROW(FinPartida(sala.g, 0), LeaveProgram);
@@ -231,7 +231,7 @@ TEST(FinPartida, LeavesWhenThePlayerHasHadEnough) {
 }
 
 TEST(FinPartida, SendsForOtherPlayersAndChangesNothing) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Vacas = {2, 0};
   sala.t.Piedras = {4, 5};
   const Table antes = sala.t;
@@ -243,7 +243,7 @@ TEST(FinPartida, SendsForOtherPlayersAndChangesNothing) {
 }
 
 TEST(FinPartida, StartsAnotherMatchWithTheSamePlayers) {
-  Sala sala;
+  SalaSinSemilla sala;
   Table& t = sala.t;
   t.Piedras = {4, 5};
   t.Juegos = {2, 1};
@@ -270,7 +270,7 @@ TEST(FinPartida, StartsAnotherMatchWithTheSamePlayers) {
 }
 
 TEST(GanaJuego, CreditsTheJuegoAndWaitsForANewHand) {
-  Sala sala;
+  SalaSinSemilla sala;
   Table& t = sala.t;
   t.Piedras = {30, 12};
   t.Fase = 2;
@@ -285,7 +285,7 @@ TEST(GanaJuego, CreditsTheJuegoAndWaitsForANewHand) {
 }
 
 TEST(GanaJuego, MayWinTheVaca) {
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {1, 1};
   GanaJuego(sala.g, 0);
   EXPECT_EQ(sala.port.TakeEvents(),
@@ -297,7 +297,7 @@ TEST(GanaJuego, MayWinTheVaca) {
 
 TEST(GanaJuego, Kept_DealsOnceMoreAfterAMatchThatWentOn) {
   // The new match has dealt a hand already, but the step that asked ends as ever.
-  Sala sala;
+  SalaSinSemilla sala;
   sala.t.Juegos = {1, 0};
   sala.t.Vacas = {1, 0};
   sala.port.Yes().No();

@@ -21,7 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr double Frecuencia = 44100;
 constexpr std::array<const char*, 4> Archivos{"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3",
                                               "Son_DaUnaCarta.wav", "Son_aplauso.wav"};
 

@@ -9,6 +9,9 @@
 
 namespace tasca::test {
 
+// Samples of one side in a second.
+inline constexpr double Frecuencia = 44100;
+
 // A file of data/ as the loudspeaker would play it at full volume: one side's samples.
 std::vector<double> Decoded(const std::filesystem::path& archivo);
 

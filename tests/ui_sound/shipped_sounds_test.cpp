@@ -35,8 +35,6 @@ class ShippedSound : public testing::TestWithParam<Shipped> {
   }
 };
 
-constexpr double Frecuencia = 44100;
-
 double Loudest(const std::vector<double>& muestras, std::size_t desde, std::size_t hasta) {
   double mayor = 0;
   for (std::size_t i = desde; i < hasta; ++i) mayor = std::max(mayor, std::abs(muestras[i]));

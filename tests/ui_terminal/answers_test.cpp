@@ -9,20 +9,20 @@ namespace tasca {
 namespace {
 
 TEST(Fold, ForgetsCapitalsAccentsAndBlanksAround) {
-  struct Caso {
+  struct CasoOpcion {
     std::u16string_view Escrito;
     std::u16string_view Plegado;
   };
-  for (const Caso& caso : {
-           Caso{u"  Sí ", u"si"},
-           Caso{u"ÓRDAGO", u"ordago"},
-           Caso{u"Niño", u"nino"},
-           Caso{u"ÀÉÎÖÜÝÇ", u"aeiouyc"},
-           Caso{u"o\u0301rdago", u"ordago"},  // the accent as a character of its own
-           Caso{u"Šž ŸŒ", u"sz yœ"},
-           Caso{u"3×÷", u"3×÷"},
-           Caso{u"", u""},
-           Caso{u"el  Cojo", u"el  cojo"},
+  for (const CasoOpcion& caso : {
+           CasoOpcion{u"  Sí ", u"si"},
+           CasoOpcion{u"ÓRDAGO", u"ordago"},
+           CasoOpcion{u"Niño", u"nino"},
+           CasoOpcion{u"ÀÉÎÖÜÝÇ", u"aeiouyc"},
+           CasoOpcion{u"o\u0301rdago", u"ordago"},  // the accent as a character of its own
+           CasoOpcion{u"Šž ŸŒ", u"sz yœ"},
+           CasoOpcion{u"3×÷", u"3×÷"},
+           CasoOpcion{u"", u""},
+           CasoOpcion{u"el  Cojo", u"el  cojo"},
        }) {
     EXPECT_EQ(Fold(caso.Escrito), caso.Plegado) << test::Utf8(caso.Escrito);
   }
@@ -45,13 +45,13 @@ TEST(ReadYesNo, TakesNothingElse) {
 
 using Numeros = std::vector<int>;
 
-struct Caso {
+struct CasoOpcion {
   std::u16string_view Escrito;
   Numeros Hallados;
 };
 
-void ExpectAll(const std::vector<Option>& opciones, const std::vector<Caso>& casos) {
-  for (const Caso& caso : casos) {
+void ExpectAll(const std::vector<Option>& opciones, const std::vector<CasoOpcion>& casos) {
+  for (const CasoOpcion& caso : casos) {
     EXPECT_EQ(FindOptions(opciones, caso.Escrito), caso.Hallados) << test::Utf8(caso.Escrito);
   }
 }

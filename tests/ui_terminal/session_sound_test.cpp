@@ -65,8 +65,6 @@ class SessionWithSound : public testing::Test {
   SoundFolder carpeta_;
 };
 
-const std::string Puerta = "\n\n\n\n\n\n\n";
-
 TEST_F(SessionWithSound, ShufflesAndDealsWhileItWaitsForALine) {
   Play([](const Typist& teclear) {
     teclear(Puerta);

@@ -33,6 +33,9 @@ void LlenarCarpeta(const TempFolder& carpeta);
 void LlenarCarpeta(const TempFolder& carpeta, std::string_view piedras, std::string_view juegos,
                    std::string_view vacas);
 
+// What one types to come in: seven defaults, and the first hand is dealt.
+inline const std::string Puerta = "\n\n\n\n\n\n\n";
+
 struct SessionResult {
   int Status = -1;
   std::string Out;

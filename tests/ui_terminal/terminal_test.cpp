@@ -13,8 +13,6 @@
 namespace tasca::test {
 namespace {
 
-const std::string Puerta = "\n\n\n\n\n\n\n";  // seven defaults, and the first hand is dealt
-
 int Count(const std::string& texto, const std::string& que) {
   int veces = 0;
   for (std::size_t i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++veces;
@@ -26,7 +24,7 @@ bool Contains(const std::string& texto, const std::string& que) {
 }
 
 // What a session prints after the start-up choices.
-std::string AtTheTable(const SessionResult& sesion) {
+std::string FromTheTableOn(const SessionResult& sesion) {
   return sesion.Out.substr(sesion.Out.find("Partida de\n"));
 }
 
@@ -39,7 +37,7 @@ TEST_F(Session, OpensTheTableAndLeavesAtTheEndOfTheInput) {
   const SessionResult sesion = PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
   EXPECT_EQ(sesion.Err, "");
-  const std::string mesa = AtTheTable(sesion);
+  const std::string mesa = FromTheTableOn(sesion);
   EXPECT_TRUE(
       mesa.starts_with("Partida de\nAna y Dora\n contra \nel Cojo y Berta\n\n"
                        "Partida al mejor de 3 vacas, cada una  al mejor de 3 juegos de35 piedras.\n"
@@ -59,7 +57,7 @@ TEST_F(Session, TakesInputWithWindowsLineEnds) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, "Eva\r\n3\r\n\r\n\r\n\r\n\r\n\r\nsalir\r\n");
   EXPECT_EQ(sesion.Status, 0);
-  EXPECT_TRUE(AtTheTable(sesion).starts_with("Partida de\nEva y Dora\n"));
+  EXPECT_TRUE(FromTheTableOn(sesion).starts_with("Partida de\nEva y Dora\n"));
 }
 
 TEST_F(Session, EndsWithStatusZeroWhereverTheInputEnds) {
@@ -138,7 +136,7 @@ TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, Puerta + "q\nQ\n");
   EXPECT_EQ(sesion.Status, 0);
-  const std::string mesa = AtTheTable(sesion);
+  const std::string mesa = FromTheTableOn(sesion);
   EXPECT_EQ(Count(mesa, "Sus cartas son"), 3);
   EXPECT_EQ(Count(mesa, " es mano\npulse Enter para empezar\n"), 2);
   EXPECT_FALSE(Contains(mesa, "¿mus?"));
@@ -146,7 +144,7 @@ TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
 
 TEST_F(Session, LaysAllHandsOpenForTheZero) {
   LlenarCarpeta(Carpeta);
-  const std::string mesa = AtTheTable(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n0\n"));
+  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n0\n"));
   const std::string abiertas = mesa.substr(mesa.find("empezar\n") + 8);
   EXPECT_EQ(Count(abiertas, "\n"), 8);
   EXPECT_TRUE(abiertas.starts_with("Ana\n")) << abiertas;
@@ -158,7 +156,7 @@ TEST_F(Session, LaysAllHandsOpenForTheZero) {
 
 TEST_F(Session, HelpsWithoutPlayingOn) {
   LlenarCarpeta(Carpeta);
-  const std::string mesa = AtTheTable(PlayLines(Carpeta, Puerta + "?\n"));
+  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + "?\n"));
   EXPECT_TRUE(
       mesa.ends_with("Enter sigue la mano.\n"
                      "q abandona la mano y empieza otra.\n"
@@ -176,7 +174,7 @@ TEST_F(Session, HelpsWithoutPlayingOn) {
 TEST_F(Session, HintsAtTheKeysForAnythingElse) {
   LlenarCarpeta(Carpeta);
   for (const std::string otra : {"x", "13", "envido", "qq", "00"}) {
-    const std::string mesa = AtTheTable(PlayLines(Carpeta, Puerta + otra + "\n"));
+    const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + otra + "\n"));
     EXPECT_TRUE(mesa.ends_with(
         "Pulse enter para empezar\n"
         "Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.\n"))

@@ -70,7 +70,7 @@ const Lines NoObjects{"",
                       "\xFF\xFE",
                       "{\"text\": \"\xE1\"}"};
 
-std::string StartWith(const std::string& fields) { return R"({"start": {)" + fields + "}}"; }
+std::string StartOf(const std::string& fields) { return R"({"start": {)" + fields + "}}"; }
 
 TEST(TraceFaultyLine, InsteadOfTheFirstStart) {
   const TraceFolder folder{35, 3, 3};
@@ -79,20 +79,17 @@ TEST(TraceFaultyLine, InsteadOfTheFirstStart) {
   EveryOneIsRefused(
       folder, {},
       {Enter, R"({"sound": 0})", Yes, Result(0), R"({"text": "a"})", R"({"start": []})",
-       R"({"start": 1})", StartWith(combos), StartWith(R"("clock": [0, 0, 0])"),
-       StartWith(R"("clock": [0, 0], )" + combos), StartWith(R"("clock": [0, 0, 0, 0], )" + combos),
-       StartWith(R"("clock": [24, 0, 0], )" + combos),
-       StartWith(R"("clock": [-1, 0, 0], )" + combos),
-       StartWith(R"("clock": [0, 60, 0], )" + combos),
-       StartWith(R"("clock": [0, 0, 60], )" + combos),
-       StartWith(R"("clock": [0, 0, 0.0], )" + combos),
-       StartWith(R"("clock": ["0", 0, 0], )" + combos),
-       StartWith(R"("clock": "0:00:00", )" + combos)});
+       R"({"start": 1})", StartOf(combos), StartOf(R"("clock": [0, 0, 0])"),
+       StartOf(R"("clock": [0, 0], )" + combos), StartOf(R"("clock": [0, 0, 0, 0], )" + combos),
+       StartOf(R"("clock": [24, 0, 0], )" + combos), StartOf(R"("clock": [-1, 0, 0], )" + combos),
+       StartOf(R"("clock": [0, 60, 0], )" + combos), StartOf(R"("clock": [0, 0, 60], )" + combos),
+       StartOf(R"("clock": [0, 0, 0.0], )" + combos), StartOf(R"("clock": ["0", 0, 0], )" + combos),
+       StartOf(R"("clock": "0:00:00", )" + combos)});
 }
 
 TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
   const auto with = [](const std::string& fields) {
-    return StartWith(R"("clock": [0, 0, 0], )" + fields);
+    return StartOf(R"("clock": [0, 0, 0], )" + fields);
   };
   EveryOneIsRefused(
       TraceFolder{35, 3, 3}, {},
@@ -109,11 +106,11 @@ TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
 
 TEST(TraceFaultyLine, InsteadOfALaterStart) {
   const TraceFolder folder{35, 3, 3};
-  const Lines refused{StartWith(R"("clock": [0, 0, 0], "combos": [1, 1, 1])")};
+  const Lines refused{StartOf(R"("clock": [0, 0, 0], "combos": [1, 1, 1])")};
   EveryOneIsRefused(folder, refused, NoObjects);
   EveryOneIsRefused(folder, refused,
-                    {Enter, Yes, StartWith(""), StartWith(R"("name": "Eva")"),
-                     StartWith(R"("combos": [1, 2, 9])"), StartWith(R"("combos": [])")});
+                    {Enter, Yes, StartOf(""), StartOf(R"("name": "Eva")"),
+                     StartOf(R"("combos": [1, 2, 9])"), StartOf(R"("combos": [])")});
 }
 
 TEST(TraceFaultyLine, InsteadOfAKey) {
