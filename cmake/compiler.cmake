@@ -18,6 +18,12 @@ if(TASCA_SANITIZE)
   add_link_options(${sanitizers})
 endif()
 
+if(TASCA_COVERAGE)
+  # Several tests at once count into the same files.
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
+endif()
+
 # The fuzzer sees which way our code takes; every fault that a sanitizer knows ends the run.
 if(TASCA_FUZZ)
   add_compile_options(
