@@ -1,0 +1,64 @@
+"""A player at the keyboard: at every question an answer, and the keys that give it."""
+import random
+
+import table_window
+
+BUTTONS = ["Paso", "Envido", "Envido Más", "Órdago"]
+
+
+class Answer:
+    """The answer as a line for `tasca-trace` (nothing for a box with "Aceptar"), and its keys."""
+
+    def __init__(self, line, *keys):
+        self.line = line
+        self.keys = keys
+
+
+class MatchPlayer:
+    """Plays one match; the same seed plays in the same way."""
+
+    def __init__(self, seed):
+        self._chance = random.Random(seed)
+        self._answers = {table_window.TABLE: self._key, table_window.MESSAGE: self._read,
+                         table_window.YES_NO: self._yes_no, table_window.INPUT: self._input,
+                         table_window.BETS: self._bet}
+
+    def answer(self, seen):
+        return self._answers[seen.kind](seen)
+
+    def _key(self, seen):
+        """Mostly Enter; at times a hand is abandoned, or all cards are laid open."""
+        drawn = self._chance.random()
+        lie_open = len(seen.texts[0].splitlines()) > 2
+        if drawn < 0.02:
+            return Answer({"key": 81}, "q")
+        if drawn < 0.05 and not lie_open:
+            return Answer({"key": 48, "shift": 3}, "ctrl+shift+0")
+        return Answer({"key": 13}, self._chance.choice(["Return", "KP_Enter"]))
+
+    def _read(self, _):
+        return Answer(None, self._chance.choice(["Return", "space"]))
+
+    def _yes_no(self, seen):
+        another_match = seen.text() == "¿Desea jugar otra partida?"
+        yes = not another_match and self._chance.random() < 0.6
+        by_default = seen.names("push button", "default") == ["Sí" if yes else "No"]
+        by_focus = ["Return"] if by_default else ["Tab", "space"]
+        keys = self._chance.choice([["s" if yes else "n"], by_focus])
+        return Answer({"button": "yes" if yes else "no"}, *keys)
+
+    def _input(self, seen):
+        """Cards to discard, or stones to bet; what stands there is selected, typing replaces it."""
+        drawn = self._chance.random()
+        if drawn < 0.1:
+            return Answer({"button": "cancel"}, "Escape")
+        discards = seen.title == "Sustituir cartas"
+        typed = self._chance.choice(["1", "24", "134", "1234"] if discards else ["", "1", "3", "5"])
+        keys = list(typed) or ["BackSpace"]
+        return Answer({"text": typed}, *keys, "Return")
+
+    def _bet(self, seen):
+        offered = len(seen.names("push button", "enabled"))
+        (result,) = self._chance.choices(range(offered), [60, 22, 16, 2][:offered])
+        ways = [[], ["Right"], ["Down"], ["Right", "Down"]]
+        return Answer({"result": result}, *ways[result], "space")

@@ -1,0 +1,146 @@
+"""A desktop of its own for a program: display, message bus, window manager, and a folder to play in."""
+import ctypes
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+LIMIT = 30  # seconds; nothing on an idle machine takes one of them
+
+
+class TooLong(Exception):
+    """Something waited for has not come."""
+
+
+def wait_for(what, look, limit=LIMIT):
+    """Looks again and again until `look` gives something, and returns it."""
+    end = time.monotonic() + limit
+    while time.monotonic() < end:
+        seen = look()
+        if seen:
+            return seen
+        time.sleep(0.005)
+    raise TooLong(f"no {what} within {limit} s")
+
+
+class Session:
+    """Entered, it is up; left, none of its processes and files is there any more."""
+
+    def __enter__(self):
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended from outside"))
+        _adopt_orphans()
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tasca-window-"))
+        self.bin = self.folder / "bin"
+        self._log = open(self.folder / "log", "w")  # the programs' inheritance; closed with us
+        try:
+            self.environment = self._environment()
+            self.environment["DISPLAY"] = self._start_display()
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+            self.run("setxkbmap", "es")
+            self.start("openbox", "--config-file", pathlib.Path(__file__).with_name("openbox.xml"))
+            wait_for("window manager", self._is_managed)
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        _end_children(signal.SIGTERM, patience=5)
+        _end_children(signal.SIGKILL, patience=5)
+        shutil.rmtree(self.folder)
+
+    def place(self, build, *programs):
+        """Copies programs of a build folder, and what lies beside them, into the folder to play in."""
+        shutil.copytree(ROOT / "data", self.bin, dirs_exist_ok=True)
+        for program in programs:
+            shutil.copy2(ROOT / "build" / build / "bin" / program, self.bin)
+
+    def start(self, *command, extra=(), pass_fds=()):
+        """Starts a program of this desktop, with more of an environment if need be."""
+        return subprocess.Popen([str(word) for word in command], stdin=subprocess.DEVNULL,
+                                stdout=subprocess.DEVNULL, stderr=self._log, pass_fds=pass_fds,
+                                env={**self.environment, **dict(extra)})
+
+    def run(self, *command):
+        """Runs a program of this desktop to its end."""
+        if self.start(*command).wait() != 0:
+            raise RuntimeError(f"{' '.join(map(str, command))}: {self.log()[-2000:]}")
+
+    def log(self):
+        """What the programs of this desktop have written."""
+        return (self.folder / "log").read_text(errors="replace")
+
+    def _environment(self):
+        home = self.folder / "home"
+        home.mkdir(mode=0o700)
+        kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS") if name in os.environ}
+        return {**kept, "HOME": str(home), "XDG_RUNTIME_DIR": str(home), "TMPDIR": str(self.folder),
+                "LANG": "C.UTF-8", "TZ": "UTC", "GSETTINGS_BACKEND": "memory",
+                "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb",
+                "SDL_AUDIODRIVER": "dummy"}
+
+    def _start_display(self):
+        # Keys do not repeat: on a busy machine a short press may look like a long one.
+        number = self._first_line("-displayfd", "Xvfb", "-r", "-noreset", "-nolisten", "tcp",
+                                  "-screen", "0", "1280x800x24")
+        return f":{number}"
+
+    def _start_bus(self):
+        return self._first_line("--print-address", "dbus-daemon", "--session", "--nofork",
+                                "--nopidfile")
+
+    def _first_line(self, option, *command):
+        """Starts a server that writes where it is to be found once it is ready."""
+        reading, writing = os.pipe()
+        value = [f"{option}={writing}"] if option.startswith("--") else [option, writing]
+        self.start(*command, *value, pass_fds=[writing])
+        os.close(writing)
+        with open(reading) as answer:
+            line = answer.readline().strip()
+        if not line:
+            raise RuntimeError(f"{command[0]} does not start: {self.log()[-2000:]}")
+        return line
+
+    def _is_managed(self):
+        return self.start("xdotool", "get_num_desktops").wait() == 0
+
+
+def _adopt_orphans():
+    """What the programs of the desktop leave running becomes a child of this one."""
+    set_child_subreaper = 36
+    ctypes.CDLL(None).prctl(set_child_subreaper, 1, 0, 0, 0)
+
+
+def _children():
+    children = []
+    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
+        try:
+            fields = stat.read_text().rpartition(")")[2].split()
+        except OSError:
+            continue
+        if int(fields[1]) == os.getpid():
+            children.append(int(stat.parent.name))
+    return children
+
+
+def _reap():
+    """Forgets the children that have ended; true when none is left."""
+    try:
+        while os.waitpid(-1, os.WNOHANG)[0] != 0:
+            pass
+    except ChildProcessError:
+        return True
+    return False
+
+
+def _end_children(how, patience):
+    end = time.monotonic() + patience
+    while not _reap() and time.monotonic() < end:
+        for child in _children():
+            os.kill(child, how)
+        time.sleep(0.02)

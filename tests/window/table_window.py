@@ -1,0 +1,123 @@
+"""What `tasca` shows and waits for: a question, the table that waits for a key, or its dialog."""
+from accessible import Gone
+from session import wait_for
+
+STARTUP, TABLE, MESSAGE, YES_NO, INPUT, BETS = "startup", "table", "message", "yes-no", "input", "bets"
+
+_SHEETS = ("Sus cartas", "Lo que pasa en la mesa", "Tanteo, primero su pareja")
+
+
+class TableWindow:
+    """The windows of a running `tasca`."""
+
+    def __init__(self, bus, process):
+        self._process = process
+        self._program = wait_for("program", lambda: bus.program(process.pid))
+        self._showing = []  # the oldest first
+        self._sheets = {}
+
+    def next(self, previous=None):
+        """The next thing that it shows, other than the one before; nothing once it has ended."""
+        (seen,) = wait_for("change in the window", lambda: self._change(previous))
+        return seen
+
+    def _change(self, previous):
+        if self._process.poll() is not None:
+            return (None,)
+        try:
+            sight = self._look()
+            if sight is None or (previous and sight == previous.sight) or sight != self._look():
+                return None
+            return (Seen(sight),)
+        except Gone:
+            return None
+
+    def _look(self):
+        """The window with the keyboard and the texts of the table, if both are there."""
+        windows = self._program.children()
+        front = self._front(windows)
+        return (front, self._texts(windows)) if front else None
+
+    def _front(self, windows):
+        """The newest window, which blocks the others, once it has the keyboard."""
+        states = {window: window.states() for window in windows}
+        self._showing = [window for window in self._showing if window in states]
+        self._showing += [window for window in windows if window not in self._showing]
+        self._showing = [window for window in self._showing if "showing" in states[window]]
+        if self._showing and "active" in states[self._showing[-1]]:
+            return self._showing[-1]
+        return None
+
+    def _texts(self, windows):
+        for window in windows:
+            if window.role() == "filler":
+                return [sheet.text() for sheet in self._sheets_of(window)]
+        return ["", "", ""]
+
+    def _sheets_of(self, window):
+        if window not in self._sheets:
+            named = {node.name(): node for node in window.children()}
+            self._sheets = {window: [named[name] for name in _SHEETS]}
+        return self._sheets[window]
+
+
+class Part:
+    """A control of a window."""
+
+    def __init__(self, node):
+        self.node = node
+        self.role = node.role()
+        self.name = node.name()
+        self.states = node.states()
+
+
+class Seen:
+    """The window that has the keyboard, with all its controls, and the texts of the table."""
+
+    def __init__(self, sight):
+        self.sight = sight
+        self.window, self.texts = sight
+        self.title = self.window.name()
+        parts = [Part(node) for node in self.window.all() if node != self.window]
+        self.parts = [part for part in parts if "showing" in part.states]
+        self.kind = self._kind()
+
+    def again(self):
+        """The same window as it is now."""
+        return Seen(self.sight)
+
+    def having(self, role, state="showing"):
+        """The controls of a role that are in a state."""
+        return [part for part in self.parts if part.role == role and state in part.states]
+
+    def names(self, role, state="showing"):
+        return [part.name for part in self.having(role, state)]
+
+    def text(self):
+        return "".join(self.names("label"))
+
+    def event(self):
+        """It as an event of the transcript."""
+        if self.kind == TABLE:
+            return {"table": self.texts}
+        asked = {"question": self.kind, "title": self.title}
+        return {**asked, **self._details(), "texts": self.texts}
+
+    def _kind(self):
+        if self.window.role() == "filler":
+            return TABLE
+        if self.window.role() == "alert message":
+            return MESSAGE if self.names("push button") == ["Aceptar"] else YES_NO
+        if self.names("combo box"):
+            return STARTUP
+        return INPUT if self.names("text") else BETS
+
+    def _details(self):
+        if self.kind == BETS:
+            return {"buttons": self.names("push button", "enabled"),
+                    "focus": self.names("push button", "focused")}
+        if self.kind == INPUT:
+            (field,) = self.having("text")
+            return {"text": self.text(), "default": field.node.text()}
+        icon = "question" if self.names("graphic") else "none"
+        return {"text": self.text(), "icon": icon, "default": self.names("push button", "default")}
