@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include "tests/support/tables.h"
+#include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 
 namespace tasca::test {
@@ -72,6 +73,16 @@ TEST(AskYesNo, HasTheButtonsSiAndNo) {
   const BoxAnswerer jugador = LookAndPress(vista, Qt::Key_Return);
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), true);
   EXPECT_EQ(vista, "¿mus?||?|&Sí &No ");
+}
+
+TEST(AskYesNo, HasNothingNamelessToVisitWhenTheTitleIsTheQuestion) {
+  std::vector<std::string> sinNombre{"nobody has looked"};
+  const BoxAnswerer jugador{[&sinNombre](QWidget* caja) {
+    sinNombre = Nameless(caja);
+    Press(caja, Qt::Key_Return);
+  }};
+  AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""});
+  EXPECT_EQ(sinNombre, std::vector<std::string>{});
 }
 
 TEST(AskYesNo, ShowsNoIconWhenNoneIsAskedFor) {

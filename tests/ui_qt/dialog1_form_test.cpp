@@ -10,6 +10,7 @@
 #include "tests/support/scripted_editor_port.h"
 #include "tests/support/tables.h"
 #include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 
 namespace tasca::test {
@@ -297,6 +298,21 @@ TEST_F(EditorWindow, ShowsTheCharacterAnewWhenItsEntryIsClickedAgain) {
   QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
                     lista->visualItemRect(lista->item(0)).center());
   EXPECT_EQ(Text("Text1"), "Default indirecto");
+}
+
+TEST_F(EditorWindow, NamesEveryControlForScreenReaders) {
+  EXPECT_EQ(Nameless(&ventana_), Textos{});
+  EXPECT_EQ(Utf8(Find<QListWidget>("List1")->accessibleName()), "Jugadores");
+  EXPECT_EQ(Utf8(Find<QListWidget>("List2")->accessibleName()), "Jugada");
+  EXPECT_EQ(Utf8(Find<QListWidget>("List3")->accessibleName()), "Mensaje");
+}
+
+TEST_F(EditorWindow, ReadsAPhraseThatIsNotThereToScreenReaders) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  EXPECT_EQ(Find<QListWidget>("List3")->count(), 3);
+  EXPECT_EQ(Nameless(&ventana_), Textos{});
 }
 
 TEST_F(EditorWindow, GoesThroughItsControlsWithTab) {

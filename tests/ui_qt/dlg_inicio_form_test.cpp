@@ -9,6 +9,7 @@
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
 #include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 
 namespace tasca::test {
@@ -155,6 +156,7 @@ TEST_F(DlgInicioWindow, NamesEveryControlForScreenReaders) {
                                    "Option1_0", "Option1_1", "CbOK", "CbCancel"}) {
     EXPECT_FALSE(Find<QWidget>(nombre)->accessibleName().isEmpty()) << nombre;
   }
+  EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
   EXPECT_EQ(Find<QLabel>("Label1")->buddy(), Find<QWidget>("Combo1"));
   EXPECT_EQ(Find<QLabel>("Label2")->buddy(), Find<QWidget>("Combo2"));
   EXPECT_EQ(Find<QLabel>("Label3")->buddy(), Find<QWidget>("Combo3"));

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "table/phase_machine.h"
+#include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 
 namespace tasca::test {
@@ -67,6 +68,7 @@ TEST_F(Form1Window, NamesItsControlsForScreenReaders) {
         static_cast<QWidget*>(Text3())}) {
     EXPECT_FALSE(control->accessibleName().isEmpty()) << Utf8(control->objectName());
   }
+  EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
 }
 
 TEST_F(Form1Window, PassesEnterOfEitherKindAndSwallowsIt) {

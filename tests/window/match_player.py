@@ -1,7 +1,7 @@
 """A player at the keyboard: at every question an answer, and the keys that give it."""
 import random
 
-import table_window
+import windows
 
 BUTTONS = ["Paso", "Envido", "Envido Más", "Órdago"]
 
@@ -19,9 +19,9 @@ class MatchPlayer:
 
     def __init__(self, seed):
         self._chance = random.Random(seed)
-        self._answers = {table_window.TABLE: self._key, table_window.MESSAGE: self._read,
-                         table_window.YES_NO: self._yes_no, table_window.INPUT: self._input,
-                         table_window.BETS: self._bet}
+        self._answers = {windows.MAIN: self._key, windows.MESSAGE: self._read,
+                         windows.YES_NO: self._yes_no, windows.INPUT: self._input,
+                         windows.BETS: self._bet}
 
     def answer(self, seen):
         return self._answers[seen.kind](seen)

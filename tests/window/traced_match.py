@@ -2,7 +2,7 @@
 import json
 import subprocess
 
-import table_window
+import windows
 from match_player import BUTTONS
 
 _TITLE = "La tasca del tío Zarandel"  # of every window that has no other
@@ -41,13 +41,13 @@ def _as_shown(event, status):
 
 def _question(event, title):
     if event["event"] == "dialog":
-        return {"question": table_window.BETS, "title": title, "buttons": _OFFERED[event["mode"]],
+        return {"question": windows.BETS, "title": title, "buttons": _OFFERED[event["mode"]],
                 "focus": ["Paso"]}
     (text,) = _shown([event["text"]])
     if event["event"] == "inputbox":
-        return {"question": table_window.INPUT, "title": title, "text": text,
+        return {"question": windows.INPUT, "title": title, "text": text,
                 "default": event["default"]}
-    kind = table_window.MESSAGE if event["buttons"] == "ok" else table_window.YES_NO
+    kind = windows.MESSAGE if event["buttons"] == "ok" else windows.YES_NO
     return {"question": kind, "title": title, "text": text, "icon": event["icon"],
             "default": [_CAPTIONS[event["default"]]]}
 

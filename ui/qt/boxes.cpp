@@ -50,12 +50,20 @@ void LeaveRoomForTitle(QMessageBox& caja) {
                    rejilla->rowCount(), 0, 1, rejilla->columnCount());
 }
 
+// A click or a screen reader's look at each control would go to a text that is not there.
+void SkipEmptyText(const QMessageBox& caja) {
+  if (!caja.text().isEmpty()) return;
+  auto* const etiqueta = caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (etiqueta != nullptr) etiqueta->setTextInteractionFlags(Qt::NoTextInteraction);
+}
+
 void Prepare(QMessageBox& caja, const char* nombre, std::u16string_view titulo,
              std::u16string_view texto) {
   caja.setObjectName(QString::fromLatin1(nombre));
   caja.setWindowTitle(TituloDe(titulo));
   caja.setTextFormat(Qt::PlainText);
   caja.setText(ToDisplay(texto));
+  SkipEmptyText(caja);
 }
 
 void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {

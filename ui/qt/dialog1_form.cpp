@@ -60,12 +60,20 @@ std::array<QPushButton*, N> NewButtons(QWidget* padre, const QString& nombre,
   return botones;
 }
 
-// A caption whose access key leads to its control.
+// A caption whose access key leads to its control, and which a screen reader calls it by.
 QLabel* NewLabel(QWidget* control, const char* nombre, const char16_t* rotulo) {
+  control->setAccessibleName(QString::fromUtf16(rotulo).remove(QChar{u'&'}));
   auto* const etiqueta = Named(new QLabel{QString::fromUtf16(rotulo), control->parentWidget()},
                                QString::fromLatin1(nombre));
   etiqueta->setBuddy(control);
   return etiqueta;
+}
+
+// A screen reader tells of a phrase that is not there.
+void ShowEntry(QListWidgetItem& entrada, const QString& texto) {
+  if (entrada.text() != texto) entrada.setText(texto);
+  const bool vacia = texto.trimmed().isEmpty();
+  entrada.setData(Qt::AccessibleTextRole, vacia ? QStringLiteral("(vacío)") : QString{});
 }
 
 void ShowList(QListWidget* control, const ListBox& lista) {
@@ -73,7 +81,7 @@ void ShowList(QListWidget* control, const ListBox& lista) {
   for (int i = 0; i < static_cast<int>(lista.List.size()); ++i) {
     const QString texto = ToDisplay(lista.List.at(static_cast<std::size_t>(i)));
     if (i == control->count()) control->addItem(texto);
-    if (control->item(i)->text() != texto) control->item(i)->setText(texto);
+    ShowEntry(*control->item(i), texto);
   }
   while (control->count() > static_cast<int>(lista.List.size())) {
     delete control->takeItem(control->count() - 1);

@@ -1,6 +1,7 @@
 // The start-up dialog's window.
 #include "ui/qt/dlg_inicio_form.h"
 
+#include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -94,6 +95,7 @@ void DlgInicioForm::NameControls() {
   for (std::size_t i = 0; i < combos_.size(); ++i) {
     combos_.at(i)->setObjectName(QStringLiteral("Combo%1").arg(i + 1));
     combos_.at(i)->setAccessibleName(nombres.at(i));
+    combos_.at(i)->view()->setAccessibleName(nombres.at(i));
     combos_.at(i)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combos_.at(i)->setMinimumContentsLength(20);
   }

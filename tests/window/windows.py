@@ -1,14 +1,16 @@
-"""What `tasca` shows and waits for: a question, the table that waits for a key, or its dialog."""
+"""What a program shows and waits for: a question, or its main window, which waits for keys."""
 from accessible import Gone
 from session import wait_for
 
-STARTUP, TABLE, MESSAGE, YES_NO, INPUT, BETS = "startup", "table", "message", "yes-no", "input", "bets"
+STARTUP, MAIN = "startup", "main"
+MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS = "message", "yes-no", "ok-cancel", "input", "bets"
 
+_BOXES = {("Aceptar",): MESSAGE, ("Sí", "No"): YES_NO, ("Aceptar", "Cancelar"): OK_CANCEL}
 _SHEETS = ("Sus cartas", "Lo que pasa en la mesa", "Tanteo, primero su pareja")
 
 
-class TableWindow:
-    """The windows of a running `tasca`."""
+class Windows:
+    """The windows of a running program."""
 
     def __init__(self, bus, process):
         self._process = process
@@ -20,6 +22,11 @@ class TableWindow:
         """The next thing that it shows, other than the one before; nothing once it has ended."""
         (seen,) = wait_for("change in the window", lambda: self._change(previous))
         return seen
+
+    def now(self):
+        """What it shows, if its newest window has the keyboard."""
+        sight = self._look()
+        return Seen(sight) if sight else None
 
     def _change(self, previous):
         if self._process.poll() is not None:
@@ -57,7 +64,7 @@ class TableWindow:
     def _sheets_of(self, window):
         if window not in self._sheets:
             named = {node.name(): node for node in window.children()}
-            self._sheets = {window: [named[name] for name in _SHEETS]}
+            self._sheets = {window: [named[name] for name in _SHEETS if name in named]}
         return self._sheets[window]
 
 
@@ -98,16 +105,16 @@ class Seen:
 
     def event(self):
         """It as an event of the transcript."""
-        if self.kind == TABLE:
+        if self.kind == MAIN:
             return {"table": self.texts}
         asked = {"question": self.kind, "title": self.title}
         return {**asked, **self._details(), "texts": self.texts}
 
     def _kind(self):
         if self.window.role() == "filler":
-            return TABLE
+            return MAIN
         if self.window.role() == "alert message":
-            return MESSAGE if self.names("push button") == ["Aceptar"] else YES_NO
+            return _BOXES.get(tuple(self.names("push button")), "other")
         if self.names("combo box"):
             return STARTUP
         return INPUT if self.names("text") else BETS
