@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QLabel>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 #include <utility>
@@ -69,6 +71,19 @@ TEST_F(Form1Window, NamesItsControlsForScreenReaders) {
     EXPECT_FALSE(control->accessibleName().isEmpty()) << Utf8(control->objectName());
   }
   EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
+}
+
+TEST_F(Form1Window, PastesIntoTheInputLine) {
+  QApplication::clipboard()->setText(QStringLiteral("pegado"));
+  Press(&ventana_, Qt::Key_Insert, Qt::ShiftModifier);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "pegado");
+}
+
+TEST_F(Form1Window, PastesNothingFromAnEmptyClipboard) {
+  Type(Text1(), "abc");
+  QApplication::clipboard()->setMimeData(new QMimeData);
+  Press(&ventana_, Qt::Key_Insert, Qt::ShiftModifier);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "abc");
 }
 
 TEST_F(Form1Window, PassesEnterOfEitherKindAndSwallowsIt) {

@@ -64,6 +64,14 @@ TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
   EXPECT_EQ(Text(), "ab");
 }
 
+TEST_F(TextBox, StaysAsItIsWhenTheClipboardIsEmpty) {
+  Show(5);
+  Type("abc");
+  QApplication::clipboard()->setMimeData(new QMimeData);
+  caja_->paste();
+  EXPECT_EQ(Text(), "abc");
+}
+
 TEST_F(TextBox, RefusesAPasteWholeWithTheReason) {
   Show(20);
   Type("x");

@@ -67,8 +67,9 @@ void GuardedText::inputMethodEvent(QInputMethodEvent* suceso) {
   QPlainTextEdit::inputMethodEvent(&nada);
 }
 
+// What holds no text, as an empty clipboard does, would crash the toolkit.
 void GuardedText::insertFromMimeData(const QMimeData* datos) {
-  if (Accepts(datos->text())) QPlainTextEdit::insertFromMimeData(datos);
+  if (datos->hasText() && Accepts(datos->text())) QPlainTextEdit::insertFromMimeData(datos);
 }
 
 // A click sets the cursor after the focus has come, and would undo the selection.

@@ -2,6 +2,7 @@
 #include "ui/qt/input_line.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QtMath>
@@ -22,6 +23,11 @@ void InputLine::ShowText(const QString& texto) { setPlainText(texto); }
 
 void InputLine::keyPressEvent(QKeyEvent* suceso) {
   if (!alPulsar_(*suceso)) QPlainTextEdit::keyPressEvent(suceso);
+}
+
+// What holds no text, as an empty clipboard does, would crash the toolkit.
+void InputLine::insertFromMimeData(const QMimeData* datos) {
+  if (datos->hasText()) QPlainTextEdit::insertFromMimeData(datos);
 }
 
 void InputLine::resizeEvent(QResizeEvent* suceso) {

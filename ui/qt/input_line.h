@@ -18,6 +18,7 @@ class InputLine : public QPlainTextEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
+  void insertFromMimeData(const QMimeData* datos) override;
   void resizeEvent(QResizeEvent* suceso) override;
   void changeEvent(QEvent* suceso) override;
 
