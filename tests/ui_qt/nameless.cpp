@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <algorithm>
 
 #include "tests/ui_qt/player.h"
 
@@ -10,10 +11,10 @@ namespace tasca::test {
 namespace {
 
 bool HasLabel(const QAccessibleInterface& control) {
-  for (const auto& [rotulo, relacion] : control.relations(QAccessible::Label)) {
-    if (!rotulo->text(QAccessible::Name).trimmed().isEmpty()) return true;
-  }
-  return false;
+  const auto rotulos = control.relations(QAccessible::Label);
+  return std::any_of(rotulos.begin(), rotulos.end(), [](const auto& rotulo) {
+    return !rotulo.first->text(QAccessible::Name).trimmed().isEmpty();
+  });
 }
 
 // A list to choose from is called after what is chosen in it: only its label tells what it is.
@@ -23,20 +24,26 @@ bool HasName(const QAccessibleInterface& control) {
   return !control.text(QAccessible::Name).trimmed().isEmpty();
 }
 
-void Collect(const QAccessibleInterface& control, const std::string& de,
-             std::vector<std::string>& sinNombre) {
-  const QObject* const objeto = control.object();
-  const std::string propio = objeto == nullptr ? "" : Utf8(objeto->objectName());
-  const std::string nombre = propio.empty() ? de : propio;
-  if (control.state().focusable && !HasName(control)) sinNombre.push_back(nombre);
-  for (int i = 0; i < control.childCount(); ++i) Collect(*control.child(i), nombre, sinNombre);
+// The name of the control itself or of the nearest one around it that has one.
+std::string ObjectName(const QAccessibleInterface* control) {
+  for (; control != nullptr; control = control->parent()) {
+    const QObject* const objeto = control->object();
+    if (objeto != nullptr && !objeto->objectName().isEmpty()) return Utf8(objeto->objectName());
+  }
+  return {};
 }
 
 }  // namespace
 
 std::vector<std::string> Nameless(QWidget* ventana) {
   std::vector<std::string> sinNombre;
-  Collect(*QAccessible::queryAccessibleInterface(ventana), "", sinNombre);
+  std::vector<const QAccessibleInterface*> porVer{QAccessible::queryAccessibleInterface(ventana)};
+  while (!porVer.empty()) {
+    const QAccessibleInterface* const control = porVer.back();
+    porVer.pop_back();
+    if (control->state().focusable && !HasName(*control)) sinNombre.push_back(ObjectName(control));
+    for (int i = 0; i < control->childCount(); ++i) porVer.push_back(control->child(i));
+  }
   return sinNombre;
 }
 
