@@ -300,6 +300,17 @@ TEST_F(EditorWindow, ShowsTheCharacterAnewWhenItsEntryIsClickedAgain) {
   EXPECT_EQ(Text("Text1"), "Default indirecto");
 }
 
+TEST_F(EditorWindow, MakesABlankCharacterOfOneNeverFilled) {
+  Load();
+  Load();  // the names are listed twice; the last entry stands for character 10
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_End});
+  Alt(Qt::Key_U);
+  EXPECT_EQ(ventana_.State().NumPersonajes, 6);
+  EXPECT_EQ(Utf8(t_.Personajes[6].Nombre.Trimmed()), "");
+  EXPECT_EQ(Utf8(t_.Personajes[6].Historia.Trimmed()), "");
+}
+
 TEST_F(EditorWindow, NamesEveryControlForScreenReaders) {
   EXPECT_EQ(Nameless(&ventana_), Textos{});
   EXPECT_EQ(Utf8(Find<QListWidget>("List1")->accessibleName()), "Jugadores");

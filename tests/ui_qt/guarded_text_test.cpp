@@ -197,6 +197,12 @@ TEST_F(TextBox, LeavesOutWhatOnlyStoodForAnOddCharacterOnceItIsEdited) {
   EXPECT_EQ(Text(), "abcd");
 }
 
+TEST_F(TextBox, TakesATextNeverFilledForNone) {
+  Show(20);
+  caja_->ShowText(std::u16string(20, u'\0'));
+  EXPECT_EQ(Text(), "");
+}
+
 TEST_F(TextBox, GivesBackATextThatWasLeftAloneWithItsOddCharacters) {
   Show(20);
   const std::u16string raro{u"a\0b\u0081", 4};

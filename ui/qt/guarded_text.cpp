@@ -35,7 +35,10 @@ std::u16string GuardedText::Text() const {
   return texto.remove(QChar{u'\n'}).remove(QChar::ReplacementCharacter).toStdU16String();
 }
 
+// A text never filled, nothing but NULs, is no text: it must not get into the file by another's
+// name or story.
 void GuardedText::ShowText(std::u16string_view texto) {
+  if (texto.find_first_not_of(u'\0') == std::u16string_view::npos) texto = {};
   if (texto == Text()) return;
   mostrado_ = texto;
   setPlainText(ToDisplay(texto));

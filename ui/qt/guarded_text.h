@@ -17,7 +17,7 @@ class GuardedText : public QPlainTextEdit {
   GuardedText(QWidget* padre, int maximo, int filas, Refusal alRechazar);
 
   // A text that is shown and left alone comes back as it was, with whatever a damaged file has put
-  // into it; once it is edited, it is without that.
+  // into it; once it is edited, it is without that. A text never filled comes back as "".
   std::u16string Text() const;
   void ShowText(std::u16string_view texto);
 
