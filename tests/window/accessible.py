@@ -31,7 +31,8 @@ class Bus:
 
     def program(self, pid):
         """The program with that process id, or nothing yet."""
-        desktop = Node(self._connection, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+        desktop = Node(self._connection, "org.a11y.atspi.Registry",
+                       "/org/a11y/atspi/accessible/root")
         for program in desktop.children():
             if self._pid(program) == pid:
                 return program

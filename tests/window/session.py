@@ -1,4 +1,4 @@
-"""A desktop of its own for a program: display, message bus, window manager, and a folder to play in."""
+"""A desktop of its own for a program: display, bus, window manager, and a folder to play in."""
 import ctypes
 import os
 import pathlib
@@ -36,7 +36,7 @@ class Session:
         _adopt_orphans()
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tasca-window-"))
         self.bin = self.folder / "bin"
-        self._log = open(self.folder / "log", "w")  # the programs' inheritance; closed with us
+        self._log = open(self.folder / "log", "wb")
         try:
             self.environment = self._environment()
             self.environment["DISPLAY"] = self._start_display()
@@ -52,10 +52,11 @@ class Session:
     def __exit__(self, *_):
         _end_children(signal.SIGTERM, patience=5)
         _end_children(signal.SIGKILL, patience=5)
+        self._log.close()
         shutil.rmtree(self.folder)
 
     def place(self, build, *programs):
-        """Copies programs of a build folder, and what lies beside them, into the folder to play in."""
+        """Copies programs of a build folder, and their data, into the folder to play in."""
         shutil.copytree(ROOT / "data", self.bin, dirs_exist_ok=True)
         for program in programs:
             shutil.copy2(ROOT / "build" / build / "bin" / program, self.bin)
