@@ -197,6 +197,17 @@ TEST_F(TextBox, LeavesOutWhatOnlyStoodForAnOddCharacterOnceItIsEdited) {
   EXPECT_EQ(Text(), "abcd");
 }
 
+TEST_F(TextBox, TakesNoTabulatorFromTheKeyboard) {
+  Show(20);
+  Type("a");
+  QKeyEvent conAlt{QEvent::KeyPress, Qt::Key_Tab, Qt::AltModifier, QStringLiteral("\t")};
+  QApplication::sendEvent(caja_.get(), &conAlt);
+  QKeyEvent conLetra{QEvent::KeyPress, Qt::Key_I, Qt::ControlModifier | Qt::AltModifier,
+                     QStringLiteral("\t")};
+  QApplication::sendEvent(caja_.get(), &conLetra);
+  EXPECT_EQ(Text(), "a");
+}
+
 TEST_F(TextBox, TakesATextNeverFilledForNone) {
   Show(20);
   caja_->ShowText(std::u16string(20, u'\0'));

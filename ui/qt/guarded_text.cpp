@@ -57,6 +57,8 @@ void GuardedText::keyPressEvent(QKeyEvent* suceso) {
   const bool esEnter = suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter;
   if (esEnter && filas_ == 1) return suceso->ignore();
   const QString tecleado = esEnter ? QStringLiteral("\n") : suceso->text();
+  // The one control character that the toolkit takes as text, from Ctrl+Alt+I or Alt+Tab.
+  if (tecleado.contains(QChar{u'\t'})) return suceso->ignore();
   const bool escribe = esEnter || (!tecleado.isEmpty() && !IsControl(tecleado.front().unicode()));
   if (!escribe || Accepts(tecleado)) QPlainTextEdit::keyPressEvent(suceso);
 }
