@@ -223,6 +223,36 @@ TEST(Descartar, SoundsTheCardsFromTheMano) {
   EXPECT_EQ(sala.t.SonidoActual, 0);
 }
 
+// What lay at the seats while a box was up.
+class PuertoQueMira : public ScriptedPort {
+ public:
+  std::vector<decltype(Table::Manos)> Vistas;
+
+  void MsgBox(const Table& t, std::u16string_view texto) override {
+    Vistas.push_back(t.Manos);
+    ScriptedPort::MsgBox(t, texto);
+  }
+};
+
+// Position 40 goes to the last slot, and then the box about the used-up deck opens.
+TEST(Descartar, LeavesTheThrownCardsSlotsEmptyUntilTheyAreDealtInto) {
+  for (const bool tiraElHumano : {true, false}) {
+    Table t = MesaDePrueba();
+    t.Baraja[40] = 40;
+    t.CartaSiguiente = 40;
+    DarMano(t, 2, tiraElHumano ? "R R R R" : "R R 5 4");
+    for (const Seat asiento : {3, 4}) DarMano(t, asiento, "R R R R");
+    DrawList rnd{};
+    PuertoQueMira port;
+    port.Types(tiraElHumano ? u"12" : u"");
+    Game g{t, rnd, port};
+    Descartar(g);
+    ASSERT_EQ(port.Vistas.size(), 1U);
+    EXPECT_EQ(port.Vistas[0][1], tiraElHumano ? (Mano{5, 4, 0, 40}) : (Mano{7, 6, 5, 4}));
+    EXPECT_EQ(port.Vistas[0][2], tiraElHumano ? (Mano{10, 20, 30, 40}) : (Mano{10, 20, 0, 40}));
+  }
+}
+
 // The pile of discards.
 
 TEST(Descartar, LeavesThePileAtPosition36AfterTheHuman) {
