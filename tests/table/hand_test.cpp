@@ -111,6 +111,27 @@ TEST(EmpezarMano, SoundsTheDeal) {
   EXPECT_EQ(sala.t.SonidoActual, -2);
 }
 
+// The texts while the deal begins to sound.
+class PuertoQueLee : public ScriptedPort {
+ public:
+  std::u16string Textos = u"nada ha sonado";
+
+  void OpenSound(const Table& t, std::u16string_view archivo) override {
+    Textos = t.Text1 + t.Text2;
+    ScriptedPort::OpenSound(t, archivo);
+  }
+};
+
+TEST(EmpezarMano, ClearsTheTextsBeforeTheDealSounds) {
+  Sala sala;
+  sala.t.Text1 = u"lo de antes";
+  sala.t.Text2 = u"lo contado";
+  PuertoQueLee port;
+  Game g{sala.t, sala.rnd, port};
+  EmpezarMano(g);
+  EXPECT_EQ(port.Textos, u"");
+}
+
 TEST(EmpezarMano, ShowsTheHumansHand) {
   Sala sala;
   sala.t.Text1 = u"lo de antes";
