@@ -206,9 +206,6 @@ TEST_P(SaveFaults, AFullDiskLeavesWholeFilesAndIsTold) {
 TEST_P(SaveFaults, AForbiddenCallLeavesWholeFilesAndIsTold) {
   ExpectWholeFilesAfterErrors("EACCES", "no hay permiso para escribir.");
 }
-TEST_P(SaveFaults, ADiskToReadFromLeavesWholeFilesAndIsTold) {
-  ExpectWholeFilesAfterErrors("EROFS", "el disco es de solo lectura.");
-}
 
 TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
   SaveWithFaultAtEveryCall("error=EINTR", IsAboutFiles, [this](const Outcome& fin) {
@@ -238,6 +235,36 @@ TEST_P(SaveInterrupted, GoesOnWriting) {
   }
 }
 
+// What the disk says is told in words.
+class SaveRefused : public SaveFaults {};
+
+TEST_P(SaveRefused, TellsTheReason) {
+  const std::map<std::string, std::string> motivos{
+      {"EACCES", "no hay permiso para escribir."},
+      {"EPERM", "no hay permiso para escribir."},
+      {"EROFS", "el disco es de solo lectura."},
+      {"ENOSPC", "no queda sitio en el disco."},
+      {"EDQUOT", "no queda sitio en el disco."},
+      {"EFBIG", "no queda sitio en el disco."},
+      {"EISDIR", "hay otra cosa en su lugar."},
+      {"ENOENT", "no existe la carpeta."},
+      {"ENOTDIR", "no existe la carpeta."},
+      {"ELOOP", "sus enlaces no llevan a un archivo propio."},
+      {"EIO", "el disco falla."},
+      {"EXDEV", "error 18 del sistema."},
+  };
+  const std::string copia = (carpeta_.Path() / "Jugadores.bak").string();
+  const std::string inicio = "No se ha podido escribir el archivo " + copia + ": ";
+  carpeta_.Write("Jugadores.dat", Antes);
+  for (const auto& [error, motivo] : motivos) {
+    std::string mensaje = inicio;
+    mensaje += motivo;
+    mensaje += FinDelPrograma;
+    const Outcome fin = SaveWith({.Name = "rename", .Count = 1}, "error=" + error);
+    EXPECT_EQ(fin.Output, mensaje) << error;
+  }
+}
+
 // A disk that takes nothing at all is full: to go on would be to go on for ever.
 TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
   for (const Call& llamada : CallsOfASave(GetParam())) {
@@ -261,6 +288,7 @@ TEST(SaveInBits, WritesAFewBytesAtATime) {
 const auto ByDisk = [](const testing::TestParamInfo<Disk>& disco) {
   return std::string{disco.param.Name};
 };
+INSTANTIATE_TEST_SUITE_P(, SaveRefused, testing::Values(DiscoCorriente), ByDisk);
 INSTANTIATE_TEST_SUITE_P(, SaveInterrupted, testing::Values(DiscoCorriente, DiscoLento), ByDisk);
 INSTANTIATE_TEST_SUITE_P(, SaveFaults, testing::Values(DiscoCorriente, DiscoSinEnlaces, DiscoLento),
                          ByDisk);
