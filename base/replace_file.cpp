@@ -107,7 +107,8 @@ class Temporary {
  public:
   explicit Temporary(const fs::path& destino) : destino_{destino}, ruta_{destino} {
     ruta_ += ".tmp";
-    ::unlink(ruta_.c_str());  // one that a kill has left
+    // One that a kill has left.
+    Check(::unlink(ruta_.c_str()) == 0 || errno == ENOENT, destino_);
   }
   Temporary(const Temporary&) = delete;
   Temporary& operator=(const Temporary&) = delete;

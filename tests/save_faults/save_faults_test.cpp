@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -56,6 +57,16 @@ struct Disk {
   std::string_view Name;
   std::string Tracer;
   std::string Program;
+  bool AfterACrash = false;  // with what a save leaves that is killed at the worst moments
+
+  void Fill(const TempFolder& carpeta) const {
+    carpeta.Write("Jugadores.dat", Antes);
+    carpeta.Write("Jugadores.bak", MuchoAntes);
+    if (!AfterACrash) return;
+    carpeta.Write("Jugadores.dat.tmp", Nuevo.substr(0, 20));
+    std::filesystem::create_hard_link(carpeta.Path() / "Jugadores.dat",
+                                      carpeta.Path() / "Jugadores.bak.tmp");
+  }
 
   std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
     return Program + " " + carpeta.Path().string() + " " + nombre;
@@ -68,6 +79,7 @@ const std::string Nada = "-e inject=getppid:delay_enter=0";
 const Disk DiscoCorriente{"WithLinks", Nada, TASCA_SAVE_ONCE};
 const Disk DiscoSinEnlaces{"WithoutLinks", "-e inject=link:error=EPERM", TASCA_SAVE_ONCE};
 const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
+const Disk DiscoTrasUnFallo{"AfterACrash", Nada, TASCA_SAVE_ONCE, true};
 
 // The leak checker is a tracer of its own, and there can be but one.
 std::string Traced(const std::string& opciones, const std::string& orden) {
@@ -83,7 +95,7 @@ struct Call {
 // The calls between the two marks, of a save that goes well.
 std::vector<Call> CallsOfASave(const Disk& disco) {
   const TempFolder carpeta;
-  carpeta.Write("Jugadores.dat", Antes);
+  disco.Fill(carpeta);
   const std::string traza = (carpeta.Path() / "trace").string();
   EXPECT_EQ(
       RunCommand(Traced(disco.Tracer + " -o " + traza, disco.SaveIn(carpeta, "nuevo"))).Status, 0);
@@ -125,8 +137,7 @@ class SaveFaults : public testing::TestWithParam<Disk> {
     for (const Call& llamada : CallsOfASave(GetParam())) {
       if (!seElige(llamada)) continue;
       SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count));
-      carpeta_.Write("Jugadores.dat", Antes);
-      carpeta_.Write("Jugadores.bak", MuchoAntes);
+      GetParam().Fill(carpeta_);
       examinar(SaveWith(llamada, fallo));
       ExpectWholeFiles();
       ExpectTheNextSaveToSucceed();
@@ -190,9 +201,12 @@ TEST_P(SaveFaults, AKillLeavesWholeFiles) {
   const auto todas = [](const Call& /*llamada*/) { return true; };
   int muertes = 0;
   SaveWithFaultAtEveryCall("signal=KILL", todas, [&](const Outcome& fin) {
-    if (fin.Status == 0) return;
-    EXPECT_EQ(fin.Status, 128 + SIGKILL);
-    ++muertes;
+    if (fin.Status == 0) {
+      EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Nuevo);
+    } else {
+      EXPECT_EQ(fin.Status, 128 + SIGKILL);
+      ++muertes;
+    }
   });
   EXPECT_GE(muertes, 20);
 }
@@ -270,7 +284,7 @@ TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
   for (const Call& llamada : CallsOfASave(GetParam())) {
     if (llamada.Name != "write") continue;
     SCOPED_TRACE(llamada.Count);
-    carpeta_.Write("Jugadores.dat", Antes);
+    GetParam().Fill(carpeta_);
     const Outcome fin = SaveWith(llamada, "retval=0");
     EXPECT_EQ(fin.Status, 1);
     EXPECT_NE(fin.Output.find(": no queda sitio en el disco."), std::string::npos) << fin.Output;
@@ -290,7 +304,9 @@ const auto ByDisk = [](const testing::TestParamInfo<Disk>& disco) {
 };
 INSTANTIATE_TEST_SUITE_P(, SaveRefused, testing::Values(DiscoCorriente), ByDisk);
 INSTANTIATE_TEST_SUITE_P(, SaveInterrupted, testing::Values(DiscoCorriente, DiscoLento), ByDisk);
-INSTANTIATE_TEST_SUITE_P(, SaveFaults, testing::Values(DiscoCorriente, DiscoSinEnlaces, DiscoLento),
+INSTANTIATE_TEST_SUITE_P(, SaveFaults,
+                         testing::Values(DiscoCorriente, DiscoSinEnlaces, DiscoLento,
+                                         DiscoTrasUnFallo),
                          ByDisk);
 
 }  // namespace

@@ -157,6 +157,9 @@ TEST_F(DlgInicioWindow, NamesEveryControlForScreenReaders) {
     EXPECT_FALSE(Find<QWidget>(nombre)->accessibleName().isEmpty()) << nombre;
   }
   EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
+}
+
+TEST_F(DlgInicioWindow, LeadsFromEveryLabelToItsControl) {
   EXPECT_EQ(Find<QLabel>("Label1")->buddy(), Find<QWidget>("Combo1"));
   EXPECT_EQ(Find<QLabel>("Label2")->buddy(), Find<QWidget>("Combo2"));
   EXPECT_EQ(Find<QLabel>("Label3")->buddy(), Find<QWidget>("Combo3"));

@@ -52,10 +52,33 @@ bool DeckHoldsCards(const ordered_json& state) {
          next <= 40 && pile >= 1 && pile <= 40;
 }
 
+bool IsNewHand(const ordered_json& state) { return state["Fase"] == 0 && state["RondasMus"] == 0; }
+
 bool FreshDeckIsWhole(const ordered_json& state) {
-  const bool fresh = state["Fase"] == 0 && state["RondasMus"] == 0;
   const auto deck = state["Baraja"].get<std::set<int>>();
-  return !fresh || (deck.size() == 40 && state["CartaSiguiente"] == 17);
+  return !IsNewHand(state) || (deck.size() == 40 && state["CartaSiguiente"] == 17);
+}
+
+// Four hands of four, none of them twice.
+bool DealtCardsAreTheFirstOfTheDeck(const ordered_json& state) {
+  const auto deck = state["Baraja"].get<Numbers>();
+  std::set<int> held;
+  for (const ordered_json& seat : state["Manos"]) {
+    for (const int card : seat.get<Numbers>()) held.insert(card);
+  }
+  return !IsNewHand(state) || held == std::set<int>(deck.begin(), deck.begin() + 16);
+}
+
+// Neither juegos nor vacas wait past the number that ends the vaca or the match.
+bool ScoresEndWhenTheyMust(const ordered_json& state) {
+  const int juegos = state["JuegosVaca"];
+  const int vacas = state["VacasPartida"];
+  for (const int pareja : {0, 1}) {
+    if (state["Juegos"][pareja] < 0 || state["Juegos"][pareja] > juegos % 2) return false;
+    if (state["Vacas"][pareja] < 0 || state["Vacas"][pareja] > vacas % 2) return false;
+    if (state["Vacas"][pareja] >= vacas) return false;
+  }
+  return true;
 }
 
 std::string Score(const ordered_json& state, const char* name) {
@@ -84,19 +107,16 @@ struct Rule {
   bool (*Holds)(const ordered_json& state);
 };
 
-constexpr std::array<Rule, 8> Rules{{
+constexpr std::array<Rule, 9> Rules{{
     {"a hand that is not four cards in order", HandsAreSortedCards},
     {"a phase that nobody waits in", PhaseIsOneToWaitIn},
     {"a speaking order that does not go round", SpeakingOrderGoesRound},
     {"a deck with something else than cards", DeckHoldsCards},
     {"a new hand without a whole deck", FreshDeckIsWhole},
+    {"a new hand with other cards than the first of the deck", DealtCardsAreTheFirstOfTheDeck},
     {"a scoreboard that is not true", ScoreboardIsTrue},
     {"a bet left standing", [](const ordered_json& state) { return state["SeguirLance"] == 0; }},
-    {"a vaca or a juego less than none",
-     [](const ordered_json& state) {
-       return state["Juegos"][0] >= 0 && state["Juegos"][1] >= 0 && state["Vacas"][0] >= 0 &&
-              state["Vacas"][1] >= 0;
-     }},
+    {"a vaca or a match that should have ended", ScoresEndWhenTheyMust},
 }};
 
 }  // namespace
@@ -111,6 +131,7 @@ std::string FaultIn(const ordered_json& state) {
 std::string FaultBetween(const ordered_json& before, const ordered_json& after) {
   std::string fault;
   if (!StonesFallOnlyTogether(before, after)) fault = "stones that fell";
+  if (after["Text3"] == "" && before["Text3"] != "") fault = "a scoreboard that went blank";
   if (after["draws"] < before["draws"]) fault = "draws that were taken back";
   return fault.empty() ? fault : fault + ": " + before.dump() + "\n" + after.dump();
 }

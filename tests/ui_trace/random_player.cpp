@@ -48,6 +48,7 @@ std::string RandomPlayer::Settings() {
 }
 
 std::string RandomPlayer::Start() {
+  before_ = nullptr;  // a new table
   constexpr std::array<std::string_view, 4> seats{"[0, 0, 0]", "[1, 2, 3]", "[3, 0, 1]",
                                                   "[2, 3, 0]"};
   const int hour = any_(24);

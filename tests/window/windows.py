@@ -4,6 +4,7 @@ from session import wait_for
 
 STARTUP, MAIN = "startup", "main"
 MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS = "message", "yes-no", "ok-cancel", "input", "bets"
+KINDS = (STARTUP, MAIN, MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS)
 
 _BOXES = {("Aceptar",): MESSAGE, ("Sí", "No"): YES_NO, ("Aceptar", "Cancelar"): OK_CANCEL}
 _SHEETS = ("Sus cartas", "Lo que pasa en la mesa", "Tanteo, primero su pareja")
