@@ -73,7 +73,7 @@ bool DealtCardsAreTheFirstOfTheDeck(const ordered_json& state) {
 bool ScoresEndWhenTheyMust(const ordered_json& state) {
   const int juegos = state["JuegosVaca"];
   const int vacas = state["VacasPartida"];
-  for (const int pareja : {0, 1}) {
+  for (const std::size_t pareja : {0U, 1U}) {
     if (state["Juegos"][pareja] < 0 || state["Juegos"][pareja] > juegos % 2) return false;
     if (state["Vacas"][pareja] < 0 || state["Vacas"][pareja] > vacas % 2) return false;
     if (state["Vacas"][pareja] >= vacas) return false;
