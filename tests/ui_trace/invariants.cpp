@@ -73,24 +73,27 @@ bool DealtCardsAreTheFirstOfTheDeck(const ordered_json& state) {
 bool ScoresEndWhenTheyMust(const ordered_json& state) {
   const int juegos = state["JuegosVaca"];
   const int vacas = state["VacasPartida"];
-  for (const std::size_t pareja : {0U, 1U}) {
-    if (state["Juegos"][pareja] < 0 || state["Juegos"][pareja] > juegos % 2) return false;
-    if (state["Vacas"][pareja] < 0 || state["Vacas"][pareja] > vacas % 2) return false;
-    if (state["Vacas"][pareja] >= vacas) return false;
-  }
-  return true;
+  const auto within = [&state](const char* name, int most) {
+    const auto score = state[name].get<Numbers>();
+    return score.size() == 2 &&
+           std::all_of(score.begin(), score.end(), [most](int n) { return n >= 0 && n <= most; });
+  };
+  return within("Juegos", juegos % 2) && within("Vacas", std::min(vacas % 2, vacas - 1));
 }
 
 std::string Score(const ordered_json& state, const char* name) {
   return state[name][1].dump() + " / " + state[name][0].dump();
 }
 
+bool HasScoreboard(const ordered_json& state) {
+  return !state["Text3"].get_ref<const std::string&>().empty();
+}
+
 // Whenever it has been written at all, the scoreboard is up to date when a move has ended.
 bool ScoreboardIsTrue(const ordered_json& state) {
-  const auto text = state["Text3"].get<std::string>();
-  return text.empty() || text == "Piedras: " + Score(state, "Piedras") +
-                                     ";    juegos: " + Score(state, "Juegos") +
-                                     ";    Vacas: " + Score(state, "Vacas");
+  return !HasScoreboard(state) || state["Text3"] == "Piedras: " + Score(state, "Piedras") +
+                                                        ";    juegos: " + Score(state, "Juegos") +
+                                                        ";    Vacas: " + Score(state, "Vacas");
 }
 
 // A refused punto pays what an older record says, at worst -2; nothing else takes stones away but
@@ -131,7 +134,7 @@ std::string FaultIn(const ordered_json& state) {
 std::string FaultBetween(const ordered_json& before, const ordered_json& after) {
   std::string fault;
   if (!StonesFallOnlyTogether(before, after)) fault = "stones that fell";
-  if (after["Text3"] == "" && before["Text3"] != "") fault = "a scoreboard that went blank";
+  if (HasScoreboard(before) && !HasScoreboard(after)) fault = "a scoreboard that went blank";
   if (after["draws"] < before["draws"]) fault = "draws that were taken back";
   return fault.empty() ? fault : fault + ": " + before.dump() + "\n" + after.dump();
 }
