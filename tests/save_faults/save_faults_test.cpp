@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -294,8 +295,10 @@ TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
 
 // A disk that takes less than it is given is given the rest.
 TEST(SaveInBits, WritesAFewBytesAtATime) {
-  int escrituras = 0;
-  for (const Call& llamada : CallsOfASave(DiscoLento)) escrituras += llamada.Name == "write";
+  const std::vector<Call> llamadas = CallsOfASave(DiscoLento);
+  const auto escrituras = std::count_if(llamadas.begin(), llamadas.end(), [](const Call& llamada) {
+    return llamada.Name == "write";
+  });
   EXPECT_EQ(escrituras, (std::ssize(Nuevo) + 4) / 5);
 }
 
