@@ -5,6 +5,7 @@
 #include <ostream>
 #include <sstream>
 #include <streambuf>
+#include <string_view>
 #include <utility>
 
 #include "ui/trace/session.h"
@@ -23,16 +24,26 @@ class Listener : public std::streambuf {
  protected:
   int_type overflow(int_type letter) override {
     if (traits_type::eq_int_type(letter, traits_type::eof())) return 0;
-    all_ += traits_type::to_char_type(letter);
-    if (all_.back() == '\n') {
-      events_.push_back(
-          ordered_json::parse(all_.begin() + static_cast<std::ptrdiff_t>(start_), all_.end()));
-      start_ = all_.size();
-    }
+    const char last = traits_type::to_char_type(letter);
+    Hear({&last, 1});
     return letter;
   }
 
+  std::streamsize xsputn(const char* text, std::streamsize size) override {
+    Hear({text, static_cast<std::size_t>(size)});
+    return size;
+  }
+
  private:
+  // A line of the game is written in as many pieces as it likes; none goes past the line's end.
+  void Hear(std::string_view piece) {
+    all_ += piece;
+    if (!piece.ends_with('\n')) return;
+    events_.push_back(
+        ordered_json::parse(all_.begin() + static_cast<std::ptrdiff_t>(start_), all_.end()));
+    start_ = all_.size();
+  }
+
   std::string all_;
   std::size_t start_ = 0;
   TraceEvents events_;
