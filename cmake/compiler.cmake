@@ -24,10 +24,12 @@ if(TASCA_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# The fuzzer sees which way our code takes; every fault that a sanitizer knows ends the run.
+# The fuzzer sees which way our code takes; every fault that a sanitizer knows ends the run. To see what
+# is compared with what would cost a third of the speed, and the words of the files are given to it.
 if(TASCA_FUZZ)
   add_compile_options(
     -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow -fno-sanitize-recover=all
+    -fno-sanitize-coverage=trace-cmp
     -fno-omit-frame-pointer
     -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/foreign.txt
     -fsanitize-coverage-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/unwatched.txt)
