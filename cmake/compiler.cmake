@@ -28,9 +28,9 @@ endif()
 # is compared with what would cost a third of the speed, and the words of the files are given to it.
 if(TASCA_FUZZ)
   add_compile_options(
-    -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow -fno-sanitize-recover=all
-    -fno-sanitize-coverage=trace-cmp
-    -fno-omit-frame-pointer
+    -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow,implicit-conversion
+    -fno-sanitize-recover=all -fno-sanitize-coverage=trace-cmp -fno-omit-frame-pointer
+    -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/system_headers.ignore
     -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/foreign.txt
     -fsanitize-coverage-ignorelist=${PROJECT_SOURCE_DIR}/fuzz/unwatched.txt)
   add_link_options(-fsanitize=address,undefined)

@@ -91,7 +91,11 @@ void Run(std::string_view input) {
   Require(Read(second, folder, written) == *count, "as many characters come back");
   for (int number = 1; number <= *count; ++number) CompareCharacter(first.t, second.t, number);
   Require(TextoPersonajes(second.t, *count) == written, "the second writing is the first");
-  LeerPersonajes(second.t);  // what is written has the tags that the game knows
+  // What is written has the tags that the game knows.
+  Forget(second);
+  LeerPersonajes(second.t);
+  Require(TextoPersonajes(second.t, *count) == written,
+          "the game reads what the editor has written");
 }
 
 }  // namespace tasca::fuzz
