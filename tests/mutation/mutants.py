@@ -46,8 +46,17 @@ class Mutant:
 
 
 def sources(root):
+    return _read_all(root, FOLDERS, "*.cpp")
+
+
+def headers(root):
+    """Those with what decides for a computer seat."""
+    return _read_all(root, DECIDING_FOLDERS, "*.h")
+
+
+def _read_all(root, folders, pattern):
     paths = sorted(str(path.relative_to(root))
-                   for folder in FOLDERS for path in (root / folder).glob("*.cpp"))
+                   for folder in folders for path in (root / folder).glob(pattern))
     return [source.read(root, path) for path in paths]
 
 
@@ -55,18 +64,19 @@ def all_mutants(sources_):
     return [mutant for each in sources_ for mutant in _mutants(each, range(len(each.tokens)))]
 
 
-def thresholds(sources_):
-    """Every relation and every number in what decides for the computer seats."""
+def thresholds(sources_, headers_):
+    """Every relation and every number in what decides for the computer seats, with the numbers to
+    which the headers give a name."""
     found = []
-    for each, chosen in _deciding(sources_):
+    for each, chosen in _deciding(sources_, headers_):
         found += [mutant for mutant in _mutants(each, sorted(chosen))
                   if mutant.operator in ("relation", "number")]
     return found
 
 
-def _deciding(sources_):
+def _deciding(sources_, headers_):
     """Each source with those of its tokens that decide."""
-    near = [each for each in sources_ if each.path.startswith(DECIDING_FOLDERS)]
+    near = [each for each in sources_ if each.path.startswith(DECIDING_FOLDERS)] + headers_
     waiting = [(each, name) for each in near for name in each.functions if
                DECIDERS.fullmatch(name)]
     seen = set()
@@ -78,7 +88,7 @@ def _deciding(sources_):
         for first, last in each.functions.get(name, []) + each.constants.get(name, []):
             words = {t.text for t in each.tokens[first:last + 1] if t.kind == "word"}
             waiting += [(home, word) for word in words if not NOT_THEIRS.fullmatch(word)
-                        for home in _homes(each, near, word)]
+                        for home in _homes(each, near, headers_, word)]
     for each in near:
         chosen = {i for path, name in seen if path == each.path
                   for first, last in each.functions.get(name, []) + each.constants.get(name, [])
@@ -86,10 +96,11 @@ def _deciding(sources_):
         yield each, chosen
 
 
-def _homes(each, near, name):
+def _homes(each, near, headers_, name):
     if name in each.functions or name in each.constants:
         return [each]
-    return [other for other in near if name in other.functions]
+    return [other for other in near if name in other.functions] + \
+        [header for header in headers_ if name in header.constants]
 
 
 def _mutants(each, chosen):

@@ -2,7 +2,8 @@
 
 The tests are built once, against a shared library of the rules. A mutant is one source compiled
 beside them and linked with the other objects into a library of its own, which the same tests are
-then run with: nothing of the checkout, nor of the build, is ever written over.
+then run with: nothing of the checkout, nor of the build, is ever written over. A changed header is
+one for the rules alone: the tests keep the number as it was.
 """
 
 import fcntl
@@ -118,6 +119,13 @@ class Build:
         self.linker = words[words.index("&&") + 1:]
         self.linker = self.linker[:self.linker.index("&&")]
 
+    def read_by(self, path):
+        """The sources of the rules to compile anew when that file has changed."""
+        if not path.endswith(".h"):
+            return [path]
+        return [source for source, command in self.compilers.items()
+                if command[command.index("-o") + 1] in self.linker]
+
     def tests_for(self, path):
         """Names and commands: the folder's own first, then the quicker before the slower."""
         binaries, tests = self.folder / "bin", self.root / "tests"
@@ -169,19 +177,31 @@ class Worker:
 
     def _make(self, mutant):
         text = (self.build.root / mutant.path).read_text(encoding="utf-8")
-        changed, compiled = self.folder / "mutant.cpp", self.folder / "mutant.o"
+        changed = self.folder / "mutant" / mutant.path
+        shutil.rmtree(self.folder / "mutant", ignore_errors=True)
+        changed.parent.mkdir(parents=True)
         changed.write_text(text[:mutant.start] + mutant.replacement + text[mutant.end:],
                            encoding="utf-8")
-        compile_ = list(self.build.compilers[mutant.path])
-        original = compile_[compile_.index("-o") + 1]
-        compile_[compile_.index("-o") + 1] = compiled
-        compile_[compile_.index("-c") + 1] = changed
-        link = [compiled if word == original else word for word in self.build.linker]
+        link = list(self.build.linker)
         link[link.index("-o") + 1] = self.folder / "libtasca_rules.so"
+        commands = [self._compile(path, changed, link) for path in self.build.read_by(mutant.path)]
         return all(self.build.processes.run(command, 300, cwd=self.build.folder,
                                             stdout=subprocess.DEVNULL,
                                             stderr=subprocess.DEVNULL) == 0
-                   for command in (compile_, link))
+                   for command in [*commands, link])
+
+    def _compile(self, path, changed, link):
+        """The command that compiles a source with the changed file, which is that source or one of
+        its headers; its object takes the usual one's place in the link."""
+        command = list(self.build.compilers[path])
+        original = command[command.index("-o") + 1]
+        compiled = self.folder / "mutant" / path.replace("/", "_").replace(".cpp", ".o")
+        command[command.index("-o") + 1] = compiled
+        if changed.suffix == ".cpp":
+            command[command.index("-c") + 1] = changed
+        command.insert(1, f"-I{self.folder / 'mutant'}")
+        link[link.index(original)] = compiled
+        return command
 
     def run_test(self, command, patience, library):
         """The exit status with the rules of that folder; None when it took too long."""
