@@ -154,6 +154,15 @@ void PrintTo(const BadOrdaguero& caso, std::ostream* salida) { *salida << caso.N
 
 class Ordaguero : public testing::TestWithParam<BadOrdaguero> {};
 
+TEST_P(Ordaguero, IsReadByTheEditorToo) {
+  const TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", Fichero{}.Cambiar(67, GetParam().Linea).Bytes());
+  const auto t = std::make_unique<Table>();
+  t->Carpeta = carpeta.Path();
+  EXPECT_EQ(LeerPersonajesSinMayusculas(*t), 5);
+  EXPECT_EQ(t->Personajes[3].Ordaguero, GetParam().Valor);
+}
+
 // All three players have it, so every computer seat does.
 TEST_P(Ordaguero, IsReadByItsFirstThreeCharactersAndTheGamePlays) {
   const std::string& linea = GetParam().Linea;

@@ -1,6 +1,7 @@
 // Character files whose lines are not what they should be: their ends, their letters, their length.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "base/line_file.h"
@@ -82,6 +83,8 @@ std::vector<BadFile> Letters() {
        "\xEF\xBB\xBF" + Fichero{}.Bytes(),
        {"offers 3", PhraseFirstAt(2), PhraseFirstAt(2), PhraseFirstAt(2)}},
       {"Utf8InTheName", With(Nombre, "Ramón Íñiguez"), AllPlay(3, 5)},
+      {"Utf8InTheStory", With(Historia, "Nació en Íllora."), AllPlay(3, 5)},
+      {"Utf8InTheTag", With(Marca, "QMús>"), AllPlay(3, 5)},
       {"Utf8InThePhrase", With(Frase, "¡ñoño!"), AllPlay(3, 5)},
       {"Utf16", Utf16(), {"offers 0", PhraseFirstAt(2), PhraseFirstAt(2), TooFewPlayers}},
       {"NulInTheName", With(Nombre, Nul("Ber", "ta")), AllPlay(3, 5)},
@@ -96,7 +99,7 @@ std::vector<BadFile> Letters() {
       {"UndefinedBytesInTheOrdaguero", With(Ordaguero, "\x81\x8D\x8F"), AllPlay(3, 5)},
       {"UndefinedBytesInTheStory", With(Historia, "\x81\x8D\x8F\x90\x9D"), AllPlay(3, 5)},
       {"UndefinedBytesInThePhrase", With(Frase, "\x81\x8D\x8F\x90\x9D"), AllPlay(3, 5)},
-      {"UndefinedBytesInTheTag", With(Marca, "QM\x81us>"), AllPlay(3, 5)},
+      {"UndefinedBytesInTheTag", With(Marca, "QM\x81\x8D\x8F\x90\x9Dus>"), AllPlay(3, 5)},
       {"UndefinedBytesInTheRecordsTag", With(65, "Da\x9Dtos>"), OnePlayerLess()},
   };
 }
@@ -109,6 +112,51 @@ TEST_P(BadCharacterFile, HasItsOutcome) {
 
 INSTANTIATE_TEST_SUITE_P(LineEnds, BadCharacterFile, testing::ValuesIn(LineEnds()), ByName);
 INSTANTIATE_TEST_SUITE_P(Letters, BadCharacterFile, testing::ValuesIn(Letters()), ByName);
+
+// What stands in a phrase's place is what the players say: here it is the only one they have.
+struct OnlyPhrase {
+  std::string Name;
+  std::string Linea;
+  std::string Dicho;  // as the trace writes it
+};
+
+void PrintTo(const OnlyPhrase& caso, std::ostream* salida) { *salida << caso.Name; }
+
+class BadPhrase : public testing::TestWithParam<OnlyPhrase> {};
+
+TEST_P(BadPhrase, IsSaid) {
+  Fichero fichero;
+  std::replace(fichero.Lineas.begin(), fichero.Lineas.end(), std::string{"frase"},
+               GetParam().Linea);
+  const TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", fichero.Bytes());
+  EXPECT_EQ(OutcomesIn(carpeta.Path()), AllPlay(3, 5));
+  const Played partida = Play(carpeta.Path());
+  EXPECT_NE(partida.Lines.find(GetParam().Dicho), std::string::npos) << partida.Lines;
+  EXPECT_EQ(partida.Lines.find("xx" + std::string(99, 'x')), std::string::npos);
+}
+
+std::vector<OnlyPhrase> BadPhrases() {
+  const std::string cien(100, 'x');
+  return {
+      {"InUtf8", "¡ñoño!", "Â¡Ã±oÃ±o!"},
+      {"WithANul", Nul("mus", "fra"), R"(mus\u0000fra)"},
+      {"OfANul", Nul("", ""), R"(\u0000)"},
+      {"OfUndefinedBytes", "\x81\x8D\x8F\x90\x9D", "\xC2\x81\xC2\x8D\xC2\x8F\xC2\x90\xC2\x9D"},
+      {"WithACr", "una\rvoz", R"(una\rvoz)"},
+      {"Of99", std::string(99, 'x'), std::string(99, 'x')},
+      {"Of100", cien, cien},
+      {"Of101", cien + "x", cien},
+      {"Of200", cien + cien, cien},
+      {"Of201", cien + cien + "x", cien},
+      {"OfAMebibyte", std::string(LineReader::LargoMaximo - 2, 'x'), cien},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Phrases, BadPhrase, testing::ValuesIn(BadPhrases()),
+                         [](const testing::TestParamInfo<OnlyPhrase>& caso) {
+                           return caso.param.Name;
+                         });
 
 // A line of the longest length there may be, its end included, and one byte more.
 struct LongLine {

@@ -20,6 +20,14 @@ void Stretch(const fs::path& archivo) {
   fs::resize_file(archivo, fs::file_size(archivo) + Gibibyte);
 }
 
+// What is measured is memory that is used, and only what is new.
+TEST(MemoryGrownBy, SeesWhatIsTaken) {
+  constexpr std::size_t Tomados = 100;
+  const auto tomar = [] { EXPECT_EQ(std::string(Tomados << 20U, 'x').back(), 'x'); };
+  EXPECT_GE(MemoryGrownBy(tomar), static_cast<int>(Tomados));
+  EXPECT_LT(MemoryGrownBy([] {}), 5);
+}
+
 struct HugeLine {
   std::string Name;
   int Linea;  // of the character file; the lines before it are good

@@ -90,11 +90,11 @@ Played Play(const fs::path& carpeta) {
   const Conversation partida = Converse(
       carpeta, [&primero](const TraceEvents& sucesos) { return NextLine(sucesos, primero); });
   EXPECT_EQ(partida.Err, "");
-  if (partida.Status == 0) return {"plays", primero};
+  if (partida.Status == 0) return {"plays", primero, partida.Out};
   const ordered_json fin = partida.Rest.empty() ? ordered_json{} : partida.Rest.back();
   EXPECT_EQ(partida.Status, 1);
   EXPECT_EQ(fin.value("reason", ""), "error");
-  return {WithoutFolder(fin.value("text", ""), carpeta), primero};
+  return {WithoutFolder(fin.value("text", ""), carpeta), primero, partida.Out};
 }
 
 Outcomes OutcomesOf(const std::string& archivo) {
@@ -111,9 +111,12 @@ int MemoryGrownBy(const std::function<void()>& hacer) {
   };
   const pid_t hijo = ::fork();
   if (hijo == 0) {
-    const long antes = maximo();
-    hacer();
-    ::_exit(static_cast<int>(std::min(maximo() - antes, 255L)));
+    const auto medir = [&]() noexcept {  // what is thrown must not come back into the tests
+      const long antes = maximo();
+      hacer();
+      return static_cast<int>(std::min(maximo() - antes, 255L));
+    };
+    ::_exit(medir());
   }
   int estado = 0;
   EXPECT_EQ(::waitpid(hijo, &estado, 0), hijo);

@@ -33,6 +33,7 @@ Outcomes OutcomesIn(const std::filesystem::path& carpeta);
 struct Played {
   std::string Outcome;
   nlohmann::ordered_json State;  // the first one; null when the table never opened
+  std::string Lines;             // all that the trace wrote
 };
 Played Play(const std::filesystem::path& carpeta);
 

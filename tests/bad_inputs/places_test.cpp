@@ -83,14 +83,22 @@ TEST(InTheCharacterFilesPlace, AFileThatMayNotBeReadSaysSo) {
   EXPECT_EQ(lugar.All(), AllEndWith("Jugadores.dat: no se puede leer el archivo."));
 }
 
+void ExpectDefaults(const Place& lugar) {
+  const Played partida = Play(lugar.Carpeta.Path());
+  EXPECT_EQ(partida.Outcome, "plays");
+  EXPECT_EQ(partida.State["PiedrasJuego"], 35);
+  EXPECT_EQ(partida.State["JuegosVaca"], 3);
+  EXPECT_EQ(partida.State["VacasPartida"], 3);
+}
+
 TEST(InTheSettingsPlace, NothingAndADanglingLinkLeaveTheDefaults) {
   const Place sinNada;
   sinNada.Vacant("mus.ini");
-  EXPECT_EQ(sinNada.Program(), "plays");
+  ExpectDefaults(sinNada);
   EXPECT_EQ(sinNada.Carpeta.Names(), Textos{"Jugadores.dat"});
   const Place conEnlace;
   fs::create_symlink("nada", conEnlace.Vacant("mus.ini"));
-  EXPECT_EQ(conEnlace.Program(), "plays");
+  ExpectDefaults(conEnlace);
   EXPECT_EQ(conEnlace.Carpeta.Names(), (Textos{"Jugadores.dat", "mus.ini"}));
 }
 
