@@ -31,11 +31,16 @@ struct Sides {
   std::vector<double> Derecha;
 };
 
+char* Bytes(std::array<std::int16_t, 2>& par) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): the recording is a file of bytes.
+  return reinterpret_cast<char*>(par.data());
+}
+
 Sides Split(const std::string& bytes) {
   Sides lados;
   for (std::size_t i = 0; i + 3 < bytes.size(); i += 4) {
     std::array<std::int16_t, 2> par{};
-    std::copy_n(bytes.data() + i, sizeof par, reinterpret_cast<char*>(par.data()));  // NOLINT
+    std::copy_n(bytes.data() + i, sizeof par, Bytes(par));
     lados.Izquierda.push_back(par[0]);
     lados.Derecha.push_back(par[1]);
   }
@@ -78,12 +83,15 @@ std::size_t HeardLength(Samples sonido, Samples tramo, double factor) {
 class Driver {
  public:
   explicit Driver(const char* nombre) {
-    if (const char* const antes = std::getenv(Variable)) antes_ = antes;  // NOLINT
-    ::setenv(Variable, nombre, 1);                                        // NOLINT
+    // NOLINTBEGIN(concurrency-mt-unsafe): before any thread is there.
+    if (const char* const antes = std::getenv(Variable)) antes_ = antes;
+    ::setenv(Variable, nombre, 1);
+    // NOLINTEND(concurrency-mt-unsafe)
   }
   Driver(const Driver&) = delete;
   Driver& operator=(const Driver&) = delete;
-  ~Driver() { ::setenv(Variable, antes_.c_str(), 1); }  // NOLINT
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): when no thread is left.
+  ~Driver() { ::setenv(Variable, antes_.c_str(), 1); }
 
  private:
   static constexpr const char* Variable = "SDL_AUDIODRIVER";
@@ -158,7 +166,8 @@ std::vector<double> Decoded(const fs::path& archivo) {
   EXPECT_NE(sonido, nullptr) << archivo;
   std::string bytes;
   if (sonido != nullptr) {
-    bytes.assign(reinterpret_cast<const char*>(sonido->abuf), sonido->alen);  // NOLINT
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): SDL's bytes are unsigned.
+    bytes.assign(reinterpret_cast<const char*>(sonido->abuf), sonido->alen);
   }
   Mix_FreeChunk(sonido);
   Mix_CloseAudio();

@@ -24,8 +24,8 @@ bool MayHoldSound(const std::filesystem::path& archivo) {
 
 // The device takes this format and no other, so that the samples of every file come as pairs.
 std::span<std::int16_t> Samples(const Mix_Chunk& sonido) {
-  return {reinterpret_cast<std::int16_t*>(sonido.abuf),  // NOLINT: SDL hands out bytes
-          sonido.alen / sizeof(std::int16_t)};
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): SDL hands out bytes.
+  return {reinterpret_cast<std::int16_t*>(sonido.abuf), sonido.alen / sizeof(std::int16_t)};
 }
 
 std::chrono::milliseconds Duration(const Mix_Chunk& sonido, int veces) {
