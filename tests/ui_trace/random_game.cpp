@@ -20,6 +20,8 @@ RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t
       Converse(folder.Path(), [&player](const TraceEvents& events) { return player(events); });
   return {.Status = game.Status,
           .Hands = player.HandsPlayed(),
+          .Matches = player.MatchesPlayed(),
+          .Seated = player.Seated(),
           .In = game.In,
           .Out = game.Out,
           .Fault = player.FaultOf(game)};

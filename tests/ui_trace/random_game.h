@@ -2,6 +2,7 @@
 // One random game, judged.
 #include <cstdint>
 #include <filesystem>
+#include <set>
 #include <string>
 
 #include "tests/ui_trace/random_player.h"
@@ -11,7 +12,9 @@ namespace tasca::test {
 struct RandomGame {
   int Status = -1;
   int Hands = 0;
-  std::string In;  // to play it again
+  int Matches = 0;       // played to their end
+  std::set<int> Seated;  // the characters that have sat at the table
+  std::string In;        // to play it again
   std::string Out;
   std::string Fault;  // "" when all was as it must be
 };

@@ -92,7 +92,10 @@ std::string RandomPlayer::Answer(const ordered_json& question) {
     return R"({"text": ")" + std::to_string(any_(10000)) + "\"}";
   }
   if (question["text"] == "¿Desea cambiar de jugadores?") return YesOrNo(Sometimes(5));
-  if (question["text"] == "¿Desea jugar otra partida?") return YesOrNo(Sometimes(95));
+  if (question["text"] == "¿Desea jugar otra partida?") {
+    ++matchesPlayed_;
+    return YesOrNo(Sometimes(95));
+  }
   return YesOrNo(Sometimes(70));
 }
 
@@ -101,6 +104,11 @@ void RandomPlayer::Look(const ordered_json& state) {
   if (fault_.empty() && !before_.is_null()) fault_ = FaultBetween(before_, state);
   const bool ended = state["Fase"] == -1 && !before_.is_null() && before_["Fase"] != -1;
   if (ended) ++handsPlayed_;
+  if (before_.is_null()) {
+    const auto companions = state["PersonajeAsiento"].get<std::set<int>>();
+    const ordered_json& seats = state["PersonajeAsiento"];
+    seated_.insert(seats.begin() + 1, seats.end());  // the first is the human's
+  }
   before_ = state;
 }
 

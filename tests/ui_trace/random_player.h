@@ -1,6 +1,7 @@
 #pragma once
 // A player who does anything that is allowed, and looks at every state as it comes by.
 #include <functional>
+#include <set>
 #include <string>
 
 #include "tests/ui_trace/conversation.h"
@@ -24,6 +25,9 @@ class RandomPlayer {
   std::optional<std::string> operator()(const TraceEvents& events);
 
   int HandsPlayed() const { return handsPlayed_; }
+  int MatchesPlayed() const { return matchesPlayed_; }
+  // The characters that have sat at the table.
+  const std::set<int>& Seated() const { return seated_; }
   // The first thing that was not as it must always be, the end of the game included; "" when all
   // was. A game that was not provoked must end well; a provoked one may also end in the run-time
   // error that it asks for.
@@ -44,6 +48,8 @@ class RandomPlayer {
   int hands_;
   Provocation provocation_;
   int handsPlayed_ = 0;
+  int matchesPlayed_ = 0;
+  std::set<int> seated_;
   nlohmann::ordered_json before_;  // the last state
   std::string fault_;
 };

@@ -6,9 +6,11 @@
 #include <cstring>
 #include <exception>
 #include <iostream>
+#include <set>
 #include <stdexcept>
 #include <string>
 
+#include "characters/check.h"
 #include "tests/ui_trace/random_game.h"
 
 namespace tasca::test {
@@ -29,22 +31,54 @@ Provocation ProvocationOf(std::uint32_t seed) {
   return seed % 8 == 7 ? Provocation::HugeAmounts : Provocation::None;
 }
 
+// What a run of many games has seen.
+struct Tally {
+  std::array<int, 3> ByStatus{};
+  std::uint32_t Hands = 0;
+  int Matches = 0;
+  std::set<int> Seated;
+
+  void Add(const RandomGame& game) {
+    ++ByStatus.at(static_cast<std::size_t>(game.Status));
+    Hands += static_cast<std::uint32_t>(game.Hands);
+    Matches += game.Matches;
+    Seated.insert(game.Seated.begin(), game.Seated.end());
+  }
+};
+
+// Plays the game of a seed, one in fifty twice.
+RandomGame PlaySeed(const std::filesystem::path& characters, std::uint32_t seed) {
+  RandomGame game = PlayRandomGame(characters, seed, 12, ProvocationOf(seed));
+  const bool again = seed % 50 == 0;
+  if (again && PlayRandomGame(characters, seed, 12, ProvocationOf(seed)).Out != game.Out) {
+    game.Fault = "another game from the same seed";
+  }
+  return game;
+}
+
+// Draws of a thousand hands leave nobody out.
+bool EverybodyHasSat(const Tally& tally, const std::filesystem::path& characters) {
+  return tally.Hands < 1000 || std::ssize(tally.Seated) == RevisarPersonajes(characters).Ofrecidos;
+}
+
 int Soak(std::uint32_t wanted, const std::filesystem::path& characters, std::uint32_t first) {
-  std::array<int, 3> byStatus{};
-  std::uint32_t hands = 0;
+  Tally tally;
   std::uint32_t seed = first;
-  for (; hands < wanted; ++seed) {
-    const RandomGame game = PlayRandomGame(characters, seed, 12, ProvocationOf(seed));
+  for (; tally.Hands < wanted; ++seed) {
+    const RandomGame game = PlaySeed(characters, seed);
     if (!game.Fault.empty()) {
       std::cout << "seed " << seed << ": " << game.Fault << "\n" << game.In;
       return 1;
     }
-    ++byStatus.at(static_cast<std::size_t>(game.Status));
-    hands += static_cast<std::uint32_t>(game.Hands);
+    tally.Add(game);
   }
-  std::cout << seed - first << " games, " << hands << " hands; ended well " << byStatus[0]
-            << ", in a run-time error that was asked for " << byStatus[1] << "\n";
-  return 0;
+  std::cout << seed - first << " games, " << tally.Hands << " hands; ended well "
+            << tally.ByStatus[0] << ", in a run-time error that was asked for " << tally.ByStatus[1]
+            << "; " << tally.Matches << " matches to their end, " << tally.Seated.size()
+            << " characters at the table\n";
+  if (EverybodyHasSat(tally, characters)) return 0;
+  std::cout << "not every character has sat at the table\n";
+  return 1;
 }
 
 }  // namespace
