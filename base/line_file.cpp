@@ -12,16 +12,16 @@ namespace fs = std::filesystem;
 
 bool FileExists(const fs::path& archivo) {
   std::error_code error;
-  return fs::exists(archivo, error);
+  return fs::status(archivo, error).type() != fs::file_type::not_found;
 }
 
 LineReader::LineReader(fs::path archivo) : ruta_{std::move(archivo)} {
   std::error_code error;
   const fs::file_status estado = fs::status(ruta_, error);
-  if (!fs::exists(estado)) throw RunTimeError::InFile(ruta_, 0, u"no se encuentra el archivo.");
-  if (!fs::is_regular_file(estado)) throw RunTimeError::InFile(ruta_, 0, u"no es un archivo.");
-  flujo_.open(ruta_, std::ios::binary);
-  if (!flujo_) throw RunTimeError::InFile(ruta_, 0, u"no se puede leer el archivo.");
+  if (estado.type() == fs::file_type::not_found) Fail(u"no se encuentra el archivo.");
+  if (fs::status_known(estado) && !fs::is_regular_file(estado)) Fail(u"no es un archivo.");
+  if (fs::status_known(estado)) flujo_.open(ruta_, std::ios::binary);
+  if (!flujo_.is_open()) Fail(u"no se puede leer el archivo.");
 }
 
 bool LineReader::NextBytes(std::string& bytes) {

@@ -7,7 +7,8 @@
 
 namespace tasca {
 
-// True when the path leads to something (a dangling link does not).
+// True when the path leads to something (a dangling link does not), and when the disk cannot tell:
+// whoever opens that then says that it cannot be read.
 bool FileExists(const std::filesystem::path& archivo);
 
 // Reads the lines of a Windows-1252 file. Lines end in CR LF or LF, the last one perhaps in

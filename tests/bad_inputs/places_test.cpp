@@ -44,11 +44,10 @@ TEST(InTheCharacterFilesPlace, ADanglingLinkIsNothing) {
   EXPECT_EQ(lugar.All(), (Outcomes{Missing, noEsta, noEsta, Missing}));
 }
 
-TEST(InTheCharacterFilesPlace, ALinkToItselfIsNothing) {
+TEST(InTheCharacterFilesPlace, ALinkToItselfCannotBeRead) {
   const Place lugar;
   fs::create_symlink("Jugadores.dat", lugar.Vacant("Jugadores.dat"));
-  const std::string noEsta = "Jugadores.dat: no se encuentra el archivo.";
-  EXPECT_EQ(lugar.All(), (Outcomes{Missing, noEsta, noEsta, Missing}));
+  EXPECT_EQ(lugar.All(), AllEndWith("Jugadores.dat: no se puede leer el archivo."));
 }
 
 TEST(InTheCharacterFilesPlace, ALinkToAGoodFileIsRead) {
@@ -100,6 +99,12 @@ TEST(InTheSettingsPlace, NothingAndADanglingLinkLeaveTheDefaults) {
   fs::create_symlink("nada", conEnlace.Vacant("mus.ini"));
   ExpectDefaults(conEnlace);
   EXPECT_EQ(conEnlace.Carpeta.Names(), (Textos{"Jugadores.dat", "mus.ini"}));
+}
+
+TEST(InTheSettingsPlace, ALinkToItselfCannotBeRead) {
+  const Place lugar;
+  fs::create_symlink("mus.ini", lugar.Vacant("mus.ini"));
+  EXPECT_EQ(lugar.Program(), "mus.ini: no se puede leer el archivo.");
 }
 
 TEST(InTheSettingsPlace, AFolderIsNoFile) {

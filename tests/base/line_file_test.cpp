@@ -51,6 +51,16 @@ TEST(FileExists, FollowsLinks) {
   EXPECT_FALSE(FileExists(carpeta.Path() / "a_nada"));
 }
 
+// A link to itself: the disk cannot say what there is.
+TEST(FileExists, TakesWhatCannotBeToldForAFile) {
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "rueda";
+  fs::create_symlink("rueda", ruta);
+  EXPECT_TRUE(FileExists(ruta));
+  EXPECT_EQ(ErrorOf([&] { const LineReader archivo{ruta}; }),
+            ruta.string() + ": no se puede leer el archivo." + FinDelPrograma);
+}
+
 TEST(LineReader, ReadsLinesThatEndInCrLf) {
   EXPECT_EQ(LinesOf("uno\r\ndos\r\n"), (Lineas{"uno", "dos"}));
 }

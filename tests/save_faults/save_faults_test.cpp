@@ -1,22 +1,21 @@
-// The save of the character file, killed and failed at every one of its system calls.
+// The saves of the character file and of the settings, killed and failed at every one of their
+// system calls.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
-#include <array>
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "base/text.h"
+#include "base/code_page.h"
 #include "characters/character_file.h"
+#include "tests/save_faults/tracer.h"
 #include "tests/support/errors.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
@@ -24,34 +23,29 @@
 namespace tasca::test {
 namespace {
 
-// How a command ended, and what it said.
-struct Outcome {
-  int Status = 0;  // exit status, or 128 + signal
-  std::string Output;
+// What is saved: a name, into a file that has held another.
+struct Saved {
+  std::string Word;  // for the program that saves
+  std::string File;
+  std::string Copy;  // of the file as it was; "" for a file without one
+  bool IsReadFirst;
+  // The file with that name in it, when it held the other before.
+  std::string (*Content)(const std::string& nombre, const std::string& anterior);
 };
 
-Outcome RunCommand(const std::string& orden) {
-  Outcome fin;
-  // NOLINTNEXTLINE(cert-env33-c): a fixed command in a folder of the test's own.
-  std::FILE* const tubo = ::popen((orden + " 2>/dev/null").c_str(), "re");
-  if (tubo == nullptr) return {.Status = -1, .Output = {}};
-  std::array<char, 256> trozo{};
-  while (std::fgets(trozo.data(), trozo.size(), tubo) != nullptr) fin.Output += trozo.data();
-  const int estado = ::pclose(tubo);
-  fin.Status = WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
-  return fin;
-}
-
-std::string CastOf(std::u16string_view nombre) {
+std::string Cast(const std::string& nombre, const std::string& /*anterior*/) {
   Table t;
-  t.Personajes[1].Nombre = nombre;
+  t.Personajes[1].Nombre = Decode(nombre);
   return TextoPersonajes(t, 1);
 }
 
-const std::string Antes = CastOf(u"antes");
-const std::string MuchoAntes = CastOf(u"mucho antes");
-const std::string Nuevo = CastOf(u"nuevo");
-const std::string Despues = CastOf(u"despues");
+std::string Settings(const std::string& nombre, const std::string& anterior) {
+  const std::string rotulo = "> Nombre del \xFAltimo jugador\r\n";
+  return "35 piedras\r\n3\r\n3\r\n" + nombre + rotulo + anterior + rotulo;
+}
+
+const Saved Personajes{"characters", "Jugadores.dat", "Jugadores.bak", false, Cast};
+const Saved Ajustes{"settings", "mus.ini", "", true, Settings};
 
 // How the disk is that takes the save: what the tracer does to every call, and the program.
 struct Disk {
@@ -59,22 +53,7 @@ struct Disk {
   std::string Tracer;
   std::string Program;
   bool AfterACrash = false;  // with what a save leaves that is killed at the worst moments
-
-  void Fill(const TempFolder& carpeta) const {
-    carpeta.Write("Jugadores.dat", Antes);
-    carpeta.Write("Jugadores.bak", MuchoAntes);
-    if (!AfterACrash) return;
-    carpeta.Write("Jugadores.dat.tmp", Nuevo.substr(0, 20));
-    std::filesystem::create_hard_link(carpeta.Path() / "Jugadores.dat",
-                                      carpeta.Path() / "Jugadores.bak.tmp");
-  }
-
-  std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
-    return Program + " " + carpeta.Path().string() + " " + nombre;
-  }
 };
-
-void PrintTo(const Disk& disco, std::ostream* salida) { *salida << disco.Name; }
 
 const std::string Nada = "-e inject=getppid:delay_enter=0";
 const Disk DiscoCorriente{"WithLinks", Nada, TASCA_SAVE_ONCE};
@@ -82,60 +61,57 @@ const Disk DiscoSinEnlaces{"WithoutLinks", "-e inject=link:error=EPERM", TASCA_S
 const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
 const Disk DiscoTrasUnFallo{"AfterACrash", Nada, TASCA_SAVE_ONCE, true};
 
-// The leak checker is a tracer of its own, and there can be but one.
-std::string Traced(const std::string& opciones, const std::string& orden) {
-  return "ASAN_OPTIONS=detect_leaks=0 strace " + opciones + " " + orden;
-}
+// A save and its disk.
+struct Case {
+  Saved Save;
+  Disk On;
 
-// A system call of the save: its name, and how many of that name the process has made by then.
-struct Call {
-  std::string Name;
-  int Count;
+  std::string Antes() const { return Save.Content("antes", "mucho antes"); }
+  std::string MuchoAntes() const { return Save.Content("mucho antes", ""); }
+  std::string Nuevo() const { return Save.Content("nuevo", "antes"); }
+  bool HasCopy() const { return !Save.Copy.empty(); }
+
+  std::vector<std::string> Files() const {
+    if (!HasCopy()) return {Save.File};
+    return {Save.Copy, Save.File};
+  }
+
+  void Fill(const TempFolder& carpeta) const {
+    carpeta.Write(Save.File, Antes());
+    if (HasCopy()) carpeta.Write(Save.Copy, MuchoAntes());
+    if (!On.AfterACrash) return;
+    carpeta.Write(Save.File + ".tmp", Nuevo().substr(0, 20));
+    if (!HasCopy()) return;
+    std::filesystem::create_hard_link(carpeta.Path() / Save.File,
+                                      carpeta.Path() / (Save.Copy + ".tmp"));
+  }
+
+  std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
+    return On.Program + " " + Save.Word + " " + carpeta.Path().string() + " " + nombre;
+  }
+
+  std::vector<Call> Calls() const {
+    const TempFolder carpeta;
+    Fill(carpeta);
+    return CallsOf(On.Tracer, SaveIn(carpeta, "nuevo"));
+  }
 };
 
-// The calls between the two marks, of a save that goes well.
-std::vector<Call> CallsOfASave(const Disk& disco) {
-  const TempFolder carpeta;
-  disco.Fill(carpeta);
-  const std::string traza = (carpeta.Path() / "trace").string();
-  EXPECT_EQ(
-      RunCommand(Traced(disco.Tracer + " -o " + traza, disco.SaveIn(carpeta, "nuevo"))).Status, 0);
-  std::ifstream lineas{traza};
-  std::map<std::string, int> cuenta;
-  std::vector<Call> llamadas;
-  int marcas = 0;
-  for (std::string linea; std::getline(lineas, linea);) {
-    const std::string nombre = linea.substr(0, linea.find('('));
-    const int veces = ++cuenta[nombre];
-    if (nombre == "getppid") {
-      ++marcas;
-    } else if (marcas == 1) {
-      llamadas.push_back({nombre, veces});
-    }
-  }
-  EXPECT_EQ(marcas, 2);
-  return llamadas;
+void PrintTo(const Case& caso, std::ostream* salida) {
+  *salida << caso.Save.Word << " " << caso.On.Name;
 }
 
-// Calls that only order memory know nothing of disks.
-bool IsAboutFiles(const Call& llamada) {
-  static const std::set<std::string> deMemoria{"brk", "mmap", "munmap", "madvise", "mprotect"};
-  return !deMemoria.contains(llamada.Name);
-}
-
-class SaveFaults : public testing::TestWithParam<Disk> {
+class SaveFaults : public testing::TestWithParam<Case> {
  protected:
   void SetUp() override {
-    if (RunCommand("strace -o /dev/null true").Status != 0) {
-      GTEST_SKIP() << "this machine traces nothing";
-    }
+    if (!MachineTraces()) GTEST_SKIP() << "this machine traces nothing";
   }
 
   // Saves once for every call of a save, with a fault at that call; then looks at what it left.
   void SaveWithFaultAtEveryCall(const std::string& fallo, bool (*seElige)(const Call&),
                                 const std::function<void(const Outcome&)>& examinar) {
     int fallos = 0;
-    for (const Call& llamada : CallsOfASave(GetParam())) {
+    for (const Call& llamada : GetParam().Calls()) {
       if (!seElige(llamada)) continue;
       SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count));
       GetParam().Fill(carpeta_);
@@ -148,41 +124,61 @@ class SaveFaults : public testing::TestWithParam<Disk> {
   }
 
   Outcome SaveWith(const Call& llamada, const std::string& fallo) const {
-    const std::string inyeccion = " -e inject=" + llamada.Name + ":" + fallo +
-                                  ":when=" + std::to_string(llamada.Count) + " -o /dev/null";
-    return RunCommand(Traced(GetParam().Tracer + inyeccion, GetParam().SaveIn(carpeta_, "nuevo")));
+    return RunWithFault(GetParam().On.Tracer, GetParam().SaveIn(carpeta_, "nuevo"), llamada, fallo);
   }
+
+  std::string File() const { return carpeta_.Read(GetParam().Save.File); }
 
   // Either file is whole, and no step was taken before the one that protects it.
   void ExpectWholeFiles() const {
-    const std::string archivo = carpeta_.Read("Jugadores.dat");
-    const std::string copia = carpeta_.Read("Jugadores.bak");
-    EXPECT_TRUE(archivo == Antes || archivo == Nuevo) << archivo;
-    EXPECT_TRUE(copia == Antes || (copia == MuchoAntes && archivo == Antes)) << copia;
+    const std::string antes = GetParam().Antes();
+    const std::string archivo = File();
+    EXPECT_TRUE(archivo == antes || archivo == GetParam().Nuevo()) << archivo;
+    if (!GetParam().HasCopy()) return;
+    const std::string copia = carpeta_.Read(GetParam().Save.Copy);
+    EXPECT_TRUE(copia == antes || (copia == GetParam().MuchoAntes() && archivo == antes)) << copia;
   }
 
   // A later save finds nothing in its way and leaves nothing behind.
   void ExpectTheNextSaveToSucceed() const {
-    const std::string antes = carpeta_.Read("Jugadores.dat");
+    const std::string antes = File();
     const Outcome fin = RunCommand(GetParam().SaveIn(carpeta_, "despues"));
     EXPECT_EQ(fin.Status, 0) << fin.Output;
-    EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Despues);
-    EXPECT_EQ(carpeta_.Read("Jugadores.bak"), antes);
-    EXPECT_EQ(carpeta_.Names(), (std::vector<std::string>{"Jugadores.bak", "Jugadores.dat"}));
+    const std::string nombre = antes == GetParam().Nuevo() ? "nuevo" : "antes";
+    EXPECT_EQ(File(), GetParam().Save.Content("despues", nombre));
+    EXPECT_EQ(carpeta_.Names(), GetParam().Files());
+    if (!GetParam().HasCopy()) return;
+    EXPECT_EQ(carpeta_.Read(GetParam().Save.Copy), antes);
+  }
+
+  // What may be said when a call has failed for that reason.
+  std::vector<std::string> Messages(const std::string& motivo) const {
+    std::vector<std::string> mensajes;
+    const auto add = [&mensajes](std::initializer_list<std::string_view> partes) {
+      mensajes.emplace_back();
+      for (const std::string_view parte : partes) mensajes.back() += parte;
+      mensajes.back() += FinDelPrograma;
+    };
+    for (const std::string& nombre : GetParam().Files()) {
+      const std::string archivo = (carpeta_.Path() / nombre).string();
+      add({"No se ha podido escribir el archivo ", archivo, ": ", motivo});
+      if (!GetParam().Save.IsReadFirst) continue;
+      add({archivo, ": no se puede leer el archivo."});
+      add({archivo, ", línea 1: no se puede leer el archivo."});
+    }
+    return mensajes;
   }
 
   // A save that went well although a call failed has saved; any other has said what it could not
   // do, and why.
   void ExpectASaveOrAMessage(const Outcome& fin, const std::string& motivo) const {
     if (fin.Status == 0) {
-      EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Nuevo);
+      EXPECT_EQ(File(), GetParam().Nuevo());
       return;
     }
     EXPECT_EQ(fin.Status, 1);
-    const std::string archivo = (carpeta_.Path() / "Jugadores.").string();
-    EXPECT_TRUE(fin.Output.starts_with("No se ha podido escribir el archivo " + archivo))
-        << fin.Output;
-    EXPECT_TRUE(fin.Output.ends_with(": " + motivo + FinDelPrograma)) << fin.Output;
+    const std::vector<std::string> mensajes = Messages(motivo);
+    EXPECT_EQ(std::count(mensajes.begin(), mensajes.end(), fin.Output), 1) << fin.Output;
   }
 
   void ExpectWholeFilesAfterErrors(const std::string& error, const std::string& motivo) {
@@ -203,7 +199,7 @@ TEST_P(SaveFaults, AKillLeavesWholeFiles) {
   int muertes = 0;
   SaveWithFaultAtEveryCall("signal=KILL", todas, [&](const Outcome& fin) {
     if (fin.Status == 0) {
-      EXPECT_EQ(carpeta_.Read("Jugadores.dat"), Nuevo);
+      EXPECT_EQ(File(), GetParam().Nuevo());
     } else {
       EXPECT_EQ(fin.Status, 128 + SIGKILL);
       ++muertes;
@@ -231,11 +227,12 @@ TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
 // What only the machine's memory holds is lost when the current goes.
 TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   std::string orden;
-  for (const Call& llamada : CallsOfASave(GetParam())) orden += llamada.Name + " ";
-  const std::string copia =
-      GetParam().Name == DiscoSinEnlaces.Name ? "openat fsync close rename " : "link rename ";
-  EXPECT_NE(orden.find(copia + "openat fsync close "), std::string::npos) << orden;
+  for (const Call& llamada : GetParam().Calls()) orden += llamada.Name + " ";
   EXPECT_NE(orden.find("write fsync close rename openat fsync close "), std::string::npos) << orden;
+  if (!GetParam().HasCopy()) return;
+  const bool conEnlaces = GetParam().On.Name != DiscoSinEnlaces.Name;
+  const std::string copia = conEnlaces ? "link rename " : "openat fsync close rename ";
+  EXPECT_NE(orden.find(copia + "openat fsync close "), std::string::npos) << orden;
 }
 
 // A signal that comes in between is nothing to give up for.
@@ -243,7 +240,7 @@ class SaveInterrupted : public SaveFaults {};
 
 TEST_P(SaveInterrupted, GoesOnWriting) {
   const std::set<std::string> deEscribir{"openat", "write", "fsync"};
-  for (const Call& llamada : CallsOfASave(GetParam())) {
+  for (const Call& llamada : GetParam().Calls()) {
     if (!deEscribir.contains(llamada.Name)) continue;
     SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count));
     EXPECT_EQ(SaveWith(llamada, "error=EINTR").Status, 0);
@@ -270,7 +267,7 @@ TEST_P(SaveRefused, TellsTheReason) {
   };
   const std::string copia = (carpeta_.Path() / "Jugadores.bak").string();
   const std::string inicio = "No se ha podido escribir el archivo " + copia + ": ";
-  carpeta_.Write("Jugadores.dat", Antes);
+  GetParam().Fill(carpeta_);
   for (const auto& [error, motivo] : motivos) {
     std::string mensaje = inicio;
     mensaje += motivo;
@@ -282,7 +279,7 @@ TEST_P(SaveRefused, TellsTheReason) {
 
 // A disk that takes nothing at all is full: to go on would be to go on for ever.
 TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
-  for (const Call& llamada : CallsOfASave(GetParam())) {
+  for (const Call& llamada : GetParam().Calls()) {
     if (llamada.Name != "write") continue;
     SCOPED_TRACE(llamada.Count);
     GetParam().Fill(carpeta_);
@@ -294,22 +291,41 @@ TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
 }
 
 // A disk that takes less than it is given is given the rest.
-TEST(SaveInBits, WritesAFewBytesAtATime) {
-  const std::vector<Call> llamadas = CallsOfASave(DiscoLento);
+class SaveInBits : public SaveFaults {};
+
+TEST_P(SaveInBits, WritesAFewBytesAtATime) {
+  const std::vector<Call> llamadas = GetParam().Calls();
   const auto escrituras = std::count_if(llamadas.begin(), llamadas.end(), [](const Call& llamada) {
     return llamada.Name == "write";
   });
-  EXPECT_EQ(escrituras, (std::ssize(Nuevo) + 4) / 5);
+  EXPECT_EQ(escrituras, (std::ssize(GetParam().Nuevo()) + 4) / 5);
 }
 
-const auto ByDisk = [](const testing::TestParamInfo<Disk>& disco) {
-  return std::string{disco.param.Name};
+const auto ByDisk = [](const testing::TestParamInfo<Case>& caso) {
+  return std::string{caso.param.On.Name};
 };
-INSTANTIATE_TEST_SUITE_P(, SaveRefused, testing::Values(DiscoCorriente), ByDisk);
-INSTANTIATE_TEST_SUITE_P(, SaveInterrupted, testing::Values(DiscoCorriente, DiscoLento), ByDisk);
-INSTANTIATE_TEST_SUITE_P(, SaveFaults,
-                         testing::Values(DiscoCorriente, DiscoSinEnlaces, DiscoLento,
-                                         DiscoTrasUnFallo),
+
+INSTANTIATE_TEST_SUITE_P(Characters, SaveFaults,
+                         testing::Values(Case{Personajes, DiscoCorriente},
+                                         Case{Personajes, DiscoSinEnlaces},
+                                         Case{Personajes, DiscoLento},
+                                         Case{Personajes, DiscoTrasUnFallo}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Settings, SaveFaults,
+                         testing::Values(Case{Ajustes, DiscoCorriente}, Case{Ajustes, DiscoLento},
+                                         Case{Ajustes, DiscoTrasUnFallo}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Characters, SaveInterrupted,
+                         testing::Values(Case{Personajes, DiscoCorriente},
+                                         Case{Personajes, DiscoLento}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Settings, SaveInterrupted,
+                         testing::Values(Case{Ajustes, DiscoCorriente}, Case{Ajustes, DiscoLento}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Characters, SaveInBits, testing::Values(Case{Personajes, DiscoLento}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Settings, SaveInBits, testing::Values(Case{Ajustes, DiscoLento}), ByDisk);
+INSTANTIATE_TEST_SUITE_P(Characters, SaveRefused, testing::Values(Case{Personajes, DiscoCorriente}),
                          ByDisk);
 
 }  // namespace
