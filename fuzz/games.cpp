@@ -13,7 +13,7 @@ namespace {
 
 using test::Provocation;
 
-constexpr int MaximumHands = 12;
+constexpr test::Length Longest{.Hands = 12};
 
 std::unique_ptr<Folder> FolderWithCharacters() {
   auto folder = std::make_unique<Folder>();
@@ -37,7 +37,7 @@ void Run(std::string_view input) {
   static const std::unique_ptr<Folder> folder = FolderWithCharacters();
   Bytes bytes{input};
   const Provocation provocation = ProvocationOf(bytes.Below(8));
-  test::RandomPlayer player{[&bytes](int n) { return bytes.Below(n); }, MaximumHands, provocation};
+  test::RandomPlayer player{[&bytes](int n) { return bytes.Below(n); }, Longest, provocation};
   folder->Write("mus.ini", player.Settings());
   // The game ends with the bytes, once no question is open.
   const test::Player untilTheEnd = [&](const test::TraceEvents& events) {

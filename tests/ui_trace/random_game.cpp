@@ -7,12 +7,12 @@
 
 namespace tasca::test {
 
-RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed, int hands,
-                          Provocation provocation) {
+RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed,
+                          Length length, Provocation provocation) {
   const TempFolder folder;
   std::mt19937 engine{seed};
   RandomPlayer player{
-      [&engine](int n) { return static_cast<int>(engine() % static_cast<unsigned>(n)); }, hands,
+      [&engine](int n) { return static_cast<int>(engine() % static_cast<unsigned>(n)); }, length,
       provocation};
   std::filesystem::copy(characters, folder.Path() / "Jugadores.dat");
   folder.Write("mus.ini", player.Settings());

@@ -20,7 +20,7 @@ struct RandomGame {
 };
 
 // Plays with this character file in a folder of its own. The same seed always plays the same.
-RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed, int hands,
-                          Provocation provocation);
+RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed,
+                          Length length, Provocation provocation);
 
 }  // namespace tasca::test

@@ -35,8 +35,8 @@ std::string_view ErrorOf(Provocation provocation) {
 
 }  // namespace
 
-RandomPlayer::RandomPlayer(Chooser any, int hands, Provocation provocation)
-    : any_{std::move(any)}, hands_{hands}, provocation_{provocation} {}
+RandomPlayer::RandomPlayer(Chooser any, Length length, Provocation provocation)
+    : any_{std::move(any)}, length_{length}, provocation_{provocation} {}
 
 std::string RandomPlayer::Settings() {
   constexpr std::array<int, 6> stones{1, 5, 12, 25, 40, 200};
@@ -99,13 +99,16 @@ std::string RandomPlayer::Answer(const ordered_json& question) {
   return YesOrNo(Sometimes(70));
 }
 
+bool RandomPlayer::HasPlayedEnough() const {
+  return handsPlayed_ >= length_.Hands || matchesPlayed_ >= length_.Matches;
+}
+
 void RandomPlayer::Look(const ordered_json& state) {
   fault_ = FaultIn(state);
   if (fault_.empty() && !before_.is_null()) fault_ = FaultBetween(before_, state);
   const bool ended = state["Fase"] == -1 && !before_.is_null() && before_["Fase"] != -1;
   if (ended) ++handsPlayed_;
   if (before_.is_null()) {
-    const auto companions = state["PersonajeAsiento"].get<std::set<int>>();
     const ordered_json& seats = state["PersonajeAsiento"];
     seated_.insert(seats.begin() + 1, seats.end());  // the first is the human's
   }
@@ -117,9 +120,11 @@ std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {
   for (const ordered_json& event : events) {
     if (event["event"] == "state" && fault_.empty()) Look(event);
   }
-  if (!fault_.empty() || handsPlayed_ >= hands_) return std::nullopt;
+  if (!fault_.empty()) return std::nullopt;
   const ordered_json& last = events.back();
-  return last["event"] == "state" ? Move() : Answer(last);
+  if (last["event"] != "state") return Answer(last);
+  if (HasPlayedEnough()) return std::nullopt;
+  return Move();
 }
 
 std::string RandomPlayer::FaultOf(const Conversation& game) const {

@@ -1,6 +1,7 @@
 #pragma once
 // A player who does anything that is allowed, and looks at every state as it comes by.
 #include <functional>
+#include <limits>
 #include <set>
 #include <string>
 
@@ -11,13 +12,18 @@ namespace tasca::test {
 // What a random game may try besides good play.
 enum class Provocation { None, NoPhrases, HugeAmounts };
 
+// When the player leaves the table: after so many hands, or so many matches played to their end.
+struct Length {
+  int Hands = std::numeric_limits<int>::max();
+  int Matches = std::numeric_limits<int>::max();
+};
+
 // Says a whole number from 0 to n - 1: what the player does depends on nothing else.
 using Chooser = std::function<int(int n)>;
 
 class RandomPlayer {
  public:
-  // Plays until so many hands have ended.
-  RandomPlayer(Chooser any, int hands, Provocation provocation);
+  RandomPlayer(Chooser any, Length length, Provocation provocation);
 
   // A "mus.ini" with match parameters that make long and short matches.
   std::string Settings();
@@ -37,6 +43,7 @@ class RandomPlayer {
   // True `percent` times of a hundred.
   bool Sometimes(int percent) { return any_(100) < percent; }
 
+  bool HasPlayedEnough() const;
   void Look(const nlohmann::ordered_json& state);
   std::string Start();
   std::string Move();
@@ -45,7 +52,7 @@ class RandomPlayer {
   std::string Answer(const nlohmann::ordered_json& question);
 
   Chooser any_;
-  int hands_;
+  Length length_;
   Provocation provocation_;
   int handsPlayed_ = 0;
   int matchesPlayed_ = 0;

@@ -1,6 +1,6 @@
-// tasca-signature GAMES [FILE]: one number over everything that so many random games ask, say and
-// hold. It is the same from every compiler and at every level of optimisation; with FILE it must be
-// the one that is kept there for as many games.
+// tasca-signature MATCHES [FILE]: one number over everything that so many random matches ask, say
+// and hold. It is the same from every compiler and at every level of optimisation; with FILE it
+// must be the one that is kept there for as many matches.
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -37,11 +37,11 @@ Provocation ProvocationOf(std::uint32_t seed) {
   return seed % 10 == 0 ? Provocation::HugeAmounts : Provocation::None;
 }
 
-std::string SignatureOf(std::uint32_t games) {
+std::string SignatureOf(std::uint32_t matches) {
   const std::filesystem::path characters = TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat";
   Hash hash;
-  for (std::uint32_t seed = 1; seed <= games; ++seed) {
-    const RandomGame game = PlayRandomGame(characters, seed, 8, ProvocationOf(seed));
+  for (std::uint32_t seed = 1; seed <= matches; ++seed) {
+    const RandomGame game = PlayRandomGame(characters, seed, {.Matches = 1}, ProvocationOf(seed));
     if (!game.Fault.empty())
       throw std::runtime_error{"seed " + std::to_string(seed) + ": " + game.Fault};
     hash.Add(game.In);
@@ -50,15 +50,15 @@ std::string SignatureOf(std::uint32_t games) {
   return hash.Text();
 }
 
-// The signature in a file of lines "GAMES SIGNATURE".
-std::string KeptSignature(const char* path, std::uint32_t games) {
+// The signature in a file of lines "MATCHES SIGNATURE".
+std::string KeptSignature(const char* path, std::uint32_t matches) {
   std::ifstream lines{path};
-  std::uint32_t ofGames = 0;
+  std::uint32_t ofMatches = 0;
   std::string signature;
-  while (lines >> ofGames >> signature) {
-    if (ofGames == games) return signature;
+  while (lines >> ofMatches >> signature) {
+    if (ofMatches == matches) return signature;
   }
-  throw std::runtime_error{"no signature is kept for so many games"};
+  throw std::runtime_error{"no signature is kept for so many matches"};
 }
 
 int Compare(const std::string& found, const std::string& kept) {
@@ -72,12 +72,13 @@ int Compare(const std::string& found, const std::string& kept) {
 
 int main(int argc, char** argv) {
   try {
-    if (argc < 2 || argc > 3) throw std::runtime_error{"GAMES [FILE]"};
-    std::uint32_t games = 0;
-    std::from_chars(argv[1], argv[1] + std::strlen(argv[1]), games);
-    const std::string found = tasca::test::SignatureOf(games);
-    std::cout << games << ' ' << found << '\n';
-    return argc == 2 ? 0 : tasca::test::Compare(found, tasca::test::KeptSignature(argv[2], games));
+    if (argc < 2 || argc > 3) throw std::runtime_error{"MATCHES [FILE]"};
+    std::uint32_t matches = 0;
+    std::from_chars(argv[1], argv[1] + std::strlen(argv[1]), matches);
+    const std::string found = tasca::test::SignatureOf(matches);
+    std::cout << matches << ' ' << found << '\n';
+    if (argc == 2) return 0;
+    return tasca::test::Compare(found, tasca::test::KeptSignature(argv[2], matches));
   } catch (const std::exception& error) {
     std::cerr << "tasca-signature: " << error.what() << '\n';
     return 2;

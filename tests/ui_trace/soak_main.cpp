@@ -46,19 +46,23 @@ struct Tally {
   }
 };
 
-// Plays the game of a seed, one in fifty twice.
+constexpr Length Longest{.Hands = 12};
+
+// Plays the game of a seed, one in 49 twice.
 RandomGame PlaySeed(const std::filesystem::path& characters, std::uint32_t seed) {
-  RandomGame game = PlayRandomGame(characters, seed, 12, ProvocationOf(seed));
-  const bool again = seed % 50 == 0;
-  if (again && PlayRandomGame(characters, seed, 12, ProvocationOf(seed)).Out != game.Out) {
+  RandomGame game = PlayRandomGame(characters, seed, Longest, ProvocationOf(seed));
+  const bool again = seed % 49 == 0 && game.Fault.empty();
+  if (again && PlayRandomGame(characters, seed, Longest, ProvocationOf(seed)).Out != game.Out) {
     game.Fault = "another game from the same seed";
   }
   return game;
 }
 
-// Draws of a thousand hands leave nobody out.
+// Draws of two hundred hands a character leave nobody out.
 bool EverybodyHasSat(const Tally& tally, const std::filesystem::path& characters) {
-  return tally.Hands < 1000 || std::ssize(tally.Seated) == RevisarPersonajes(characters).Ofrecidos;
+  const int offered = RevisarPersonajes(characters).Ofrecidos;
+  return tally.Hands / 200 < static_cast<std::uint32_t>(offered) ||
+         std::ssize(tally.Seated) == offered;
 }
 
 int Soak(std::uint32_t wanted, const std::filesystem::path& characters, std::uint32_t first) {

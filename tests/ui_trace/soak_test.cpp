@@ -12,7 +12,7 @@ const std::filesystem::path Characters =
 TEST(Soak, TwoHundredRandomHandsKeepTheTableInOrder) {
   int hands = 0;
   for (std::uint32_t seed = 1; hands < 200; ++seed) {
-    const RandomGame game = PlayRandomGame(Characters, seed, 8, Provocation::None);
+    const RandomGame game = PlayRandomGame(Characters, seed, {.Hands = 8}, Provocation::None);
     hands += game.Hands;
     ASSERT_EQ(game.Fault, "") << "seed " << seed << "\n" << game.In;
   }
@@ -20,15 +20,15 @@ TEST(Soak, TwoHundredRandomHandsKeepTheTableInOrder) {
 
 TEST(Soak, TheSameSeedGivesTheSameBytes) {
   for (std::uint32_t seed = 101; seed <= 105; ++seed) {
-    const RandomGame game = PlayRandomGame(Characters, seed, 4, Provocation::None);
+    const RandomGame game = PlayRandomGame(Characters, seed, {.Hands = 4}, Provocation::None);
     EXPECT_GT(game.Out.size(), 1000U);
-    EXPECT_EQ(game.Out, PlayRandomGame(Characters, seed, 4, Provocation::None).Out);
+    EXPECT_EQ(game.Out, PlayRandomGame(Characters, seed, {.Hands = 4}, Provocation::None).Out);
   }
 }
 
 TEST(Soak, WithoutPhrasesOfTheirOwnTheFirstToSpeakEndsTheProgram) {
   for (std::uint32_t seed = 201; seed <= 205; ++seed) {
-    const RandomGame game = PlayRandomGame(Characters, seed, 4, Provocation::NoPhrases);
+    const RandomGame game = PlayRandomGame(Characters, seed, {.Hands = 4}, Provocation::NoPhrases);
     EXPECT_EQ(game.Fault, "") << "seed " << seed << "\n" << game.In;
     EXPECT_EQ(game.Status, 1);
   }
@@ -36,7 +36,8 @@ TEST(Soak, WithoutPhrasesOfTheirOwnTheFirstToSpeakEndsTheProgram) {
 
 TEST(Soak, HugeAmountsOverflowOrAreCounted) {
   for (std::uint32_t seed = 301; seed <= 310; ++seed) {
-    const RandomGame game = PlayRandomGame(Characters, seed, 4, Provocation::HugeAmounts);
+    const RandomGame game =
+        PlayRandomGame(Characters, seed, {.Hands = 4}, Provocation::HugeAmounts);
     EXPECT_EQ(game.Fault, "") << "seed " << seed << "\n" << game.In;
   }
 }
