@@ -19,9 +19,10 @@ LineReader::LineReader(fs::path archivo) : ruta_{std::move(archivo)} {
   std::error_code error;
   const fs::file_status estado = fs::status(ruta_, error);
   if (estado.type() == fs::file_type::not_found) Fail(u"no se encuentra el archivo.");
-  if (fs::status_known(estado) && !fs::is_regular_file(estado)) Fail(u"no es un archivo.");
-  if (fs::status_known(estado)) flujo_.open(ruta_, std::ios::binary);
-  if (!flujo_.is_open()) Fail(u"no se puede leer el archivo.");
+  if (!fs::status_known(estado)) Fail(u"no se puede leer el archivo.");
+  if (!fs::is_regular_file(estado)) Fail(u"no es un archivo.");
+  flujo_.open(ruta_, std::ios::binary);
+  if (!flujo_) Fail(u"no se puede leer el archivo.");
 }
 
 bool LineReader::NextBytes(std::string& bytes) {

@@ -1,5 +1,5 @@
 // The bytes as a character file that is read, written, read and written: both writings are the same
-// and say the same as the first reading.
+// and say the same as the first reading. The game reads what was written as the editor does.
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -91,7 +91,7 @@ void Run(std::string_view input) {
   Require(Read(second, folder, written) == *count, "as many characters come back");
   for (int number = 1; number <= *count; ++number) CompareCharacter(first.t, second.t, number);
   Require(TextoPersonajes(second.t, *count) == written, "the second writing is the first");
-  // What is written has the tags that the game knows.
+  // The game, which knows fewer tags than the editor, knows all that are written.
   Forget(second);
   LeerPersonajes(second.t);
   Require(TextoPersonajes(second.t, *count) == written,

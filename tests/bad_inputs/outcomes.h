@@ -40,7 +40,8 @@ Played Play(const std::filesystem::path& carpeta);
 // The outcomes of a character file alone in a folder.
 Outcomes OutcomesOf(const std::string& archivo);
 
-// By how many MiB the memory in use at its peak grows while `hacer` runs, in a process of its own.
+// By how many MiB the memory in use at its peak grows while `hacer` runs, in a process of its own:
+// what is expected in there is not told.
 int MemoryGrownBy(const std::function<void()>& hacer);
 
 // What several outcomes have in common.

@@ -18,8 +18,8 @@ import time
 
 RULE_TESTS = ("cards", "lances", "count", "table", "sound", "startup", "characters", "base")
 OTHER_TESTS = ("tests_ui_trace", "tests_bad_inputs", "tests_ui_cast", "tests_save_faults")
-# A minute long, and about nothing but how a file is saved.
-SAVING = ("tests_save_faults", ("base/", "characters/"))
+# A minute or two long, and about nothing but how a file is saved.
+SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
 PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
 LEAST_PATIENCE = 20  # seconds
 
