@@ -7,10 +7,10 @@
 #include <utility>
 
 #include "cards/deck.h"
+#include "cards/hand.h"
 #include "characters/character_file.h"
-#include "lances/dialog.h"
-#include "table/hand.h"
-#include "table/phase_machine.h"
+#include "match/phase_machine.h"
+#include "table/dialog.h"
 
 namespace tasca {
 namespace {

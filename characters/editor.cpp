@@ -3,9 +3,9 @@
 
 #include "base/code_page.h"
 #include "base/endings.h"
+#include "base/keys.h"
 #include "base/text.h"
 #include "characters/character_file.h"
-#include "table/keys.h"
 
 namespace tasca {
 namespace {

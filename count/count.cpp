@@ -11,7 +11,7 @@
 #include "lances/pares.h"
 #include "lances/pequena.h"
 #include "lances/punto.h"
-#include "table/scoreboard.h"
+#include "score/scoreboard.h"
 
 namespace tasca {
 namespace {

@@ -6,7 +6,6 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
-#include "cards/mus.h"
 #include "characters/character_file.h"
 #include "fuzz/support/answers.h"
 #include "fuzz/support/bytes.h"
@@ -14,7 +13,8 @@
 #include "fuzz/support/target.h"
 #include "lances/grande.h"
 #include "lances/punto.h"
-#include "table/start.h"
+#include "match/start.h"
+#include "mus/mus.h"
 #include "ui/utf8.h"
 
 namespace tasca::fuzz {

@@ -8,7 +8,7 @@
 #include "base/text.h"
 #include "cards/hand_text.h"
 #include "characters/speech.h"
-#include "table/scoreboard.h"
+#include "score/scoreboard.h"
 
 namespace tasca {
 namespace {

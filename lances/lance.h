@@ -3,7 +3,7 @@
 // (lances/bidding.h).
 #include <string_view>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "table/game.h"
 
 namespace tasca {

@@ -8,8 +8,8 @@
 #include "base/line_file.h"
 #include "base/text.h"
 #include "characters/character_file.h"
+#include "startup/seed.h"
 #include "startup/settings.h"
-#include "table/start.h"
 
 namespace tasca {
 namespace {

@@ -8,7 +8,7 @@
 
 namespace tasca {
 
-struct Dialog;  // lances/dialog.h
+struct Dialog;  // table/dialog.h
 
 struct TimeOfDay {
   int Hora = 0;     // 0..23

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "table/port.h"
 
 namespace tasca::fuzz {

@@ -6,7 +6,8 @@ from dataclasses import dataclass
 
 import source
 
-FOLDERS = ("base", "cards", "characters", "count", "lances", "startup", "sound", "table")
+FOLDERS = ("base", "cards", "characters", "count", "lances", "match", "mus", "score", "sound", "startup",
+           "table")
 
 RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
              "==": ("!=",), "!=": ("==",)}
@@ -25,10 +26,10 @@ NEVER_DROPPED = {"case", "default", "if", "for", "while", "do", "switch", "else"
 DECLARATION = re.compile(r"(?!return|throw)(const |constexpr )*[\w:]+(<[^;=]*>)?[&*]? "
                          r"(const )?[&*]?\[?\w+")
 
-# What decides for a computer seat; what these call in the same two folders belongs to it.
+# What decides for a computer seat; what these call in the same folders belongs to it.
 DECIDERS = re.compile(r"(Decide|Responde|Abre)[A-Z]\w*|DecidirRespuesta|DescartarComputador"
                       r"|CantidadApertura|CantidadAlSubir|PuntuacionMus")
-DECIDING_FOLDERS = ("cards/", "lances/")
+DECIDING_FOLDERS = ("cards/", "lances/", "mus/")
 NOT_THEIRS = re.compile(r"Preguntar\w*")  # the human's side of the same functions
 
 

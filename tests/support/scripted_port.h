@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "table/port.h"
 
 namespace tasca::test {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "table/hand.h"
+#include "cards/hand.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "table/phase_machine.h"
+#include "match/phase_machine.h"
 #include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 

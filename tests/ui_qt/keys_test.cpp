@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "table/phase_machine.h"
+#include "match/phase_machine.h"
 
 namespace tasca::test {
 namespace {

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "cards/deck.h"
+#include "cards/hand.h"
+#include "match/start.h"
 #include "sound/effects.h"
-#include "table/hand.h"
-#include "table/start.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
 #include "tests/ui_sound/listener.h"

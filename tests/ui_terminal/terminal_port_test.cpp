@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "base/endings.h"
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"
 

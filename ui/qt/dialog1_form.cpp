@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/keys.h"
 #include "characters/character_file.h"
-#include "table/keys.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qt_text.h"
 

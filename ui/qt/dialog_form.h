@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <array>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 
 namespace tasca {
 

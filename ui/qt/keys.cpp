@@ -1,7 +1,7 @@
 // The translation of key events.
 #include "ui/qt/keys.h"
 
-#include "table/keys.h"
+#include "base/keys.h"
 
 namespace tasca {
 namespace {

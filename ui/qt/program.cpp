@@ -4,9 +4,9 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "match/phase_machine.h"
+#include "match/start.h"
 #include "sound/effects.h"
-#include "table/phase_machine.h"
-#include "table/start.h"
 #include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
 

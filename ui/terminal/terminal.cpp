@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "base/endings.h"
+#include "match/phase_machine.h"
+#include "match/start.h"
 #include "sound/effects.h"
-#include "table/phase_machine.h"
-#include "table/start.h"
 #include "ui/terminal/startup_prompts.h"
 #include "ui/terminal/waiting.h"
 

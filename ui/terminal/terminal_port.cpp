@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "lances/dialog.h"
+#include "table/dialog.h"
 
 namespace tasca {
 namespace {

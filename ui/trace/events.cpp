@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "ui/utf8.h"
 
 namespace tasca {

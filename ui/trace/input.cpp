@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/text.h"
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "ui/utf8.h"
 
 namespace tasca {

@@ -4,10 +4,10 @@
 #include <memory>
 
 #include "base/endings.h"
+#include "match/phase_machine.h"
+#include "match/start.h"
 #include "sound/effects.h"
 #include "startup/dlg_inicio.h"
-#include "table/phase_machine.h"
-#include "table/start.h"
 #include "ui/trace/events.h"
 #include "ui/trace/input.h"
 #include "ui/trace/trace_port.h"

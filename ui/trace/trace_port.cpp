@@ -1,7 +1,7 @@
 // Asking by an event, answered by the next line.
 #include "ui/trace/trace_port.h"
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 
 namespace tasca {
 

@@ -1,5 +1,5 @@
 // The mus phase: the questions and the computer seats' answers.
-#include "cards/mus.h"
+#include "mus/mus.h"
 
 #include "base/text.h"
 #include "cards/deck.h"

@@ -1,11 +1,12 @@
 // The start of a match.
-#include "table/start.h"
+#include "match/start.h"
 
 #include "base/text.h"
 #include "cards/deck.h"
 #include "cards/hand_text.h"
 #include "characters/character_file.h"
 #include "sound/effects.h"
+#include "startup/seed.h"
 #include "startup/settings.h"
 
 namespace tasca {
@@ -38,12 +39,6 @@ std::u16string DescripcionPartida(const Table& t) {
 }
 
 }  // namespace
-
-void SembrarConHora(Game& g) {
-  const TimeOfDay hora = g.port.Now();
-  const int semilla = (hora.Hora + 1) * ((hora.Minuto + 1) * (hora.Segundo + 1));
-  g.rnd.Seed(static_cast<std::uint32_t>(semilla));
-}
 
 void Form_Load(Game& g) {
   Table& t = g.t;

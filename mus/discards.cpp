@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "cards/deck.h"
 #include "cards/hand_text.h"
-#include "cards/mus.h"
+#include "mus/mus.h"
 #include "sound/effects.h"
 
 namespace tasca {

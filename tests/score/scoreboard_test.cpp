@@ -1,5 +1,5 @@
 // Juegos, vacas and the match.
-#include "table/scoreboard.h"
+#include "score/scoreboard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 // The phase machine: every Enter runs the one step of the hand that Fase names.
+#include "base/keys.h"
 #include "table/game.h"
-#include "table/keys.h"
 
 namespace tasca {
 

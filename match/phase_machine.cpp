@@ -1,15 +1,15 @@
 // The dispatch from Fase to the steps of a hand.
-#include "table/phase_machine.h"
+#include "match/phase_machine.h"
 
+#include "cards/hand.h"
 #include "cards/hand_text.h"
-#include "cards/mus.h"
 #include "count/count.h"
 #include "lances/grande.h"
 #include "lances/juego.h"
 #include "lances/pares.h"
 #include "lances/pequena.h"
 #include "lances/punto.h"
-#include "table/hand.h"
+#include "mus/mus.h"
 
 namespace tasca {
 namespace {

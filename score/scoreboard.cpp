@@ -1,10 +1,10 @@
 // The scoreboard and the progression from juegos to vacas to the match.
-#include "table/scoreboard.h"
+#include "score/scoreboard.h"
 
 #include "base/endings.h"
 #include "base/text.h"
+#include "cards/hand.h"
 #include "sound/effects.h"
-#include "table/hand.h"
 
 namespace tasca {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cards/mus.h"
+#include "mus/mus.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"

@@ -1,5 +1,5 @@
 // The bidding dialog's two events.
-#include "lances/dialog.h"
+#include "table/dialog.h"
 
 namespace tasca {
 

@@ -1,10 +1,9 @@
 // The start of a match.
-#include "table/start.h"
+#include "match/start.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -57,52 +56,6 @@ constexpr auto Titulo =
     "Partida de\r\nAna y El tío Zarandel\r\n contra \r\nLa boticaria y el Cojo\r\n\r\n";
 constexpr auto Descripcion =
     "Partida al mejor de 3 vacas, cada una  al mejor de 3 juegos de35 piedras.\r\n";
-
-struct CasoHora {
-  TimeOfDay Hora;
-  std::uint32_t Semilla;
-};
-
-TEST(SembrarConHora, MultipliesTheFieldsOfTheClockPlusOne) {
-  const std::vector<CasoHora> casos{
-      {{.Hora = 0, .Minuto = 0, .Segundo = 0}, 1},
-      {{.Hora = 23, .Minuto = 0, .Segundo = 0}, 24},
-      {{.Hora = 0, .Minuto = 59, .Segundo = 0}, 60},
-      {{.Hora = 0, .Minuto = 0, .Segundo = 59}, 60},
-      {{.Hora = 21, .Minuto = 4, .Segundo = 37}, 4180},  // 22 x 5 x 38
-      {{.Hora = 23, .Minuto = 59, .Segundo = 59}, 86400},
-  };
-  for (const CasoHora& caso : casos) {
-    Casa casa;
-    casa.port.Hora = caso.Hora;
-    SembrarConHora(casa.g);
-    std::mt19937 motor{caso.Semilla};
-    EXPECT_EQ(casa.rnd(), static_cast<float>(motor() >> 8U) / 16777216.0F) << caso.Semilla;
-  }
-}
-
-TEST(SembrarConHora, StartsCountingDrawsAnew) {
-  Casa casa;
-  casa.rnd();
-  SembrarConHora(casa.g);
-  EXPECT_EQ(casa.rnd.Draws(), 0U);
-}
-
-TEST(SembrarConHora, Kept_TellsOnlySomeSecondsOfTheDayApart) {
-  // 1:00:00, 0:01:00 and 0:00:01 all give 2.
-  const std::vector<TimeOfDay> horas{{.Hora = 1, .Minuto = 0, .Segundo = 0},
-                                     {.Hora = 0, .Minuto = 1, .Segundo = 0},
-                                     {.Hora = 0, .Minuto = 0, .Segundo = 1}};
-  std::vector<float> sacadas;
-  for (const TimeOfDay& hora : horas) {
-    Casa casa;
-    casa.port.Hora = hora;
-    SembrarConHora(casa.g);
-    sacadas.push_back(casa.rnd());
-  }
-  EXPECT_EQ(sacadas[0], sacadas[1]);
-  EXPECT_EQ(sacadas[1], sacadas[2]);
-}
 
 TEST(Form_Load, DealsTheSameCardsInTheSameSecond) {
   Casa una;

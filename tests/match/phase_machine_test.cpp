@@ -1,5 +1,5 @@
 // The phase machine: which keys do what, and which step every phase runs.
-#include "table/phase_machine.h"
+#include "match/phase_machine.h"
 
 #include <gtest/gtest.h>
 

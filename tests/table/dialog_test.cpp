@@ -1,5 +1,5 @@
 // The bidding dialog's buttons.
-#include "lances/dialog.h"
+#include "table/dialog.h"
 
 #include <gtest/gtest.h>
 

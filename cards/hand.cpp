@@ -1,5 +1,5 @@
 // The start of a hand.
-#include "table/hand.h"
+#include "cards/hand.h"
 
 #include "base/text.h"
 #include "cards/deck.h"
