@@ -2,6 +2,7 @@
 // Arrays with the bounds that the game counts in: seats from 1, parejas and cards from 0.
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 #include "base/endings.h"
 
@@ -15,6 +16,14 @@ struct Array {
 
   constexpr T& operator[](int indice) { return elementos[Position(indice)]; }
   constexpr const T& operator[](int indice) const { return elementos[Position(indice)]; }
+
+  // The same for an index that has a name.
+  template <class Nombre>
+  requires std::is_enum_v<Nombre>
+  constexpr T& operator[](Nombre indice) { return (*this)[static_cast<int>(indice)]; }
+  template <class Nombre>
+  requires std::is_enum_v<Nombre>
+  constexpr const T& operator[](Nombre indice) const { return (*this)[static_cast<int>(indice)]; }
 
   constexpr auto begin() { return elementos.begin(); }
   constexpr auto end() { return elementos.end(); }

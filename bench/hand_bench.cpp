@@ -21,13 +21,13 @@ constexpr std::uint32_t Semilla = 2024;
 class PassingPort : public Port {
  public:
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
-  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& pregunta) override {
-    return pregunta.Titulo != u"¿mus?" && pregunta.Titulo != u"Mus" ? pregunta.PorDefecto
-                                                                    : Otra(pregunta);
+  // No mus; another match, with the same players.
+  bool YesNoBox(const Table& /*t*/, Pregunta sobre, const YesNoQuestion& pregunta) override {
+    if (sobre == Pregunta::Mus || sobre == Pregunta::CambiarJugadores) return false;
+    return sobre == Pregunta::OtraPartida || pregunta.PorDefecto;
   }
-  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
-                          std::u16string_view /*titulo*/,
-                          std::u16string_view /*porDefecto*/) override {
+  std::u16string InputBox(const Table& /*t*/, Pregunta /*sobre*/,
+                          const InputQuestion& /*pregunta*/) override {
     return {};
   }
   void ShowDialog(const Table& /*t*/, Dialog& dialogo) override { Command1_Click(dialogo, 0); }
@@ -35,12 +35,6 @@ class PassingPort : public Port {
   void StopSound(const Table& /*t*/) override {}
   TimeOfDay Now() override { return {}; }
   void ChangePlayers() override {}
-
- private:
-  // No mus; another match, with the same players.
-  static bool Otra(const YesNoQuestion& pregunta) {
-    return pregunta.Texto == u"¿Desea jugar otra partida?";
-  }
 };
 
 Table MesaConFrases() {
@@ -102,11 +96,11 @@ void WholeHand(benchmark::State& estado) {
   PassingPort port;
   Game g{t, rnd, port};
   for ([[maybe_unused]] auto _ : estado) {
-    t.Fase = -1;
+    t.Fase = Fase::EmpezarMano;
     do {
       Integer tecla = TeclaEnter;
       Text1_KeyDown(g, tecla, 0);
-    } while (t.Fase != -1);
+    } while (t.Fase != Fase::EmpezarMano);
   }
 }
 BENCHMARK(WholeHand)->Unit(benchmark::kMicrosecond);

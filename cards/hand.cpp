@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "cards/deck.h"
 #include "cards/hand_text.h"
+#include "characters/speech.h"
 #include "sound/effects.h"
 
 namespace tasca {
@@ -27,20 +28,25 @@ void EmpezarMano(Game& g) {
   Table& t = g.t;
   PasarLaMano(t);
   t.Text1.clear();
-  t.Text2.clear();
+  EmpezarRelato(t);
   t.SeJuegaPunto = false;
   t.RondasMus = 0;
-  for (int lance = 1; lance <= 4; ++lance) t.Apuesta[lance] = 0;
-  for (int lance = 3; lance <= 4; ++lance) t.Declaracion[lance] = SinDeclaracion;
+  for (const NumeroLance lance :
+       {NumeroLance::Grande, NumeroLance::Pequena, NumeroLance::Pares, NumeroLance::Juego}) {
+    t.Apuesta[lance] = 0;
+  }
+  for (const NumeroLance lance : {NumeroLance::Pares, NumeroLance::Juego}) {
+    t.Declaracion[lance] = SinDeclaracion;
+  }
   CrearBaraja(t, g.rnd);
   t.CartaSiguiente = 1;
   SonidoCartas(g, SonidoReparto);
   Barajar(t, g.rnd, 40);
   for (Seat asiento = 1; asiento <= 4; ++asiento) Repartir(g, asiento, 4);
   MostrarManos(t, AsientoHumano);
-  t.Fase = 0;
-  t.Text2 = Join(u"Sus cartas son", CrLf, TextoMano(t), CrLf, QuienEsMano(t),
-                 u"pulse Enter para empezar");
+  t.Fase = Fase::Mus;
+  EmpezarRelato(t, Join(u"Sus cartas son", CrLf, TextoMano(t), CrLf, QuienEsMano(t),
+                        u"pulse Enter para empezar"));
 }
 
 }  // namespace tasca

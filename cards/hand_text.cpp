@@ -30,12 +30,14 @@ std::u16string TextoMano(const Table& t) { return TextoManoDe(t, AsientoHumano);
 void MostrarManos(Table& t, Integer asiento) {
   if (asiento != TodosLosAsientos) {
     t.Text1 = TextoManoDe(t, asiento);
+    t.CartasVistas = {};
     return;
   }
   t.Text1.clear();
   for (Seat s = 1; s <= 4; ++s) {
     t.Text1 += Join(Encabezado(t, s), CrLf, TextoManoDe(t, s), CrLf);
   }
+  t.CartasVistas = t.Manos;
 }
 
 }  // namespace tasca

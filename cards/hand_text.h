@@ -14,7 +14,8 @@ std::u16string TextoCarta(const Table& t, Seat asiento, int hueco);
 // The human's four cards in one line, joined by ", ".
 std::u16string TextoMano(const Table& t);
 
-// Shows the human's hand in Text1, or, with TodosLosAsientos, all four under their names.
+// Shows the human's hand in Text1, or, with TodosLosAsientos, all four under their names: these
+// then lie open (CartasVistas).
 void MostrarManos(Table& t, Integer asiento);
 
 }  // namespace tasca

@@ -33,7 +33,7 @@ enum class Forma { ConRelleno, SinRelleno };
 void ListarFrases(Dialog1& d, const Table& t, int personaje, int categoria, Forma forma) {
   Vaciar(d.List3);
   for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
-    const FixedText<100>& frase = t.Mensajes[personaje][categoria][hueco];
+    const FixedText<AnchoFrase>& frase = t.Mensajes[personaje][categoria][hueco];
     d.List3.List.emplace_back(forma == Forma::ConRelleno ? frase.Full() : frase.Trimmed());
   }
 }
@@ -69,7 +69,7 @@ void CorrerPersonajes(Table& t, int eliminado, int cuantos) {
     t.Personajes[k] = t.Personajes[k + 1];
     for (int categoria = 1; categoria <= std::ssize(EtiquetasJugada); ++categoria) {
       for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
-        FixedText<100>& siguiente = t.Mensajes[k + 1][categoria][hueco];
+        FixedText<AnchoFrase>& siguiente = t.Mensajes[k + 1][categoria][hueco];
         t.Mensajes[k][categoria][hueco] = siguiente;
         siguiente = u"";
       }
@@ -97,7 +97,7 @@ void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
 
 // Kept: the answer counts whatever it is, so that cancelling clears the phrase.
 void ModificarMensaje(Dialog1& d, Table& t, EditorPort& port) {
-  FixedText<100>& frase = t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)];
+  FixedText<AnchoFrase>& frase = t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)];
   const std::u16string titulo = Join(u"Mensaje ", Trim(Entrada(d.List2)));
   const std::u16string anterior = ReplaceAll(frase.Trimmed(), Nul, u"");
   frase = port.InputBox(u"Nuevo mensaje: ", titulo, anterior);

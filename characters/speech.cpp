@@ -15,10 +15,19 @@ std::u16string_view FrasePorDefecto(const Table& t, MessageCategory categoria) {
   return Mensaje(t, personaje, categoria, 1).Trimmed();
 }
 
-std::u16string LineaHumano(const Table& t, MessageCategory categoria, int cantidad) {
-  const std::u16string linea =
-      Join(t.NombreJugador, t.EstiloDirecto ? u": " : u" dice ", FrasePorDefecto(t, categoria));
-  return cantidad == SinCantidad ? linea : ReplaceAll(linea, u"&", ToText(cantidad));
+// One spoken line: who speaks, with what leads to the words, and the words.
+struct Linea {
+  std::u16string Etiqueta;
+  std::u16string Frase;
+};
+
+// Kept: the amount takes the place of every "&", in the human's name too.
+Linea LineaHumano(const Table& t, MessageCategory categoria, int cantidad) {
+  Linea linea{Join(t.NombreJugador, t.EstiloDirecto ? u": " : u" dice "),
+              std::u16string{FrasePorDefecto(t, categoria)}};
+  if (cantidad == SinCantidad) return linea;
+  return {ReplaceAll(linea.Etiqueta, u"&", ToText(cantidad)),
+          ReplaceAll(linea.Frase, u"&", ToText(cantidad))};
 }
 
 std::u16string Etiqueta(const Table& t, Seat asiento) {
@@ -33,8 +42,8 @@ std::u16string SacarExpresion(Table& t, Rnd& rnd, int personaje, MessageCategory
   const float r1 = rnd();
   const float r2 = rnd();
   const auto hueco = [](float r) { return static_cast<int>(3.0F * r) + 1; };
-  auto& frases = t.Mensajes[personaje][static_cast<int>(categoria)];
-  const FixedText<100> elegida = frases[hueco(r1)];
+  auto& frases = t.Mensajes[personaje][categoria];
+  const FixedText<AnchoFrase> elegida = frases[hueco(r1)];
   frases[hueco(r2)] = elegida;
   return std::u16string{elegida.Trimmed()};
 }
@@ -60,22 +69,28 @@ std::u16string ConCantidad(std::u16string frase, MessageCategory categoria, int 
   return frase;
 }
 
-std::u16string LineaComputador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria,
-                               int cantidad) {
+Linea LineaComputador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria, int cantidad) {
   const int personaje = t.PersonajeAsiento[asiento - 1];
   std::u16string etiqueta = Etiqueta(t, asiento);
   const std::u16string frase = Frase(t, rnd, personaje, categoria);
   // "La boticaria dice: que ..." loses its colons, those of the name too.
   if (!t.EstiloDirecto && frase.starts_with(u"que")) etiqueta = ReplaceAll(etiqueta, u":", u"");
-  return Join(etiqueta, u" ", ConCantidad(frase, categoria, cantidad));
+  return {etiqueta + u" ", ConCantidad(frase, categoria, cantidad)};
 }
 
 }  // namespace
 
 void DiceJugador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categoria, Integer cantidad) {
-  const std::u16string linea = asiento < 2 ? LineaHumano(t, categoria, cantidad)
-                                           : LineaComputador(t, rnd, asiento, categoria, cantidad);
-  t.Text2 += Join(linea, CrLf);
+  const Linea linea = asiento < 2 ? LineaHumano(t, categoria, cantidad)
+                                  : LineaComputador(t, rnd, asiento, categoria, cantidad);
+  t.Text2 += Join(linea.Etiqueta, linea.Frase, CrLf);
+  t.Dichos.push_back(
+      {.Asiento = asiento, .Categoria = categoria, .Cantidad = cantidad, .Frase = linea.Frase});
+}
+
+void EmpezarRelato(Table& t, std::u16string_view texto) {
+  t.Text2 = texto;
+  t.Dichos.clear();
 }
 
 }  // namespace tasca

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "cards/deck.h"
 #include "cards/hand_text.h"
+#include "characters/speech.h"
 #include "lances/grande.h"
 #include "lances/juego.h"
 #include "lances/pares.h"
@@ -18,35 +19,21 @@ namespace {
 
 std::u16string SeSaca(Pareja pareja) { return Join(u"La pareja ", pareja, u" se saca "); }
 
-// What a count in which both grande and pequeña look alike writes.
-struct LancePorCartas {
-  int Numero;
-  std::u16string_view YaContada;
-  std::u16string_view Envidadas;
-  std::u16string_view EnPaso;
-  Pareja (*Gana)(const Table& t);
-};
-
-constexpr LancePorCartas CuentaGrande{1, u"la grande ya estaba contada ", u" envidadas a grande ",
-                                      u" una de la grande en paso", GanaGrande};
-constexpr LancePorCartas CuentaPequena{2, u"la pequeña ya estaba contada ",
-                                       u" envidadas a pequeña ", u" una de la pequeña en paso",
-                                       GanaPequena};
-
 // The pareja that takes the grande or the pequeña; none when the bidding has settled it.
-std::optional<Pareja> ContarPorCartas(Table& t, const LancePorCartas& lance) {
+std::optional<Pareja> ContarPorCartas(Game& g, const Lance& lance) {
+  Table& t = g.t;
   const int apuesta = t.Apuesta[lance.Numero];
   if (apuesta < 0) {
-    t.Text2 += Join(lance.YaContada, CrLf);
+    t.Text2 += Join(lance.YaContado, CrLf);
     return std::nullopt;
   }
-  const Pareja pareja = lance.Gana(t);
+  const Pareja pareja = lance.Gana(g);
   t.Text2 += SeSaca(pareja);
   if (apuesta > 0) {
     t.Text2 += Join(u" las ", apuesta, lance.Envidadas, CrLf);
     t.Piedras[pareja] += apuesta;
   } else {
-    t.Text2 += Join(lance.EnPaso, CrLf);
+    t.Text2 += Join(lance.UnaEnPaso, CrLf);
     t.Piedras[pareja] += 1;
   }
   return pareja;
@@ -60,7 +47,7 @@ void NombrarAsiento(Table& t, Seat asiento) {
     const bool esJugador = Contains(t.NombreJugador, u"ugador");
     t.Text2 += Join(esJugador ? u"l " : u" ", t.NombreJugador);
   } else {
-    const FixedText<100>& nombre = PersonajeDe(t, asiento).Nombre;
+    const FixedText<AnchoNombre>& nombre = PersonajeDe(t, asiento).Nombre;
     if (nombre.Full().starts_with(u"el")) {
       t.Text2.pop_back();
     } else {
@@ -105,11 +92,12 @@ ValorPares ValorDe(const std::vector<int>& iguales) {
 // Kept: after a refused bet at pares nobody is named as its taker, so the pareja of the lance
 // before is paid for its pares, without a heading.
 Pareja QuienSeSacaPares(Table& t, Pareja anterior) {
-  const int apuesta = t.Apuesta[3];
+  const int apuesta = t.Apuesta[NumeroLance::Pares];
   if (apuesta < 0) {
-    if (apuesta != ApuestaPagada || t.Declaracion[3] == SinDeclaracion) return anterior;
-    t.Text2 += SeSaca(t.Declaracion[3]);
-    return t.Declaracion[3];
+    if (apuesta != ApuestaPagada || t.Declaracion[NumeroLance::Pares] == SinDeclaracion)
+      return anterior;
+    t.Text2 += SeSaca(t.Declaracion[NumeroLance::Pares]);
+    return t.Declaracion[NumeroLance::Pares];
   }
   const Pareja pareja = GanaPares(t);
   if (pareja == -1) {
@@ -118,7 +106,7 @@ Pareja QuienSeSacaPares(Table& t, Pareja anterior) {
   }
   t.Text2 += SeSaca(pareja);
   if (apuesta > 0) {
-    t.Text2 += Join(u" las ", apuesta, u" envidadas a pares");
+    t.Text2 += Join(u" las ", apuesta, DatosPares().Envidadas);
     t.Piedras[pareja] += apuesta;
   }
   return pareja;
@@ -133,8 +121,9 @@ Pareja ContarPares(Table& t, Pareja anterior) {
   const Pareja pareja = QuienSeSacaPares(t, anterior);
   // After a bet the seats still to be named are counted down, without one those named are counted
   // up: either way the second of two gets the "y".
-  int porNombrar = t.Apuesta[3] > 0 ? CuentaAsientos(t, pareja, TienePares) : 0;
-  const bool haciaArriba = t.Declaracion[3] != SinDeclaracion || t.Apuesta[3] == 0;
+  int porNombrar = t.Apuesta[NumeroLance::Pares] > 0 ? CuentaAsientos(t, pareja, TienePares) : 0;
+  const bool haciaArriba =
+      t.Declaracion[NumeroLance::Pares] != SinDeclaracion || t.Apuesta[NumeroLance::Pares] == 0;
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     if (!EsDe(asiento, pareja)) continue;
     const ValorPares valor = ValorDe(CartasIguales(t, asiento));
@@ -151,9 +140,9 @@ Pareja ContarPares(Table& t, Pareja anterior) {
 // Kept: after a refused bet the heading stands only if the pareja that bet has juego.
 Pareja QuienSeSacaJuego(Game& g) {
   Table& t = g.t;
-  const int apuesta = t.Apuesta[4];
+  const int apuesta = t.Apuesta[NumeroLance::Juego];
   if (apuesta < 0) {
-    const Pareja pareja = t.Declaracion[4];
+    const Pareja pareja = t.Declaracion[NumeroLance::Juego];
     if (pareja == SinDeclaracion) g.port.MsgBox(t, u"Posible error ");
     if (CuentaAsientos(t, pareja, TieneJuego) > 0) t.Text2 += SeSaca(pareja);
     return pareja;
@@ -161,7 +150,7 @@ Pareja QuienSeSacaJuego(Game& g) {
   const Pareja pareja = MejorJuego(t);
   t.Text2 += SeSaca(pareja);
   if (apuesta > 0) {
-    t.Text2 += Join(u" las ", apuesta, u" envidadas a juego ");
+    t.Text2 += Join(u" las ", apuesta, DatosJuego().Envidadas);
     t.Piedras[pareja] += apuesta;
   }
   return pareja;
@@ -171,7 +160,7 @@ Pareja ContarJuego(Game& g) {
   Table& t = g.t;
   const Pareja pareja = QuienSeSacaJuego(g);
   const int conJuego = CuentaAsientos(t, pareja, TieneJuego);
-  const bool envidado = t.Apuesta[4] > 0;
+  const bool envidado = t.Apuesta[NumeroLance::Juego] > 0;
   bool primero = true;
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     if (!EsDe(asiento, pareja) || !TieneJuego(t, asiento)) continue;
@@ -192,16 +181,16 @@ Pareja ContarJuego(Game& g) {
 // Kept: Apuesta(5) is never reset, so a punto en paso is counted from the last punto that was bet.
 Pareja ContarPunto(Game& g, Pareja anterior) {
   Table& t = g.t;
-  const int apuesta = t.Apuesta[5];
+  const int apuesta = t.Apuesta[NumeroLance::Punto];
   if (apuesta < 0) {
-    const Pareja pareja = t.Declaracion[5];
+    const Pareja pareja = t.Declaracion[NumeroLance::Punto];
     if (pareja == SinDeclaracion) return anterior;
     t.Text2 += Join(SeSaca(pareja), u"una del punto");
     t.Piedras[pareja] += 1;
     return pareja;
   }
   const Pareja pareja = MejorPunto(g);
-  t.Text2 += Join(SeSaca(pareja), u" las ", apuesta, u" envidadas a Punto ", CrLf);
+  t.Text2 += Join(SeSaca(pareja), u" las ", apuesta, DatosPunto().Envidadas, CrLf);
   t.Piedras[pareja] += apuesta;
   return pareja;
 }
@@ -216,7 +205,7 @@ bool GanaElJuego(Game& g, Pareja pareja) {
                         t.Piedras[1 - pareja]));
   t.Piedras = {};
   ComprobarVaca(g);
-  t.Fase = -1;
+  t.Fase = Fase::EmpezarMano;
   return true;
 }
 
@@ -224,8 +213,8 @@ bool GanaElJuego(Game& g, Pareja pareja) {
 bool ContarUltimoLance(Game& g, Pareja anterior) {
   Table& t = g.t;
   if (!t.SeJuegaPunto) return GanaElJuego(g, ContarJuego(g));
-  if (t.Apuesta[5] == 0) {
-    t.Text2 += Join(u"El Punto ya estaba contado ", CrLf);
+  if (t.Apuesta[NumeroLance::Punto] == 0) {
+    t.Text2 += Join(DatosPunto().YaContado, CrLf);
     return false;
   }
   return GanaElJuego(g, ContarPunto(g, anterior));
@@ -236,7 +225,7 @@ void TerminarCuenta(Game& g) {
   t.Text2 += Join(CrLf, u"El tanteo actual es de ", t.Piedras[1], u" a ", t.Piedras[0], u". ", CrLf,
                   u"Pulse enter para empezar una nueva mano");
   ComprobarVaca(g);
-  t.Fase = -1;
+  t.Fase = Fase::EmpezarMano;
   MostrarTanteo(t);
 }
 
@@ -245,10 +234,10 @@ void TerminarCuenta(Game& g) {
 void ContarMano(Game& g) {
   Table& t = g.t;
   MostrarManos(t, TodosLosAsientos);
-  t.Text2.clear();
+  EmpezarRelato(t);
   Pareja pareja = 0;
-  for (const LancePorCartas& lance : {CuentaGrande, CuentaPequena}) {
-    const std::optional<Pareja> ganadora = ContarPorCartas(t, lance);
+  for (const Lance* const lance : {&DatosGrande(), &DatosPequena()}) {
+    const std::optional<Pareja> ganadora = ContarPorCartas(g, *lance);
     // Kept: a lance that was settled in the bidding does not win the juego here, even when the
     // stones paid then are past the target.
     if (!ganadora) continue;

@@ -16,7 +16,7 @@ namespace {
 constexpr int MinimoApertura = 2;  // stones
 constexpr int MinimoAlSubir = 1;   // stones
 
-Decision PreguntarDecision(Game& g, std::u16string_view titulo, int modo) {
+Decision PreguntarDecision(Game& g, std::u16string_view titulo, ModoDialogo modo) {
   Dialog dialogo;
   dialogo.Caption = titulo;
   dialogo.Modo = modo;
@@ -27,8 +27,9 @@ Decision PreguntarDecision(Game& g, std::u16string_view titulo, int modo) {
 
 Integer PreguntarCantidad(Game& g, std::u16string_view texto, std::u16string_view titulo,
                           int minimo) {
-  const Integer tecleada = CInt(LeadingNumber(g.port.InputBox(g.t, texto, titulo, u"2")));
-  return std::max<int>(tecleada, minimo);
+  const std::u16string tecleada = g.port.InputBox(
+      g.t, Pregunta::Cantidad, {.Titulo = titulo, .Texto = texto, .PorDefecto = u"2"});
+  return std::max<int>(CInt(LeadingNumber(tecleada)), minimo);
 }
 
 void Decir(Game& g, Seat asiento, MessageCategory categoria) {
@@ -36,7 +37,8 @@ void Decir(Game& g, Seat asiento, MessageCategory categoria) {
 }
 
 Decision DecidirApertura(Game& g, const Lance& lance, Seat asiento) {
-  if (asiento == AsientoHumano) return PreguntarDecision(g, lance.TituloApertura, ModoApertura);
+  if (asiento == AsientoHumano)
+    return PreguntarDecision(g, lance.TituloApertura, ModoDialogo::Apertura);
   return lance.Decide(g.t, g.rnd, asiento);
 }
 
@@ -82,7 +84,8 @@ bool YaDecideElJuego(const Table& t, const Lance& lance) {
 Decision DecidirRespuesta(Game& g, const Lance& lance, Seat asiento) {
   const Table& t = g.t;
   if (asiento == AsientoHumano) {
-    const int modo = t.SeguirLance == EnviteOrdago ? ModoRespuestaOrdago : ModoRespuesta;
+    const ModoDialogo modo =
+        t.SeguirLance == EnviteOrdago ? ModoDialogo::RespuestaOrdago : ModoDialogo::Respuesta;
     return PreguntarDecision(g, lance.TituloRespuesta, modo);
   }
   const Decision decision = lance.Responde(t, g.rnd, asiento);
@@ -175,19 +178,15 @@ void DecidirOrdago(Game& g, const Lance& lance) {
 
 void AbrirLance(Game& g, const Lance& lance) {
   Table& t = g.t;
-  if (lance.EncabezadoReemplaza) t.Text2.clear();
+  if (lance.EncabezadoReemplaza) EmpezarRelato(t);
   t.Text2 += lance.Encabezado;
   if (lance.EmpiezaSinEnvite) t.SeguirLance = 0;
   for (int i = 1; i <= 4 && t.SeguirLance == 0; ++i) {
     const Seat asiento = t.OrdenAsiento[i];
     if (lance.PuedeHablar(t, asiento)) HablarEnApertura(g, lance, asiento);
   }
-  if (t.SeguirLance != 0) {
-    t.Fase += 1;
-  } else {
-    t.Text2 += lance.EnPaso;
-    t.Fase += lance.FasesSiPasan;
-  }
+  if (t.SeguirLance == 0) t.Text2 += lance.EnPaso;
+  t.Fase = t.SeguirLance == 0 ? lance.SiPasan : lance.SiEnvidan;
 }
 
 void ResponderLance(Game& g, const Lance& lance) {
@@ -200,7 +199,7 @@ void ResponderLance(Game& g, const Lance& lance) {
     t.Text2 += Join(u"envite querido", CrLf);
   }
   t.Text2 += lance.Aviso;
-  t.Fase += lance.FasesTrasRespuesta;
+  t.Fase = lance.TrasRespuesta;
 }
 
 }  // namespace tasca

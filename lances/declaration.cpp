@@ -6,8 +6,8 @@
 namespace tasca {
 
 void PreguntarDeclaracion(Game& g, const PreguntaDeclaracion& pregunta, bool verdad) {
-  const bool respuesta =
-      g.port.YesNoBox(g.t, {.Titulo = pregunta.Titulo, .Texto = u"", .PorDefecto = verdad});
+  const bool respuesta = g.port.YesNoBox(
+      g.t, pregunta.Sobre, {.Titulo = pregunta.Titulo, .Texto = u"", .PorDefecto = verdad});
   if (respuesta == verdad) return;
   g.port.MsgBox(g.t, Join(u"En realidad ", verdad ? pregunta.SiEnRealidad : pregunta.NoEnRealidad));
 }

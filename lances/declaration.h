@@ -8,6 +8,7 @@
 namespace tasca {
 
 struct PreguntaDeclaracion {
+  Pregunta Sobre;
   std::u16string_view Titulo;        // the question stands in the title bar
   std::u16string_view SiEnRealidad;  // the correction when the human has it after all
   std::u16string_view NoEnRealidad;  // ... and when not

@@ -41,7 +41,7 @@ Pareja GanaGrande(const Table& t) {
 namespace {
 
 constexpr Lance Grande{
-    .Numero = 1,
+    .Numero = NumeroLance::Grande,
     .Encabezado = u"La grande\r\n",
     .EncabezadoReemplaza = true,
     .EmpiezaSinEnvite = false,
@@ -52,8 +52,12 @@ constexpr Lance Grande{
     .EnPaso = u"la grande queda en paso\r\nPulse enter para continuar\r\n",
     .OrdagoGanado = u"órdago a grande querido y ganado por la pareja ",
     .Aviso = AvisoContinuar,
-    .FasesSiPasan = 2,
-    .FasesTrasRespuesta = 1,
+    .SiEnvidan = Fase::RespuestaGrande,
+    .SiPasan = Fase::Pequena,
+    .TrasRespuesta = Fase::Pequena,
+    .YaContado = u"la grande ya estaba contada ",
+    .Envidadas = u" envidadas a grande ",
+    .UnaEnPaso = u" una de la grande en paso",
     .RefrescosAlRehusar = 2,
     .DeclaraAlRehusar = false,
     .AvisoTrasOrdago = false,

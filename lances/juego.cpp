@@ -13,6 +13,7 @@ namespace tasca {
 namespace {
 
 constexpr PreguntaDeclaracion PreguntaJuego{
+    .Sobre = Pregunta::Juego,
     .Titulo = u"¿Tiene Juego?",
     .SiEnRealidad = u"sí tiene Juego, y eso es lo que dice (por lo que pudiera pasar...)",
     .NoEnRealidad = u"no tiene Juego y eso es lo que dice (por lo que pudiera pasar...)",
@@ -93,7 +94,7 @@ bool TieneJuego(const Table& t, Seat asiento) { return PuntosJuego(t, asiento) >
 
 void DeclaraJuego(Game& g) {
   Table& t = g.t;
-  t.Text2.clear();
+  EmpezarRelato(t);
   t.TurnoJuego = {};
   Array<bool, 0, 1> tienen;
   ContadoresJuego contadores;
@@ -103,14 +104,14 @@ void DeclaraJuego(Game& g) {
   }
   if (tienen[0] && tienen[1]) {
     t.Text2 += AvisoContinuar;
-    t.Fase += 1;
+    t.Fase = Fase::Juego;
   } else if (tienen[0] || tienen[1]) {
     t.Text2 += Join(u"Una de las dos parejas no tiene Juego", CrLf, AvisoContar);
-    t.Fase += 5;
+    t.Fase = Fase::Cuenta;
   } else {
     t.Text2 += Join(u"Ninguna de las dos parejas tiene Juego", CrLf, AvisoContinuar);
     t.SeJuegaPunto = true;
-    t.Fase += 3;
+    t.Fase = Fase::Punto;
   }
 }
 
@@ -140,7 +141,7 @@ Decision RespondeJuego(const Table& t, Rnd& rnd, Seat asiento) {
 namespace {
 
 constexpr Lance Juego{
-    .Numero = 4,
+    .Numero = NumeroLance::Juego,
     .Encabezado = u"\r\nEl juego",
     .EncabezadoReemplaza = false,
     .EmpiezaSinEnvite = true,
@@ -151,8 +152,12 @@ constexpr Lance Juego{
     .EnPaso = u"\r\nEl juego queda en paso\r\nPulse enter para contar",
     .OrdagoGanado = u"órdago a Juego querido y ganado por la pareja ",
     .Aviso = AvisoContar,
-    .FasesSiPasan = 4,
-    .FasesTrasRespuesta = 3,
+    .SiEnvidan = Fase::RespuestaJuego,
+    .SiPasan = Fase::Cuenta,
+    .TrasRespuesta = Fase::Cuenta,
+    .YaContado = u"",
+    .Envidadas = u" envidadas a juego ",
+    .UnaEnPaso = u"",
     .RefrescosAlRehusar = 1,
     .DeclaraAlRehusar = true,
     .AvisoTrasOrdago = false,

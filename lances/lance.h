@@ -9,7 +9,7 @@
 namespace tasca {
 
 struct Lance {
-  int Numero;                      // 1 grande, 2 pequeña, 3 pares, 4 juego, 5 punto
+  NumeroLance Numero;
   std::u16string_view Encabezado;  // written when the opening starts, line breaks included
   bool EncabezadoReemplaza;        // the heading replaces the transcript (otherwise it is appended)
   bool EmpiezaSinEnvite;           // the opening first sets SeguirLance to 0
@@ -22,8 +22,13 @@ struct Lance {
   std::u16string_view OrdagoGanado;  // the box after an accepted órdago, before the pareja
   std::u16string_view Aviso;         // the prompt after a settled bet
 
-  int FasesSiPasan;        // how far Fase moves when all have passed
-  int FasesTrasRespuesta;  // how far Fase moves when a bet has been accepted or refused
+  Fase SiEnvidan;                 // the phase that follows a bet: its answer
+  Fase SiPasan;                   // the phase that follows when all have passed
+  Fase TrasRespuesta;             // the phase that follows a bet accepted or refused
+  std::u16string_view YaContado;  // the count's line when there is nothing left to pay; "" without
+  std::u16string_view Envidadas;  // the count, after the stones of an accepted bet
+  std::u16string_view UnaEnPaso;  // the count, when the lance in paso gives a stone; "" without
+
   int RefrescosAlRehusar;  // how often the scoreboard is rewritten after a refused bet
   bool DeclaraAlRehusar;   // a refused bet gives the lance to the bettor's pareja at the count
   bool AvisoTrasOrdago;    // the prompt is written after an accepted órdago

@@ -18,6 +18,7 @@ constexpr int ClaseMedias = 2;
 constexpr int ClaseDuplex = 4;
 
 constexpr PreguntaDeclaracion PreguntaPares{
+    .Sobre = Pregunta::Pares,
     .Titulo = u"¿Tiene pares?",
     .SiEnRealidad = u"sí tiene pares, y eso es lo que dice (por lo que pudiera pasar...)",
     .NoEnRealidad = u"no tiene pares y eso es lo que dice (por lo que pudiera pasar...)",
@@ -125,7 +126,7 @@ bool TienePares(const Table& t, Seat asiento) { return !CartasIguales(t, asiento
 
 void DeclaraPares(Game& g) {
   Table& t = g.t;
-  t.Text2.clear();
+  EmpezarRelato(t);
   t.OrdenPares = {};
   Array<bool, 0, 1> tienen;
   int orden = 1;
@@ -135,14 +136,14 @@ void DeclaraPares(Game& g) {
     tienen[i % 2] = true;
   }
   if (tienen[0] && tienen[1]) {
-    t.Fase += 1;
+    t.Fase = Fase::Pares;
   } else {
     const bool ninguna = !tienen[0] && !tienen[1];
-    if (ninguna) t.Apuesta[3] = ApuestaPagada;
+    if (ninguna) t.Apuesta[NumeroLance::Pares] = ApuestaPagada;
     t.Text2 += Join(ninguna ? u"Ninguna de las dos parejas tiene pares"
                             : u"Una de las dos parejas no tiene pares",
                     CrLf);
-    t.Fase += 3;
+    t.Fase = Fase::DeclaracionJuego;
   }
   t.Text2 += AvisoContinuar;
 }
@@ -181,7 +182,7 @@ Pareja GanaPares(const Table& t) {
 namespace {
 
 constexpr Lance Pares{
-    .Numero = 3,
+    .Numero = NumeroLance::Pares,
     .Encabezado = u"Los pares\r\n",
     .EncabezadoReemplaza = true,
     .EmpiezaSinEnvite = true,
@@ -192,8 +193,12 @@ constexpr Lance Pares{
     .EnPaso = u"Los pares quedan en paso\r\nPulse enter para continuar\r\n",
     .OrdagoGanado = u"órdago a pares querido y ganado por la pareja ",
     .Aviso = AvisoContinuar,
-    .FasesSiPasan = 2,
-    .FasesTrasRespuesta = 1,
+    .SiEnvidan = Fase::RespuestaPares,
+    .SiPasan = Fase::DeclaracionJuego,
+    .TrasRespuesta = Fase::DeclaracionJuego,
+    .YaContado = u"",
+    .Envidadas = u" envidadas a pares",
+    .UnaEnPaso = u"",
     .RefrescosAlRehusar = 1,
     .DeclaraAlRehusar = false,
     .AvisoTrasOrdago = true,

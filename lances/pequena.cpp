@@ -37,7 +37,7 @@ namespace {
 
 // Kept: "Pequeña" and "pequeña" stand side by side.
 constexpr Lance Pequena{
-    .Numero = 2,
+    .Numero = NumeroLance::Pequena,
     .Encabezado = u"Pequeña \r\n",
     .EncabezadoReemplaza = true,
     .EmpiezaSinEnvite = false,
@@ -48,8 +48,12 @@ constexpr Lance Pequena{
     .EnPaso = u"la Pequeña queda en paso\r\nPulse enter para continuar\r\n",
     .OrdagoGanado = u"órdago a pequeña querido y ganado por la pareja ",
     .Aviso = AvisoContinuar,
-    .FasesSiPasan = 2,
-    .FasesTrasRespuesta = 1,
+    .SiEnvidan = Fase::RespuestaPequena,
+    .SiPasan = Fase::DeclaracionPares,
+    .TrasRespuesta = Fase::DeclaracionPares,
+    .YaContado = u"la pequeña ya estaba contada ",
+    .Envidadas = u" envidadas a pequeña ",
+    .UnaEnPaso = u" una de la pequeña en paso",
     .RefrescosAlRehusar = 1,
     .DeclaraAlRehusar = false,
     .AvisoTrasOrdago = true,

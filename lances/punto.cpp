@@ -59,7 +59,7 @@ Decision RespondePunto(const Table& t, Rnd& rnd, Seat asiento) {
 namespace {
 
 constexpr Lance Punto{
-    .Numero = 5,
+    .Numero = NumeroLance::Punto,
     .Encabezado = u"\r\nEl punto",
     .EncabezadoReemplaza = false,
     .EmpiezaSinEnvite = true,
@@ -70,8 +70,12 @@ constexpr Lance Punto{
     .EnPaso = u"\r\nEl punto queda en paso\r\nPulse enter para contar",
     .OrdagoGanado = u"órdago a Punto querido y ganado por la pareja ",
     .Aviso = AvisoContar,
-    .FasesSiPasan = 2,
-    .FasesTrasRespuesta = 1,
+    .SiEnvidan = Fase::RespuestaPunto,
+    .SiPasan = Fase::Cuenta,
+    .TrasRespuesta = Fase::Cuenta,
+    .YaContado = u"El Punto ya estaba contado ",
+    .Envidadas = u" envidadas a Punto ",
+    .UnaEnPaso = u"",
     .RefrescosAlRehusar = 1,
     .DeclaraAlRehusar = true,
     .AvisoTrasOrdago = false,

@@ -24,38 +24,36 @@ void Abrir(Game& g, Step apertura, Step respuesta) {
 
 void EjecutarFase(Game& g) {
   switch (g.t.Fase) {
-    case -1:
+    case Fase::EmpezarMano:
       return EmpezarMano(g);
-    case 0:
+    case Fase::Mus:
       return FaseMus(g);
-    case 1:
+    case Fase::Grande:
       return Abrir(g, LanceGrande, EnviteGrande);
-    case 2:
+    case Fase::RespuestaGrande:
       return EnviteGrande(g);
-    case 3:
+    case Fase::Pequena:
       return Abrir(g, LancePequena, EnvitePequena);
-    case 4:
+    case Fase::RespuestaPequena:
       return EnvitePequena(g);
-    case 5:
+    case Fase::DeclaracionPares:
       return DeclaraPares(g);
-    case 6:
+    case Fase::Pares:
       return Abrir(g, LancePares, EnvitePares);
-    case 7:
+    case Fase::RespuestaPares:
       return EnvitePares(g);
-    case 8:
+    case Fase::DeclaracionJuego:
       return DeclaraJuego(g);
-    case 9:
+    case Fase::Juego:
       return Abrir(g, LanceJuego, EnviteJuego);
-    case 10:
+    case Fase::RespuestaJuego:
       return EnviteJuego(g);
-    case 11:
+    case Fase::Punto:
       return Abrir(g, LancePunto, EnvitePunto);
-    case 12:
+    case Fase::RespuestaPunto:
       return EnvitePunto(g);
-    case 13:
+    case Fase::Cuenta:
       return ContarMano(g);
-    default:
-      return;
   }
 }
 

@@ -5,6 +5,7 @@
 #include "cards/deck.h"
 #include "cards/hand_text.h"
 #include "characters/character_file.h"
+#include "characters/speech.h"
 #include "sound/effects.h"
 #include "startup/seed.h"
 #include "startup/settings.h"
@@ -46,7 +47,9 @@ void Form_Load(Game& g) {
   SembrarConHora(g);
   t.PersonajeAsiento[0] = 0;
   for (int i = 1; i <= 4; ++i) t.OrdenAsiento[i] = i;
-  for (int lance = 3; lance <= 4; ++lance) t.Declaracion[lance] = SinDeclaracion;
+  for (const NumeroLance lance : {NumeroLance::Pares, NumeroLance::Juego}) {
+    t.Declaracion[lance] = SinDeclaracion;
+  }
   t.ManoPorDecidir = true;
   t.PiedrasJuego = 35;
   t.JuegosVaca = 3;
@@ -58,9 +61,9 @@ void Form_Load(Game& g) {
   SonidoCartas(g, SonidoBarajado);
   for (Seat asiento = 1; asiento <= 4; ++asiento) Repartir(g, asiento, 4);
   MostrarManos(t, AsientoHumano);
-  t.Fase = 0;
-  t.Text2 = Join(Titulo(t), DescripcionPartida(t), u"Sus cartas son ", CrLf, TextoMano(t), CrLf,
-                 u"Pulse enter para empezar");
+  t.Fase = Fase::Mus;
+  EmpezarRelato(t, Join(Titulo(t), DescripcionPartida(t), u"Sus cartas son ", CrLf, TextoMano(t),
+                        CrLf, u"Pulse enter para empezar"));
 }
 
 }  // namespace tasca

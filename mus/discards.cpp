@@ -25,7 +25,7 @@ void ReiniciarPilaPasado(Table& t, int limite) {
   if (t.DescarteSiguiente > limite) t.DescarteSiguiente = 1;
 }
 
-std::u16string PreguntaDescartes(const Table& t) {
+std::u16string TextoDescarte(const Table& t) {
   std::u16string texto = Join(u"Sus cartas son: ", CrLf);
   for (int hueco = 1; hueco <= 4; ++hueco) {
     texto += Join(hueco, u". ", TextoCarta(t, AsientoHumano, hueco), CrLf);
@@ -35,8 +35,9 @@ std::u16string PreguntaDescartes(const Table& t) {
 
 int DescartarHumano(Game& g) {
   Table& t = g.t;
-  const std::u16string respuesta =
-      g.port.InputBox(t, PreguntaDescartes(t), u"Sustituir cartas", u"");
+  const std::u16string respuesta = g.port.InputBox(
+      t, Pregunta::Descarte,
+      {.Titulo = u"Sustituir cartas", .Texto = TextoDescarte(t), .PorDefecto = u""});
   int cambiadas = 0;
   for (int hueco = 1; hueco <= 4; ++hueco) {
     if (!Contains(respuesta, ToText(hueco))) continue;
@@ -53,9 +54,10 @@ int DescartarHumano(Game& g) {
 }
 
 int DescartarComputador(Table& t, Seat asiento) {
+  const Array<bool, 1, 4> seTira = DecideDescarte(t, asiento);
   int cambiadas = 0;
   for (int hueco = 4; hueco >= 1; --hueco) {
-    if (CartaDe(t, asiento, hueco).ValorGrande == ValorRey) continue;
+    if (!seTira[hueco]) continue;
     Tirar(t, asiento, hueco);
     ReiniciarPilaPasado(t, LimitePilaComputador);
     ++cambiadas;
@@ -82,14 +84,21 @@ int CambiarCartas(Game& g, Seat asiento) {
 
 }  // namespace
 
+Array<bool, 1, 4> DecideDescarte(const Table& t, Seat asiento) {
+  Array<bool, 1, 4> seTira;
+  for (int hueco = 1; hueco <= 4; ++hueco) {
+    seTira[hueco] = CartaDe(t, asiento, hueco).ValorGrande != ValorRey;
+  }
+  return seTira;
+}
+
 void Descartar(Game& g) {
   Array<Integer, 1, 4> cambiadas;
   for (int i = 1; i <= 4; ++i) {
     const Seat asiento = g.t.OrdenAsiento[i];
     cambiadas[asiento] = CambiarCartas(g, asiento);
   }
-  SonidoDescartes(g, -1, cambiadas[1], cambiadas[2], cambiadas[3], cambiadas[4],
-                  g.t.OrdenAsiento[1]);
+  SonidoDescartes(g, cambiadas, g.t.OrdenAsiento[1]);
   MostrarManos(g.t, AsientoHumano);
 }
 

@@ -11,7 +11,9 @@ namespace tasca {
 namespace {
 
 bool QuiereMus(Game& g, Seat asiento) {
-  if (asiento == AsientoHumano) return g.port.YesNoBox(g.t, {.Titulo = u"¿mus?", .Texto = u""});
+  if (asiento == AsientoHumano) {
+    return g.port.YesNoBox(g.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""});
+  }
   return DecideMus(g.t, g.rnd, asiento);
 }
 
@@ -37,14 +39,14 @@ bool TodosQuierenMus(Game& g) {
 
 void FaseMus(Game& g) {
   Table& t = g.t;
-  t.Text2.clear();
+  EmpezarRelato(t);
   if (TodosQuierenMus(g)) {
     Descartar(g);
     t.RondasMus += 1;
   } else {
     // Kept: a lone carriage return, and always the personaje's name.
     t.Text2 += Join(PersonajeDe(t, t.OrdenAsiento[1]).Nombre.Trimmed(), u" es mano\r");
-    t.Fase = 1;
+    t.Fase = Fase::Grande;
   }
   t.Text2 += u"Pulse enter para continuar";
 }

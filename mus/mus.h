@@ -18,8 +18,10 @@ bool DecideMus(const Table& t, Rnd& rnd, Seat asiento);
 // How good the hand is for cutting the mus: juego, stones still needed, place in the order.
 int PuntuacionMus(const Table& t, Seat asiento);
 
-// One discard pass of all four seats, from the mano. The human names cards by their numbers;
-// computer seats keep their Reyes and Treses. Thrown cards go on the pile of discards in the deck.
+// Which cards (slots 1..4) a computer seat throws: all but its Reyes and Treses.
+Array<bool, 1, 4> DecideDescarte(const Table& t, Seat asiento);
+
+// One discard pass of all four seats, from the mano. The human names cards by their numbers. Thrown cards go on the pile of discards in the deck.
 void Descartar(Game& g);
 
 }  // namespace tasca

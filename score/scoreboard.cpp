@@ -4,6 +4,7 @@
 #include "base/endings.h"
 #include "base/text.h"
 #include "cards/hand.h"
+#include "characters/speech.h"
 #include "sound/effects.h"
 
 namespace tasca {
@@ -65,14 +66,14 @@ void FinPartida(Game& g, Pareja pareja) {
   } else {
     OfrecenLaMano(g, u"Ha perdido la partida.", MessageCategory::Vict);
   }
-  const auto pregunta = [&g](std::u16string_view texto) {
-    return g.port.YesNoBox(g.t, {.Titulo = u"Mus", .Texto = texto, .ConIcono = false});
+  const auto pregunta = [&g](Pregunta sobre, std::u16string_view texto) {
+    return g.port.YesNoBox(g.t, sobre, {.Titulo = u"Mus", .Texto = texto, .ConIcono = false});
   };
-  if (!pregunta(u"¿Desea jugar otra partida?")) {
-    g.t.Text2 = u"Hasta pronto";
+  if (!pregunta(Pregunta::OtraPartida, u"¿Desea jugar otra partida?")) {
+    EmpezarRelato(g.t, u"Hasta pronto");
     throw LeaveProgram{};
   }
-  if (pregunta(u"¿Desea cambiar de jugadores?")) {
+  if (pregunta(Pregunta::CambiarJugadores, u"¿Desea cambiar de jugadores?")) {
     g.port.ChangePlayers();
     return;
   }
@@ -86,9 +87,9 @@ void GanaJuego(Game& g, Pareja pareja) {
   g.t.Juegos[pareja] += 1;
   g.t.Piedras = {};
   ComprobarVaca(g);
-  g.t.Fase = -1;
+  g.t.Fase = Fase::EmpezarMano;
   MostrarTanteo(g.t);
-  g.t.Text2 = u"Pulse enter para empezar una nueva mano";
+  EmpezarRelato(g.t, u"Pulse enter para empezar una nueva mano");
 }
 
 }  // namespace tasca

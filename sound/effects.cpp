@@ -28,6 +28,17 @@ bool PasarAlSiguiente(Table& t) {
   return true;
 }
 
+// The cards of the seat at PosicionSonido, from its side of the table.
+void SonarCartas(Game& g) {
+  Table& t = g.t;
+  t.SonidoActual = SonidoUnaCarta;
+  const Sitio sitio = Sitios[t.PosicionSonido];
+  t.Mp1 = {.Veces = t.CartasCambiadas[t.PosicionSonido],
+           .Balance = sitio.Balance,
+           .Volumen = sitio.Volumen};
+  g.port.OpenSound(t, u"Son_DaUnaCarta.wav");
+}
+
 }  // namespace
 
 void SonidoCartas(Game& g, Integer Tipo) {
@@ -37,22 +48,17 @@ void SonidoCartas(Game& g, Integer Tipo) {
   g.t.SonidoActual = Tipo;
 }
 
-void SonidoDescartes(Game& g, Integer Inicio, Integer C1, Integer C2, Integer C3, Integer C4,
-                     Integer Primero) {
-  Table& t = g.t;
-  t.SonidoActual = SonidoUnaCarta;
-  if (Inicio == -1) {
-    t.CartasCambiadas = {C1, C2, C3, C4};
-    t.PosicionSonido = Primero;
-    t.SonidosDados = 1;
-  } else if (!PasarAlSiguiente(t)) {
-    return TerminarSecuencia(g);
-  }
-  const Sitio sitio = Sitios[t.PosicionSonido];
-  t.Mp1 = {.Veces = t.CartasCambiadas[t.PosicionSonido],
-           .Balance = sitio.Balance,
-           .Volumen = sitio.Volumen};
-  g.port.OpenSound(t, u"Son_DaUnaCarta.wav");
+void SonidoDescartes(Game& g, const Array<Integer, 1, 4>& cambiadas, Seat primero) {
+  g.t.CartasCambiadas = cambiadas;
+  g.t.PosicionSonido = primero;
+  g.t.SonidosDados = 1;
+  SonarCartas(g);
+}
+
+void SiguienteSonidoDescartes(Game& g) {
+  g.t.SonidoActual = SonidoUnaCarta;
+  if (!PasarAlSiguiente(g.t)) return TerminarSecuencia(g);
+  SonarCartas(g);
 }
 
 void SonidoAplauso(Game& g) { g.port.OpenSound(g.t, u"Son_aplauso.wav"); }
@@ -62,7 +68,7 @@ void Mp1_FinReproduccion(Game& g, Integer EstadoReproduccion) {
   constexpr int Inactivo = 6;
   if (EstadoReproduccion != Parado && EstadoReproduccion != Inactivo) return;
   if (g.t.SonidoActual == SonidoBarajado) return SonidoCartas(g, SonidoReparto);
-  if (g.t.SonidoActual == SonidoUnaCarta) SonidoDescartes(g, 0, 0, 0, 0, 0, 0);
+  if (g.t.SonidoActual == SonidoUnaCarta) SiguienteSonidoDescartes(g);
 }
 
 }  // namespace tasca

@@ -12,11 +12,12 @@ inline constexpr int SonidoUnaCarta = 0;
 // Plays shuffling (SonidoBarajado) or dealing (SonidoReparto); anything else plays nothing.
 void SonidoCartas(Game& g, Integer Tipo);
 
-// The cards of a discard pass, one seat after the other: `Inicio` -1 starts with the counts C1..C4
-// by seat and the seat `Primero`; 0 goes on to the next seat that changed cards, or ends the
-// sequence.
-void SonidoDescartes(Game& g, Integer Inicio, Integer C1, Integer C2, Integer C3, Integer C4,
-                     Integer Primero);
+// The cards of a discard pass, one seat after the other: starts with the seat `primero`; `cambiadas`
+// has the number of cards that each seat changed.
+void SonidoDescartes(Game& g, const Array<Integer, 1, 4>& cambiadas, Seat primero);
+
+// Goes on to the next seat that changed cards, or ends the sequence after the fourth seat.
+void SiguienteSonidoDescartes(Game& g);
 
 // The applause for a match won.
 void SonidoAplauso(Game& g);

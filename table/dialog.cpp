@@ -6,13 +6,14 @@ namespace tasca {
 void Form_Activate(Dialog& dialogo) {
   dialogo.Visible = true;
   dialogo.Foco = 0;
-  const bool contraOrdago = dialogo.Modo == ModoRespuestaOrdago;
+  const bool contraOrdago = dialogo.Modo == ModoDialogo::RespuestaOrdago;
   for (const int indice : {2, 3}) {
     dialogo.Command1[indice].Visible = !contraOrdago;
     dialogo.Command1[indice].Enabled = !contraOrdago;
   }
-  if (dialogo.Modo == ModoApertura) dialogo.Command1[1].Caption = u"Envido";
-  if (dialogo.Modo == ModoRespuesta || contraOrdago) dialogo.Command1[1].Caption = u"Quiero";
+  if (dialogo.Modo == ModoDialogo::Apertura) dialogo.Command1[1].Caption = u"Envido";
+  if (dialogo.Modo == ModoDialogo::Respuesta || contraOrdago)
+    dialogo.Command1[1].Caption = u"Quiero";
 }
 
 void Command1_Click(Dialog& dialogo, Integer Index) {

@@ -20,9 +20,11 @@ enum class Decision {
 };
 
 // What the dialog is for.
-inline constexpr int ModoApertura = -1;         // no bet on the table
-inline constexpr int ModoRespuesta = 0;         // answering a bet of stones
-inline constexpr int ModoRespuestaOrdago = -2;  // answering an órdago
+enum class ModoDialogo {
+  RespuestaOrdago = -2,  // answering an órdago
+  Apertura = -1,         // no bet on the table
+  Respuesta = 0,         // answering a bet of stones
+};
 
 struct DialogButton {
   std::u16string_view Caption;
@@ -32,7 +34,7 @@ struct DialogButton {
 
 struct Dialog {
   std::u16string_view Caption = u"Dialog Caption";
-  Integer Modo;
+  ModoDialogo Modo = ModoDialogo::Respuesta;
   Integer Resultado;  // index of the button last pressed; never reset by the dialog
   // Kept: button 0 says "Paso" also where it means no quiero.
   Array<DialogButton, 0, 3> Command1{DialogButton{u"Paso"}, DialogButton{u"Envido"},

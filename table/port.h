@@ -16,12 +16,31 @@ struct TimeOfDay {
   int Segundo = 0;  // 0..59
 };
 
+// What a question to the player is about, so that a face need not compare its texts. The bidding
+// dialog is a question of its own kind.
+enum class Pregunta {
+  Mus,               // mus or not
+  Descarte,          // which cards to throw
+  Pares,             // whether the player has pares
+  Juego,             // whether the player has juego
+  Cantidad,          // how many stones to bet or to raise by
+  OtraPartida,       // another match
+  CambiarJugadores,  // other companions
+};
+
 // A question with the buttons Yes and No; an empty title stands for the application's.
 struct YesNoQuestion {
   std::u16string_view Titulo;
   std::u16string_view Texto;
   bool ConIcono = true;  // the question icon
   bool PorDefecto = true;
+};
+
+// A question that is answered by typing; the box can be cancelled.
+struct InputQuestion {
+  std::u16string_view Titulo;
+  std::u16string_view Texto;
+  std::u16string_view PorDefecto;
 };
 
 // A question blocks until it is answered. It is handed the table so that a face can first show what
@@ -36,11 +55,12 @@ class Port {
   // A box with OK, under the application's title.
   virtual void MsgBox(const Table& t, std::u16string_view texto) = 0;
   // True when Yes is pressed.
-  virtual bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) = 0;
+  virtual bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) = 0;
   // The text typed; "" when cancelled.
-  virtual std::u16string InputBox(const Table& t, std::u16string_view texto,
-                                  std::u16string_view titulo, std::u16string_view porDefecto) = 0;
-  // Shows the bidding dialog, already prepared, until Command1_Click has hidden it.
+  virtual std::u16string InputBox(const Table& t, Pregunta sobre,
+                                  const InputQuestion& pregunta) = 0;
+  // Asks for a decision in a lance: shows the bidding dialog, already prepared, until
+  // Command1_Click has hidden it.
   virtual void ShowDialog(const Table& t, Dialog& dialogo) = 0;
 
   // The media player opens a file of the program's folder, with the settings of t.Mp1, and plays

@@ -7,8 +7,9 @@ const Personaje& PersonajeDe(const Table& t, Seat asiento) {
   return t.Personajes[t.PersonajeAsiento[asiento - 1]];
 }
 
-const FixedText<100>& Mensaje(const Table& t, int personaje, MessageCategory categoria, int hueco) {
-  return t.Mensajes[personaje][static_cast<int>(categoria)][hueco];
+const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
+                                     int hueco) {
+  return t.Mensajes[personaje][categoria][hueco];
 }
 
 }  // namespace tasca

@@ -3,10 +3,12 @@
 // program shares. Every step of the game reads and writes it in place; nothing else is remembered.
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "base/array.h"
 #include "base/fixed_text.h"
 #include "base/integer.h"
+#include "table/phases.h"
 
 namespace tasca {
 
@@ -40,7 +42,8 @@ enum class MessageCategory {
 
 // How much the tables of characters hold. Widths are in characters.
 inline constexpr int MaximoPersonajes = 100;
-inline constexpr int HuecosFrase = 3;  // phrases of one kind
+inline constexpr int MaximoHistorias = 50;  // characters whose stories the start-up dialog keeps
+inline constexpr int HuecosFrase = 3;       // phrases of one kind
 inline constexpr int AnchoNombre = 100;
 inline constexpr int AnchoHistoria = 200;
 inline constexpr int AnchoFrase = 100;
@@ -75,6 +78,19 @@ struct MediaPlayerSettings {
   bool operator==(const MediaPlayerSettings&) const = default;
 };
 
+// No number goes into a phrase.
+inline constexpr int SinCantidad = -2;
+
+// Something said at the table.
+struct Dicho {
+  Integer Asiento = AsientoHumano;  // who said it
+  MessageCategory Categoria = MessageCategory::Paso;
+  Integer Cantidad = SinCantidad;  // stones of a bet
+  std::u16string Frase;            // as the transcript shows it, without the speaker
+
+  bool operator==(const Dicho&) const = default;
+};
+
 // What the records of bets hold besides stones.
 inline constexpr int EnviteOrdago = -1;    // SeguirLance and Apuesta: an órdago, made or accepted
 inline constexpr int ApuestaPagada = -2;   // Apuesta: refused and paid, or never to be bet
@@ -92,15 +108,15 @@ struct Form1State {
   // Order and phase.
   Array<Integer, 1, 4> OrdenAsiento;  // seats in speaking order; the first is the mano
   bool ManoPorDecidir = false;        // the first seat to refuse mus becomes mano (first hand only)
-  Integer Fase;                       // the step that the next Enter runs, -1..13
-  Integer SeguirLance;                // the bet nobody has answered: 0 none, stones, -1 órdago
-  Integer RondasMus;                  // discard passes of this hand
-  Integer ParejaCortaMus;             // pareja of the seat that refused mus
+  tasca::Fase Fase = tasca::Fase::Mus;  // the step that the next Enter runs
+  Integer SeguirLance;                  // the bet nobody has answered: 0 none, stones, -1 órdago
+  Integer RondasMus;                    // discard passes of this hand
+  Integer ParejaCortaMus;               // pareja of the seat that refused mus
   Array<Integer, 1, 4> OrdagueroAsiento;
 
-  // Lances: 1 grande, 2 pequeña, 3 pares, 4 juego, 5 punto.
-  // Kept: element 5 of both records is never reset between hands, so a punto en paso is counted
-  // from the last punto that was bet.
+  // Lances, by NumeroLance.
+  // Kept: the punto's element of both records is never reset between hands, so a punto en paso is
+  // counted from the last punto that was bet.
   Array<Integer, 1, 5> Apuesta;  // 0 none, stones accepted, -1 órdago accepted, -2 refused, paid
   Array<Integer, 3, 5> Declaracion;  // pareja that takes the lance without comparing hands, -2 none
   Integer ParejaEnvite;              // pareja that made the last bet of the lance in play
@@ -128,6 +144,12 @@ struct Form1State {
   std::u16string Text2;  // the transcript
   std::u16string Text3;  // the scoreboard
 
+  // The same as values, so that nobody has to read the texts back.
+  std::vector<Dicho> Dichos;  // what has been said since the transcript was last begun
+  // The card that Text1 lays open, by seat and slot; 0 for none. A hand that has changed since then
+  // holds other cards, and those are not open.
+  Array<Array<Integer, 1, 4>, 1, 4> CartasVistas;
+
   bool operator==(const Form1State&) const = default;
 };
 
@@ -154,6 +176,7 @@ struct Table : Form1State, Module1State {
 const Personaje& PersonajeDe(const Table& t, Seat asiento);
 
 // Phrase `hueco` (1..3) of a character (1..100); all 100 characters of it.
-const FixedText<100>& Mensaje(const Table& t, int personaje, MessageCategory categoria, int hueco);
+const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
+                                     int hueco);
 
 }  // namespace tasca

@@ -14,10 +14,12 @@ class FixedAnswers : public Port {
   int Button = 0;       // for the bidding dialog, when it offers that one; else the last it offers
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
-  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& /*pregunta*/) override { return true; }
-  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
-                          std::u16string_view /*titulo*/,
-                          std::u16string_view /*porDefecto*/) override {
+  bool YesNoBox(const Table& /*t*/, Pregunta /*sobre*/,
+                const YesNoQuestion& /*pregunta*/) override {
+    return true;
+  }
+  std::u16string InputBox(const Table& /*t*/, Pregunta /*sobre*/,
+                          const InputQuestion& /*pregunta*/) override {
     return Text;
   }
   void ShowDialog(const Table& /*t*/, Dialog& dialogo) override {

@@ -23,6 +23,17 @@ TEST(Array, KeepsEachElementInItsPlace) {
   EXPECT_EQ(lances[5], 50);
 }
 
+TEST(Array, TakesANameForAnIndex) {
+  enum class Lance { Pares = 3, Juego, Punto, Ninguno };
+  Array<int, 3, 5> lances{30, 40, 50};
+  EXPECT_EQ(lances[Lance::Juego], 40);
+  lances[Lance::Punto] = 51;
+  const Array<int, 3, 5>& despues = lances;
+  EXPECT_EQ(despues[Lance::Punto], 51);
+  EXPECT_THROW(lances[Lance::Ninguno], RunTimeError);
+  EXPECT_THROW(despues[Lance::Ninguno], RunTimeError);
+}
+
 TEST(Array, IsFilledFromItsFirstIndex) {
   const Array<int, 1, 3> tres{7, 8, 9};
   EXPECT_EQ(tres[1], 7);

@@ -39,28 +39,28 @@ TEST(EmpezarMano, PassesTheManoToTheNextSeat) {
 TEST(EmpezarMano, ForgetsTheHandBefore) {
   Sala sala;
   Table& t = sala.t;
-  t.Fase = 13;
+  t.Fase = Fase::Cuenta;
   t.SeJuegaPunto = true;
   t.RondasMus = 3;
   t.Apuesta = {-1, -2, 5, 7, 0};
-  t.Declaracion[3] = 0;
-  t.Declaracion[4] = 1;
+  t.Declaracion[NumeroLance::Pares] = 0;
+  t.Declaracion[NumeroLance::Juego] = 1;
   EmpezarMano(sala.g);
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_FALSE(t.SeJuegaPunto);
   EXPECT_EQ(t.RondasMus, 0);
   EXPECT_EQ(t.Apuesta, (Array<Integer, 1, 5>{0, 0, 0, 0, 0}));
-  EXPECT_EQ(t.Declaracion[3], -2);
-  EXPECT_EQ(t.Declaracion[4], -2);
+  EXPECT_EQ(t.Declaracion[NumeroLance::Pares], -2);
+  EXPECT_EQ(t.Declaracion[NumeroLance::Juego], -2);
 }
 
 TEST(EmpezarMano, Kept_LeavesThePuntoOfTheHandBefore) {
   Sala sala;
-  sala.t.Apuesta[5] = -2;
-  sala.t.Declaracion[5] = 1;
+  sala.t.Apuesta[NumeroLance::Punto] = -2;
+  sala.t.Declaracion[NumeroLance::Punto] = 1;
   EmpezarMano(sala.g);
-  EXPECT_EQ(sala.t.Apuesta[5], -2);
-  EXPECT_EQ(sala.t.Declaracion[5], 1);
+  EXPECT_EQ(sala.t.Apuesta[NumeroLance::Punto], -2);
+  EXPECT_EQ(sala.t.Declaracion[NumeroLance::Punto], 1);
 }
 
 TEST(EmpezarMano, KeepsScoresAndMatch) {

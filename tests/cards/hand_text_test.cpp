@@ -78,11 +78,27 @@ TEST(MostrarManos, NamesTheHumanAsTyped) {
   EXPECT_TRUE(t.Text1.starts_with(u"Doña Ana\r\n"));
 }
 
-TEST(MostrarManos, ChangesNothingButTheInputLine) {
+TEST(MostrarManos, LaysOpenTheCardsThatItShowsOfAll) {
+  Table t = MesaConManos();
+  MostrarManos(t, TodosLosAsientos);
+  EXPECT_EQ(t.CartasVistas, t.Manos);
+  t.Manos[2][1] = 40;
+  EXPECT_NE(t.CartasVistas, t.Manos) << "a card that came later does not lie open";
+}
+
+TEST(MostrarManos, OfTheHumanAloneTurnsTheOthersDownAgain) {
+  Table t = MesaConManos();
+  MostrarManos(t, TodosLosAsientos);
+  MostrarManos(t, AsientoHumano);
+  EXPECT_EQ(t.CartasVistas, (Array<Array<Integer, 1, 4>, 1, 4>{}));
+}
+
+TEST(MostrarManos, ChangesNothingButTheInputLineAndWhatLiesOpen) {
   Table t = MesaConManos();
   Table antes = t;
   MostrarManos(t, TodosLosAsientos);
   antes.Text1 = t.Text1;
+  antes.CartasVistas = t.CartasVistas;
   EXPECT_EQ(t, antes);
 }
 

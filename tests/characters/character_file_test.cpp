@@ -47,7 +47,7 @@ struct Lectura {
     return Utf8(t.Mensajes[personaje][categoria][hueco].Trimmed());
   }
   bool NuncaLlenada(int personaje, int categoria, int hueco) const {
-    return t.Mensajes[personaje][categoria][hueco] == FixedText<100>{};
+    return t.Mensajes[personaje][categoria][hueco] == FixedText<AnchoFrase>{};
   }
 };
 

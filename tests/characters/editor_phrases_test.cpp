@@ -28,7 +28,7 @@ TEST(ModificarMensaje, AsksWithThePhraseThatStandsThere) {
 TEST(ModificarMensaje, AsksWithNothingForAPhraseThatWasNeverFilled) {
   Taller e{2};
   ElegirFrase(e);
-  e.t.Mensajes[2][9][3] = FixedText<100>{};
+  e.t.Mensajes[2][9][3] = FixedText<AnchoFrase>{};
   e.port.Types(u"vale");
   Command2_Click(e.d, e.t, e.port, 0);
   EXPECT_EQ(e.port.TakeEvents(),

@@ -120,7 +120,7 @@ TEST(List1_Click, ShowsTheCharacter) {
 
 TEST(List1_Click, Kept_ListsThePhrasesWithTheirPadding) {
   Taller e{1};
-  e.t.Mensajes[1][1][3] = FixedText<100>{};
+  e.t.Mensajes[1][1][3] = FixedText<AnchoFrase>{};
   List1_Click(e.d, e.t, 0);
   EXPECT_EQ(Entradas(e.d.List3),
             (Textos{Rellena("1-1-1"), Rellena("1-1-2"), std::string(100, '\0')}));
@@ -142,7 +142,7 @@ TEST(List2_Click, ListsThePhrasesOfThatKindTrimmed) {
 
 TEST(List2_Click, ShowsSlotsThatWereNeverFilledAsTheyAre) {
   Taller e{1};
-  e.t.Mensajes[1][2][2] = FixedText<100>{};
+  e.t.Mensajes[1][2][2] = FixedText<AnchoFrase>{};
   e.t.Mensajes[1][2][3] = u"";
   List1_Click(e.d, e.t, 0);
   List2_Click(e.d, e.t, 1);

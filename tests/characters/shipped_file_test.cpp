@@ -290,14 +290,14 @@ TEST(ShippedFile, LetsTheBoticariaDeclareHerParesAsThePreviewDoes) {
   EXPECT_EQ(Utf8(Mensaje(t, personaje, MessageCategory::TPar, 1).Trimmed()), "Sí, como bueyes");
 }
 
-struct Dicho {
+struct FraseDicha {
   MessageCategory Categoria;
   int Cantidad;
   std::string Directo;
   std::string Indirecto;
 };
 
-class ShippedDefaults : public testing::TestWithParam<Dicho> {};
+class ShippedDefaults : public testing::TestWithParam<FraseDicha> {};
 
 // What the human says, in either style.
 TEST_P(ShippedDefaults, GiveTheHumanAPlainLine) {
@@ -316,19 +316,19 @@ TEST_P(ShippedDefaults, GiveTheHumanAPlainLine) {
 INSTANTIATE_TEST_SUITE_P(
     ShippedFile, ShippedDefaults,
     testing::Values(
-        Dicho{MessageCategory::QMus, SinCantidad, "Quiero mus", "que quiere mus"},
-        Dicho{MessageCategory::NMus, SinCantidad, "No quiero mus", "que no quiere mus"},
-        Dicho{MessageCategory::TPar, SinCantidad, "Sí tengo pares", "que tiene pares"},
-        Dicho{MessageCategory::NPar, SinCantidad, "No tengo pares", "que no tiene pares"},
-        Dicho{MessageCategory::TJue, SinCantidad, "Sí tengo juego", "que tiene juego"},
-        Dicho{MessageCategory::NJue, SinCantidad, "No tengo juego", "que no tiene juego"},
-        Dicho{MessageCategory::Paso, SinCantidad, "Paso", "que pasa"},
-        Dicho{MessageCategory::Envi, SinCantidad, "Envido", "que envida"},
-        Dicho{MessageCategory::EnvM, 1, "Envido 1", "que envida 1"},
-        Dicho{MessageCategory::EnvM, 30, "Envido 30", "que envida 30"},
-        Dicho{MessageCategory::Orda, SinCantidad, "¡Órdago!", "que echa un órdago"},
-        Dicho{MessageCategory::NQui, SinCantidad, "No quiero", "que no quiere"},
-        Dicho{MessageCategory::SQui, SinCantidad, "Quiero", "que quiere"}));
+        FraseDicha{MessageCategory::QMus, SinCantidad, "Quiero mus", "que quiere mus"},
+        FraseDicha{MessageCategory::NMus, SinCantidad, "No quiero mus", "que no quiere mus"},
+        FraseDicha{MessageCategory::TPar, SinCantidad, "Sí tengo pares", "que tiene pares"},
+        FraseDicha{MessageCategory::NPar, SinCantidad, "No tengo pares", "que no tiene pares"},
+        FraseDicha{MessageCategory::TJue, SinCantidad, "Sí tengo juego", "que tiene juego"},
+        FraseDicha{MessageCategory::NJue, SinCantidad, "No tengo juego", "que no tiene juego"},
+        FraseDicha{MessageCategory::Paso, SinCantidad, "Paso", "que pasa"},
+        FraseDicha{MessageCategory::Envi, SinCantidad, "Envido", "que envida"},
+        FraseDicha{MessageCategory::EnvM, 1, "Envido 1", "que envida 1"},
+        FraseDicha{MessageCategory::EnvM, 30, "Envido 30", "que envida 30"},
+        FraseDicha{MessageCategory::Orda, SinCantidad, "¡Órdago!", "que echa un órdago"},
+        FraseDicha{MessageCategory::NQui, SinCantidad, "No quiero", "que no quiere"},
+        FraseDicha{MessageCategory::SQui, SinCantidad, "Quiero", "que quiere"}));
 
 TEST(ShippedFile, SetsTheUsualMatch) {
   Table t;

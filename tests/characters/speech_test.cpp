@@ -19,8 +19,8 @@ using enum MessageCategory;
 struct Mesa {
   Table t = MesaDePrueba();
 
-  FixedText<100>& Frase(int personaje, MessageCategory categoria, int hueco) {
-    return t.Mensajes[personaje][static_cast<int>(categoria)][hueco];
+  FixedText<AnchoFrase>& Frase(int personaje, MessageCategory categoria, int hueco) {
+    return t.Mensajes[personaje][categoria][hueco];
   }
   // The first phrase of the seat's character.
   void Dira(Seat asiento, MessageCategory categoria, std::u16string_view frase) {
@@ -53,6 +53,45 @@ TEST(DiceJugador, AppendsALineToTheTranscript) {
   DiceJugador(m.t, sacadas, 1, Envi, SinCantidad);
   DiceJugador(m.t, sacadas, 3, NQui, SinCantidad);
   EXPECT_EQ(Utf8(m.t.Text2), "La grande\r\nJugador 2: Paso1\r\nAna: Envi1\r\nJugador 3: NQui1\r\n");
+}
+
+TEST(DiceJugador, NotesWhoSaidWhatAsItIsShownWithoutTheSpeaker) {
+  Mesa m;
+  m.Dira(3, EnvM, u"  van & más ");
+  DrawList sacadas{0, 0, 0, 0};
+  DiceJugador(m.t, sacadas, 2, Paso, SinCantidad);
+  DiceJugador(m.t, sacadas, 3, EnvM, 5);
+  const std::vector<Dicho> esperados{
+      {.Asiento = 2, .Categoria = Paso, .Cantidad = SinCantidad, .Frase = u"Paso1"},
+      {.Asiento = 3, .Categoria = EnvM, .Cantidad = 5, .Frase = u"van 5 más"}};
+  EXPECT_EQ(m.t.Dichos, esperados);
+}
+
+TEST(DiceJugador, NotesTheHumansPhraseWithItsAmount) {
+  Mesa m;
+  m.t.NombreJugador = u"A&B";
+  m.Frase(2, EnvM, 1) = u"Envido & más";
+  m.DiceHumano(EnvM, 4);
+  ASSERT_EQ(m.t.Dichos.size(), 1U);
+  EXPECT_EQ(m.t.Dichos.front(),
+            (Dicho{.Asiento = 1, .Categoria = EnvM, .Cantidad = 4, .Frase = u"Envido 4 más"}));
+}
+
+TEST(DiceJugador, NotesNothingWhenThereIsNothingToSay) {
+  Mesa m;
+  m.Dira(3, Paso, u"");
+  EXPECT_THROW(m.DicePrimera(3, Paso), RunTimeError);
+  EXPECT_TRUE(m.t.Dichos.empty());
+}
+
+TEST(EmpezarRelato, ReplacesTheTranscriptAndForgetsWhatWasSaid) {
+  Mesa m;
+  m.DicePrimera(3, Paso);
+  EmpezarRelato(m.t, u"Los pares\r\n");
+  EXPECT_EQ(Utf8(m.t.Text2), "Los pares\r\n");
+  EXPECT_TRUE(m.t.Dichos.empty());
+  EmpezarRelato(m.t);
+  EXPECT_EQ(Utf8(m.t.Text2), "");
 }
 
 TEST(DiceJugador, LetsTheHumanSpeakTheDefaultPhraseOfTheStyle) {
@@ -188,6 +227,7 @@ TEST(DiceJugador, Kept_TheSecondDrawCopiesThePhraseOverAnother) {
     EXPECT_EQ(m.Dice({0.5F, caso.Sacada}, 3, Envi), "Jugador 3: Envi2\r\n");
     esperada.Mensajes[4][8][caso.Hueco] = u"Envi2";
     esperada.Text2 = m.t.Text2;
+    esperada.Dichos = m.t.Dichos;
     EXPECT_EQ(m.t, esperada) << caso.Sacada;
   }
 }
@@ -212,7 +252,7 @@ TEST(DiceJugador, FallsBackOnTheDefaultPhraseOfTheStyleForAPhraseNeverFilled) {
   m.Frase(1, Orda, 1) = u" ¡Órdago! ";
   m.Frase(2, Orda, 1) = u" Órdago ";
   m.Frase(3, Orda, 2) = u"";
-  m.Frase(3, Orda, 2) = FixedText<100>{};
+  m.Frase(3, Orda, 2) = FixedText<AnchoFrase>{};
   EXPECT_EQ(m.Dice({0.5F, 0.5F}, 2, Orda), "Jugador 2: Órdago\r\n");
   m.t.EstiloDirecto = false;
   EXPECT_EQ(m.Dice({0.5F, 0.5F}, 2, Orda), "El jugador 2 dice: ¡Órdago!\r\n");
@@ -221,16 +261,16 @@ TEST(DiceJugador, FallsBackOnTheDefaultPhraseOfTheStyleForAPhraseNeverFilled) {
 TEST(DiceJugador, Kept_APhraseNeverFilledIsCopiedTooAndTheOtherIsGone) {
   Mesa m;
   m.Frase(2, Orda, 1) = u"por defecto";
-  m.Frase(3, Orda, 2) = FixedText<100>{};
+  m.Frase(3, Orda, 2) = FixedText<AnchoFrase>{};
   EXPECT_EQ(m.Dice({0.5F, 0.0F}, 2, Orda), "Jugador 2: por defecto\r\n");
-  EXPECT_EQ(m.Frase(3, Orda, 1), FixedText<100>{});
+  EXPECT_EQ(m.Frase(3, Orda, 1), FixedText<AnchoFrase>{});
   EXPECT_EQ(m.DicePrimera(2, Orda), "Jugador 2: por defecto\r\n");
 }
 
 TEST(DiceJugador, PutsTheAmountIntoADefaultPhraseToo) {
   Mesa m;
   m.Frase(2, EnvM, 1) = u"& más";
-  m.Frase(4, EnvM, 1) = FixedText<100>{};
+  m.Frase(4, EnvM, 1) = FixedText<AnchoFrase>{};
   EXPECT_EQ(m.DicePrimera(3, EnvM, 4), "Jugador 3: 4 más\r\n");
 }
 
@@ -318,7 +358,7 @@ TEST(DiceJugador, JoinsADefaultPhraseToo) {
   Mesa m;
   m.t.EstiloDirecto = false;
   m.Frase(1, QMus, 1) = u"que quiere mus";
-  m.Frase(3, QMus, 1) = FixedText<100>{};
+  m.Frase(3, QMus, 1) = FixedText<AnchoFrase>{};
   EXPECT_EQ(m.DicePrimera(2, QMus), "El jugador 2 dice que quiere mus\r\n");
 }
 

@@ -75,7 +75,7 @@ struct Taller {
     return Utf8(t.Mensajes[n][categoria][hueco].Trimmed());
   }
   bool NuncaLlenada(int n, int categoria, int hueco) const {
-    return t.Mensajes[n][categoria][hueco] == FixedText<100>{};
+    return t.Mensajes[n][categoria][hueco] == FixedText<AnchoFrase>{};
   }
 };
 

@@ -44,11 +44,11 @@ TEST(ContarMano, EndsTheJuegoAtTheLanceThatPassesTheTarget) {
     SCOPED_TRACE(caso.Piedras);
     TodoNuestro mano{true};
     mano.t.Piedras = {7, caso.Piedras};
-    mano.t.Fase = 13;
+    mano.t.Fase = Fase::Cuenta;
     EXPECT_EQ(mano.Contar(), caso.Texto);
     EXPECT_EQ(mano.port.TakeEvents(), Sucesos{"box: La pareja 1 gana este juego por " +
                                               std::to_string(caso.Final) + " a 7"});
-    EXPECT_EQ(mano.t.Fase, -1);
+    EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
   }
 }
 
@@ -82,7 +82,7 @@ TEST(ContarMano, CreditsTheJuegoAndStartsBothParejasAtNoStones) {
 TEST(ContarMano, TellsTheOpponentsJuegoWithTheirStonesFirst) {
   Recuento mano;
   DarMano(mano.t, 2, "R C S 7");
-  mano.t.Apuesta[1] = 10;
+  mano.t.Apuesta[NumeroLance::Grande] = 10;
   mano.t.Piedras = {29, 33};
   EXPECT_EQ(mano.Contar(), "La pareja 0 se saca  las 10 envidadas a grande \r\n");
   EXPECT_EQ(mano.port.TakeEvents(), Sucesos{"box: La pareja 0 gana este juego por 39 a 33"});
@@ -118,7 +118,7 @@ TEST(ContarMano, CompletesAVaca) {
                      "box: La pareja 1 gana esta vaca. El resultado ha sido de 2 a 1 partidas.|1 a "
                      "0 vaca."}));
   EXPECT_EQ(mano.t.Vacas, (Parejas{0, 1}));
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(Utf8(mano.t.Text3), "Piedras: 0 / 0;    juegos: 0 / 0;    Vacas: 1 / 0");
 }
 
@@ -130,7 +130,7 @@ TEST(ContarMano, LooksForAVacaAlsoAtItsOrdinaryEnd) {
   EXPECT_EQ(mano.port.TakeEvents(),
             Sucesos{"box: La pareja 0 gana esta vaca. El resultado ha sido de 0 a 2 partidas.|0 a "
                     "1 vaca."});
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(Utf8(mano.t.Text3), "Piedras: 3 / 5;    juegos: 0 / 0;    Vacas: 0 / 1");
 }
 
@@ -160,7 +160,7 @@ TEST(ContarMano, RunsToItsEndWhenOtherPlayersAreWanted) {
   EXPECT_EQ(sucesos.at(sucesos.size() - 2), "change players");
   EXPECT_EQ(sucesos.back(),
             "box: La pareja 1 gana esta vaca. El resultado ha sido de 2 a 0 partidas.|2 a 0 vaca.");
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
 }
 
 // The next match's first hand has been dealt inside the count; the next Enter deals another.
@@ -172,7 +172,7 @@ TEST(ContarMano, Kept_TheFirstHandOfTheNextMatchIsDealtAgain) {
   ContarMano(g);
   EXPECT_TRUE(mano.t.Text2.starts_with(u"Sus cartas son\r\n"));
   EXPECT_TRUE(mano.t.Text2.ends_with(u"pulse Enter para empezar"));
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(mano.t.Vacas, (Parejas{0, 0}));
   EXPECT_EQ(mano.port.TakeEvents().back(),
             "box: La pareja 1 gana esta vaca. El resultado ha sido de 0 a 0 partidas.|0 a 0 vaca.");
@@ -181,7 +181,7 @@ TEST(ContarMano, Kept_TheFirstHandOfTheNextMatchIsDealtAgain) {
 TEST(ContarMano, OverflowsWhenTheStonesDoNotFitAnInteger) {
   Recuento mano;
   mano.t.Piedras = {0, 2};
-  mano.t.Apuesta[1] = 32766;
+  mano.t.Apuesta[NumeroLance::Grande] = 32766;
   EXPECT_THROW(mano.Contar(), RunTimeError);
 }
 

@@ -13,7 +13,7 @@ const std::string TrasLaPequena = "\r\n" + PuntoYaContado;
 TEST(ContarGrande, GivesOneStoneWhenEnPaso) {
   Recuento mano;
   DarMano(mano.t, 2, "R 6 5 4");
-  mano.t.Apuesta[1] = 0;
+  mano.t.Apuesta[NumeroLance::Grande] = 0;
   EXPECT_EQ(mano.Contar(),
             "La pareja 0 se saca  una de la grande en paso\r\n" + TrasLaGrande + Tanteo(0, 1));
 }
@@ -21,21 +21,21 @@ TEST(ContarGrande, GivesOneStoneWhenEnPaso) {
 TEST(ContarGrande, GivesTheStonesOfAnAcceptedBet) {
   Recuento mano;
   DarMano(mano.t, 4, "R 6 5 4");
-  mano.t.Apuesta[1] = 17;
+  mano.t.Apuesta[NumeroLance::Grande] = 17;
   EXPECT_EQ(mano.Contar(),
             "La pareja 0 se saca  las 17 envidadas a grande \r\n" + TrasLaGrande + Tanteo(0, 17));
 }
 
 TEST(ContarGrande, WritesASingleStoneBetInThePluralToo) {
   Recuento mano;
-  mano.t.Apuesta[1] = 1;
+  mano.t.Apuesta[NumeroLance::Grande] = 1;
   EXPECT_EQ(mano.Contar(),
             "La pareja 1 se saca  las 1 envidadas a grande \r\n" + TrasLaGrande + Tanteo(1, 0));
 }
 
 TEST(ContarGrande, GivesEqualHandsToTheSeatNearestTheMano) {
   Recuento mano;
-  mano.t.Apuesta[1] = 0;
+  mano.t.Apuesta[NumeroLance::Grande] = 0;
   mano.t.OrdenAsiento = {4, 1, 2, 3};
   EXPECT_EQ(mano.Contar(),
             "La pareja 0 se saca  una de la grande en paso\r\n" + TrasLaGrande + Tanteo(0, 1));
@@ -51,7 +51,7 @@ TEST(ContarGrande, GivesNothingMoreAfterARefusedBet) {
 TEST(ContarPequena, GivesOneStoneWhenEnPaso) {
   Recuento mano;
   DarMano(mano.t, 2, "7 6 5 A");
-  mano.t.Apuesta[2] = 0;
+  mano.t.Apuesta[NumeroLance::Pequena] = 0;
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 0 se saca  una de la pequeña en paso\r\n" +
                 TrasLaPequena + Tanteo(0, 1));
@@ -60,7 +60,7 @@ TEST(ContarPequena, GivesOneStoneWhenEnPaso) {
 TEST(ContarPequena, GivesTheStonesOfAnAcceptedBet) {
   Recuento mano;
   DarMano(mano.t, 3, "7 6 5 A");
-  mano.t.Apuesta[2] = 8;
+  mano.t.Apuesta[NumeroLance::Pequena] = 8;
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 1 se saca  las 8 envidadas a pequeña \r\n" +
                 TrasLaPequena + Tanteo(8, 0));
@@ -68,7 +68,7 @@ TEST(ContarPequena, GivesTheStonesOfAnAcceptedBet) {
 
 TEST(ContarPequena, GivesEqualHandsToTheSeatNearestTheMano) {
   Recuento mano;
-  mano.t.Apuesta[2] = 0;
+  mano.t.Apuesta[NumeroLance::Pequena] = 0;
   mano.t.OrdenAsiento = {2, 3, 4, 1};
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 0 se saca  una de la pequeña en paso\r\n" +
@@ -86,8 +86,8 @@ TEST(ContarPequena, IsWonApartFromTheGrande) {
   Recuento mano;
   DarMano(mano.t, 1, "R 6 5 4");
   DarMano(mano.t, 2, "7 6 5 A");
-  mano.t.Apuesta[1] = 3;
-  mano.t.Apuesta[2] = 2;
+  mano.t.Apuesta[NumeroLance::Grande] = 3;
+  mano.t.Apuesta[NumeroLance::Pequena] = 2;
   EXPECT_EQ(mano.Contar(),
             "La pareja 1 se saca  las 3 envidadas a grande \r\n"
             "La pareja 0 se saca  las 2 envidadas a pequeña \r\n" +
@@ -99,7 +99,7 @@ TEST(ContarPequena, IsWonApartFromTheGrande) {
 TEST(ContarGrande, Kept_ARefusedBetEndsNoJuegoForThePequenaComesFirst) {
   Recuento mano;
   mano.t.Piedras = {36, 35};
-  mano.t.Apuesta[2] = 0;  // seat 1, the mano, takes it
+  mano.t.Apuesta[NumeroLance::Pequena] = 0;  // seat 1, the mano, takes it
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 1 se saca  una de la pequeña en paso\r\n");
   EXPECT_EQ(mano.port.TakeEvents(),
@@ -111,7 +111,7 @@ TEST(ContarPequena, Kept_ARefusedBetEndsNoJuegoForTheParesComeFirst) {
   Recuento mano;
   mano.t.Piedras = {36, 30};
   DarMano(mano.t, 4, "7 5 4 4");
-  mano.t.Apuesta[3] = 0;
+  mano.t.Apuesta[NumeroLance::Pares] = 0;
   EXPECT_EQ(mano.Contar(),
             GrandeYPequenaPagadas + "La pareja 0 se saca  una del par del jugador 4\r\n");
   EXPECT_EQ(mano.port.TakeEvents(),

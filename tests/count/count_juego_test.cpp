@@ -16,7 +16,7 @@ struct RecuentoJuego : Recuento {
       DarMano(t, asiento, manos.at(static_cast<std::size_t>(asiento - 1)));
     }
     t.SeJuegaPunto = false;
-    t.Apuesta[4] = apuesta;
+    t.Apuesta[NumeroLance::Juego] = apuesta;
   }
 };
 
@@ -86,7 +86,7 @@ TEST(ContarJuego, GivesEqualJuegosToTheSeatNearestTheMano) {
 
 TEST(ContarJuego, PaysTheParejaWhoseBetWasRefused) {
   RecuentoJuego mano{{"R C 7 4", "R C S 4", SinJuego, "R C S 5"}, ApuestaPagada};
-  mano.t.Declaracion[4] = 0;
+  mano.t.Declaracion[NumeroLance::Juego] = 0;
   EXPECT_EQ(mano.Contar(),
             Antes +
                 "La pareja 0 se saca dos del juego del jugador 2 y dos del juego del jugador 4" +
@@ -95,7 +95,7 @@ TEST(ContarJuego, PaysTheParejaWhoseBetWasRefused) {
 
 TEST(ContarJuego, PaysTheHumansParejaWhenItsBetWasRefused) {
   RecuentoJuego mano{{SinJuego, "R C 7 4", "R C S 5", SinJuego}, ApuestaPagada};
-  mano.t.Declaracion[4] = 1;
+  mano.t.Declaracion[NumeroLance::Juego] = 1;
   EXPECT_EQ(mano.Contar(),
             Antes + "La pareja 1 se saca dos del juego del jugador 3" + Tanteo(2, 0));
 }
@@ -104,7 +104,7 @@ TEST(ContarJuego, WritesNoHeadingForATakerWithoutJuego) {
   for (const Pareja pareja : {0, 1}) {
     RecuentoJuego mano{{SinJuego, SinJuego, SinJuego, SinJuego}, ApuestaPagada};
     DarMano(mano.t, pareja == 0 ? 1 : 2, "R C S 7");
-    mano.t.Declaracion[4] = pareja;
+    mano.t.Declaracion[NumeroLance::Juego] = pareja;
     EXPECT_EQ(mano.Contar(), Antes + Tanteo(0, 0));
   }
 }
@@ -112,15 +112,15 @@ TEST(ContarJuego, WritesNoHeadingForATakerWithoutJuego) {
 TEST(ContarJuego, TellsOfAPossibleErrorWhenItIsSettledForNobody) {
   RecuentoJuego mano{{"R C 7 4", "R C 7 4", "R C 7 4", "R C 7 4"}, ApuestaPagada};
   mano.t.Piedras = {35, 40};
-  mano.t.Declaracion[4] = SinDeclaracion;
+  mano.t.Declaracion[NumeroLance::Juego] = SinDeclaracion;
   EXPECT_EQ(mano.Contar(), Antes + Tanteo(40, 35));
   EXPECT_EQ(mano.port.TakeEvents(), std::vector<std::string>{"box: Posible error "});
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
 }
 
 TEST(ContarJuego, NeedsNoPossibleErrorWhenItsTakerIsKnown) {
   RecuentoJuego mano{{"R C 7 4", SinJuego, SinJuego, SinJuego}, ApuestaPagada};
-  mano.t.Declaracion[4] = 1;
+  mano.t.Declaracion[NumeroLance::Juego] = 1;
   mano.Contar();
   EXPECT_EQ(mano.port.TakeEvents(), std::vector<std::string>{});
 }

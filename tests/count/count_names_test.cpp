@@ -11,7 +11,7 @@ namespace {
 struct RecuentoPar : Recuento {
   explicit RecuentoPar(Seat asiento) {
     DarMano(t, asiento, "7 7 5 4");
-    t.Apuesta[3] = 0;
+    t.Apuesta[NumeroLance::Pares] = 0;
     t.UsarNombres = true;
     principio_ = GrandeYPequenaPagadas + "La pareja " + std::to_string(ParejaDe(asiento)) +
                  " se saca  una del par ";
@@ -108,7 +108,7 @@ TEST(ContarMano, ContractsAfterEveryPhraseOfPares) {
   mano.t.Personajes[5].Nombre = u"el Tuerto";
   DarMano(mano.t, 2, "7 7 7 4");
   DarMano(mano.t, 4, "7 7 5 5");
-  mano.t.Apuesta[3] = 0;
+  mano.t.Apuesta[NumeroLance::Pares] = 0;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 0 se saca  dos de las medias de Berta y tres de los "
                                "dúplex del Tuerto\r\n" +

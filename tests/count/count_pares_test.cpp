@@ -23,8 +23,8 @@ void Probar(const CasoPares& caso, int declaracion = SinDeclaracion) {
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     DarMano(mano.t, asiento, caso.Manos.at(static_cast<std::size_t>(asiento - 1)));
   }
-  mano.t.Apuesta[3] = caso.Apuesta;
-  mano.t.Declaracion[3] = declaracion;
+  mano.t.Apuesta[NumeroLance::Pares] = caso.Apuesta;
+  mano.t.Declaracion[NumeroLance::Pares] = declaracion;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas + caso.Linea + PuntoYaContado +
                                Tanteo(caso.Nuestras, caso.Contrarias));
 }
@@ -102,7 +102,7 @@ TEST(ContarPares, GivesEqualParesToTheSeatNearestTheMano) {
   DarMano(mano.t, 1, "7 7 5 4");
   DarMano(mano.t, 4, "7 7 5 4");
   mano.t.OrdenAsiento = {2, 3, 4, 1};
-  mano.t.Apuesta[3] = 2;
+  mano.t.Apuesta[NumeroLance::Pares] = 2;
   EXPECT_EQ(mano.Contar(),
             GrandeYPequenaPagadas +
                 "La pareja 0 se saca  las 2 envidadas a pares y una del par del jugador 4\r\n" +
@@ -121,7 +121,7 @@ TEST(ContarPares, LeavesOnlyALineBreakWhenNobodyDeclaredAny) {
 TEST(ContarPares, SaysThatNobodyHasAnyWhenTheRecordDoesNot) {
   Recuento mano;
   mano.t.Piedras = {40, 40};
-  mano.t.Apuesta[3] = 0;
+  mano.t.Apuesta[NumeroLance::Pares] = 0;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "Ninguna de las dos parejas tiene pares\r\n\r\n" + PuntoYaContado +
                                Tanteo(40, 40));
@@ -130,9 +130,9 @@ TEST(ContarPares, SaysThatNobodyHasAnyWhenTheRecordDoesNot) {
 
 TEST(ContarPares, LetsAnOldPuntoPassAfterNoParejaAtAll) {
   Recuento mano;
-  mano.t.Apuesta[3] = 0;
-  mano.t.Apuesta[5] = ApuestaPagada;
-  mano.t.Declaracion[5] = SinDeclaracion;
+  mano.t.Apuesta[NumeroLance::Pares] = 0;
+  mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Punto] = SinDeclaracion;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "Ninguna de las dos parejas tiene pares\r\n\r\n" + Tanteo(0, 0));
 }
@@ -159,7 +159,7 @@ TEST(ContarPares, Kept_ARefusedBetPaysTheParejaOfThePequena) {
   DarMano(mano.t, 1, "R R 5 4");
   DarMano(mano.t, 2, "7 7 5 4");
   DarMano(mano.t, 3, "7 6 4 A");  // the pequeña is pareja 1's
-  mano.t.Apuesta[2] = 0;
+  mano.t.Apuesta[NumeroLance::Pequena] = 0;
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 1 se saca  una de la pequeña en paso\r\n"
             " una del par del jugador 1\r\n" +
@@ -170,7 +170,7 @@ TEST(ContarPares, Kept_ARefusedBetPaysTheParejaOfTheGrandeWhenThePequenaWasRefus
   Recuento mano;
   DarMano(mano.t, 2, "7 7 5 4");
   DarMano(mano.t, 3, "R R 5 4");  // the grande is pareja 1's
-  mano.t.Apuesta[1] = 0;
+  mano.t.Apuesta[NumeroLance::Grande] = 0;
   EXPECT_EQ(mano.Contar(),
             "La pareja 1 se saca  una de la grande en paso\r\nla pequeña ya estaba contada \r\n"
             " una del par del jugador 3\r\n" +

@@ -10,9 +10,9 @@ namespace {
 TEST(ContarPunto, GivesTheStonesOfAnAcceptedBet) {
   Recuento mano;
   DarMano(mano.t, 4, "7 7 5 4");  // 23 points
-  mano.t.Apuesta[3] = ApuestaPagada;
-  mano.t.Declaracion[3] = 1;  // so that the pares of seat 4 are not paid
-  mano.t.Apuesta[5] = 6;
+  mano.t.Apuesta[NumeroLance::Pares] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Pares] = 1;  // so that the pares of seat 4 are not paid
+  mano.t.Apuesta[NumeroLance::Punto] = 6;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 1 se saca \r\n"
                                "La pareja 0 se saca  las 6 envidadas a Punto \r\n" +
@@ -22,7 +22,7 @@ TEST(ContarPunto, GivesTheStonesOfAnAcceptedBet) {
 TEST(ContarPunto, GivesEqualPointsToTheSeatNearestTheMano) {
   Recuento mano;
   mano.t.OrdenAsiento = {2, 3, 4, 1};
-  mano.t.Apuesta[5] = 2;
+  mano.t.Apuesta[NumeroLance::Punto] = 2;
   EXPECT_EQ(mano.Contar(),
             Antes + "La pareja 0 se saca  las 2 envidadas a Punto \r\n" + Tanteo(0, 2));
 }
@@ -30,8 +30,8 @@ TEST(ContarPunto, GivesEqualPointsToTheSeatNearestTheMano) {
 TEST(ContarPunto, GivesOneStoneToTheParejaWhoseBetWasRefused) {
   for (const Pareja pareja : {0, 1}) {
     Recuento mano;
-    mano.t.Apuesta[5] = ApuestaPagada;
-    mano.t.Declaracion[5] = pareja;
+    mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+    mano.t.Declaracion[NumeroLance::Punto] = pareja;
     EXPECT_EQ(mano.Contar(), Antes + "La pareja " + std::to_string(pareja) +
                                  " se saca una del punto" + Tanteo(pareja, 1 - pareja));
   }
@@ -39,8 +39,8 @@ TEST(ContarPunto, GivesOneStoneToTheParejaWhoseBetWasRefused) {
 
 TEST(ContarPunto, WritesNothingWhenItIsSettledForNobody) {
   Recuento mano;
-  mano.t.Apuesta[5] = ApuestaPagada;
-  mano.t.Declaracion[5] = SinDeclaracion;
+  mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Punto] = SinDeclaracion;
   EXPECT_EQ(mano.Contar(), Antes + Tanteo(0, 0));
 }
 
@@ -52,10 +52,10 @@ TEST(ContarPunto, GivesNoStoneEnPasoWhileItHasNeverBeenBet) {
 // Nobody resets the punto's records, so a punto en paso is paid like the last one that was bet.
 TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastAcceptedBet) {
   Recuento mano;
-  mano.t.Apuesta[5] = 4;
+  mano.t.Apuesta[NumeroLance::Punto] = 4;
   mano.Contar();
-  DarMano(mano.t, 2, "7 7 6 4");  // 24 points: now the opponents have the best punto
-  mano.t.Declaracion[3] = 1;      // so that their pares are not paid
+  DarMano(mano.t, 2, "7 7 6 4");               // 24 points: now the opponents have the best punto
+  mano.t.Declaracion[NumeroLance::Pares] = 1;  // so that their pares are not paid
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 1 se saca \r\n"
                                "La pareja 0 se saca  las 4 envidadas a Punto \r\n" +
@@ -64,11 +64,11 @@ TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastAcceptedBet) {
 
 TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastRefusedBet) {
   Recuento mano;
-  mano.t.Apuesta[5] = ApuestaPagada;
-  mano.t.Declaracion[5] = 1;
+  mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Punto] = 1;
   mano.Contar();
   DarMano(mano.t, 2, "7 7 6 4");
-  mano.t.Declaracion[3] = 1;
+  mano.t.Declaracion[NumeroLance::Pares] = 1;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 1 se saca \r\n"
                                "La pareja 1 se saca una del punto" +
@@ -79,16 +79,16 @@ TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastRefusedBet) {
 // opponents' when none was ever refused.
 TEST(ContarPunto, Kept_APuntoEnPasoAfterAnAcceptedOrdagoGivesOneStone) {
   Recuento mano;
-  mano.t.Apuesta[5] = EnviteOrdago;
+  mano.t.Apuesta[NumeroLance::Punto] = EnviteOrdago;
   EXPECT_EQ(mano.Contar(), Antes + "La pareja 0 se saca una del punto" + Tanteo(0, 1));
-  mano.t.Declaracion[5] = 1;
+  mano.t.Declaracion[NumeroLance::Punto] = 1;
   EXPECT_EQ(mano.Contar(), Antes + "La pareja 1 se saca una del punto" + Tanteo(1, 1));
 }
 
 TEST(ContarPunto, CanEndTheJuegoByABet) {
   Recuento mano;
   mano.t.Piedras = {0, 33};
-  mano.t.Apuesta[5] = 3;
+  mano.t.Apuesta[NumeroLance::Punto] = 3;
   EXPECT_EQ(mano.Contar(), Antes + "La pareja 1 se saca  las 3 envidadas a Punto \r\n");
   EXPECT_EQ(mano.port.TakeEvents(),
             std::vector<std::string>{"box: La pareja 1 gana este juego por 36 a 0"});
@@ -97,8 +97,8 @@ TEST(ContarPunto, CanEndTheJuegoByABet) {
 TEST(ContarPunto, CanEndTheJuegoByItsOneStone) {
   Recuento mano;
   mano.t.Piedras = {35, 0};
-  mano.t.Apuesta[5] = ApuestaPagada;
-  mano.t.Declaracion[5] = 0;
+  mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Punto] = 0;
   EXPECT_EQ(mano.Contar(), Antes + "La pareja 0 se saca una del punto");
   EXPECT_EQ(mano.port.TakeEvents(),
             std::vector<std::string>{"box: La pareja 0 gana este juego por 36 a 0"});
@@ -107,8 +107,8 @@ TEST(ContarPunto, CanEndTheJuegoByItsOneStone) {
 TEST(ContarPunto, EndsNoJuegoWhenItIsSettledForNobody) {
   Recuento mano;
   mano.t.Piedras = {35, 36};  // the pareja counted before is 0
-  mano.t.Apuesta[5] = ApuestaPagada;
-  mano.t.Declaracion[5] = SinDeclaracion;
+  mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
+  mano.t.Declaracion[NumeroLance::Punto] = SinDeclaracion;
   EXPECT_EQ(mano.Contar(), Antes + Tanteo(36, 35));
 }
 

@@ -86,19 +86,19 @@ TEST(ContarMano, LaysAllFourHandsOpen) {
 
 TEST(ContarMano, LaysTheHandsOpenAlsoWhenTheJuegoEndsAtOnce) {
   Recuento mano;
-  mano.t.Apuesta[1] = 36;
+  mano.t.Apuesta[NumeroLance::Grande] = 36;
   mano.Contar();
   EXPECT_TRUE(mano.t.Text1.starts_with(u"Ana\r\nSiete "));
 }
 
 TEST(ContarMano, WritesTheScoreboardAndLeavesThePhaseForANewHand) {
   Recuento mano;
-  mano.t.Fase = 13;
+  mano.t.Fase = Fase::Cuenta;
   mano.t.Juegos = {0, 1};
   mano.t.Vacas = {1, 0};
-  mano.t.Apuesta[1] = 3;
+  mano.t.Apuesta[NumeroLance::Grande] = 3;
   mano.Contar();
-  EXPECT_EQ(mano.t.Fase, -1);
+  EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(Utf8(mano.t.Text3), "Piedras: 3 / 0;    juegos: 1 / 0;    Vacas: 0 / 1");
   EXPECT_EQ(mano.port.TakeEvents(), Sucesos{});
 }
@@ -117,7 +117,7 @@ TEST(ContarMano, LeavesTheRecordsOfTheBidding) {
 TEST(ContarMano, CountsTheJuegoOrThePuntoNeverBoth) {
   Recuento mano;
   DarMano(mano.t, 2, "R C 7 4");
-  mano.t.Apuesta[5] = 9;
+  mano.t.Apuesta[NumeroLance::Punto] = 9;
   mano.t.SeJuegaPunto = false;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "\r\nLa pareja 0 se saca tres de la treintayuna del jugador 2" +
@@ -126,7 +126,7 @@ TEST(ContarMano, CountsTheJuegoOrThePuntoNeverBoth) {
 
 TEST(ContarMano, SkipsTheJuegoWhenNobodyHasIt) {
   Recuento mano;
-  mano.t.Apuesta[4] = 5;
+  mano.t.Apuesta[NumeroLance::Juego] = 5;
   mano.t.SeJuegaPunto = true;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas + "\r\n" + PuntoYaContado + Tanteo(0, 0));
 }

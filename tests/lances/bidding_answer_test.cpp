@@ -19,7 +19,7 @@ using Sucesos = std::vector<std::string>;
 struct ResponderLance : testing::Test {
   Mesa m;
 
-  ResponderLance() { m.t.Fase = 2; }
+  ResponderLance() { m.t.Fase = Fase::RespuestaGrande; }
 
   void Responden(std::initializer_list<float> sacadas = {}) { m.Juega(EnviteGrande, sacadas); }
 };
@@ -60,7 +60,7 @@ TEST_F(ResponderLance, TheFirstAcceptanceEndsTheRound) {
   DarMano(m.t, 2, "R R 5 4");
   Responden({0, 0});
   EXPECT_EQ(m.Texto(), "Jugador 2: SQui1\r\nenvite querido\r\nPulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 2);
 }
 
 TEST_F(ResponderLance, ARefusalByOnePartnerAloneDecidesNothing) {
@@ -72,17 +72,17 @@ TEST_F(ResponderLance, ARefusalByOnePartnerAloneDecidesNothing) {
             "Jugador 4: SQui1\r\n"
             "envite querido\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 2);
   EXPECT_EQ(m.t.Piedras, (Array<Integer, 0, 1>{}));
 }
 
 TEST_F(ResponderLance, TheHumanAccepts) {
-  m.t.Apuesta[1] = 4;
+  m.t.Apuesta[NumeroLance::Grande] = 4;
   m.Envidan(0, 3);
   m.port.Presses(1);
   Responden();
   EXPECT_EQ(m.Texto(), "Ana: SQui1\r\nenvite querido\r\nPulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 7);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 7);
   EXPECT_EQ(m.t.SeguirLance, 0);
   EXPECT_EQ(m.t.ParejaEnvite, 0);
 }
@@ -107,7 +107,7 @@ TEST_F(ResponderLance, TheHumanRaisesAndTheOtherParejaIsAskedFromTheFirstPositio
 }
 
 TEST_F(ResponderLance, ARaiseSeesTheBetThatItAnswers) {
-  m.t.Apuesta[1] = 4;
+  m.t.Apuesta[NumeroLance::Grande] = 4;
   m.Envidan(0, 3);
   m.t.Mensajes[2][static_cast<int>(MessageCategory::EnvM)][1] = u"& más";
   DarMano(m.t, 2, "R R 5 4");
@@ -118,7 +118,7 @@ TEST_F(ResponderLance, ARaiseSeesTheBetThatItAnswers) {
             "Jugador 2: SQui1\r\n"
             "envite querido\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 12);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 12);
   EXPECT_EQ(m.t.ParejaEnvite, 1);
 }
 
@@ -146,7 +146,7 @@ TEST_F(ResponderLance, ReadsTheTypedRaiseAndTakesOneForLess) {
     DarMano(otra.t, 2, "R R 5 4");
     otra.port.Presses(2).Types(caso.texto);
     otra.Juega(EnviteGrande, {0, 0});
-    EXPECT_EQ(otra.t.Apuesta[1], 2 + caso.piedras);
+    EXPECT_EQ(otra.t.Apuesta[NumeroLance::Grande], 2 + caso.piedras);
   }
 }
 
@@ -168,14 +168,14 @@ TEST_F(ResponderLance, ARaiseBeyondSixteenBitsEndsTheProgram) {
 }
 
 TEST_F(ResponderLance, AcceptedStonesBeyondSixteenBitsEndTheProgram) {
-  m.t.Apuesta[1] = 32767;
+  m.t.Apuesta[NumeroLance::Grande] = 32767;
   m.Envidan(0, 1);
   m.port.Presses(1);
   EXPECT_THROW(Responden(), RunTimeError);
 }
 
 TEST_F(ResponderLance, TheHumanGoesForItAll) {
-  m.t.Apuesta[1] = 4;
+  m.t.Apuesta[NumeroLance::Grande] = 4;
   m.Envidan(0, 3);
   m.port.Presses(3);
   Responden({/*seat 2*/ 0, 0, /*seat 4*/ 0, 0});
@@ -201,7 +201,7 @@ TEST_F(ResponderLance, AComputerSeatRaisesAndTheHumanAnswers) {
             "Ana: SQui1\r\n"
             "envite querido\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 5);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 5);
   EXPECT_EQ(m.t.ParejaEnvite, 0);
 }
 
@@ -216,7 +216,7 @@ TEST_F(ResponderLance, TheRaiseOfAComputerSeatIsTwoToFive) {
     otra.t.OrdagueroAsiento[2] = 100;
     otra.port.Presses(1);
     otra.Juega(EnviteGrande, {0, sacada, 0, 0});
-    EXPECT_EQ(otra.t.Apuesta[1], 2 + piedras);
+    EXPECT_EQ(otra.t.Apuesta[NumeroLance::Grande], 2 + piedras);
   }
 }
 
@@ -248,12 +248,12 @@ TEST_F(ResponderLance, BothSidesRaiseInTurnUntilOneAccepts) {
             "Ana: SQui1\r\n"
             "envite querido\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 2 + 2 + 4 + 5);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 2 + 2 + 4 + 5);
 }
 
 TEST_F(ResponderLance, AComputerSeatGoesForItAll) {
   m.Envidan(1, 2);
-  m.t.Apuesta[1] = 1;
+  m.t.Apuesta[NumeroLance::Grande] = 1;
   m.t.Piedras[1] = 34;
   m.port.Presses(0);
   Responden({/*speech*/ 0, 0, /*seat 3*/ 0, 0});
@@ -319,7 +319,7 @@ TEST_F(ResponderLance, Kept_ASeatThatSaysNothingRefusesInSilence) {
   m.Juega(EnvitePares);
   EXPECT_EQ(m.Texto(), "la pareja 1 se saca 1 piedra\r\nPulse enter para continuar");
   EXPECT_EQ(m.t.Piedras[1], 30);
-  EXPECT_EQ(m.t.Apuesta[3], -2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], -2);
 }
 
 TEST_F(ResponderLance, Kept_RemovesThePromptAtEveryPositionItAsks) {

@@ -19,11 +19,11 @@ using PorPareja = Array<Integer, 0, 1>;
 struct BetRefused : testing::Test {
   Mesa m;
 
-  BetRefused() { m.t.Fase = 2; }
+  BetRefused() { m.t.Fase = Fase::RespuestaGrande; }
 
   // What the line says after the two refusals.
   std::string Rehusan(int apuesta, int enLaMesa) {
-    m.t.Apuesta[1] = apuesta;
+    m.t.Apuesta[NumeroLance::Grande] = apuesta;
     m.Envidan(0, enLaMesa);
     m.port.Presses(0);
     if (enLaMesa == -1) {
@@ -70,15 +70,15 @@ TEST_F(BetRefused, AddsToTheStonesOfTheBettorsOnly) {
   m.t.Piedras = {10, 20};
   Rehusan(4, 2);
   EXPECT_EQ(m.t.Piedras, (PorPareja{14, 20}));
-  EXPECT_EQ(m.t.Apuesta[1], -2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], -2);
   EXPECT_EQ(m.t.SeguirLance, 0);
-  EXPECT_EQ(m.t.Fase, 3);
+  EXPECT_EQ(m.t.Fase, Fase::Pequena);
   EXPECT_EQ(Utf8(m.t.Text3), "Piedras: 20 / 14;    juegos: 0 / 0;    Vacas: 0 / 0");
 }
 
 TEST_F(BetRefused, MayPassTheJuegoWithoutEndingIt) {
   m.t.Piedras = {34, 0};
-  m.t.Apuesta[1] = 3;
+  m.t.Apuesta[NumeroLance::Grande] = 3;
   m.Envidan(0, -1);
   m.port.Presses(0);
   m.Juega(EnviteGrande, {0, 0});
@@ -113,27 +113,27 @@ TEST_F(BetRefused, PaysTheRaiserTheBetThatItSaw) {
 struct PuntoCarriedOver : testing::Test {
   Mesa m;
 
-  PuntoCarriedOver() { m.t.Fase = 12; }
+  PuntoCarriedOver() { m.t.Fase = Fase::RespuestaPunto; }
 };
 
 TEST_F(PuntoCarriedOver, Kept_AnAcceptedBetIsAddedToTheLastRefusal) {
-  m.t.Apuesta[5] = -2;
+  m.t.Apuesta[NumeroLance::Punto] = -2;
   m.Envidan(0, 2);
   m.port.Presses(1);
   m.Juega(EnvitePunto);
-  EXPECT_EQ(m.t.Apuesta[5], 0);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Punto], 0);
 }
 
 TEST_F(PuntoCarriedOver, Kept_AnAcceptedBetIsAddedToTheLastStones) {
-  m.t.Apuesta[5] = 6;
+  m.t.Apuesta[NumeroLance::Punto] = 6;
   m.Envidan(0, 2);
   m.port.Presses(1);
   m.Juega(EnvitePunto);
-  EXPECT_EQ(m.t.Apuesta[5], 8);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Punto], 8);
 }
 
 TEST_F(PuntoCarriedOver, Kept_ARefusedBetMayPayLessThanNothing) {
-  m.t.Apuesta[5] = -2;
+  m.t.Apuesta[NumeroLance::Punto] = -2;
   m.t.Piedras = {10, 10};
   m.Envidan(1, 2);
   m.Juega(EnvitePunto, {/*2*/ 0, 0, 0, /*4*/ 0, 0, 0});
@@ -143,11 +143,11 @@ TEST_F(PuntoCarriedOver, Kept_ARefusedBetMayPayLessThanNothing) {
             "la pareja 1 se saca -2 piedras\r\n"
             "Pulse enter para contar");
   EXPECT_EQ(m.t.Piedras, (PorPareja{10, 8}));
-  EXPECT_EQ(m.t.Apuesta[5], -2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Punto], -2);
 }
 
 TEST_F(PuntoCarriedOver, Kept_ARaiseThatMakesUpForTheLastRefusalPaysOneStone) {
-  m.t.Apuesta[5] = -2;
+  m.t.Apuesta[NumeroLance::Punto] = -2;
   m.Envidan(0, 2);
   m.port.Presses(2).Types(u"3");
   m.Juega(EnvitePunto, {/*2*/ 0, 0, 0, /*4*/ 0, 0, 0});
@@ -155,26 +155,26 @@ TEST_F(PuntoCarriedOver, Kept_ARaiseThatMakesUpForTheLastRefusalPaysOneStone) {
 }
 
 TEST_F(PuntoCarriedOver, Kept_AllPassingLeavesTheRecordAlone) {
-  m.t.Fase = 11;
-  m.t.Apuesta[5] = 7;
+  m.t.Fase = Fase::Punto;
+  m.t.Apuesta[NumeroLance::Punto] = 7;
   m.port.Presses(0);
   m.Juega(LancePunto, {0, 0, 0, 0, 0, 0, 0, 0, 0});
-  EXPECT_EQ(m.t.Apuesta[5], 7);
-  EXPECT_EQ(m.t.Declaracion[5], 0);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Punto], 7);
+  EXPECT_EQ(m.t.Declaracion[NumeroLance::Punto], 0);
 }
 
 TEST_F(PuntoCarriedOver, Kept_AStandingOrdagoOfAnEarlierHandCountsAsAStoneLess) {
-  m.t.Apuesta[5] = -1;
+  m.t.Apuesta[NumeroLance::Punto] = -1;
   m.Envidan(0, 5);
   m.port.Presses(1);
   m.Juega(EnvitePunto);
-  EXPECT_EQ(m.t.Apuesta[5], 4);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Punto], 4);
 }
 
 struct OrdagoAccepted : testing::Test {
   Mesa m;
 
-  OrdagoAccepted() { m.t.Fase = 2; }
+  OrdagoAccepted() { m.t.Fase = Fase::RespuestaGrande; }
 };
 
 TEST_F(OrdagoAccepted, LaysAllHandsOpenBeforeTheBox) {
@@ -209,11 +209,11 @@ TEST_F(OrdagoAccepted, GoesToAComputerSeatsParejaWhenItIsManoOfEqualHands) {
 }
 
 TEST_F(OrdagoAccepted, ReplacesTheStonesThatWereSeenBefore) {
-  m.t.Apuesta[1] = 9;
+  m.t.Apuesta[NumeroLance::Grande] = 9;
   m.Envidan(0, -1);
   m.port.Presses(1);
   m.Juega(EnviteGrande);
-  EXPECT_EQ(m.t.Apuesta[1], -1);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], -1);
 }
 
 // Seat 2 refuses, its partner accepts.
@@ -235,7 +235,7 @@ TEST_F(OrdagoAccepted, RewritesTheScoreboard) {
 }
 
 TEST_F(OrdagoAccepted, AtThePuntoTellsOfAJuegoThatCannotBe) {
-  m.t.Fase = 12;
+  m.t.Fase = Fase::RespuestaPunto;
   DarMano(m.t, 3, "R R R A");
   m.Envidan(0, -1);
   m.port.Presses(1);

@@ -13,7 +13,7 @@ namespace {
 struct RaiseBeyondTheJuego : testing::Test {
   Mesa m;
 
-  RaiseBeyondTheJuego() { m.t.Fase = 2; }
+  RaiseBeyondTheJuego() { m.t.Fase = Fase::RespuestaGrande; }
 
   void Responden(std::initializer_list<float> sacadas = {}) { m.Juega(EnviteGrande, sacadas); }
 };
@@ -21,40 +21,40 @@ struct RaiseBeyondTheJuego : testing::Test {
 // The juego has 35 stones.
 TEST_F(RaiseBeyondTheJuego, Kept_AComputerSeatAcceptsInsteadOfRaisingBeyondTheJuego) {
   m.t.OrdagueroAsiento[2] = 100;
-  m.t.Apuesta[1] = 33;
+  m.t.Apuesta[NumeroLance::Grande] = 33;
   m.Envidan(1, 3);
   Responden({/*decision*/ 0, /*speech*/ 0, 0});
   EXPECT_EQ(m.Texto(), "Jugador 2: SQui1\r\nenvite querido\r\nPulse enter para continuar");
-  EXPECT_EQ(m.t.Apuesta[1], 36);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 36);
 }
 
 TEST_F(RaiseBeyondTheJuego, AComputerSeatStillRaisesUpToTheJuego) {
   m.t.OrdagueroAsiento[2] = 100;
-  m.t.Apuesta[1] = 33;
+  m.t.Apuesta[NumeroLance::Grande] = 33;
   m.Envidan(1, 2);
   m.port.Presses(1);
   Responden({/*decision*/ 0, /*amount*/ 0, /*speech*/ 0, 0});
   EXPECT_TRUE(m.Texto().starts_with("Jugador 2: EnvM1 2\r\nAna: SQui1\r\n"));
-  EXPECT_EQ(m.t.Apuesta[1], 37);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 37);
 }
 
 TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitIsThePiedrasJuegoOfTheMatch) {
   m.t.OrdagueroAsiento[2] = 100;
   m.t.PiedrasJuego = 8;
-  m.t.Apuesta[1] = 4;
+  m.t.Apuesta[NumeroLance::Grande] = 4;
   m.Envidan(1, 5);
   Responden({0, 0, 0});
-  EXPECT_EQ(m.t.Apuesta[1], 9);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 9);
 }
 
 TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesOrdagoAndNoQuieroAlone) {
-  m.t.Apuesta[1] = 40;
+  m.t.Apuesta[NumeroLance::Grande] = 40;
   m.Envidan(1, 2);
   Responden({/*seat 2*/ 0, 0, 0, /*seat 4*/ 0, 0, 0});
   EXPECT_TRUE(m.Texto().starts_with("Jugador 2: NQui1\r\nJugador 4: NQui1\r\n"));
 
   Mesa otra;
-  otra.t.Apuesta[1] = 40;
+  otra.t.Apuesta[NumeroLance::Grande] = 40;
   otra.Envidan(1, 2);
   otra.t.Piedras[1] = 34;
   otra.port.Presses(0);
@@ -63,12 +63,12 @@ TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesOrdagoAndNoQuieroAlone) {
 }
 
 TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesTheHumansRaiseAlone) {
-  m.t.Apuesta[1] = 40;
+  m.t.Apuesta[NumeroLance::Grande] = 40;
   m.Envidan(0, 2);
   DarMano(m.t, 2, "R R 5 4");
   m.port.Presses(2).Types(u"10");
   Responden({0, 0});
-  EXPECT_EQ(m.t.Apuesta[1], 52);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 52);
 }
 
 // Two seats with the best of pares would raise each other without end. Every raise here is 5
@@ -86,7 +86,7 @@ TEST_F(RaiseBeyondTheJuego, Kept_TwoStrongHandsComeToAnEnd) {
                         0, 0.75F, 0, 0,  //
                         0, 0.75F, 0, 0,  //
                         0, 0,     0});
-  EXPECT_EQ(m.t.Apuesta[3], 37);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], 37);
   EXPECT_TRUE(
       m.Texto().ends_with("Jugador 2: EnvM1 5\r\n"
                           "Jugador 3: SQui1\r\n"

@@ -20,7 +20,7 @@ struct AbrirLance : testing::Test {
   Mesa m;
 
   AbrirLance() {
-    m.t.Fase = 3;
+    m.t.Fase = Fase::Pequena;
     m.t.Text2 = u"lo de antes\r\n";
   }
 
@@ -38,9 +38,16 @@ TEST_F(AbrirLance, MovesTwoPhasesOnWhenAllFourPass) {
             "Jugador 4: Paso1\r\n"
             "la Pequeña queda en paso\r\n"
             "Pulse enter para continuar\r\n");
-  EXPECT_EQ(m.t.Fase, 5);
+  EXPECT_EQ(m.t.Fase, Fase::DeclaracionPares);
   EXPECT_EQ(m.t.SeguirLance, 0);
-  EXPECT_EQ(m.t.Apuesta[2], 0);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pequena], 0);
+}
+
+TEST_F(AbrirLance, ForgetsWhatWasSaidBeforeWhenTheHeadingReplacesTheTranscript) {
+  m.t.Dichos.resize(5);
+  m.port.Presses(0);
+  Abren({0, 0, 0, 0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(m.t.Dichos.size(), 4U);
 }
 
 TEST_F(AbrirLance, LetsTheSeatsSpeakFromTheMano) {
@@ -63,7 +70,8 @@ TEST_F(AbrirLance, ChangesNothingElseWhenAllFourPass) {
   Table antes = m.t;
   Abren({0, 0, 0, 0, 0, 0, 0, 0, 0});
   antes.Text2 = m.t.Text2;
-  antes.Fase = 5;
+  antes.Fase = Fase::DeclaracionPares;
+  antes.Dichos = m.t.Dichos;
   EXPECT_EQ(m.t, antes);
 }
 
@@ -73,7 +81,7 @@ TEST_F(AbrirLance, EndsAtTheFirstBet) {
   Abren({0, 0, 0, /*seat 3*/ 0.5F, 0, 0});
   EXPECT_EQ(m.Texto(), "Pequeña \r\nJugador 2: Paso1\r\nJugador 3: Envi1\r\n");
   EXPECT_EQ(m.port.TakeEvents(), Sucesos{});
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, RecordsNoBetBeforeItIsAnswered) {
@@ -92,7 +100,7 @@ TEST_F(AbrirLance, AComputerSeatEnvidaTwoStones) {
   EXPECT_EQ(m.Texto(), "Pequeña \r\nJugador 2: Envi3\r\n");
   EXPECT_EQ(m.t.SeguirLance, 2);
   EXPECT_EQ(m.t.ParejaEnvite, 0);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, AComputerSeatBetsMoreByADrawBeforeItSpeaks) {
@@ -102,7 +110,7 @@ TEST_F(AbrirLance, AComputerSeatBetsMoreByADrawBeforeItSpeaks) {
   EXPECT_EQ(m.Texto(), "Pequeña \r\nJugador 3: EnvM2 3\r\n");
   EXPECT_EQ(m.t.SeguirLance, 3);
   EXPECT_EQ(m.t.ParejaEnvite, 1);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 struct CasoCantidad {
@@ -145,7 +153,7 @@ TEST_F(AbrirLance, AComputerSeatGoesForItAll) {
   EXPECT_EQ(m.Texto(), "Pequeña \r\nJugador 4: Orda1\r\n");
   EXPECT_EQ(m.t.SeguirLance, -1);
   EXPECT_EQ(m.t.ParejaEnvite, 0);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, TheHumanPasses) {
@@ -163,7 +171,7 @@ TEST_F(AbrirLance, TheHumanEnvidaTwoStones) {
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{"dialog[La Pequeña]: mode -1"}));
   EXPECT_EQ(m.t.SeguirLance, 2);
   EXPECT_EQ(m.t.ParejaEnvite, 1);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, TheHumanBetsATypedAmount) {
@@ -174,9 +182,10 @@ TEST_F(AbrirLance, TheHumanBetsATypedAmount) {
   EXPECT_EQ(m.port.TakeEvents(),
             (Sucesos{"dialog[La Pequeña]: mode -1",
                      "input[Envite a Pequeña]: ¿Cuántas envida? (default 2)"}));
+  EXPECT_EQ(m.port.Preguntas, std::vector<Pregunta>{Pregunta::Cantidad});
   EXPECT_EQ(m.t.SeguirLance, 13);
   EXPECT_EQ(m.t.ParejaEnvite, 1);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, TheHumanGoesForItAll) {
@@ -185,7 +194,7 @@ TEST_F(AbrirLance, TheHumanGoesForItAll) {
   EXPECT_EQ(m.Texto(), "Pequeña \r\nAna: Orda1\r\n");
   EXPECT_EQ(m.t.SeguirLance, -1);
   EXPECT_EQ(m.t.ParejaEnvite, 1);
-  EXPECT_EQ(m.t.Fase, 4);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
 TEST_F(AbrirLance, AsksTheHumanOnlyWhileNobodyHasBet) {
@@ -256,7 +265,7 @@ TEST_F(AbrirLance, AnAmountBeyondSixteenBitsEndsTheProgramAlsoBelowTheFloor) {
 
 // Seats 2 and 3 would both bet; neither has pares.
 TEST_F(AbrirLance, SkipsTheSeatsThatMayNotSpeak) {
-  m.t.Fase = 6;
+  m.t.Fase = Fase::Pares;
   m.t.ParejaCortaMus = 1;
   DarMano(m.t, 4, "7 7 5 4");
   m.Juega(LancePares, {0, 0, 0});
@@ -266,7 +275,7 @@ TEST_F(AbrirLance, SkipsTheSeatsThatMayNotSpeak) {
             "Los pares quedan en paso\r\n"
             "Pulse enter para continuar\r\n");
   EXPECT_EQ(m.port.TakeEvents(), Sucesos{});
-  EXPECT_EQ(m.t.Fase, 8);
+  EXPECT_EQ(m.t.Fase, Fase::DeclaracionJuego);
 }
 
 TEST_F(AbrirLance, AsksTheHumanOnlyWithPares) {
@@ -277,7 +286,7 @@ TEST_F(AbrirLance, AsksTheHumanOnlyWithPares) {
 }
 
 TEST_F(AbrirLance, SkipsTheSeatsWithoutJuegoToo) {
-  m.t.Fase = 9;
+  m.t.Fase = Fase::Juego;
   m.t.TurnoJuego = {0, 0, 0, 3};
   DarMano(m.t, 4, "R R R 4");
   m.Juega(LanceJuego, {0, 0, 0, 0, 0, /*speech*/ 0, 0});
@@ -286,7 +295,7 @@ TEST_F(AbrirLance, SkipsTheSeatsWithoutJuegoToo) {
             "Jugador 4: Paso1\r\n"
             "\r\nEl juego queda en paso\r\n"
             "Pulse enter para contar");
-  EXPECT_EQ(m.t.Fase, 13);
+  EXPECT_EQ(m.t.Fase, Fase::Cuenta);
 }
 
 TEST_F(AbrirLance, EverySeatsBetIsItsParejas) {
@@ -306,7 +315,7 @@ TEST_F(AbrirLance, EverySeatsBetIsItsParejas) {
 }
 
 TEST_F(AbrirLance, MakesTheTwoDrawsOfTheGrandeForEverySeat) {
-  m.t.Fase = 1;
+  m.t.Fase = Fase::Grande;
   m.t.ParejaCortaMus = 1;
   m.Hablan({2, 4, 3, 1});
   m.Juega(LanceGrande, {0, 0, 0, 0, /*seat 4*/ 0, 0, 0, 0, /*seat 3*/ 0, 0, 0, 0});

@@ -23,9 +23,10 @@ struct Caso {
   void (*abrir)(Game&);
   void (*responder)(Game&);
   const Lance& (*datos)();
-  int numero;
-  int fase;           // of the opening; the answer's is the next
-  int faseSiguiente;  // once the lance is over
+  NumeroLance numero;
+  Fase fase;           // of the opening
+  Fase faseRespuesta;  // once somebody has bet
+  Fase faseSiguiente;  // once the lance is over
 
   const char* mano;      // all seats have it: it speaks, and no computer seat accepts with it
   const char* manoGana;  // beats it in this lance
@@ -54,9 +55,10 @@ const std::array<Caso, 5> Casos{{
      .abrir = LanceGrande,
      .responder = EnviteGrande,
      .datos = DatosGrande,
-     .numero = 1,
-     .fase = 1,
-     .faseSiguiente = 3,
+     .numero = NumeroLance::Grande,
+     .fase = Fase::Grande,
+     .faseRespuesta = Fase::RespuestaGrande,
+     .faseSiguiente = Fase::Pequena,
      .mano = "7 6 5 4",
      .manoGana = "R 6 5 4",
      .todosPasan =
@@ -87,9 +89,10 @@ const std::array<Caso, 5> Casos{{
      .abrir = LancePequena,
      .responder = EnvitePequena,
      .datos = DatosPequena,
-     .numero = 2,
-     .fase = 3,
-     .faseSiguiente = 5,
+     .numero = NumeroLance::Pequena,
+     .fase = Fase::Pequena,
+     .faseRespuesta = Fase::RespuestaPequena,
+     .faseSiguiente = Fase::DeclaracionPares,
      .mano = "7 6 5 4",
      .manoGana = "7 6 5 A",
      .todosPasan =
@@ -119,9 +122,10 @@ const std::array<Caso, 5> Casos{{
      .abrir = LancePares,
      .responder = EnvitePares,
      .datos = DatosPares,
-     .numero = 3,
-     .fase = 6,
-     .faseSiguiente = 8,
+     .numero = NumeroLance::Pares,
+     .fase = Fase::Pares,
+     .faseRespuesta = Fase::RespuestaPares,
+     .faseSiguiente = Fase::DeclaracionJuego,
      .mano = "7 4 4 A",
      .manoGana = "7 5 5 A",
      .todosPasan =
@@ -152,9 +156,10 @@ const std::array<Caso, 5> Casos{{
      .abrir = LanceJuego,
      .responder = EnviteJuego,
      .datos = DatosJuego,
-     .numero = 4,
-     .fase = 9,
-     .faseSiguiente = 13,
+     .numero = NumeroLance::Juego,
+     .fase = Fase::Juego,
+     .faseRespuesta = Fase::RespuestaJuego,
+     .faseSiguiente = Fase::Cuenta,
      .mano = "R R R 4",
      .manoGana = "R R R A",
      .todosPasan =
@@ -186,9 +191,10 @@ const std::array<Caso, 5> Casos{{
      .abrir = LancePunto,
      .responder = EnvitePunto,
      .datos = DatosPunto,
-     .numero = 5,
-     .fase = 11,
-     .faseSiguiente = 13,
+     .numero = NumeroLance::Punto,
+     .fase = Fase::Punto,
+     .faseRespuesta = Fase::RespuestaPunto,
+     .faseSiguiente = Fase::Cuenta,
      .mano = "7 6 5 4",
      .manoGana = "7 7 5 4",
      .todosPasan =
@@ -232,7 +238,7 @@ struct CadaLance : testing::TestWithParam<Caso> {
   }
 
   void PonerEnRespuesta(Pareja pareja, int piedras) {
-    m.t.Fase = caso.fase + 1;
+    m.t.Fase = caso.faseRespuesta;
     m.t.Text2.clear();
     m.Envidan(pareja, piedras);
   }
@@ -257,7 +263,7 @@ TEST_P(CadaLance, AsksTheHumanInItsOwnWordsWhenItOpens) {
   EXPECT_EQ(m.Texto(), caso.abierto);
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{caso.preguntaApertura, caso.cantidadApertura}));
   EXPECT_EQ(m.t.SeguirLance, 4);
-  EXPECT_EQ(m.t.Fase, caso.fase + 1);
+  EXPECT_EQ(m.t.Fase, caso.faseRespuesta);
 }
 
 TEST_P(CadaLance, ForgetsAStandingBetOnlyFromParesOn) {
@@ -266,7 +272,7 @@ TEST_P(CadaLance, ForgetsAStandingBetOnlyFromParesOn) {
   m.Juega(caso.abrir);
   EXPECT_EQ(m.port.TakeEvents().size(), caso.empiezaSinEnvite ? 1U : 0U);
   EXPECT_EQ(m.t.SeguirLance, caso.empiezaSinEnvite ? 2 : 3);
-  EXPECT_EQ(m.t.Fase, caso.fase + 1);
+  EXPECT_EQ(m.t.Fase, caso.faseRespuesta);
 }
 
 TEST_P(CadaLance, AsksTheHumanInItsOwnWordsWhenItAnswers) {
@@ -352,7 +358,7 @@ TEST_P(CadaLance, AnAcceptedOrdagoStartsAnotherHand) {
   m.port.Presses(1);
   m.Juega(caso.responder);
   EXPECT_EQ(m.Texto(), "Pulse enter para empezar una nueva mano");
-  EXPECT_EQ(m.t.Fase, -1);
+  EXPECT_EQ(m.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(m.t.Juegos, (Array<Integer, 0, 1>{0, 1}));
   EXPECT_EQ(m.t.Piedras, (Array<Integer, 0, 1>{}));
   EXPECT_EQ(m.t.SeguirLance, 0);

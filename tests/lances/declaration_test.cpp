@@ -10,15 +10,15 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-constexpr PreguntaDeclaracion Pregunta{
-    .Titulo = u"¿Tiene?", .SiEnRealidad = u"sí.", .NoEnRealidad = u"no."};
+constexpr PreguntaDeclaracion Declaracion{
+    .Sobre = Pregunta::Juego, .Titulo = u"¿Tiene?", .SiEnRealidad = u"sí.", .NoEnRealidad = u"no."};
 
 Sucesos Declara(bool verdad, bool respuesta) {
   Mesa m;
   respuesta ? m.port.Yes() : m.port.No();
   DrawList rnd{};
   Game g{m.t, rnd, m.port};
-  PreguntarDeclaracion(g, Pregunta, verdad);
+  PreguntarDeclaracion(g, Declaracion, verdad);
   return m.port.TakeEvents();
 }
 
@@ -37,13 +37,22 @@ TEST(PreguntarDeclaracion, CorrectsTheHumanWhoClaimsIt) {
             (Sucesos{"yesno[¿Tiene?]:  (icon, default no)", "box: En realidad no."}));
 }
 
+TEST(PreguntarDeclaracion, SaysWhatItIsAbout) {
+  Mesa m;
+  m.port.Yes();
+  DrawList rnd{};
+  Game g{m.t, rnd, m.port};
+  PreguntarDeclaracion(g, Declaracion, true);
+  EXPECT_EQ(m.port.Preguntas, std::vector<Pregunta>{Pregunta::Juego});
+}
+
 TEST(PreguntarDeclaracion, ChangesNothingAtTheTable) {
   Mesa m;
   const Table antes = m.t;
   m.port.No();
   DrawList rnd{};
   Game g{m.t, rnd, m.port};
-  PreguntarDeclaracion(g, Pregunta, true);
+  PreguntarDeclaracion(g, Declaracion, true);
   EXPECT_EQ(m.t, antes);
 }
 

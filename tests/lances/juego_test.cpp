@@ -71,7 +71,7 @@ struct DeclaraJuego : testing::Test {
   Mesa m;
 
   DeclaraJuego() {
-    m.t.Fase = 8;
+    m.t.Fase = Fase::DeclaracionJuego;
     m.t.Text2 = u"lo de antes\r\n";
     m.t.TurnoJuego = {9, 9, 9, 9};
     DarMano(m.t, 1, "R R R A");
@@ -91,7 +91,8 @@ TEST_F(DeclaraJuego, GoesOnToTheBetsWhenBothParejasHaveJuego) {
             "Jugador 4: TJue1\r\n"
             "Pulse enter para continuar");
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{"yesno[¿Tiene Juego?]:  (icon, default yes)"}));
-  EXPECT_EQ(m.t.Fase, 9);
+  EXPECT_EQ(m.port.Preguntas, std::vector<Pregunta>{Pregunta::Juego});
+  EXPECT_EQ(m.t.Fase, Fase::Juego);
   EXPECT_FALSE(m.t.SeJuegaPunto);
   EXPECT_EQ(m.t.TurnoJuego, (PorAsiento{1, 0, 0, 2}));
 }
@@ -107,10 +108,10 @@ TEST_F(DeclaraJuego, GoesToTheCountWhenOnlyOneParejaHasJuego) {
             "Jugador 4: NJue1\r\n"
             "Una de las dos parejas no tiene Juego\r\n"
             "Pulse enter para contar");
-  EXPECT_EQ(m.t.Fase, 13);
+  EXPECT_EQ(m.t.Fase, Fase::Cuenta);
   EXPECT_FALSE(m.t.SeJuegaPunto);
-  EXPECT_EQ(m.t.Apuesta[4], 0);
-  EXPECT_EQ(m.t.Declaracion[4], -2);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Juego], 0);
+  EXPECT_EQ(m.t.Declaracion[NumeroLance::Juego], -2);
 }
 
 TEST_F(DeclaraJuego, GoesToTheCountWhenOnlyTheOpponentsHaveJuego) {
@@ -125,7 +126,7 @@ TEST_F(DeclaraJuego, GoesToTheCountWhenOnlyTheOpponentsHaveJuego) {
             "Jugador 4: TJue1\r\n"
             "Una de las dos parejas no tiene Juego\r\n"
             "Pulse enter para contar");
-  EXPECT_EQ(m.t.Fase, 13);
+  EXPECT_EQ(m.t.Fase, Fase::Cuenta);
 }
 
 TEST_F(DeclaraJuego, GoesToThePuntoWhenNobodyHasJuego) {
@@ -140,7 +141,7 @@ TEST_F(DeclaraJuego, GoesToThePuntoWhenNobodyHasJuego) {
             "Ninguna de las dos parejas tiene Juego\r\n"
             "Pulse enter para continuar");
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{"yesno[¿Tiene Juego?]:  (icon, default no)"}));
-  EXPECT_EQ(m.t.Fase, 11);
+  EXPECT_EQ(m.t.Fase, Fase::Punto);
   EXPECT_TRUE(m.t.SeJuegaPunto);
   EXPECT_EQ(m.t.TurnoJuego, (PorAsiento{0, 0, 0, 0}));
 }
@@ -153,7 +154,7 @@ TEST_F(DeclaraJuego, CorrectsTheHumanWhoDeniesAJuego) {
                      "box: En realidad sí tiene Juego, y eso es lo que dice (por lo que pudiera "
                      "pasar...)"}));
   EXPECT_TRUE(m.Texto().starts_with("Ana: TJue1\r\n"));
-  EXPECT_EQ(m.t.Fase, 9);
+  EXPECT_EQ(m.t.Fase, Fase::Juego);
 }
 
 TEST_F(DeclaraJuego, CorrectsTheHumanWhoClaimsAJuego) {
@@ -210,7 +211,7 @@ TEST_F(DeclaraJuego, SpeaksInOrderWithTwoDrawsForEveryComputerSeat) {
 // What the declaration leaves, the opening and the answer, one after the other.
 TEST(EnviteJuego, Kept_TakesThePromptOfTheDeclarationAwayButNotItsLine) {
   Mesa m;
-  m.t.Fase = 8;
+  m.t.Fase = Fase::DeclaracionJuego;
   DarMano(m.t, 1, "R R R A");
   DarMano(m.t, 4, "R R R 4");
   m.port.Yes().Presses(1);
@@ -223,7 +224,7 @@ TEST(EnviteJuego, Kept_TakesThePromptOfTheDeclarationAwayButNotItsLine) {
             "Jugador 4: TJue1\r\n"
             "Pulse enter para continuar\r\n"
             "El juegoAna: Envi1\r\n");
-  EXPECT_EQ(m.t.Fase, 10);
+  EXPECT_EQ(m.t.Fase, Fase::RespuestaJuego);
   m.Juega(EnviteJuego, {/*4*/ 0, 0, 0});
   EXPECT_EQ(m.Texto(),
             "Ana: TJue1\r\n"
@@ -235,9 +236,9 @@ TEST(EnviteJuego, Kept_TakesThePromptOfTheDeclarationAwayButNotItsLine) {
             "Jugador 4: NQui1\r\n"
             "la pareja 1 se saca 1 piedra\r\n"
             "Pulse enter para contar");
-  EXPECT_EQ(m.t.Fase, 13);
-  EXPECT_EQ(m.t.Declaracion[4], 1);
-  EXPECT_EQ(m.t.Apuesta[4], -2);
+  EXPECT_EQ(m.t.Fase, Fase::Cuenta);
+  EXPECT_EQ(m.t.Declaracion[NumeroLance::Juego], 1);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Juego], -2);
 }
 
 }  // namespace

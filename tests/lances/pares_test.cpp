@@ -136,7 +136,7 @@ struct DeclaraPares : testing::Test {
   Mesa m;
 
   DeclaraPares() {
-    m.t.Fase = 5;
+    m.t.Fase = Fase::DeclaracionPares;
     m.t.Text2 = u"lo de antes\r\n";
     m.t.OrdenPares = {9, 9, 9, 9};
     DarMano(m.t, 1, "R R 5 4");
@@ -156,9 +156,10 @@ TEST_F(DeclaraPares, GoesOnToTheBetsWhenBothParejasHavePares) {
             "Jugador 4: TPar1\r\n"
             "Pulse enter para continuar");
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{"yesno[¿Tiene pares?]:  (icon, default yes)"}));
-  EXPECT_EQ(m.t.Fase, 6);
+  EXPECT_EQ(m.port.Preguntas, std::vector<Pregunta>{Pregunta::Pares});
+  EXPECT_EQ(m.t.Fase, Fase::Pares);
   EXPECT_EQ(m.t.OrdenPares, (PorAsiento{1, 0, 0, 2}));
-  EXPECT_EQ(m.t.Apuesta[3], 0);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], 0);
 }
 
 TEST_F(DeclaraPares, SkipsTheBetsWhenOnlyOneParejaHasPares) {
@@ -173,8 +174,8 @@ TEST_F(DeclaraPares, SkipsTheBetsWhenOnlyOneParejaHasPares) {
             "Jugador 4: NPar1\r\n"
             "Una de las dos parejas no tiene pares\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Fase, 8);
-  EXPECT_EQ(m.t.Apuesta[3], 0);
+  EXPECT_EQ(m.t.Fase, Fase::DeclaracionJuego);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], 0);
   EXPECT_EQ(m.t.OrdenPares, (PorAsiento{1, 0, 2, 0}));
 }
 
@@ -189,8 +190,8 @@ TEST_F(DeclaraPares, SkipsTheBetsWhenOnlyTheOpponentsHavePares) {
             "Jugador 4: TPar1\r\n"
             "Una de las dos parejas no tiene pares\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(m.t.Fase, 8);
-  EXPECT_EQ(m.t.Apuesta[3], 0);
+  EXPECT_EQ(m.t.Fase, Fase::DeclaracionJuego);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], 0);
   EXPECT_EQ(m.t.OrdenPares, (PorAsiento{0, 0, 0, 1}));
 }
 
@@ -206,8 +207,8 @@ TEST_F(DeclaraPares, PaysNoParesWhenNobodyHasThem) {
             "Ninguna de las dos parejas tiene pares\r\n"
             "Pulse enter para continuar");
   EXPECT_EQ(m.port.TakeEvents(), (Sucesos{"yesno[¿Tiene pares?]:  (icon, default no)"}));
-  EXPECT_EQ(m.t.Fase, 8);
-  EXPECT_EQ(m.t.Apuesta[3], -2);
+  EXPECT_EQ(m.t.Fase, Fase::DeclaracionJuego);
+  EXPECT_EQ(m.t.Apuesta[NumeroLance::Pares], -2);
   EXPECT_EQ(m.t.OrdenPares, (PorAsiento{0, 0, 0, 0}));
 }
 
@@ -220,7 +221,7 @@ TEST_F(DeclaraPares, CorrectsTheHumanWhoDeniesAPair) {
                      "pasar...)"}));
   EXPECT_TRUE(m.Texto().starts_with("Ana: TPar1\r\n"));
   EXPECT_EQ(m.t.OrdenPares, (PorAsiento{1, 0, 0, 2}));
-  EXPECT_EQ(m.t.Fase, 6);
+  EXPECT_EQ(m.t.Fase, Fase::Pares);
 }
 
 TEST_F(DeclaraPares, CorrectsTheHumanWhoClaimsAPair) {
@@ -253,10 +254,10 @@ TEST_F(DeclaraPares, FindsBothParejasWhoeverIsMano) {
   for (const PorAsiento& orden :
        {PorAsiento{2, 3, 4, 1}, PorAsiento{3, 4, 1, 2}, PorAsiento{4, 1, 2, 3}}) {
     m.Hablan(orden);
-    m.t.Fase = 5;
+    m.t.Fase = Fase::DeclaracionPares;
     m.port.Yes();
     Declaran();
-    EXPECT_EQ(m.t.Fase, 6) << orden[1];
+    EXPECT_EQ(m.t.Fase, Fase::Pares) << orden[1];
   }
 }
 
@@ -274,7 +275,7 @@ TEST_F(DeclaraPares, SpeaksWithTwoDrawsForEveryComputerSeat) {
 TEST_F(DeclaraPares, LeavesTheDeclarationOfTheCountAlone) {
   m.port.Yes();
   Declaran();
-  EXPECT_EQ(m.t.Declaracion[3], -2);
+  EXPECT_EQ(m.t.Declaracion[NumeroLance::Pares], -2);
 }
 
 }  // namespace

@@ -26,7 +26,8 @@ int Press(Table& t, Rnd& rnd, ScriptedPort& port, Integer tecla, Integer mayuscu
 }
 
 // Enter in a phase, with the answers of `port` and exactly these draws.
-void PressEnter(Table& t, int fase, ScriptedPort& port, std::initializer_list<float> sacadas = {}) {
+void PressEnter(Table& t, Fase fase, ScriptedPort& port,
+                std::initializer_list<float> sacadas = {}) {
   t.Fase = fase;
   DrawList rnd{sacadas};
   EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
@@ -75,11 +76,11 @@ TEST(Text1_KeyDown, LeavesOtherKeysToTheInputLine) {
 TEST(Text1_KeyDown, TakesEnterWithAnyShiftState) {
   for (const int mayusculas : {0, 1, 2, 3, 4}) {
     Table t = MesaDePrueba();
-    t.Fase = 13;
+    t.Fase = Fase::Cuenta;
     DrawList rnd{};
     ScriptedPort port;
     EXPECT_EQ(Press(t, rnd, port, TeclaEnter, mayusculas), 0);
-    EXPECT_EQ(t.Fase, -1);
+    EXPECT_EQ(t.Fase, Fase::EmpezarMano);
   }
 }
 
@@ -87,7 +88,7 @@ TEST(Text1_KeyDown, UsesUpAnEnterThatDoesNothing) {
   for (const int fase : {-2, 14, 100, 32767, -32768}) {
     Table t = MesaDePrueba();
     t.SeguirLance = 2;
-    t.Fase = fase;
+    t.Fase = static_cast<Fase>(fase);
     const Table antes = t;
     DrawList rnd{};
     ScriptedPort port;
@@ -98,7 +99,7 @@ TEST(Text1_KeyDown, UsesUpAnEnterThatDoesNothing) {
 }
 
 // A hand given up in a phase: the next one starts, and the one before is not counted.
-void ExpectAbandoned(int fase) {
+void ExpectAbandoned(Fase fase) {
   Table t = MesaDePrueba();
   t.Fase = fase;
   t.Piedras = {3, 4};
@@ -106,15 +107,15 @@ void ExpectAbandoned(int fase) {
   Rnd rnd;
   ScriptedPort port;
   EXPECT_EQ(Press(t, rnd, port, TeclaQ), 0);
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(t.OrdenAsiento, (Array<Integer, 1, 4>{2, 3, 4, 1}));
   EXPECT_EQ(t.Piedras, (Array<Integer, 0, 1>{3, 4}));
-  EXPECT_EQ(t.Apuesta[1], 0);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Grande], 0);
   EXPECT_TRUE(t.Text2.ends_with(u"pulse Enter para empezar"));
 }
 
 TEST(Text1_KeyDown, AbandonsTheHandAtAnyPhaseOnQ) {
-  for (int fase = -1; fase <= 13; ++fase) ExpectAbandoned(fase);
+  for (int fase = -1; fase <= 13; ++fase) ExpectAbandoned(static_cast<Fase>(fase));
 }
 
 TEST(Text1_KeyDown, TakesQWithAnyShiftState) {
@@ -129,7 +130,7 @@ TEST(Text1_KeyDown, TakesQWithAnyShiftState) {
 
 TEST(Text1_KeyDown, LaysAllHandsOpenOnCtrlShift0) {
   Table t = MesaDePrueba();
-  t.Fase = 5;
+  t.Fase = Fase::DeclaracionPares;
   Table esperada = t;
   MostrarManos(esperada, TodosLosAsientos);
   DrawList rnd{};
@@ -161,11 +162,11 @@ TEST(Text1_KeyDown, KnowsTheKeysByTheirCodes) {
 
 TEST(Text1_KeyDown, StartsANewHandInPhaseMinus1) {
   Table t = MesaDePrueba();
-  t.Fase = -1;
+  t.Fase = Fase::EmpezarMano;
   Rnd rnd;
   ScriptedPort port;
   EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(rnd.Draws(), 80002U);
   EXPECT_TRUE(t.Text2.starts_with(u"Sus cartas son\r\n"));
 }
@@ -174,17 +175,17 @@ TEST(Text1_KeyDown, AsksForMusInPhase0) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.No();
-  PressEnter(t, 0, port);
+  PressEnter(t, Fase::Mus, port);
   EXPECT_EQ(port.TakeEvents(), (Sucesos{"yesno[¿mus?]:  (icon, default yes)"}));
-  EXPECT_EQ(t.Fase, 1);
+  EXPECT_EQ(t.Fase, Fase::Grande);
 }
 
 TEST(Text1_KeyDown, AsksForParesInPhase5) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.No();
-  PressEnter(t, 5, port, {0, 0, 0, 0, 0, 0});
-  EXPECT_EQ(t.Fase, 8);
+  PressEnter(t, Fase::DeclaracionPares, port, {0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(t.Fase, Fase::DeclaracionJuego);
   EXPECT_EQ(Utf8(t.Text2), std::string{"Ana: NPar1\r\nJugador 2: NPar1\r\nJugador 3: NPar1\r\n"
                                        "Jugador 4: NPar1\r\n"
                                        "Ninguna de las dos parejas tiene pares\r\n"} +
@@ -195,8 +196,8 @@ TEST(Text1_KeyDown, AsksForJuegoInPhase8) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.No();
-  PressEnter(t, 8, port, {0, 0, 0, 0, 0, 0});
-  EXPECT_EQ(t.Fase, 11);
+  PressEnter(t, Fase::DeclaracionJuego, port, {0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(t.Fase, Fase::Punto);
   EXPECT_EQ(Utf8(t.Text2), std::string{"Ana: NJue1\r\nJugador 2: NJue1\r\nJugador 3: NJue1\r\n"
                                        "Jugador 4: NJue1\r\n"
                                        "Ninguna de las dos parejas tiene Juego\r\n"} +
@@ -207,8 +208,8 @@ TEST(Text1_KeyDown, CountsTheHandInPhase13) {
   Table t = MesaDePrueba();
   t.SeJuegaPunto = true;
   ScriptedPort port;
-  PressEnter(t, 13, port);
-  EXPECT_EQ(t.Fase, -1);
+  PressEnter(t, Fase::Cuenta, port);
+  EXPECT_EQ(t.Fase, Fase::EmpezarMano);
   EXPECT_TRUE(t.Text2.ends_with(u"Pulse enter para empezar una nueva mano"));
 }
 
@@ -220,9 +221,9 @@ TEST(Text1_KeyDown, OpensTheGrandeInPhase1) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(0);
-  PressEnter(t, 1, port, {0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0});
+  PressEnter(t, Fase::Grande, port, {0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0, 0, NoEnvida, 0, 0});
   EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[La grande]: mode -1"}));
-  EXPECT_EQ(t.Fase, 3);
+  EXPECT_EQ(t.Fase, Fase::Pequena);
   EXPECT_TRUE(Utf8(t.Text2).ends_with("la grande queda en paso\r\nPulse enter para continuar\r\n"));
 }
 
@@ -230,17 +231,17 @@ TEST(Text1_KeyDown, OpensThePequenaInPhase3) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(0);
-  PressEnter(t, 3, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
+  PressEnter(t, Fase::Pequena, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
   EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[La Pequeña]: mode -1"}));
-  EXPECT_EQ(t.Fase, 5);
+  EXPECT_EQ(t.Fase, Fase::DeclaracionPares);
 }
 
 TEST(Text1_KeyDown, OpensTheParesInPhase6) {
   Table t = MesaDePrueba();
   t.SeguirLance = 2;  // the pares start without a bet, whatever was left before
   ScriptedPort port;
-  PressEnter(t, 6, port);
-  EXPECT_EQ(t.Fase, 8);
+  PressEnter(t, Fase::Pares, port);
+  EXPECT_EQ(t.Fase, Fase::DeclaracionJuego);
   EXPECT_TRUE(
       Utf8(t.Text2).ends_with("Los pares quedan en paso\r\nPulse enter para continuar\r\n"));
 }
@@ -248,8 +249,8 @@ TEST(Text1_KeyDown, OpensTheParesInPhase6) {
 TEST(Text1_KeyDown, OpensTheJuegoInPhase9) {
   Table t = MesaDePrueba();
   ScriptedPort port;
-  PressEnter(t, 9, port);
-  EXPECT_EQ(t.Fase, 13);
+  PressEnter(t, Fase::Juego, port);
+  EXPECT_EQ(t.Fase, Fase::Cuenta);
   EXPECT_EQ(Utf8(t.Text2), "\r\nEl juego\r\nEl juego queda en paso\r\nPulse enter para contar");
 }
 
@@ -257,14 +258,14 @@ TEST(Text1_KeyDown, OpensThePuntoInPhase11) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(0);
-  PressEnter(t, 11, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
+  PressEnter(t, Fase::Punto, port, {0, 0, 0, 0, 0, 0, 0, 0, 0});
   EXPECT_EQ(port.TakeEvents(), (Sucesos{"dialog[El Punto]: mode -1"}));
-  EXPECT_EQ(t.Fase, 13);
+  EXPECT_EQ(t.Fase, Fase::Cuenta);
 }
 
 // Opening steps that leave a bet: it is answered on the same Enter. The human's órdago is refused.
 
-void ExpectRefused(const Table& t, int fase, const std::string& final) {
+void ExpectRefused(const Table& t, Fase fase, const std::string& final) {
   EXPECT_EQ(t.Fase, fase);
   EXPECT_EQ(t.SeguirLance, 0);
   EXPECT_EQ(t.Piedras, (Array<Integer, 0, 1>{0, 1}));
@@ -275,18 +276,18 @@ TEST(Text1_KeyDown, HasABetToTheGrandeAnsweredAtOnce) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(3);
-  PressEnter(t, 1, port, {0, 0, 0, 0});
-  ExpectRefused(t, 3, Continuar);
-  EXPECT_EQ(t.Apuesta[1], ApuestaPagada);
+  PressEnter(t, Fase::Grande, port, {0, 0, 0, 0});
+  ExpectRefused(t, Fase::Pequena, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Grande], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, HasABetToThePequenaAnsweredAtOnce) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(3);
-  PressEnter(t, 3, port, {0, 0, 0, 0});
-  ExpectRefused(t, 5, Continuar);
-  EXPECT_EQ(t.Apuesta[2], ApuestaPagada);
+  PressEnter(t, Fase::Pequena, port, {0, 0, 0, 0});
+  ExpectRefused(t, Fase::DeclaracionPares, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Pequena], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, HasABetToTheParesAnsweredAtOnce) {
@@ -294,9 +295,9 @@ TEST(Text1_KeyDown, HasABetToTheParesAnsweredAtOnce) {
   GivePares(t);
   ScriptedPort port;
   port.Presses(3);
-  PressEnter(t, 6, port, {0, 0});
-  ExpectRefused(t, 8, Continuar);
-  EXPECT_EQ(t.Apuesta[3], ApuestaPagada);
+  PressEnter(t, Fase::Pares, port, {0, 0});
+  ExpectRefused(t, Fase::DeclaracionJuego, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Pares], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, HasABetToTheJuegoAnsweredAtOnce) {
@@ -304,18 +305,18 @@ TEST(Text1_KeyDown, HasABetToTheJuegoAnsweredAtOnce) {
   GiveJuego(t);
   ScriptedPort port;
   port.Presses(3);
-  PressEnter(t, 9, port, {0, 0, 0});
-  ExpectRefused(t, 13, Contar);
-  EXPECT_EQ(t.Apuesta[4], ApuestaPagada);
+  PressEnter(t, Fase::Juego, port, {0, 0, 0});
+  ExpectRefused(t, Fase::Cuenta, Contar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Juego], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, HasABetToThePuntoAnsweredAtOnce) {
   Table t = MesaDePrueba();
   ScriptedPort port;
   port.Presses(3);
-  PressEnter(t, 11, port, {0, 0, 0, 0, 0, 0});
-  ExpectRefused(t, 13, Contar);
-  EXPECT_EQ(t.Apuesta[5], ApuestaPagada);
+  PressEnter(t, Fase::Punto, port, {0, 0, 0, 0, 0, 0});
+  ExpectRefused(t, Fase::Cuenta, Contar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Punto], ApuestaPagada);
 }
 
 // Answer steps by themselves.
@@ -323,43 +324,43 @@ TEST(Text1_KeyDown, HasABetToThePuntoAnsweredAtOnce) {
 TEST(Text1_KeyDown, AnswersTheGrandeInPhase2) {
   Table t = MesaConOrdago();
   ScriptedPort port;
-  PressEnter(t, 2, port, {0, 0, 0, 0});
-  ExpectRefused(t, 3, Continuar);
-  EXPECT_EQ(t.Apuesta[1], ApuestaPagada);
+  PressEnter(t, Fase::RespuestaGrande, port, {0, 0, 0, 0});
+  ExpectRefused(t, Fase::Pequena, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Grande], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, AnswersThePequenaInPhase4) {
   Table t = MesaConOrdago();
   ScriptedPort port;
-  PressEnter(t, 4, port, {0, 0, 0, 0});
-  ExpectRefused(t, 5, Continuar);
-  EXPECT_EQ(t.Apuesta[2], ApuestaPagada);
+  PressEnter(t, Fase::RespuestaPequena, port, {0, 0, 0, 0});
+  ExpectRefused(t, Fase::DeclaracionPares, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Pequena], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, AnswersTheParesInPhase7) {
   Table t = MesaConOrdago();
   GivePares(t);
   ScriptedPort port;
-  PressEnter(t, 7, port, {0, 0});
-  ExpectRefused(t, 8, Continuar);
-  EXPECT_EQ(t.Apuesta[3], ApuestaPagada);
+  PressEnter(t, Fase::RespuestaPares, port, {0, 0});
+  ExpectRefused(t, Fase::DeclaracionJuego, Continuar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Pares], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, AnswersTheJuegoInPhase10) {
   Table t = MesaConOrdago();
   GiveJuego(t);
   ScriptedPort port;
-  PressEnter(t, 10, port, {0, 0, 0});
-  ExpectRefused(t, 13, Contar);
-  EXPECT_EQ(t.Apuesta[4], ApuestaPagada);
+  PressEnter(t, Fase::RespuestaJuego, port, {0, 0, 0});
+  ExpectRefused(t, Fase::Cuenta, Contar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Juego], ApuestaPagada);
 }
 
 TEST(Text1_KeyDown, AnswersThePuntoInPhase12) {
   Table t = MesaConOrdago();
   ScriptedPort port;
-  PressEnter(t, 12, port, {0, 0, 0, 0, 0, 0});
-  ExpectRefused(t, 13, Contar);
-  EXPECT_EQ(t.Apuesta[5], ApuestaPagada);
+  PressEnter(t, Fase::RespuestaPunto, port, {0, 0, 0, 0, 0, 0});
+  ExpectRefused(t, Fase::Cuenta, Contar);
+  EXPECT_EQ(t.Apuesta[NumeroLance::Punto], ApuestaPagada);
 }
 
 // The two ends.
@@ -370,7 +371,7 @@ TEST(Text1_KeyDown, LetsThePlayerLeaveInTheMiddleOfAStep) {
   t.Juegos = {0, 1};
   t.Vacas = {0, 1};
   t.SeJuegaPunto = true;
-  t.Fase = 13;
+  t.Fase = Fase::Cuenta;
   DrawList rnd{};
   ScriptedPort port;
   port.No();
@@ -381,7 +382,7 @@ TEST(Text1_KeyDown, LetsThePlayerLeaveInTheMiddleOfAStep) {
 TEST(Text1_KeyDown, LetsARunTimeErrorThrough) {
   Table t = MesaDePrueba();
   t.UsarExpresiones = false;  // the computer seats have nothing to say
-  t.Fase = 5;
+  t.Fase = Fase::DeclaracionPares;
   DrawList rnd{};
   ScriptedPort port;
   port.No();

@@ -77,7 +77,7 @@ TEST(Form_Load, SetsUpTheTable) {
   EXPECT_EQ(t.PersonajeAsiento, (Array<Integer, 0, 3>{0, 3, 4, 5}));
   EXPECT_EQ(t.OrdenAsiento, (Array<Integer, 1, 4>{1, 2, 3, 4}));
   EXPECT_TRUE(t.ManoPorDecidir);
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(t.PiedrasJuego, 35);
   EXPECT_EQ(t.JuegosVaca, 3);
   EXPECT_EQ(t.VacasPartida, 3);
@@ -98,7 +98,7 @@ TEST(Form_Load, BuildsTheWindowsStateAnew) {
   casa.t.Juegos = {1, 1};
   casa.t.Vacas = {1, 0};
   casa.t.Apuesta = {1, 2, 3, 4, 5};
-  casa.t.Declaracion[5] = 1;
+  casa.t.Declaracion[NumeroLance::Punto] = 1;
   casa.t.ParejaEnvite = 1;
   casa.t.RondasMus = 4;
   casa.t.SeJuegaPunto = true;

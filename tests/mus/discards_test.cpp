@@ -37,15 +37,26 @@ struct Sala {
   }
 };
 
-constexpr auto Pregunta =
+constexpr auto PreguntaDescarte =
     "input[Sustituir cartas]: Sus cartas son: |1. Siete      de oros      |2. Seis       de oros   "
     "   |3. Cinco      de oros      |4. Cuatro     de oros      |introduzca los números de las "
     "cartas que quiere desechar:  (default )";
 
+TEST(DecideDescarte, ThrowsAllButReyesAndTreses) {
+  Table t = MesaDePrueba();
+  DarMano(t, 2, "R 3 C A");
+  EXPECT_EQ(DecideDescarte(t, 2), (Array<bool, 1, 4>{false, false, true, true}));
+  DarMano(t, 2, "S 7 6 5");
+  EXPECT_EQ(DecideDescarte(t, 2), (Array<bool, 1, 4>{true, true, true, true}));
+  DarMano(t, 2, "R R 3 3");
+  EXPECT_EQ(DecideDescarte(t, 2), (Array<bool, 1, 4>{}));
+}
+
 TEST(Descartar, AsksTheHumanWhichCardsToThrow) {
   Sala sala;
   sala.Pasar(u"");
-  EXPECT_EQ(sala.port.TakeEvents().front(), Pregunta);
+  EXPECT_EQ(sala.port.TakeEvents().front(), PreguntaDescarte);
+  EXPECT_EQ(sala.port.Preguntas, std::vector<Pregunta>{Pregunta::Descarte});
 }
 
 TEST(Descartar, ThrowsTheHumansCardsAndDealsNewOnes) {

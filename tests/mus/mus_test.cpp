@@ -42,14 +42,17 @@ TEST(FaseMus, EndsWhenTheHumanRefuses) {
   Table t = MesaDePrueba();
   t.Text2 = u"lo de antes";
   t.ParejaCortaMus = 0;
+  t.Dichos.resize(3);
   DrawList rnd{};
   ScriptedPort port;
   port.No();
   Game g{t, rnd, port};
   FaseMus(g);
   EXPECT_EQ(port.TakeEvents(), (Sucesos{PreguntaMus}));
+  EXPECT_EQ(port.Preguntas, std::vector<Pregunta>{Pregunta::Mus});
+  EXPECT_EQ(t.Dichos.size(), 1U) << "what was said before is forgotten";
   EXPECT_EQ(Utf8(t.Text2), "Ana: NMus1\r\nAna es mano\rPulse enter para continuar");
-  EXPECT_EQ(t.Fase, 1);
+  EXPECT_EQ(t.Fase, Fase::Grande);
   EXPECT_EQ(t.ParejaCortaMus, 1);
   EXPECT_EQ(t.RondasMus, 0);
 }
@@ -99,7 +102,7 @@ TEST(FaseMus, AsksNobodyAfterARefusal) {
   FaseMus(g);
   EXPECT_EQ(Utf8(t.Text2),
             "Ana: QMus1\r\nJugador 2: NMus2\r\nAna es mano\rPulse enter para continuar");
-  EXPECT_EQ(t.Fase, 1);
+  EXPECT_EQ(t.Fase, Fase::Grande);
   EXPECT_EQ(t.ParejaCortaMus, 0);
   EXPECT_EQ(t.OrdenAsiento, (Orden{1, 2, 3, 4}));
 }
@@ -176,7 +179,7 @@ TEST(FaseMus, KeepsTheManoOpenWhileAllWantMus) {
 TEST(FaseMus, PlaysADiscardPassWhenAllWantMus) {
   Table t = MesaDePrueba();
   t.Text2 = u"lo de antes";
-  t.Fase = 0;
+  t.Fase = Fase::Mus;
   t.RondasMus = 2;  // three kings do not cut any more
   for (Seat asiento = 2; asiento <= 4; ++asiento) DarMano(t, asiento, "3 3 3 A");
   for (int i = 1; i <= 40; ++i) t.Baraja[i] = i;
@@ -196,7 +199,7 @@ TEST(FaseMus, PlaysADiscardPassWhenAllWantMus) {
             "El jugador 3 cambia 1 cartas.\r\n"
             "El jugador 4 cambia 1 cartas.\r\n"
             "Pulse enter para continuar");
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(t.RondasMus, 3);
 }
 
@@ -220,7 +223,7 @@ TEST(FaseMus, AsksAgainInTheSameOrderOnTheNextRound) {
   EXPECT_EQ(t.RondasMus, 3);
   EXPECT_EQ(Utf8(t.Text2),
             "Ana: QMus1\r\nJugador 2: NMus1\r\nAna es mano\rPulse enter para continuar");
-  EXPECT_EQ(t.Fase, 1);
+  EXPECT_EQ(t.Fase, Fase::Grande);
 }
 
 // The computer seats' answer: a seat without pares and juego unless told otherwise.

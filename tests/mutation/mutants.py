@@ -6,8 +6,8 @@ from dataclasses import dataclass
 
 import source
 
-FOLDERS = ("base", "cards", "characters", "count", "lances", "match", "mus", "score", "sound", "startup",
-           "table")
+FOLDERS = ("base", "cards", "characters", "count", "lances", "match", "mus", "scene", "score", "sound",
+           "startup", "table")
 
 RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
              "==": ("!=",), "!=": ("==",)}

@@ -16,8 +16,8 @@ import subprocess
 import threading
 import time
 
-RULE_TESTS = ("cards", "mus", "lances", "count", "score", "match", "table", "sound", "startup",
-              "characters", "base")
+RULE_TESTS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
+              "startup", "characters", "base")
 OTHER_TESTS = ("tests_ui_trace", "tests_bad_inputs", "tests_ui_cast", "tests_save_faults")
 # A minute or two long, and about nothing but how a file is saved.
 SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))

@@ -177,6 +177,8 @@ TEST(ComprobarVaca, Kept_ShowsZerosAfterANewMatchHasBeenSetUp) {
   ComprobarVaca(sala.g);
   EXPECT_EQ(sala.port.TakeEvents(), (Sucesos{"box: La pareja 0gana esta vaca.", OfrecenVictoria,
                                              OtraPartida, OtrosJugadores, Reparto, VacaACero}));
+  EXPECT_EQ(sala.port.Preguntas,
+            (std::vector<Pregunta>{Pregunta::OtraPartida, Pregunta::CambiarJugadores}));
   EXPECT_EQ(Utf8(sala.t.Text3), MarcadorACero);
 }
 
@@ -251,7 +253,7 @@ TEST(FinPartida, StartsAnotherMatchWithTheSamePlayers) {
   t.PiedrasJuego = 40;
   t.JuegosVaca = 5;
   t.VacasPartida = 1;
-  t.Fase = 13;
+  t.Fase = Fase::Cuenta;
   t.OrdenAsiento = {3, 4, 1, 2};
   sala.port.Yes().No();
   FinPartida(sala.g, 0);
@@ -263,7 +265,7 @@ TEST(FinPartida, StartsAnotherMatchWithTheSamePlayers) {
   EXPECT_EQ(t.VacasPartida, 1);
   EXPECT_EQ(t.OrdenAsiento, (Array<Integer, 1, 4>{4, 1, 2, 3}));
   EXPECT_FALSE(t.ManoPorDecidir);
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(Utf8(t.Text2), "Sus cartas son\r\n" + Utf8(TextoMano(t)) +
                                "\r\nEl jugador 4 es mano.\r\npulse Enter para empezar");
   EXPECT_EQ(sala.rnd.Draws(), 80002U);
@@ -273,12 +275,12 @@ TEST(GanaJuego, CreditsTheJuegoAndWaitsForANewHand) {
   SalaSinSemilla sala;
   Table& t = sala.t;
   t.Piedras = {30, 12};
-  t.Fase = 2;
+  t.Fase = Fase::RespuestaGrande;
   t.Text2 = u"lo de antes";
   GanaJuego(sala.g, 1);
   EXPECT_EQ(t.Juegos, (Tantos{0, 1}));
   EXPECT_EQ(t.Piedras, (Tantos{0, 0}));
-  EXPECT_EQ(t.Fase, -1);
+  EXPECT_EQ(t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(Utf8(t.Text2), "Pulse enter para empezar una nueva mano");
   EXPECT_EQ(Utf8(t.Text3), "Piedras: 0 / 0;    juegos: 1 / 0;    Vacas: 0 / 0");
   EXPECT_EQ(sala.port.TakeEvents(), Sucesos{});
@@ -302,7 +304,7 @@ TEST(GanaJuego, Kept_DealsOnceMoreAfterAMatchThatWentOn) {
   sala.t.Vacas = {1, 0};
   sala.port.Yes().No();
   GanaJuego(sala.g, 0);
-  EXPECT_EQ(sala.t.Fase, -1);
+  EXPECT_EQ(sala.t.Fase, Fase::EmpezarMano);
   EXPECT_EQ(Utf8(sala.t.Text2), "Pulse enter para empezar una nueva mano");
   EXPECT_EQ(Utf8(sala.t.Text3), MarcadorACero);
 }

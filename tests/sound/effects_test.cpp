@@ -65,7 +65,7 @@ TEST(SonidoCartas, PlaysNothingElseButSetsTheCount) {
 TEST(SonidoDescartes, StartsWithTheFirstSeat) {
   Sala sala;
   sala.t.SonidoActual = SonidoReparto;
-  SonidoDescartes(sala.g, -1, 1, 2, 3, 4, 3);
+  SonidoDescartes(sala.g, {1, 2, 3, 4}, 3);
   EXPECT_EQ(sala.port.TakeEvents(),
             (Sucesos{"sound: Son_DaUnaCarta.wav x3 balance 0 volume -700"}));
   EXPECT_EQ(sala.t.SonidoActual, 0);
@@ -81,14 +81,14 @@ TEST(SonidoDescartes, PlacesEverySeatAtItsSideOfTheTable) {
                        "sound: Son_DaUnaCarta.wav x1 balance -300 volume -500"};
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     Sala sala;
-    SonidoDescartes(sala.g, -1, 1, 1, 1, 1, asiento);
+    SonidoDescartes(sala.g, {1, 1, 1, 1}, asiento);
     EXPECT_EQ(sala.port.TakeEvents(), Sucesos{sitios.at(static_cast<std::size_t>(asiento) - 1)});
   }
 }
 
 TEST(SonidoDescartes, WalksTheSeatsInTurnFromTheMano) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 1, 2, 3, 4, 3);
+  SonidoDescartes(sala.g, {1, 2, 3, 4}, 3);
   sala.port.TakeEvents();
   EXPECT_EQ(sala.Termina(), (Sucesos{"sound: Son_DaUnaCarta.wav x4 balance -300 volume -500"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"sound: Son_DaUnaCarta.wav x1 balance 0 volume -320"}));
@@ -101,7 +101,7 @@ TEST(SonidoDescartes, WalksTheSeatsInTurnFromTheMano) {
 
 TEST(SonidoDescartes, SkipsSeatsThatChangedNoCards) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 4, 0, 0, 2, 1);
+  SonidoDescartes(sala.g, {4, 0, 0, 2}, 1);
   EXPECT_EQ(sala.port.TakeEvents(),
             (Sucesos{"sound: Son_DaUnaCarta.wav x4 balance 0 volume -320"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"sound: Son_DaUnaCarta.wav x2 balance -300 volume -500"}));
@@ -110,7 +110,7 @@ TEST(SonidoDescartes, SkipsSeatsThatChangedNoCards) {
 
 TEST(SonidoDescartes, StaysSilentAfterTheHumanWhenNobodyElseChanges) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 3, 0, 0, 0, 1);
+  SonidoDescartes(sala.g, {3, 0, 0, 0}, 1);
   EXPECT_EQ(sala.port.TakeEvents(),
             (Sucesos{"sound: Son_DaUnaCarta.wav x3 balance 0 volume -320"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"stop"}));
@@ -118,7 +118,7 @@ TEST(SonidoDescartes, StaysSilentAfterTheHumanWhenNobodyElseChanges) {
 
 TEST(SonidoDescartes, ReachesALonelyHumanAfterTheMano) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 2, 0, 0, 0, 2);
+  SonidoDescartes(sala.g, {2, 0, 0, 0}, 2);
   sala.port.TakeEvents();
   EXPECT_EQ(sala.Termina(), (Sucesos{"sound: Son_DaUnaCarta.wav x2 balance 0 volume -320"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"stop"}));
@@ -126,7 +126,7 @@ TEST(SonidoDescartes, ReachesALonelyHumanAfterTheMano) {
 
 TEST(SonidoDescartes, Kept_OpensTheFileZeroTimesForAManoThatChangedNothing) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 0, 0, 0, 0, 2);
+  SonidoDescartes(sala.g, {0, 0, 0, 0}, 2);
   EXPECT_EQ(sala.port.TakeEvents(),
             (Sucesos{"sound: Son_DaUnaCarta.wav x0 balance 300 volume -500"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"stop"}));
@@ -134,7 +134,7 @@ TEST(SonidoDescartes, Kept_OpensTheFileZeroTimesForAManoThatChangedNothing) {
 
 TEST(SonidoDescartes, Kept_RunsTheStepAgainWhenTheSequenceIsOver) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 1, 1, 1, 1, 1);
+  SonidoDescartes(sala.g, {1, 1, 1, 1}, 1);
   sala.port.TakeEvents();
   for (int i = 0; i < 4; ++i) sala.Termina();
   EXPECT_EQ(sala.t.SonidosDados, 5);
@@ -145,9 +145,9 @@ TEST(SonidoDescartes, Kept_RunsTheStepAgainWhenTheSequenceIsOver) {
 
 TEST(SonidoDescartes, StartsAnewInTheMiddleOfASequence) {
   Sala sala;
-  SonidoDescartes(sala.g, -1, 1, 1, 1, 1, 1);
+  SonidoDescartes(sala.g, {1, 1, 1, 1}, 1);
   sala.Termina();
-  SonidoDescartes(sala.g, -1, 4, 3, 2, 1, 4);
+  SonidoDescartes(sala.g, {4, 3, 2, 1}, 4);
   EXPECT_EQ(sala.port.TakeEvents(),
             (Sucesos{"sound: Son_DaUnaCarta.wav x1 balance -300 volume -500"}));
   EXPECT_EQ(sala.Termina(), (Sucesos{"sound: Son_DaUnaCarta.wav x4 balance 0 volume -320"}));

@@ -9,10 +9,12 @@ class QuietPort : public Port {
   int Boxes = 0;
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override { ++Boxes; }
-  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& /*pregunta*/) override { return false; }
-  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
-                          std::u16string_view /*titulo*/,
-                          std::u16string_view /*porDefecto*/) override {
+  bool YesNoBox(const Table& /*t*/, Pregunta /*sobre*/,
+                const YesNoQuestion& /*pregunta*/) override {
+    return false;
+  }
+  std::u16string InputBox(const Table& /*t*/, Pregunta /*sobre*/,
+                          const InputQuestion& /*pregunta*/) override {
     return {};
   }
   void ShowDialog(const Table& /*t*/, Dialog& /*dialogo*/) override {}

@@ -48,22 +48,25 @@ void ScriptedPort::MsgBox(const Table& /*t*/, std::u16string_view texto) {
   sucesos_.push_back("box: " + Line(texto));
 }
 
-bool ScriptedPort::YesNoBox(const Table& /*t*/, const YesNoQuestion& pregunta) {
+bool ScriptedPort::YesNoBox(const Table& /*t*/, Pregunta sobre, const YesNoQuestion& pregunta) {
+  Preguntas.push_back(sobre);
   sucesos_.push_back("yesno[" + Line(pregunta.Titulo) + "]: " + Line(pregunta.Texto) + " (" +
                      (pregunta.ConIcono ? "icon" : "no icon") + ", default " +
                      (pregunta.PorDefecto ? "yes" : "no") + ")");
   return Tomar(respuestas_, false, sucesos_.back());
 }
 
-std::u16string ScriptedPort::InputBox(const Table& /*t*/, std::u16string_view texto,
-                                      std::u16string_view titulo, std::u16string_view porDefecto) {
-  sucesos_.push_back("input[" + Line(titulo) + "]: " + Line(texto) + " (default " +
-                     Line(porDefecto) + ")");
+std::u16string ScriptedPort::InputBox(const Table& /*t*/, Pregunta sobre,
+                                      const InputQuestion& pregunta) {
+  Preguntas.push_back(sobre);
+  sucesos_.push_back("input[" + Line(pregunta.Titulo) + "]: " + Line(pregunta.Texto) +
+                     " (default " + Line(pregunta.PorDefecto) + ")");
   return Tomar(textos_, std::u16string{}, sucesos_.back());
 }
 
 void ScriptedPort::ShowDialog(const Table& /*t*/, Dialog& dialogo) {
-  sucesos_.push_back("dialog[" + Line(dialogo.Caption) + "]: mode " + std::to_string(dialogo.Modo));
+  sucesos_.push_back("dialog[" + Line(dialogo.Caption) + "]: mode " +
+                     std::to_string(static_cast<int>(dialogo.Modo)));
   const int boton = Tomar(botones_, 0, sucesos_.back());
   EXPECT_TRUE(dialogo.Visible);
   EXPECT_TRUE(dialogo.Command1[boton].Enabled) << "button " << boton << " is not offered";

@@ -48,8 +48,8 @@ Table MesaDePrueba() {
     t.OrdenAsiento[asiento] = asiento;
     DarMano(t, asiento, "7 6 5 4");
   }
-  t.Declaracion[3] = SinDeclaracion;
-  t.Declaracion[4] = SinDeclaracion;
+  t.Declaracion[NumeroLance::Pares] = SinDeclaracion;
+  t.Declaracion[NumeroLance::Juego] = SinDeclaracion;
   t.PiedrasJuego = 35;
   t.JuegosVaca = 3;
   t.VacasPartida = 3;

@@ -3,13 +3,18 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "base/endings.h"
 #include "tests/support/tables.h"
 
 namespace tasca::test {
 namespace {
 
-Dialog Abierto(int modo) {
+constexpr std::array CadaModo{ModoDialogo::Apertura, ModoDialogo::Respuesta,
+                              ModoDialogo::RespuestaOrdago};
+
+Dialog Abierto(ModoDialogo modo) {
   Dialog dialogo;
   dialogo.Modo = modo;
   Form_Activate(dialogo);
@@ -43,48 +48,49 @@ TEST(Dialog, IsDesignedWithFourButtonsAndACaptionThatNobodySees) {
 }
 
 TEST(Form_Activate, OffersEnvidoAndBothRaisesInTheOpening) {
-  const Dialog dialogo = Abierto(-1);
+  const Dialog dialogo = Abierto(ModoDialogo::Apertura);
   EXPECT_TRUE(dialogo.Visible);
   EXPECT_EQ(Rotulo(dialogo, 1), "Envido");
   EsperarSubidas(dialogo, true);
 }
 
 TEST(Form_Activate, OffersQuieroAndBothRaisesAgainstStones) {
-  const Dialog dialogo = Abierto(0);
+  const Dialog dialogo = Abierto(ModoDialogo::Respuesta);
   EXPECT_EQ(Rotulo(dialogo, 1), "Quiero");
   EsperarSubidas(dialogo, true);
 }
 
 TEST(Form_Activate, OffersOnlyPasoAndQuieroAgainstAnOrdago) {
-  const Dialog dialogo = Abierto(-2);
+  const Dialog dialogo = Abierto(ModoDialogo::RespuestaOrdago);
   EXPECT_EQ(Rotulo(dialogo, 1), "Quiero");
   EsperarSubidas(dialogo, false);
 }
 
 TEST(Form_Activate, Kept_SaysPasoAlsoWhereItMeansNoQuiero) {
-  for (const int modo : {-1, 0, -2}) EXPECT_EQ(Rotulo(Abierto(modo), 0), "Paso") << modo;
+  for (const ModoDialogo modo : CadaModo)
+    EXPECT_EQ(Rotulo(Abierto(modo), 0), "Paso") << static_cast<int>(modo);
 }
 
 TEST(Form_Activate, LeavesTheCaptionsOfTheRaisesAlone) {
-  for (const int modo : {-1, 0, -2}) {
-    EXPECT_EQ(Rotulo(Abierto(modo), 2), "Envido Más") << modo;
-    EXPECT_EQ(Rotulo(Abierto(modo), 3), "Órdago") << modo;
+  for (const ModoDialogo modo : CadaModo) {
+    EXPECT_EQ(Rotulo(Abierto(modo), 2), "Envido Más") << static_cast<int>(modo);
+    EXPECT_EQ(Rotulo(Abierto(modo), 3), "Órdago") << static_cast<int>(modo);
   }
 }
 
 TEST(Form_Activate, PutsTheFocusOnPasoEveryTime) {
-  for (const int modo : {-1, 0, -2}) {
+  for (const ModoDialogo modo : CadaModo) {
     Dialog dialogo;
     dialogo.Modo = modo;
     dialogo.Foco = 3;
     Form_Activate(dialogo);
-    EXPECT_EQ(dialogo.Foco, 0) << modo;
+    EXPECT_EQ(dialogo.Foco, 0) << static_cast<int>(modo);
   }
 }
 
 TEST(Form_Activate, BringsTheRaisesBackAfterAnOrdago) {
-  for (const int modo : {-1, 0}) {
-    Dialog dialogo = Abierto(-2);
+  for (const ModoDialogo modo : {ModoDialogo::Apertura, ModoDialogo::Respuesta}) {
+    Dialog dialogo = Abierto(ModoDialogo::RespuestaOrdago);
     dialogo.Modo = modo;
     Form_Activate(dialogo);
     EsperarSubidas(dialogo, true);
@@ -92,31 +98,32 @@ TEST(Form_Activate, BringsTheRaisesBackAfterAnOrdago) {
 }
 
 TEST(Form_Activate, LeavesTheCaptionAsItStandsInAnyOtherMode) {
-  for (const int modo : {1, -3, 7}) {
-    Dialog dialogo = Abierto(-2);
+  for (const int numero : {1, -3, 7}) {
+    const auto modo = static_cast<ModoDialogo>(numero);
+    Dialog dialogo = Abierto(ModoDialogo::RespuestaOrdago);
     dialogo.Modo = modo;
     Form_Activate(dialogo);
-    EXPECT_EQ(Rotulo(dialogo, 1), "Quiero") << modo;
+    EXPECT_EQ(Rotulo(dialogo, 1), "Quiero") << static_cast<int>(modo);
     EsperarSubidas(dialogo, true);
 
-    EXPECT_EQ(Rotulo(Abierto(modo), 1), "Envido") << modo;
+    EXPECT_EQ(Rotulo(Abierto(modo), 1), "Envido") << static_cast<int>(modo);
   }
 }
 
 TEST(Form_Activate, TouchesNeitherModoNorResultadoNorTheCaption) {
   Dialog dialogo;
   dialogo.Caption = u"La grande";
-  dialogo.Modo = -2;
+  dialogo.Modo = ModoDialogo::RespuestaOrdago;
   dialogo.Resultado = 3;
   Form_Activate(dialogo);
   EXPECT_EQ(Utf8(dialogo.Caption), "La grande");
-  EXPECT_EQ(dialogo.Modo, -2);
+  EXPECT_EQ(dialogo.Modo, ModoDialogo::RespuestaOrdago);
   EXPECT_EQ(dialogo.Resultado, 3);
 }
 
 TEST(Command1_Click, NotesTheButtonAndHidesTheForm) {
   for (const int indice : {0, 1, 2, 3}) {
-    Dialog dialogo = Abierto(-1);
+    Dialog dialogo = Abierto(ModoDialogo::Apertura);
     Command1_Click(dialogo, indice);
     EXPECT_EQ(dialogo.Resultado, indice);
     EXPECT_FALSE(dialogo.Visible);
@@ -124,9 +131,9 @@ TEST(Command1_Click, NotesTheButtonAndHidesTheForm) {
 }
 
 TEST(Command1_Click, LeavesModoAlone) {
-  Dialog dialogo = Abierto(0);
+  Dialog dialogo = Abierto(ModoDialogo::Respuesta);
   Command1_Click(dialogo, 2);
-  EXPECT_EQ(dialogo.Modo, 0);
+  EXPECT_EQ(dialogo.Modo, ModoDialogo::Respuesta);
 }
 
 TEST(Dialog, HasNoFifthButton) {

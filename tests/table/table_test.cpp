@@ -26,12 +26,12 @@ TEST(ParejaContraria, IsTheOther) {
 
 TEST(Table, StartsEmpty) {
   const Table t;
-  EXPECT_EQ(t.Fase, 0);
+  EXPECT_EQ(t.Fase, Fase::Mus);
   EXPECT_EQ(t.SeguirLance, 0);
   EXPECT_FALSE(t.ManoPorDecidir);
   EXPECT_FALSE(t.SeJuegaPunto);
-  EXPECT_EQ(t.Declaracion[3], 0);
-  EXPECT_EQ(t.Declaracion[5], 0);
+  EXPECT_EQ(t.Declaracion[NumeroLance::Pares], 0);
+  EXPECT_EQ(t.Declaracion[NumeroLance::Punto], 0);
   EXPECT_EQ(t.Text1, u"");
   EXPECT_EQ(t.Text2, u"");
   EXPECT_EQ(t.Text3, u"");
@@ -46,14 +46,14 @@ TEST(Table, ChecksTheBoundsOfItsArrays) {
   EXPECT_THROW(t.Baraja[0] = 1, RunTimeError);
   EXPECT_THROW(t.Baraja[41] = 1, RunTimeError);
   EXPECT_THROW(t.Apuesta[6] = 1, RunTimeError);
-  EXPECT_THROW(t.Declaracion[2] = 1, RunTimeError);
+  EXPECT_THROW(t.Declaracion[NumeroLance::Pequena] = 1, RunTimeError);
   EXPECT_THROW(t.Piedras[2] = 1, RunTimeError);
   EXPECT_THROW(t.Personajes[101].Ordaguero = 1, RunTimeError);
   EXPECT_THROW(t.Mensajes[0][1][1] = u"x", RunTimeError);
   EXPECT_THROW(t.PersonajeAsiento[4] = 1, RunTimeError);
   EXPECT_NO_THROW(t.Cartas[0].Numero = 1);
   EXPECT_NO_THROW(t.Cartas[40].Numero = 1);
-  EXPECT_NO_THROW(t.Declaracion[5] = 1);
+  EXPECT_NO_THROW(t.Declaracion[NumeroLance::Punto] = 1);
 }
 
 TEST(Table, KeepsScoresIn16Bits) {
@@ -66,7 +66,7 @@ TEST(Table, KeepsScoresIn16Bits) {
 TEST(Table, BuildsTheWindowsHalfAnewByOneAssignment) {
   Table t = MesaDePrueba();
   const Module1State programa = static_cast<const Module1State&>(t);
-  t.Fase = 7;
+  t.Fase = Fase::RespuestaPares;
   t.Juegos = {1, 1};
   static_cast<Form1State&>(t) = {};
   EXPECT_EQ(static_cast<const Form1State&>(t), Form1State{});
@@ -90,9 +90,9 @@ TEST(Table, NamesReadBackPaddedToTheirField) {
 TEST(Table, Kept_KeepsTheRecordsOfThePuntoFromHandToHand) {
   Table t = MesaDePrueba();
   t.Apuesta = {1, 2, 3, 4, 5};
-  t.Declaracion[3] = 1;
-  t.Declaracion[4] = 1;
-  t.Declaracion[5] = 1;
+  t.Declaracion[NumeroLance::Pares] = 1;
+  t.Declaracion[NumeroLance::Juego] = 1;
+  t.Declaracion[NumeroLance::Punto] = 1;
   Rnd rnd;
   ScriptedPort port;
   Game g{t, rnd, port};

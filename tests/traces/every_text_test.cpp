@@ -59,8 +59,8 @@ TextList List() { return ReadTextList(Partidas / "every_text.txt"); }
 // The sources whose texts a player of the game can see.
 std::vector<fs::path> Sources(const TextList& lista) {
   std::vector<fs::path> fuentes;
-  for (const char* carpeta :
-       {"base", "cards", "characters", "count", "lances", "sound", "startup", "table"}) {
+  for (const char* carpeta : {"base", "cards", "characters", "count", "lances", "match", "mus",
+                              "scene", "score", "sound", "startup", "table"}) {
     for (const fs::directory_entry& fuente : fs::directory_iterator{Raiz / carpeta}) {
       const std::string nombre = fs::path{carpeta} / fuente.path().filename();
       const fs::path clase = fuente.path().extension();

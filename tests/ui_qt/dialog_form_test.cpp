@@ -14,7 +14,7 @@ namespace {
 class DialogWindow : public testing::Test {
  protected:
   // Prepares the dialog for `modo` and opens its window.
-  DialogForm& Open(int modo) {
+  DialogForm& Open(ModoDialogo modo) {
     dialogo_.Caption = u"Los pares";
     dialogo_.Modo = modo;
     Form_Activate(dialogo_);
@@ -43,22 +43,22 @@ class DialogWindow : public testing::Test {
 };
 
 TEST_F(DialogWindow, ShowsTheButtonsOfAnOpening) {
-  EXPECT_EQ(Utf8(Open(ModoApertura).windowTitle()), "Los pares");
+  EXPECT_EQ(Utf8(Open(ModoDialogo::Apertura).windowTitle()), "Los pares");
   EXPECT_EQ(Captions(), "Paso|Envido|Envido Más|Órdago|");
 }
 
 TEST_F(DialogWindow, ShowsTheButtonsOfAnAnswer) {
-  Open(ModoRespuesta);
+  Open(ModoDialogo::Respuesta);
   EXPECT_EQ(Captions(), "Paso|Quiero|Envido Más|Órdago|");
 }
 
 TEST_F(DialogWindow, ShowsOnlyPasoAndQuieroAgainstAnOrdago) {
-  Open(ModoRespuestaOrdago);
+  Open(ModoDialogo::RespuestaOrdago);
   EXPECT_EQ(Captions(), "Paso|Quiero|");
 }
 
 TEST_F(DialogWindow, IsModalAndOfFixedSize) {
-  const DialogForm& ventana = Open(ModoApertura);
+  const DialogForm& ventana = Open(ModoDialogo::Apertura);
   EXPECT_TRUE(ventana.isModal());
   EXPECT_EQ(ventana.minimumSize(), ventana.maximumSize());
   EXPECT_GE(ventana.width(), 294);
@@ -66,7 +66,7 @@ TEST_F(DialogWindow, IsModalAndOfFixedSize) {
 }
 
 TEST_F(DialogWindow, PlacesTheButtonsInTwoRowsOfTwo) {
-  Open(ModoApertura);
+  Open(ModoDialogo::Apertura);
   EXPECT_EQ(Boton(0)->y(), Boton(1)->y());
   EXPECT_EQ(Boton(2)->y(), Boton(3)->y());
   EXPECT_EQ(Boton(0)->x(), Boton(2)->x());
@@ -80,7 +80,7 @@ TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {
   QFont grande = normal;
   grande.setPointSize(40);
   QApplication::setFont(grande);
-  Open(ModoApertura);
+  Open(ModoDialogo::Apertura);
   for (int i = 0; i < 4; ++i) {
     EXPECT_GE(Boton(i)->width(), Boton(i)->sizeHint().width()) << i;
     EXPECT_GE(Boton(i)->height(), Boton(i)->sizeHint().height()) << i;
@@ -90,7 +90,7 @@ TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {
 }
 
 TEST_F(DialogWindow, StartsAtPasoAndAnswersItWithEnter) {
-  DialogForm& ventana = Open(ModoApertura);
+  DialogForm& ventana = Open(ModoDialogo::Apertura);
   EXPECT_TRUE(Boton(0)->hasFocus());
   dialogo_.Resultado = 3;
   Press(&ventana, Qt::Key_Return);
@@ -99,17 +99,17 @@ TEST_F(DialogWindow, StartsAtPasoAndAnswersItWithEnter) {
 }
 
 TEST_F(DialogWindow, StartsAtPasoAgainAfterAnotherAnswer) {
-  Open(ModoApertura);
+  Open(ModoDialogo::Apertura);
   QTest::mouseClick(Boton(3), Qt::LeftButton);
   EXPECT_EQ(dialogo_.Resultado, 3);
-  Open(ModoRespuesta);
+  Open(ModoDialogo::Respuesta);
   EXPECT_TRUE(Boton(0)->hasFocus());
 }
 
 TEST_F(DialogWindow, EnterAndSpacePressTheFocusedButton) {
   for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
     for (int i = 0; i < 4; ++i) {
-      DialogForm& ventana = Open(ModoApertura);
+      DialogForm& ventana = Open(ModoDialogo::Apertura);
       Boton(i)->setFocus();
       Press(&ventana, tecla);
       EXPECT_EQ(dialogo_.Resultado, i);
@@ -119,7 +119,7 @@ TEST_F(DialogWindow, EnterAndSpacePressTheFocusedButton) {
 }
 
 TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {
-  DialogForm& ventana = Open(ModoApertura);
+  DialogForm& ventana = Open(ModoDialogo::Apertura);
   Press(&ventana, Qt::Key_Right);
   EXPECT_TRUE(Boton(1)->hasFocus());
   Press(&ventana, Qt::Key_Down);
@@ -131,7 +131,7 @@ TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {
 }
 
 TEST_F(DialogWindow, ArrowKeysStayOnTheButtonsThatAreLeft) {
-  DialogForm& ventana = Open(ModoRespuestaOrdago);
+  DialogForm& ventana = Open(ModoDialogo::RespuestaOrdago);
   Press(&ventana, Qt::Key_Down);
   EXPECT_TRUE(Boton(0)->hasFocus());
   Press(&ventana, Qt::Key_Right);
@@ -139,7 +139,7 @@ TEST_F(DialogWindow, ArrowKeysStayOnTheButtonsThatAreLeft) {
 }
 
 TEST_F(DialogWindow, TabMovesInTheOrderOfTheAnswers) {
-  DialogForm& ventana = Open(ModoApertura);
+  DialogForm& ventana = Open(ModoDialogo::Apertura);
   for (const int siguiente : {1, 2, 3, 0}) {
     Press(&ventana, Qt::Key_Tab);
     EXPECT_TRUE(Boton(siguiente)->hasFocus()) << siguiente;
@@ -147,7 +147,7 @@ TEST_F(DialogWindow, TabMovesInTheOrderOfTheAnswers) {
 }
 
 TEST_F(DialogWindow, IsNotAnsweredByEscOrItsCloseBox) {
-  DialogForm& ventana = Open(ModoRespuesta);
+  DialogForm& ventana = Open(ModoDialogo::Respuesta);
   dialogo_.Resultado = 2;
   Press(&ventana, Qt::Key_Escape);
   EXPECT_TRUE(ventana.isVisible());

@@ -68,7 +68,7 @@ TEST(QtPort, LeavesTheTableWhenTheProgramEndsDuringAQuestion) {
   Dialog dialogo;
   Form_Activate(dialogo);
   preguntar([&] { port.ShowDialog(t, dialogo); });
-  preguntar([&] { port.YesNoBox(t, {.Titulo = u"¿mus?", .Texto = u""}); });
+  preguntar([&] { port.YesNoBox(t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}); });
   EXPECT_EQ(abandonos, 2);
 }
 

@@ -65,7 +65,7 @@ TEST_F(Effects, AHandStartsWithTheDealAlone) {
 }
 
 TEST_F(Effects, ADiscardPassGoesRoundFromTheManoEachSeatAtItsSide) {
-  SonidoDescartes(g_, -1, 1, 2, 3, 4, 3);
+  SonidoDescartes(g_, {1, 2, 3, 4}, 3);
   EXPECT_EQ(Hear(4), (Oidos{"Son_DaUnaCarta.wav -7.0 -7.0", "Son_DaUnaCarta.wav -7.0 -7.0",
                             "Son_DaUnaCarta.wav -7.0 -7.0", "Son_DaUnaCarta.wav -5.0 -8.0",
                             "Son_DaUnaCarta.wav -5.0 -8.0", "Son_DaUnaCarta.wav -5.0 -8.0",
@@ -74,13 +74,13 @@ TEST_F(Effects, ADiscardPassGoesRoundFromTheManoEachSeatAtItsSide) {
 }
 
 TEST_F(Effects, AManoWithoutChangesIsSilentAndTheOthersFollow) {
-  SonidoDescartes(g_, -1, 1, 0, 0, 2, 2);
+  SonidoDescartes(g_, {1, 0, 0, 2}, 2);
   EXPECT_EQ(Hear(3), (Oidos{"Son_DaUnaCarta.wav -5.0 -8.0", "Son_DaUnaCarta.wav -5.0 -8.0",
                             "Son_DaUnaCarta.wav -3.2 -3.2"}));
 }
 
 TEST_F(Effects, OnlyTheHumanChangesAtTheCentre) {
-  SonidoDescartes(g_, -1, 4, 0, 0, 0, 1);
+  SonidoDescartes(g_, {4, 0, 0, 0}, 1);
   EXPECT_EQ(Hear(1), Oidos(4, "Son_DaUnaCarta.wav -3.2 -3.2"));
 }
 
@@ -91,7 +91,7 @@ TEST_F(Effects, AMatchWonIsApplaudedOnce) {
 }
 
 TEST_F(Effects, TheDealAfterADiscardPassIsAsLoudAsTheHumansCards) {
-  SonidoDescartes(g_, -1, 1, 0, 0, 0, 1);
+  SonidoDescartes(g_, {1, 0, 0, 0}, 1);
   AttendEnds(puerto_.Reproductor, std::chrono::seconds{20}, [this] {
     Mp1_FinReproduccion(g_, 0);
     return true;
@@ -102,7 +102,7 @@ TEST_F(Effects, TheDealAfterADiscardPassIsAsLoudAsTheHumansCards) {
 
 TEST_F(Effects, WithoutADeviceTheChainRunsToItsEnd) {
   TakeLoudspeakerAway();
-  SonidoDescartes(g_, -1, 1, 2, 3, 4, 3);
+  SonidoDescartes(g_, {1, 2, 3, 4}, 3);
   EXPECT_EQ(Hear(4), Oidos{});
   EXPECT_EQ(t_.SonidosDados, 5);
 }

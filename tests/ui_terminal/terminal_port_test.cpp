@@ -21,7 +21,7 @@ struct AtTheTable : FakeConsole {
   }
 
   // The button pressed in the dialog, as the protocol shows it.
-  int Bid(std::u16string_view titulo, int modo) {
+  int Bid(std::u16string_view titulo, ModoDialogo modo) {
     Dialog dialogo;
     dialogo.Caption = titulo;
     dialogo.Modo = modo;
@@ -44,28 +44,31 @@ TEST(TerminalMsgBox, PrintsWhatIsNewAndThenItsText) {
 
 TEST(TerminalYesNoBox, AsksWithItsTitleWhenItHasNoText) {
   AtTheTable a{"s\n"};
-  EXPECT_TRUE(a.Puerto.YesNoBox(a.t, {.Titulo = u"¿mus?", .Texto = u""}));
+  EXPECT_TRUE(a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}));
   EXPECT_EQ(a.Take(), "La grande\n¿mus? [S/n] \n");
 }
 
 TEST(TerminalYesNoBox, AsksWithItsTextWhenItHasOne) {
   AtTheTable a{"n\n"};
-  EXPECT_FALSE(a.Puerto.YesNoBox(a.t, {.Titulo = u"Mus", .Texto = u"¿Desea jugar otra partida?"}));
+  EXPECT_FALSE(a.Puerto.YesNoBox(a.t, Pregunta::OtraPartida,
+                                 {.Titulo = u"Mus", .Texto = u"¿Desea jugar otra partida?"}));
   EXPECT_EQ(a.Take(), "La grande\n¿Desea jugar otra partida? [S/n] \n");
 }
 
 TEST(TerminalYesNoBox, TakesTheDefaultForNothingTyped) {
   AtTheTable a{"\n\n"};
-  EXPECT_FALSE(
-      a.Puerto.YesNoBox(a.t, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}));
-  EXPECT_TRUE(
-      a.Puerto.YesNoBox(a.t, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = true}));
+  EXPECT_FALSE(a.Puerto.YesNoBox(a.t, Pregunta::Pares,
+                                 {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}));
+  EXPECT_TRUE(a.Puerto.YesNoBox(a.t, Pregunta::Pares,
+                                {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = true}));
 }
 
 TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
   AtTheTable a{"\n5\n-\n"};
   const auto pregunta = [&a] {
-    return a.Puerto.InputBox(a.t, u"¿Cuántas envida?", u"Envite a grande", u"2");
+    return a.Puerto.InputBox(
+        a.t, Pregunta::Cantidad,
+        {.Titulo = u"Envite a grande", .Texto = u"¿Cuántas envida?", .PorDefecto = u"2"});
   };
   EXPECT_EQ(pregunta(), u"2");
   EXPECT_EQ(a.Take(), "La grande\nEnvite a grande\n¿Cuántas envida? [2; - cancela] \n");
@@ -76,8 +79,10 @@ TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
 TEST(TerminalInputBox, DiscardsNothingWhenNothingIsTyped) {
   AtTheTable a{"\n1 3\n"};
   const auto pregunta = [&a] {
-    return a.Puerto.InputBox(a.t, u"Sus cartas son: \r\n1. Rey\r\ncuáles: ", u"Sustituir cartas",
-                             u"");
+    return a.Puerto.InputBox(a.t, Pregunta::Descarte,
+                             {.Titulo = u"Sustituir cartas",
+                              .Texto = u"Sus cartas son: \r\n1. Rey\r\ncuáles: ",
+                              .PorDefecto = u""});
   };
   EXPECT_EQ(pregunta(), u"");
   EXPECT_EQ(pregunta(), u"1 3");
@@ -89,19 +94,19 @@ TEST(TerminalInputBox, DiscardsNothingWhenNothingIsTyped) {
 
 TEST(TerminalDialog, OffersFourButtonsInAnOpening) {
   AtTheTable a{"3\n"};
-  EXPECT_EQ(a.Bid(u"La grande", ModoApertura), 3);
+  EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 3);
   EXPECT_EQ(a.Take(), "La grande\nLa grande: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \n");
 }
 
 TEST(TerminalDialog, OffersQuieroInAnAnswer) {
   AtTheTable a{"quiero\n"};
-  EXPECT_EQ(a.Bid(u"Envite a pares", ModoRespuesta), 1);
+  EXPECT_EQ(a.Bid(u"Envite a pares", ModoDialogo::Respuesta), 1);
   EXPECT_EQ(a.Take(), "La grande\nEnvite a pares: 0 Paso, 1 Quiero, 2 Envido Más, 3 Órdago [0] \n");
 }
 
 TEST(TerminalDialog, OffersAndTakesOnlyTwoButtonsAgainstAnOrdago) {
   AtTheTable a{"2\nórdago\nenvido\nq\n"};
-  EXPECT_EQ(a.Bid(u"Envite a grande", ModoRespuestaOrdago), 1);
+  EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
   const std::string reparo =
       "Eso no se ofrece. Escriba uno de los números o el comienzo de uno de los nombres.\n";
@@ -111,14 +116,14 @@ TEST(TerminalDialog, OffersAndTakesOnlyTwoButtonsAgainstAnOrdago) {
 
 TEST(TerminalDialog, PassesWhenNothingIsTyped) {
   AtTheTable a{"\n"};
-  EXPECT_EQ(a.Bid(u"La grande", ModoApertura), 0);
+  EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 0);
 }
 
 TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
   AtTheTable a{"?\n1\n"};
   a.t.Text1 = u"Rey de oros";
   a.t.Text3 = u"Piedras: 0 / 0";
-  EXPECT_EQ(a.Bid(u"Envite a grande", ModoRespuestaOrdago), 1);
+  EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
   const std::string mesa = "Rey de oros\nPiedras: 0 / 0\n";
   EXPECT_EQ(a.Take(), "La grande\n" + mesa + pregunta + mesa +
@@ -127,9 +132,12 @@ TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
 
 TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {
   AtTheTable a;
-  EXPECT_THROW(a.Puerto.YesNoBox(a.t, {.Titulo = u"¿mus?", .Texto = u""}), LeaveProgram);
-  EXPECT_THROW(a.Puerto.InputBox(a.t, u"¿Cuántas?", u"Envite", u"2"), LeaveProgram);
-  EXPECT_THROW(a.Bid(u"La grande", ModoApertura), LeaveProgram);
+  EXPECT_THROW(a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}),
+               LeaveProgram);
+  EXPECT_THROW(a.Puerto.InputBox(a.t, Pregunta::Cantidad,
+                                 {.Titulo = u"Envite", .Texto = u"¿Cuántas?", .PorDefecto = u"2"}),
+               LeaveProgram);
+  EXPECT_THROW(a.Bid(u"La grande", ModoDialogo::Apertura), LeaveProgram);
 }
 
 TEST(TerminalPort, RemembersTheWishForOtherCompanionsOnce) {

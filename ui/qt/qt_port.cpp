@@ -33,7 +33,7 @@ void QtPort::MsgBox(const Table& t, std::u16string_view texto) {
   ShowMessage(ventana_, texto);
 }
 
-bool QtPort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+bool QtPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
   ShowTexts(t);
   const std::optional<bool> respuesta = AskYesNo(ventana_, pregunta);
   if (!respuesta) throw LeaveProgram{};
@@ -46,10 +46,9 @@ void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
   if (dialogo.Visible) throw LeaveProgram{};
 }
 
-std::u16string QtPort::InputBox(const Table& t, std::u16string_view texto,
-                                std::u16string_view titulo, std::u16string_view porDefecto) {
+std::u16string QtPort::InputBox(const Table& t, Pregunta /*sobre*/, const InputQuestion& pregunta) {
   ShowTexts(t);
-  return AskText(ventana_, texto, titulo, porDefecto);
+  return AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto);
 }
 
 void QtPort::OpenSound(const Table& t, std::u16string_view archivo) {

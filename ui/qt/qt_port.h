@@ -22,10 +22,9 @@ class QtPort : public Port {
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
   // These two throw LeaveProgram when the program is ended while they wait.
-  bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) override;
+  bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
-  std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
-                          std::u16string_view porDefecto) override;
+  std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override;
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;
   TimeOfDay Now() override;

@@ -66,16 +66,16 @@ void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
   consola_.Line(Join(u"[", texto, u"]"));
 }
 
-bool TerminalPort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+bool TerminalPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
   pantalla_.Show(t);
   return preguntas_.YesNo(pregunta.Texto.empty() ? pregunta.Titulo : pregunta.Texto,
                           pregunta.PorDefecto);
 }
 
-std::u16string TerminalPort::InputBox(const Table& t, std::u16string_view texto,
-                                      std::u16string_view titulo, std::u16string_view porDefecto) {
+std::u16string TerminalPort::InputBox(const Table& t, Pregunta /*sobre*/,
+                                      const InputQuestion& pregunta) {
   pantalla_.Show(t);
-  return preguntas_.TextOrCancel(Join(titulo, CrLf, texto), porDefecto);
+  return preguntas_.TextOrCancel(Join(pregunta.Titulo, CrLf, pregunta.Texto), pregunta.PorDefecto);
 }
 
 void TerminalPort::ShowDialog(const Table& t, Dialog& dialogo) {

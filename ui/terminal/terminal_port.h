@@ -22,9 +22,8 @@ class TerminalPort : public Port {
   bool TakeChangePlayers();
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
-  bool YesNoBox(const Table& t, const YesNoQuestion& pregunta) override;
-  std::u16string InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
-                          std::u16string_view porDefecto) override;
+  bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
+  std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;

@@ -13,6 +13,8 @@ using nlohmann::ordered_json;
 
 int Json(Integer number) { return number; }
 int Json(bool truth) { return truth ? -1 : 0; }
+int Json(Fase fase) { return static_cast<int>(fase); }
+int Json(ModoDialogo modo) { return static_cast<int>(modo); }
 
 template <class T, int Primero, int Ultimo>
 ordered_json Json(const Array<T, Primero, Ultimo>& values) {
@@ -112,12 +114,11 @@ void Events::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
          {"texts", Texts(t)}});
 }
 
-void Events::InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
-                      std::u16string_view porDefecto) {
+void Events::InputBox(const Table& t, const InputQuestion& pregunta) {
   Write({{"event", "inputbox"},
-         {"title", ToUtf8(titulo)},
-         {"text", ToUtf8(texto)},
-         {"default", ToUtf8(porDefecto)},
+         {"title", ToUtf8(pregunta.Titulo)},
+         {"text", ToUtf8(pregunta.Texto)},
+         {"default", ToUtf8(pregunta.PorDefecto)},
          {"texts", Texts(t)}});
 }
 

@@ -23,8 +23,7 @@ class Events {
 
   void MsgBox(const Table& t, std::u16string_view texto);
   void YesNoBox(const Table& t, const YesNoQuestion& pregunta);
-  void InputBox(const Table& t, std::u16string_view texto, std::u16string_view titulo,
-                std::u16string_view porDefecto);
+  void InputBox(const Table& t, const InputQuestion& pregunta);
   void ShowDialog(const Table& t, const Dialog& dialogo);
 
   // The media player opens a file, or stops, with the settings that it has now.

@@ -7,14 +7,14 @@ namespace tasca {
 
 void TracePort::MsgBox(const Table& t, std::u16string_view texto) { events_.MsgBox(t, texto); }
 
-bool TracePort::YesNoBox(const Table& t, const YesNoQuestion& pregunta) {
+bool TracePort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
   events_.YesNoBox(t, pregunta);
   return input_.AnswerYesNo();
 }
 
-std::u16string TracePort::InputBox(const Table& t, std::u16string_view texto,
-                                   std::u16string_view titulo, std::u16string_view porDefecto) {
-  events_.InputBox(t, texto, titulo, porDefecto);
+std::u16string TracePort::InputBox(const Table& t, Pregunta /*sobre*/,
+                                   const InputQuestion& pregunta) {
+  events_.InputBox(t, pregunta);
   return input_.AnswerText();
 }
 
