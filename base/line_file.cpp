@@ -48,11 +48,13 @@ bool LineReader::Next(std::u16string& linea) {
 
 std::string LineReader::RequireBytes(std::u16string_view queEs) {
   std::string bytes;
-  if (!NextBytes(bytes)) {
-    ++linea_;
-    Fail(Join(u"el archivo se acaba y falta ", queEs, u"."));
-  }
+  if (!NextBytes(bytes)) FailAtEnd(queEs);
   return bytes;
+}
+
+void LineReader::FailAtEnd(std::u16string_view queEs) {
+  ++linea_;
+  Fail(Join(u"el archivo se acaba y falta ", queEs, u"."));
 }
 
 std::u16string LineReader::Require(std::u16string_view queEs) {

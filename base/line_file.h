@@ -27,6 +27,8 @@ class LineReader {
   // The next line's bytes, its line end included; false at the end of the file.
   bool NextBytes(std::string& bytes);
   std::string RequireBytes(std::u16string_view queEs);
+  // At the end of the file: throws RunTimeError: "falta " + `queEs`, in the line after the last.
+  [[noreturn]] void FailAtEnd(std::u16string_view queEs);
 
   // Throws RunTimeError that names the file and the line last read.
   [[noreturn]] void Fail(std::u16string_view queHaPasado) const;

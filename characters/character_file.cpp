@@ -1,7 +1,7 @@
 // Reading and writing the character file.
 #include "characters/character_file.h"
 
-#include <algorithm>
+#include <cstdlib>
 
 #include "base/code_page.h"
 #include "base/line_file.h"
@@ -12,52 +12,44 @@
 namespace tasca {
 namespace {
 
-// Where a reader stands: the next phrase goes to (personaje, categoria, hueco).
-struct Lectura {
-  ComparacionEtiquetas Coinciden = nullptr;
-  int Personaje = 0;
-  int Categoria = 1;
-  int Hueco = 0;
-};
-
-void LeerFrase(Table& t, const LineReader& archivo, Lectura& en, std::u16string_view linea) {
-  if (en.Personaje == 0) archivo.Fail(u"hay una frase antes del primer personaje.");
-  t.Mensajes[en.Personaje][en.Categoria][en.Hueco] = Trim(linea);
-  // Kept: a fourth phrase takes the place of the third.
-  en.Hueco = std::min(en.Hueco + 1, HuecosFrase);
+Integer PrimerasCifras(std::u16string_view linea) {
+  return ValorOrdaguero(linea.substr(0, CifrasOrdaguero));
 }
 
-void LeerDatos(Table& t, LineReader& archivo, Lectura& en) {
-  if (en.Personaje == MaximoPersonajes) archivo.Fail(u"hay más de 100 personajes.");
-  Personaje& personaje = t.Personajes[++en.Personaje];
-  personaje.Nombre = Trim(archivo.Require(u"el nombre del personaje"));
-  const std::u16string ordaguero = archivo.Require(u"el valor de ordaguero del personaje");
-  personaje.Ordaguero = ValorOrdaguero(std::u16string_view{ordaguero}.substr(0, CifrasOrdaguero));
-  personaje.Historia = Trim(archivo.Require(u"la historia del personaje"));
-}
-
-// A marker that is none of the known ones only starts the phrases anew.
-// Kept: a new record does not set the kind of phrase, so it keeps the last one until the next
-// marker.
-void LeerMarca(Table& t, LineReader& archivo, Lectura& en, std::u16string_view etiqueta) {
-  en.Hueco = 1;
-  if (en.Coinciden(etiqueta, EtiquetaDatos)) return LeerDatos(t, archivo, en);
-  const int categoria = CategoriaDe(etiqueta, en.Coinciden);
-  if (categoria > 0) en.Categoria = categoria;
-}
-
-int LeerTodo(Table& t, ComparacionEtiquetas coinciden) {
-  LineReader archivo{ArchivoPersonajes(t)};
-  Lectura en{.Coinciden = coinciden};
-  std::u16string linea;
-  while (archivo.Next(linea)) {
-    if (Contains(linea, u">")) {
-      LeerMarca(t, archivo, en, Before(linea, u'>'));
-    } else {
-      LeerFrase(t, archivo, en, linea);
-    }
+// Stores a line into the place that its record and its kind give it.
+void Guardar(Table& t, const LineReader& archivo, const LineasPersonajes& lineas, ClaseLinea clase,
+             std::u16string_view linea) {
+  switch (clase) {
+    case ClaseLinea::Personaje:
+      if (lineas.Personaje() > MaximoPersonajes) archivo.Fail(u"hay más de 100 personajes.");
+      break;
+    case ClaseLinea::Nombre:
+      t.Personajes[lineas.Personaje()].Nombre = Trim(linea);
+      break;
+    case ClaseLinea::Ordaguero:
+      t.Personajes[lineas.Personaje()].Ordaguero = PrimerasCifras(linea);
+      break;
+    case ClaseLinea::Historia:
+      t.Personajes[lineas.Personaje()].Historia = Trim(linea);
+      break;
+    case ClaseLinea::Frase:
+      if (lineas.Personaje() == 0) archivo.Fail(u"hay una frase antes del primer personaje.");
+      t.Mensajes[lineas.Personaje()][lineas.Categoria()][lineas.Hueco()] = Trim(linea);
+      break;
+    case ClaseLinea::Categoria:
+    case ClaseLinea::Desconocida:
+    case ClaseLinea::Ajena:
+      break;
   }
-  return en.Personaje;
+}
+
+int LeerTodo(Table& t, Lector lector) {
+  LineReader archivo{ArchivoPersonajes(t)};
+  LineasPersonajes lineas{lector};
+  std::u16string linea;
+  while (archivo.Next(linea)) Guardar(t, archivo, lineas, lineas.Leer(linea), linea);
+  ExigirCabecera(archivo, lineas);
+  return lineas.Personaje();
 }
 
 // At least three digits, after the sign: 007, -005, 1000.
@@ -67,7 +59,7 @@ std::u16string TextoOrdaguero(int valor) {
   return Join(valor < 0 ? u"-" : u"", std::u16string(ceros, u'0'), cifras);
 }
 
-bool SeEscribe(const FixedText<100>& frase) {
+bool SeEscribe(const FixedText<AnchoFrase>& frase) {
   return !frase.Trimmed().empty() && !Contains(frase.Full(), std::u16string_view{u"\0", 1});
 }
 
@@ -79,7 +71,7 @@ std::u16string TextoPersonaje(const Table& t, int numero) {
   for (int categoria = 1; categoria <= std::ssize(EtiquetasMensaje); ++categoria) {
     texto += Join(EtiquetasMensaje.at(static_cast<std::size_t>(categoria) - 1), u">", CrLf);
     for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
-      const FixedText<100>& frase = t.Mensajes[numero][categoria][hueco];
+      const FixedText<AnchoFrase>& frase = t.Mensajes[numero][categoria][hueco];
       // Kept: a phrase is written with its padding, unlike the name and the story.
       if (SeEscribe(frase)) texto += Join(frase.Full(), CrLf);
     }
@@ -96,18 +88,15 @@ Integer ValorOrdaguero(std::u16string_view texto) {
   return LeadingWhole(texto.substr(0, Bastantes));
 }
 
-int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden) {
-  const auto* const conocida =
-      std::find_if(EtiquetasMensaje.begin(), EtiquetasMensaje.end(),
-                   [=](std::u16string_view otra) { return coinciden(etiqueta, otra); });
-  const auto posicion = static_cast<int>(conocida - EtiquetasMensaje.begin());
-  return conocida == EtiquetasMensaje.end() ? 0 : posicion + 1;
+void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas) {
+  if (const auto falta = lineas.CabeceraPendiente()) {
+    archivo.FailAtEnd(Join(NombreDe(*falta), u" del personaje"));
+  }
 }
 
-void LeerPersonajes(Table& t) { LeerTodo(t, EqualExactly); }
+void LeerPersonajes(Table& t) { LeerTodo(t, Lector::Juego); }
 
-// Kept: the game itself knows the tags only as they are written.
-int LeerPersonajesSinMayusculas(Table& t) { return LeerTodo(t, EqualIgnoringCase); }
+int LeerPersonajesSinMayusculas(Table& t) { return LeerTodo(t, Lector::Editor); }
 
 std::string TextoPersonajes(const Table& t, int cuantos) {
   std::string bytes;

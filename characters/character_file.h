@@ -1,31 +1,15 @@
 #pragma once
 // The character file "Jugadores.dat": a record of lines for every character, then its phrases under
-// one marker line ("QMus>") per kind of phrase.
-#include <array>
+// one marker line ("QMus>") per kind of phrase. characters/record_lines.h knows its format.
 #include <filesystem>
 #include <string>
 #include <string_view>
 
+#include "base/line_file.h"
+#include "characters/record_lines.h"
 #include "table/table.h"
 
 namespace tasca {
-
-// The file tags, by MessageCategory - 1.
-inline constexpr std::array<std::u16string_view, 14> EtiquetasMensaje{
-    u"QMus", u"NMus", u"TPar", u"NPar", u"TJue", u"NJue", u"Paso",
-    u"Envi", u"EnvM", u"Orda", u"NQui", u"SQui", u"Vict", u"Derr"};
-
-// Compares the text of a marker with a tag.
-using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
-
-// The MessageCategory of a tag, 0 when there is none.
-int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden);
-
-// The marker that starts a record.
-inline constexpr std::u16string_view EtiquetaDatos = u"Datos";
-
-// How many characters of the propensity to the órdago are read, and at least written.
-inline constexpr int CifrasOrdaguero = 3;
 
 // The character file of the program's folder.
 std::filesystem::path ArchivoPersonajes(const Table& t);
@@ -33,6 +17,9 @@ std::filesystem::path ArchivoPersonajes(const Table& t);
 // The propensity to the órdago that a text stands for: the whole number that it starts with, or 0.
 // Throws RunTimeError (overflow) outside 16 bits.
 Integer ValorOrdaguero(std::u16string_view texto);
+
+// At the end of the file: throws RunTimeError when it ends within a record's head.
+void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas);
 
 // Reads the whole character file into Personajes and Mensajes. Tags are case-sensitive. What the
 // file does not fill keeps what it held before. Throws RunTimeError for a missing file, a record

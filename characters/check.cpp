@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "base/code_page.h"
@@ -11,7 +12,6 @@
 #include "base/text.h"
 #include "characters/character_file.h"
 #include "characters/check_notes.h"
-#include "startup/dlg_inicio.h"
 
 namespace tasca {
 namespace {
@@ -20,23 +20,13 @@ constexpr int JuegosDeFrases = 2;  // characters 1 and 2 hold the default phrase
 constexpr int MinimoOfrecidos = 3;
 constexpr std::u16string_view SeDetiene = u", y aquí se detiene el programa";
 
-// Where the game or the editor stands.
-struct Lector {
+// The game or the editor at work.
+struct Revisor {
   Lectores Quien;
-  std::size_t Campo;  // the line of the record's head that comes next; past them all outside it
-  int Personaje = 0;
+  LineasPersonajes Lineas;
   int LineaPersonaje = 0;
-  int Categoria = 1;
-  int Hueco = 0;
   bool TieneMarca = false;  // the record has had a marker that is known
   Array<Array<bool, 1, HuecosFrase>, 1, static_cast<int>(EtiquetasMensaje.size())> Llenos{};
-};
-
-// Where the start-up dialog stands.
-struct Dialogo {
-  std::size_t Campo;
-  int Personaje = 0;
-  int Ofrecidos = 0;
 };
 
 void ExaminarAncho(CuadernoFaltas& c, Lectores quien, std::u16string_view queEs, std::size_t ancho,
@@ -47,10 +37,11 @@ void ExaminarAncho(CuadernoFaltas& c, Lectores quien, std::u16string_view queEs,
                        u" caracteres y solo se leen los ", static_cast<int>(ancho), u" primeros"));
 }
 
-void ExaminarNombre(CuadernoFaltas& c, const Lector& l, std::u16string_view linea) {
+void ExaminarNombre(CuadernoFaltas& c, const Revisor& l, std::u16string_view linea) {
   if (Trim(linea).empty()) c.Anotar(l.Quien, u"el nombre está vacío");
-  if (l.Personaje <= JuegosDeFrases && !Contains(linea, u"Default")) {
-    c.Anotar(l.Quien, Join(u"el nombre del personaje ", l.Personaje,
+  const int personaje = l.Lineas.Personaje();
+  if (personaje <= JuegosDeFrases && !Contains(linea, u"Default")) {
+    c.Anotar(l.Quien, Join(u"el nombre del personaje ", personaje,
                            u", el de las frases de quien no tiene otras, no lleva \"Default\": se "
                            u"ofrece como jugador"));
   }
@@ -62,7 +53,7 @@ bool EsEnteroCorto(std::u16string_view texto, std::size_t cifras) {
   return !texto.empty() && texto.find_first_not_of(u"0123456789") == std::u16string_view::npos;
 }
 
-void ExaminarOrdaguero(CuadernoFaltas& c, const Lector& l, std::u16string_view linea) {
+void ExaminarOrdaguero(CuadernoFaltas& c, const Revisor& l, std::u16string_view linea) {
   const int leido = LeadingWhole(linea.substr(0, CifrasOrdaguero));
   const std::u16string_view escrito = Trim(linea);
   if (EsEnteroCorto(escrito, CifrasOrdaguero) && LeadingWhole(escrito) == leido) return;
@@ -70,46 +61,32 @@ void ExaminarOrdaguero(CuadernoFaltas& c, const Lector& l, std::u16string_view l
                          u" no es un número entero de tres caracteres como mucho: se lee ", leido));
 }
 
-// The lines of a record's head.
-struct CampoCabecera {
-  std::u16string_view QueEs;
-  std::size_t Ancho;  // 0: it is no text
-  // What is peculiar to it; nullptr: nothing.
-  void (*Examinar)(CuadernoFaltas& c, const Lector& l, std::u16string_view linea);
-};
-constexpr std::array<CampoCabecera, 3> Cabecera{
-    {{.QueEs = u"el nombre", .Ancho = AnchoNombre, .Examinar = ExaminarNombre},
-     {.QueEs = u"el valor de ordaguero", .Ancho = 0, .Examinar = ExaminarOrdaguero},
-     {.QueEs = u"la historia", .Ancho = AnchoHistoria, .Examinar = nullptr}}};
-constexpr std::size_t FueraDeCabecera = Cabecera.size();
-
-void ExaminarCampo(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
-  const CampoCabecera& campo = Cabecera.at(l.Campo++);
-  if (campo.Examinar != nullptr) campo.Examinar(c, l, linea);
-  if (campo.Ancho == 0) return;
-  ExaminarAncho(c, l.Quien, campo.QueEs, campo.Ancho, linea);
+void ExaminarTextoDeCabecera(CuadernoFaltas& c, const Revisor& l, ClaseLinea clase,
+                             std::u16string_view linea) {
+  const std::u16string_view queEs = NombreDe(clase);
+  ExaminarAncho(c, l.Quien, queEs, clase == ClaseLinea::Nombre ? AnchoNombre : AnchoHistoria,
+                linea);
   if (Contains(linea, u">")) {
-    c.Anotar(l.Quien, Join(campo.QueEs, u" lleva el signo \">\", que es solo de las marcas"));
+    c.Anotar(l.Quien, Join(queEs, u" lleva el signo \">\", que es solo de las marcas"));
   }
 }
 
 // The phrase goes to its slot; what the slot held is lost.
-void OcuparHueco(CuadernoFaltas& c, Lector& l, std::u16string_view etiqueta) {
-  bool& lleno = l.Llenos[l.Categoria][l.Hueco];
+void OcuparHueco(CuadernoFaltas& c, Revisor& l, std::u16string_view etiqueta) {
+  bool& lleno = l.Llenos[l.Lineas.Categoria()][l.Lineas.Hueco()];
   if (lleno) {
-    c.Anotar(l.Quien, Join(u"ya hay una frase ", l.Hueco, u" de ", Cita(etiqueta),
+    c.Anotar(l.Quien, Join(u"ya hay una frase ", l.Lineas.Hueco(), u" de ", Cita(etiqueta),
                            u": esta toma su sitio y aquella se pierde"));
   }
   lleno = true;
-  l.Hueco = std::min(l.Hueco + 1, HuecosFrase);
 }
 
-void ExaminarFrase(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
-  if (l.Personaje == 0) {
+void ExaminarFrase(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
+  if (l.Lineas.Personaje() == 0) {
     return c.Anotar(l.Quien, Join(u"hay una frase antes del primer personaje", SeDetiene));
   }
   const std::u16string_view etiqueta =
-      EtiquetasMensaje.at(static_cast<std::size_t>(l.Categoria - 1));
+      EtiquetasMensaje.at(static_cast<std::size_t>(l.Lineas.Categoria() - 1));
   if (!l.TieneMarca) {
     c.Anotar(l.Quien, Join(u"la frase va antes de la primera marca del personaje: se lee como de ",
                            Cita(etiqueta)));
@@ -120,36 +97,32 @@ void ExaminarFrase(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
     c.Anotar(l.Quien,
              u"la frase está vacía: el programa se detiene cuando un jugador va a decirla");
   }
-  if (Contains(linea, u"&") && l.Categoria != static_cast<int>(MessageCategory::EnvM)) {
+  if (Contains(linea, u"&") && l.Lineas.Categoria() != static_cast<int>(MessageCategory::EnvM)) {
     c.Anotar(l.Quien,
              u"el signo \"&\" se ve tal cual: solo en las frases de \"EnvM\" es la cantidad");
   }
 }
 
-ComparacionEtiquetas ComparacionDe(Lectores quien) {
-  return quien == LectorEditor ? EqualIgnoringCase : EqualExactly;
-}
-
 // Every computer player without a phrase of its own says slot 1 of these two, and so does the
 // human.
-void TerminarPersonaje(CuadernoFaltas& c, const Lector& l) {
-  if (l.Personaje == 0 || l.Personaje > JuegosDeFrases) return;
+void TerminarPersonaje(CuadernoFaltas& c, const Revisor& l, int personaje) {
+  if (personaje == 0 || personaje > JuegosDeFrases) return;
   int categoria = 0;
   for (const std::u16string_view etiqueta : EtiquetasMensaje) {
     if (l.Llenos[++categoria][1]) continue;
     c.Anotar(l.Quien, l.LineaPersonaje,
-             Join(u"al personaje ", l.Personaje, u" le falta la frase 1 de ", Cita(etiqueta),
+             Join(u"al personaje ", personaje, u" le falta la frase 1 de ", Cita(etiqueta),
                   u", la de quien no tiene otra"));
   }
 }
 
-void EmpezarPersonaje(CuadernoFaltas& c, Lector& l) {
-  TerminarPersonaje(c, l);
+void EmpezarPersonaje(CuadernoFaltas& c, Revisor& l) {
+  const int personaje = l.Lineas.Personaje();
+  TerminarPersonaje(c, l, personaje - 1);
   l.LineaPersonaje = c.Linea;
-  l.Campo = 0;
   l.TieneMarca = false;
   l.Llenos = {};
-  if (++l.Personaje == MaximoPersonajes + 1) {
+  if (personaje == MaximoPersonajes + 1) {
     c.Anotar(l.Quien, Join(u"hay más de ", MaximoPersonajes, u" personajes", SeDetiene));
   }
 }
@@ -166,56 +139,61 @@ void AnotarDesconocida(CuadernoFaltas& c, Lectores quien, std::u16string_view et
   c.Anotar(quien, texto);
 }
 
-// True when the line starts a character.
-bool ExaminarMarca(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
-  const std::u16string_view etiqueta = Before(linea, u'>');
-  const ComparacionEtiquetas coinciden = ComparacionDe(l.Quien);
-  const bool esDatos = coinciden(etiqueta, EtiquetaDatos);
-  const int categoria = CategoriaDe(etiqueta, coinciden);
-  l.Hueco = 1;
-  if (esDatos) EmpezarPersonaje(c, l);
-  if (categoria > 0) {
-    l.Categoria = categoria;
-    l.TieneMarca = true;
-  }
-  if (!esDatos && categoria == 0) {
-    AnotarDesconocida(c, l.Quien, etiqueta);
-  } else if (!Trim(linea.substr(etiqueta.size() + 1)).empty()) {
-    c.Anotar(l.Quien, u"lo que sigue a la marca en su línea se pierde");
-  }
-  return esDatos;
+void ExaminarResto(CuadernoFaltas& c, const Revisor& l, std::u16string_view linea) {
+  if (Trim(linea.substr(linea.find(u'>') + 1)).empty()) return;
+  c.Anotar(l.Quien, u"lo que sigue a la marca en su línea se pierde");
 }
 
 // One line for the game or the editor; true when it starts a character.
-bool Leer(CuadernoFaltas& c, Lector& l, std::u16string_view linea) {
-  if (l.Campo < FueraDeCabecera) {
-    ExaminarCampo(c, l, linea);
-    return false;
+bool Revisar(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
+  const ClaseLinea clase = l.Lineas.Leer(linea);
+  switch (clase) {
+    case ClaseLinea::Personaje:
+      EmpezarPersonaje(c, l);
+      ExaminarResto(c, l, linea);
+      break;
+    case ClaseLinea::Nombre:
+      ExaminarNombre(c, l, linea);
+      ExaminarTextoDeCabecera(c, l, clase, linea);
+      break;
+    case ClaseLinea::Ordaguero:
+      ExaminarOrdaguero(c, l, linea);
+      break;
+    case ClaseLinea::Historia:
+      ExaminarTextoDeCabecera(c, l, clase, linea);
+      break;
+    case ClaseLinea::Categoria:
+      l.TieneMarca = true;
+      ExaminarResto(c, l, linea);
+      break;
+    case ClaseLinea::Desconocida:
+      AnotarDesconocida(c, l.Quien, Before(linea, u'>'));
+      break;
+    case ClaseLinea::Frase:
+      ExaminarFrase(c, l, linea);
+      break;
+    case ClaseLinea::Ajena:
+      break;
   }
-  if (Contains(linea, u">")) return ExaminarMarca(c, l, linea);
-  ExaminarFrase(c, l, linea);
-  return false;
+  return clase == ClaseLinea::Personaje;
 }
 
-// The same for the start-up dialog, which leaves a record when its name is of no player.
-bool Leer(CuadernoFaltas& c, Dialogo& l, std::u16string_view linea) {
-  if (l.Campo == FueraDeCabecera) {
-    if (!Contains(linea, Join(EtiquetaDatos, u">"))) return false;
-    ++l.Personaje;
-    l.Campo = 0;
-    return true;
-  }
-  if (l.Campo == 0 && Contains(linea, u"Default")) {
-    l.Campo = FueraDeCabecera;
-    return false;
-  }
-  if (l.Campo == 0) ++l.Ofrecidos;
-  if (++l.Campo == FueraDeCabecera && l.Personaje > MaximoHistorias) {
+// The start-up dialog at work.
+struct Oferta {
+  LineasPersonajes Lineas{Lector::Inicio};
+  int Ofrecidos = 0;
+};
+
+// The same for the start-up dialog.
+bool Revisar(CuadernoFaltas& c, Oferta& l, std::u16string_view linea) {
+  const ClaseLinea clase = l.Lineas.Leer(linea);
+  if (clase == ClaseLinea::Nombre) ++l.Ofrecidos;
+  if (clase == ClaseLinea::Historia && l.Lineas.Personaje() > MaximoHistorias) {
     c.Anotar(LectorInicio,
-             Join(u"el personaje ", l.Personaje, u" se ofrece, y solo los ", MaximoHistorias,
-                  u" primeros pueden sentarse a la mesa", SeDetiene));
+             Join(u"el personaje ", l.Lineas.Personaje(), u" se ofrece, y solo los ",
+                  MaximoHistorias, u" primeros pueden sentarse a la mesa", SeDetiene));
   }
-  return false;
+  return clase == ClaseLinea::Personaje;
 }
 
 // The codes of the characters that `es` picks out, each once: "00, 1B".
@@ -249,38 +227,40 @@ void ExaminarLetras(CuadernoFaltas& c, std::u16string_view linea) {
 // The three readers at work.
 struct Examen {
   CuadernoFaltas Apuntes;
-  std::array<Lector, 2> Completos{{{.Quien = LectorJuego, .Campo = FueraDeCabecera},
-                                   {.Quien = LectorEditor, .Campo = FueraDeCabecera}}};
-  Dialogo Ofrece{.Campo = FueraDeCabecera};
+  std::array<Revisor, 2> Completos{
+      {{.Quien = LectorJuego, .Lineas = LineasPersonajes{Lector::Juego}},
+       {.Quien = LectorEditor, .Lineas = LineasPersonajes{Lector::Editor}}}};
+  Oferta Ofrece;
 };
 
 void ExaminarLinea(Examen& e, std::u16string_view linea) {
   ExaminarLetras(e.Apuntes, linea);
-  Lectores empieza = Leer(e.Apuntes, e.Ofrece, linea) ? LectorInicio : 0;
-  for (Lector& lector : e.Completos) {
-    if (Leer(e.Apuntes, lector, linea)) empieza |= lector.Quien;
+  Lectores empieza = Revisar(e.Apuntes, e.Ofrece, linea) ? LectorInicio : 0;
+  for (Revisor& lector : e.Completos) {
+    if (Revisar(e.Apuntes, lector, linea)) empieza |= lector.Quien;
   }
   if (empieza == 0 || empieza == TodosLosLectores) return;
   e.Apuntes.Anotar(TodosLosLectores,
                    Join(u"esta línea empieza un personaje solo para ", NombreLectores(empieza)));
 }
 
-void AnotarCorte(CuadernoFaltas& c, Lectores quien, std::size_t campo) {
-  if (campo == FueraDeCabecera) return;
-  c.Anotar(quien, Join(u"el archivo se acaba y falta ", Cabecera.at(campo).QueEs, u" del personaje",
-                       SeDetiene));
+void AnotarCorte(CuadernoFaltas& c, Lectores quien, const LineasPersonajes& lineas) {
+  const std::optional<ClaseLinea> falta = lineas.CabeceraPendiente();
+  if (!falta) return;
+  c.Anotar(quien,
+           Join(u"el archivo se acaba y falta ", NombreDe(*falta), u" del personaje", SeDetiene));
 }
 
 void ExaminarFinal(Examen& e) {
   CuadernoFaltas& c = e.Apuntes;
-  AnotarCorte(c, LectorInicio, e.Ofrece.Campo);
-  for (const Lector& lector : e.Completos) {
-    AnotarCorte(c, lector.Quien, lector.Campo);
-    TerminarPersonaje(c, lector);
+  AnotarCorte(c, LectorInicio, e.Ofrece.Lineas);
+  for (const Revisor& lector : e.Completos) {
+    AnotarCorte(c, lector.Quien, lector.Lineas);
+    TerminarPersonaje(c, lector, lector.Lineas.Personaje());
   }
   c.Linea = 0;
-  for (const Lector& lector : e.Completos) {
-    for (int falta = lector.Personaje + 1; falta <= JuegosDeFrases; ++falta) {
+  for (const Revisor& lector : e.Completos) {
+    for (int falta = lector.Lineas.Personaje() + 1; falta <= JuegosDeFrases; ++falta) {
       c.Anotar(lector.Quien,
                Join(u"falta el personaje ", falta, u", el de las frases de quien no tiene otras"));
     }
@@ -325,7 +305,7 @@ Revision RevisarPersonajes(const std::filesystem::path& archivo) {
   Examen examen;
   ExaminarArchivo(examen, lineas);
   return {.Faltas = examen.Apuntes.Faltas(),
-          .Personajes = examen.Completos.front().Personaje,
+          .Personajes = examen.Completos.front().Lineas.Personaje(),
           .Ofrecidos = examen.Ofrece.Ofrecidos};
 }
 

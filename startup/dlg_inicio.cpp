@@ -23,9 +23,8 @@ void AnadirEntrada(DlgInicio& d, std::u16string_view texto, int personaje) {
 }
 
 // Kept: only the first 50 records have room for a story.
-void LeerHistoria(DlgInicio& d, LineReader& archivo, int personaje) {
-  archivo.Require(u"el valor de ordaguero del personaje");
-  const std::u16string historia = archivo.Require(u"la historia del personaje");
+void GuardarHistoria(DlgInicio& d, const LineReader& archivo, int personaje,
+                     std::u16string_view historia) {
   if (personaje > MaximoHistorias) {
     archivo.Fail(u"solo los 50 primeros personajes pueden sentarse a la mesa.");
   }
@@ -42,16 +41,14 @@ void LlenarCombos(DlgInicio& d, Game& g) {
     throw RunTimeError::AlreadyShown(mensaje);
   }
   LineReader archivo{ArchivoPersonajes(g.t)};
-  int personaje = 0;
+  LineasPersonajes lineas{Lector::Inicio};
   std::u16string linea;
   while (archivo.Next(linea)) {
-    if (!Contains(linea, u"Datos>")) continue;
-    const std::u16string nombre = archivo.Require(u"el nombre del personaje");
-    ++personaje;
-    if (Contains(nombre, u"Default")) continue;
-    AnadirEntrada(d, Trim(nombre), personaje);
-    LeerHistoria(d, archivo, personaje);
+    const ClaseLinea clase = lineas.Leer(linea);
+    if (clase == ClaseLinea::Nombre) AnadirEntrada(d, Trim(linea), lineas.Personaje());
+    if (clase == ClaseLinea::Historia) GuardarHistoria(d, archivo, lineas.Personaje(), linea);
   }
+  ExigirCabecera(archivo, lineas);
 }
 
 const ComboBox::Entrada& Elegida(const ComboBox& combo) {

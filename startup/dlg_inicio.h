@@ -17,9 +17,6 @@ struct ComboBox {
   int ListIndex = -1;  // -1 while nothing is chosen
 };
 
-// Characters whose stories the dialog has room for.
-inline constexpr int MaximoHistorias = 50;
-
 // The dialog's controls. A form shows them and passes events on; it decides nothing.
 struct DlgInicio {
   std::u16string Text1 =

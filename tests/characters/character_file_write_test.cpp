@@ -150,7 +150,7 @@ TEST(LeerPersonajesSinMayusculas, ReadsBackWhatWasWritten) {
   leida.Carpeta = c.t.Carpeta;
   EXPECT_EQ(LeerPersonajesSinMayusculas(leida), 2);
   c.t.Mensajes[1][14][1] = u"adiós";  // it moved up: the slots before it were empty
-  c.t.Mensajes[1][14][3] = FixedText<100>{};
+  c.t.Mensajes[1][14][3] = FixedText<AnchoFrase>{};
   EXPECT_EQ(leida, c.t);
 }
 
@@ -189,14 +189,6 @@ TEST(LeerPersonajesSinMayusculas, CountsNoneInAnEmptyFileAndAHundredAtMost) {
   EXPECT_EQ(ErrorOf([&] { LeerPersonajesSinMayusculas(c.t); }),
             (c.carpeta.Path() / "Jugadores.dat").string() +
                 ", línea 1801: hay más de 100 personajes." + FinDelPrograma);
-}
-
-TEST(CategoriaDe, IsTheNumberOfTheTag) {
-  EXPECT_EQ(CategoriaDe(u"QMus", EqualExactly), 1);
-  EXPECT_EQ(CategoriaDe(u"Derr", EqualExactly), 14);
-  EXPECT_EQ(CategoriaDe(u"derr", EqualExactly), 0);
-  EXPECT_EQ(CategoriaDe(u"derr", EqualIgnoringCase), 14);
-  EXPECT_EQ(CategoriaDe(u"Datos", EqualIgnoringCase), 0);
 }
 
 TEST(ValorOrdaguero, IsTheWholeNumberAtTheStart) {
