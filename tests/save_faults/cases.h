@@ -63,6 +63,9 @@ struct Case {
   Saved Save;
   Disk On;
 
+  // What a killed save's file has behind the name of the one that it was to be.
+  static constexpr auto Resto = ".guardando-a1B2c3.tmp";
+
   std::string Antes() const { return Save.Content("antes", "mucho antes"); }
   std::string MuchoAntes() const { return Save.Content("mucho antes", ""); }
   std::string Nuevo() const { return Save.Content("nuevo", "antes"); }
@@ -85,7 +88,7 @@ struct Case {
     if (!Save.Beside.empty()) carpeta.Write(Save.Beside, ThreeToSitWith());
     if (!On.AfterACrash) return;
     for (const std::string& nombre : Written()) {
-      carpeta.Write(nombre + ".guardando-a1B2c3.tmp", Nuevo().substr(0, 20));
+      carpeta.Write(nombre + Resto, Nuevo().substr(0, 20));
     }
   }
 

@@ -253,6 +253,20 @@ TEST_P(SaveRobbed, CreatesAnotherFileWhenTheFirstIsGone) {
   EXPECT_EQ(carpeta_.Names(), GetParam().Files());
 }
 
+// A leftover's name may be another save's by the time its lock is had.
+TEST_P(SaveRobbed, LeavesAFileThatHasGotTheNameOfALeftover) {
+  Case robado = GetParam();
+  robado.On = DiscoTrasUnFallo;
+  robado.On.Program = TASCA_SAVE_ROBBED;
+  robado.Fill(carpeta_);
+  EXPECT_EQ(RunCommand(robado.SaveIn(carpeta_, "nuevo")).Status, 0);
+  EXPECT_EQ(File(), GetParam().Nuevo());
+  for (const std::string& nombre : robado.Written()) {
+    EXPECT_EQ(carpeta_.Read(nombre + Case::Resto), "de otro");
+  }
+  ExpectTheNextSaveToSucceed();
+}
+
 // A disk that takes nothing at all is full: to go on would be to go on for ever.
 TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
   int escrituras = 0;
