@@ -36,7 +36,7 @@ int LeerPersonajesSinMayusculas(Table& t);
 std::string TextoPersonajes(const Table& t, int cuantos);
 
 // Makes the character file anew from characters 1 to `cuantos`, once the file that was there has
-// become "Jugadores.bak". Neither is ever absent or half written. Throws RunTimeError.
+// become "Jugadores.bak". Neither is ever absent or half written. Throws WriteError.
 void EscribirPersonajes(const Table& t, int cuantos);
 
 }  // namespace tasca

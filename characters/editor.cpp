@@ -4,6 +4,7 @@
 #include "base/code_page.h"
 #include "base/endings.h"
 #include "base/keys.h"
+#include "base/replace_file.h"
 #include "base/text.h"
 #include "characters/character_file.h"
 
@@ -174,7 +175,12 @@ void Command3_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
 }
 
 void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port) {
-  EscribirPersonajes(t, d.NumPersonajes);
+  try {
+    EscribirPersonajes(t, d.NumPersonajes);
+  } catch (const WriteError& error) {
+    return port.MsgBox(
+        Join(error.Sentence(), u" Los cambios siguen aquí: puede intentarlo otra vez."));
+  }
   d.Guardado = TextoPersonajes(t, d.NumPersonajes);
   port.MsgBox(Join(u"Se han guardado datos de ", d.NumPersonajes, u" jugadores"));
 }

@@ -82,7 +82,8 @@ void List3_KeyDown(Dialog1& d, Table& t, EditorPort& port, int KeyCode);
 // Button 0 saves the characters, 1 loads them.
 void Command3_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 
-// Writes the file and tells how many characters it holds. Throws RunTimeError.
+// Writes the file and tells how many characters it holds, or why it could not be written: then the
+// characters in memory are still changes to be saved.
 void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port);
 // Reads the file, adds its characters to List1, shows character 1 and tells how many there are.
 // Throws RunTimeError.

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/endings.h"
 #include "base/line_file.h"
+#include "base/replace_file.h"
 #include "base/text.h"
 #include "characters/character_file.h"
 #include "startup/seed.h"
@@ -115,6 +117,18 @@ void AnotarNombre(const DlgInicio& d, Table& t) {
   t.Personajes[0].Nombre = t.NombreJugador;
 }
 
+// The name is only a proposal for the next game: this one is played without it. The player is told
+// once, not at every change of players.
+void RecordarNombre(const DlgInicio& d, Game& g) {
+  try {
+    GuardarIni(g.t, Trim(d.Text2));
+  } catch (const WriteError& error) {
+    if (std::exchange(g.t.AvisadoSinNombre, true)) return;
+    g.port.MsgBox(g.t, Join(u"No se ha podido guardar su nombre en mus.ini: ", error.Reason(),
+                            u" La partida se juega igual."));
+  }
+}
+
 }  // namespace
 
 void Form_Load(DlgInicio& d, Game& g) {
@@ -153,7 +167,7 @@ bool CbOK_Click(DlgInicio& d, Game& g) {
   Sentar(d, g, d.Combo2, 2);
   Sentar(d, g, d.Combo3, 4);
   AnotarNombre(d, g.t);
-  GuardarIni(g.t, Trim(d.Text2));
+  RecordarNombre(d, g);
   g.t.EstiloDirecto = d.Option1 == 0;
   g.t.UsarNombres = d.Check1[0];
   g.t.UsarExpresiones = d.Check1[1];

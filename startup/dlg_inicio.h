@@ -51,7 +51,8 @@ void Option1_Click(DlgInicio& d, int indice);
 
 // "Aceptar": seats the characters, notes the name and the options, saves the name, and tells
 // whether the main window is to be shown. False after a message about the choice; everything stays
-// as it was. Draws for every "Aleatorio". Throws RunTimeError.
+// as it was. A name that cannot be saved is told in a box, once in the program's life. Draws for
+// every "Aleatorio". Throws RunTimeError.
 bool CbOK_Click(DlgInicio& d, Game& g);
 
 // The preview of a spoken line under the options chosen.

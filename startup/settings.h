@@ -17,6 +17,7 @@ void LeerParametrosPartida(Table& t);
 std::u16string LeerIni(const Table& t);
 
 // Puts `nombre` into line 4, and what stood there into line 5. Lines 1 to 3 are kept byte for byte.
+// Throws WriteError when the file can be read but not written: nobody needs it to play.
 void GuardarIni(const Table& t, std::u16string_view nombre);
 
 }  // namespace tasca

@@ -163,6 +163,7 @@ struct Module1State {
   bool EstiloDirecto = false;
   bool UsarNombres = false;
   bool UsarExpresiones = false;
+  bool AvisadoSinNombre = false;  // the player knows that the name cannot be saved
   std::filesystem::path Carpeta;  // the program's own folder, where its files lie
 
   bool operator==(const Module1State&) const = default;

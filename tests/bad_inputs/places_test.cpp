@@ -5,6 +5,7 @@
 
 #include "tests/bad_inputs/outcomes.h"
 #include "tests/characters/fichero.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/plain_user.h"
 
 namespace tasca::test {
@@ -90,6 +91,19 @@ void ExpectDefaults(const Place& lugar) {
   EXPECT_EQ(partida.State["VacasPartida"], 3);
 }
 
+// The game plays on its good files, tells that the name is not kept, and leaves the file alone.
+void ExpectPlaysWithANotice(const Place& lugar, const std::string& motivo) {
+  const std::string antes = lugar.Carpeta.Read("mus.ini");
+  const Played partida = Play(lugar.Carpeta.Path());
+  EXPECT_EQ(partida.Outcome, "plays");
+  EXPECT_EQ(partida.State["PiedrasJuego"], 7);
+  EXPECT_NE(partida.Lines.find("No se ha podido guardar su nombre en mus.ini: " + motivo +
+                               " La partida se juega igual."),
+            std::string::npos);
+  EXPECT_EQ(lugar.Carpeta.Read("mus.ini"), antes);
+  EXPECT_EQ(lugar.Carpeta.Names(), (Textos{"Jugadores.dat", "mus.ini"}));
+}
+
 TEST(InTheSettingsPlace, NothingAndADanglingLinkLeaveTheDefaults) {
   const Place sinNada;
   sinNada.Vacant("mus.ini");
@@ -124,6 +138,29 @@ TEST(InTheSettingsPlace, AFileThatMayNotBeReadSaysSo) {
   fs::permissions(lugar.Carpeta.Path() / "mus.ini", fs::perms::none);
   const PlainUser usuario{lugar.Carpeta};
   EXPECT_EQ(lugar.Program(), "mus.ini: no se puede leer el archivo.");
+}
+
+// What is only written when the name is saved does not keep anybody from playing.
+TEST(InTheSettingsPlace, AFileThatMayNotBeWrittenIsPlayedWith) {
+  const Place lugar;
+  fs::permissions(lugar.Carpeta.Path() / "mus.ini", fs::perms{0444});
+  const PlainUser usuario{lugar.Carpeta};
+  ExpectPlaysWithANotice(lugar, "no hay permiso para escribir.");
+}
+
+TEST(InTheSettingsPlace, AFolderThatMayNotBeWrittenIsPlayedIn) {
+  const Place lugar;
+  const PlainUser usuario{lugar.Carpeta};
+  fs::permissions(lugar.Carpeta.Path(), fs::perms{0555});
+  ExpectPlaysWithANotice(lugar, "no hay permiso para escribir.");
+  fs::permissions(lugar.Carpeta.Path(), fs::perms{0755});
+}
+
+// A full disk: no file may grow past its first bytes.
+TEST(InTheSettingsPlace, AFullDiskIsPlayedOn) {
+  const Place lugar;
+  const FullDisk lleno{10};
+  ExpectPlaysWithANotice(lugar, "no queda sitio en el disco.");
 }
 
 }  // namespace

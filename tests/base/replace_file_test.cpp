@@ -2,15 +2,16 @@
 #include "base/replace_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <csignal>
-#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "tests/base/file_facts.h"
 #include "tests/support/errors.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/plain_user.h"
 #include "tests/support/temp_folder.h"
 
@@ -20,38 +21,14 @@ namespace {
 namespace fs = std::filesystem;
 using Nombres = std::vector<std::string>;
 
-mode_t PermissionsOf(const fs::path& ruta) {
-  struct stat datos {};
-  EXPECT_EQ(::stat(ruta.c_str(), &datos), 0);
-  return datos.st_mode & 07777U;
+std::ptrdiff_t FilesIn(const fs::path& carpeta) {
+  return std::distance(fs::directory_iterator{carpeta}, fs::directory_iterator{});
 }
 
 // The message for a file that could not be written.
 std::string SinEscribir(const fs::path& ruta, const std::string& motivo) {
   return "No se ha podido escribir el archivo " + ruta.string() + ": " + motivo + FinDelPrograma;
 }
-
-// No file may grow past `bytes` while it lives, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &antes_), 0);
-    rlimit ahora = antes_;
-    ahora.rlim_cur = bytes;
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &ahora), 0);
-    tratamiento_ = std::signal(SIGXFSZ, SIG_IGN);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &antes_), 0);
-    static_cast<void>(std::signal(SIGXFSZ, tratamiento_));
-  }
-
- private:
-  rlimit antes_{};
-  void (*tratamiento_)(int) = nullptr;
-};
 
 TEST(ReplaceFile, PutsTheNewContentInPlaceOfTheOld) {
   const TempFolder carpeta;
@@ -95,17 +72,8 @@ TEST(ReplaceFile, FollowsALinkToTheFile) {
   ReplaceFile(carpeta.Path() / "enlace", "nuevo");
   EXPECT_TRUE(fs::is_symlink(carpeta.Path() / "enlace"));
   EXPECT_EQ(carpeta.Read("dentro/f.txt"), "nuevo");
-  EXPECT_FALSE(fs::exists(carpeta.Path() / "dentro" / "f.txt.tmp"));
+  EXPECT_EQ(FilesIn(carpeta.Path() / "dentro"), 1);
   EXPECT_EQ(carpeta.Names(), (Nombres{"dentro", "enlace"}));
-}
-
-TEST(ReplaceFile, IsNotDisturbedByWhatACrashHasLeft) {
-  const TempFolder carpeta;
-  carpeta.Write("f.txt", "antes");
-  carpeta.Write("f.txt.tmp", "a medio escribir, y más largo que lo nuevo");
-  ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
-  EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
-  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
 TEST(ReplaceFile, RefusesAReadOnlyFile) {
@@ -205,21 +173,71 @@ TEST(BackUpFile, TakesThePlaceOfTheLastCopyWhateverItsPermissions) {
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
 }
 
-// A save that was cut short between the two steps leaves one file under both names.
-TEST(BackUpFile, DoesNothingWhenTheCopyIsTheFileItself) {
+// So an older program's copy can be: a second name of the file itself.
+TEST(BackUpFile, PartsACopyThatIsTheFileItself) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
-  for (int vez = 0; vez < 2; ++vez) BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
+  fs::create_hard_link(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
+  BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
+  EXPECT_EQ(carpeta.Read("f.bak"), "antes");
+  EXPECT_EQ(carpeta.Read("f.txt"), "antes");
+  EXPECT_EQ(fs::hard_link_count(carpeta.Path() / "f.txt"), 1U);
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
+}
+
+TEST(BackUpFile, RemovesWhatKilledSavesHaveLeft) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "antes");
+  carpeta.Write("f.bak.guardando-a1B2c3.tmp", "resto");
+  BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
-TEST(BackUpFile, IsNotDisturbedByWhatACrashHasLeft) {
+TEST(BackUpFile, IsNotDisturbedByAFolderBesideTheCopy) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
-  carpeta.Write("f.bak.tmp", "resto");
+  fs::create_directory(carpeta.Path() / "f.bak.tmp");
   BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.bak.tmp", "f.txt"}));
+}
+
+// Longer than what is read at a time, with bytes that end no text.
+TEST(BackUpFile, CopiesALongFileByteForByte) {
+  const TempFolder carpeta;
+  std::string largo(100000, 'x');
+  largo[4095] = '\0';
+  largo.back() = '\n';
+  carpeta.Write("f.txt", largo);
+  BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
+  EXPECT_EQ(carpeta.Read("f.bak"), largo);
+}
+
+TEST(BackUpFile, KeepsThePermissionsAndTheOwner) {
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "f.txt";
+  carpeta.Write("f.txt", "antes");
+  if (::geteuid() == 0) {
+    ASSERT_EQ(::chown(ruta.c_str(), 1234, 4321), 0);
+  }
+  ASSERT_EQ(::chmod(ruta.c_str(), 0440), 0);
+  BackUpFile(ruta, carpeta.Path() / "f.bak");
+  EXPECT_EQ(PermissionsOf(carpeta.Path() / "f.bak"), 0440U);
+  EXPECT_EQ(OwnerOf(carpeta.Path() / "f.bak"), OwnerOf(ruta));
+}
+
+TEST(BackUpFile, SaysThatTheFileCannotBeRead) {
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "f.txt";
+  const fs::path copia = carpeta.Path() / "f.bak";
+  carpeta.Write("f.txt", "antes");
+  carpeta.Write("f.bak", "mucho antes");
+  ASSERT_EQ(::chmod(ruta.c_str(), 0200), 0);
+  const PlainUser usuario{carpeta};
+  EXPECT_EQ(ErrorOf([&] { BackUpFile(ruta, copia); }),
+            SinEscribir(copia, "no se puede leer " + ruta.string() + "."));
+  EXPECT_EQ(carpeta.Read("f.bak"), "mucho antes");
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
@@ -232,21 +250,6 @@ TEST(BackUpFile, CopiesTheFileThatALinkLeadsTo) {
   EXPECT_FALSE(fs::is_symlink(carpeta.Path() / "f.bak"));
   ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
-}
-
-// Shared memory is another disk than any folder of temporary files: no second name can be given.
-TEST(BackUpFile, CopiesWhereNoSecondNameCanBeGiven) {
-  const TempFolder carpeta;
-  const fs::path otroDisco = fs::path{"/dev/shm"} / carpeta.Path().filename();
-  std::error_code error;
-  if (!fs::create_directory(otroDisco, error)) GTEST_SKIP() << "no second disk";
-  std::ofstream{otroDisco / "f.txt"} << "antes";
-  fs::permissions(otroDisco / "f.txt", fs::perms{0640});
-  BackUpFile(otroDisco / "f.txt", carpeta.Path() / "f.bak");
-  fs::remove_all(otroDisco);
-  EXPECT_EQ(carpeta.Read("f.bak"), "antes");
-  EXPECT_EQ(PermissionsOf(carpeta.Path() / "f.bak"), 0640U);
-  EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak"}));
 }
 
 TEST(BackUpFile, LeavesTheLastCopyWhereThereIsNoFile) {

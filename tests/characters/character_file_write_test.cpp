@@ -128,6 +128,15 @@ TEST(EscribirPersonajes, KeepsTheLastFileAndNoneBeforeIt) {
   EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.bak", "Jugadores.dat"}));
 }
 
+TEST(EscribirPersonajes, IsNotDisturbedByAFolderBesideTheCopy) {
+  const Carpeta c;
+  c.carpeta.Write("Jugadores.dat", "uno");
+  std::filesystem::create_directory(c.carpeta.Path() / "Jugadores.bak.tmp");
+  EscribirPersonajes(c.t, 1);
+  EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), RegistroEscrito("Berta", "050", "Cose."));
+  EXPECT_EQ(c.carpeta.Read("Jugadores.bak"), "uno");
+}
+
 TEST(EscribirPersonajes, LeavesTheFileWhenNoCopyCanBeMade) {
   const Carpeta c;
   c.carpeta.Write("Jugadores.dat", "uno");

@@ -3,11 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/characters/taller.h"
 #include "tests/support/errors.h"
+#include "tests/support/plain_user.h"
 
 namespace tasca::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 TEST(EditorForm_Load, ListsTheKindsOfPhraseAndNothingElse) {
   const Taller e;
@@ -99,13 +104,42 @@ TEST(GuardarPersonajes, Kept_BeforeLoadingWritesAnEmptyFile) {
   EXPECT_EQ(e.carpeta.Read("Jugadores.bak"), "lo de antes");
 }
 
-TEST(GuardarPersonajes, TellsNothingWhenItFails) {
+TEST(GuardarPersonajes, TellsWhyItFailsAndKeepsTheChanges) {
+  Taller e{2};
+  const fs::path copia = e.carpeta.Path() / "Jugadores.bak";
+  fs::create_directory(copia);
+  e.d.Guardado = "otra cosa";
+  const Table antes = e.t;
+  Command3_Click(e.d, e.t, e.port, 0);
+  EXPECT_EQ(e.port.TakeEvents(),
+            (Textos{"box: No se ha podido escribir el archivo " + copia.string() +
+                    ": hay otra cosa en su lugar. Los cambios siguen aquí: puede intentarlo otra "
+                    "vez."}));
+  EXPECT_EQ(e.t, antes);
+  EXPECT_TRUE(HayCambios(e.d, e.t));
+  fs::remove(copia);
+  Command3_Click(e.d, e.t, e.port, 0);
+  EXPECT_EQ(e.port.TakeEvents(), (Textos{"box: Se han guardado datos de 2 jugadores"}));
+  EXPECT_FALSE(HayCambios(e.d, e.t));
+}
+
+TEST(GuardarPersonajes, KeepsTheChangesInAReadOnlyFolder) {
   Taller e{1};
-  std::filesystem::create_directory(e.carpeta.Path() / "Jugadores.bak");
-  EXPECT_EQ(ErrorOf([&] { GuardarPersonajes(e.d, e.t, e.port); }),
-            "No se ha podido escribir el archivo " + (e.carpeta.Path() / "Jugadores.bak").string() +
-                ": hay otra cosa en su lugar." + FinDelPrograma);
-  EXPECT_EQ(e.port.TakeEvents(), Textos{});
+  const std::string antes = e.carpeta.Read("Jugadores.dat");
+  e.t.Personajes[1].Nombre = u"Dora";
+  {
+    const PlainUser usuario{e.carpeta};
+    fs::permissions(e.carpeta.Path(), fs::perms{0555});
+    GuardarPersonajes(e.d, e.t, e.port);
+    fs::permissions(e.carpeta.Path(), fs::perms{0755});
+  }
+  EXPECT_EQ(e.port.TakeEvents(),
+            (Textos{"box: No se ha podido escribir el archivo " +
+                    (e.carpeta.Path() / "Jugadores.bak").string() +
+                    ": no hay permiso para escribir. Los cambios siguen aquí: puede intentarlo "
+                    "otra vez."}));
+  EXPECT_TRUE(HayCambios(e.d, e.t));
+  EXPECT_EQ(e.carpeta.Read("Jugadores.dat"), antes);
 }
 
 TEST(List1_Click, ShowsTheCharacter) {

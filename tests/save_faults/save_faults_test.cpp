@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <filesystem>
 #include <functional>
 #include <initializer_list>
 #include <map>
@@ -14,98 +13,21 @@
 #include <utility>
 #include <vector>
 
-#include "base/code_page.h"
-#include "characters/character_file.h"
+#include "tests/save_faults/cases.h"
 #include "tests/save_faults/tracer.h"
 #include "tests/support/errors.h"
-#include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
 
 namespace tasca::test {
 namespace {
 
-// What is saved: a name, into a file that has held another.
-struct Saved {
-  std::string Word;  // for the program that saves
-  std::string File;
-  std::string Copy;  // of the file as it was; "" for a file without one
-  bool IsReadFirst;  // what the file holds goes into the new one
-  // The file with that name in it, when it held the other before.
-  std::string (*Content)(const std::string& nombre, const std::string& anterior);
-};
-
-std::string Cast(const std::string& nombre, const std::string& /*anterior*/) {
-  Table t;
-  t.Personajes[1].Nombre = Decode(nombre);
-  return TextoPersonajes(t, 1);
-}
-
-std::string Settings(const std::string& nombre, const std::string& anterior) {
-  const std::string rotulo = "> Nombre del \xFAltimo jugador\r\n";
-  return "35 piedras\r\n3\r\n3\r\n" + nombre + rotulo + anterior + rotulo;
-}
-
-const Saved Personajes{"characters", "Jugadores.dat", "Jugadores.bak", false, Cast};
-const Saved Ajustes{"settings", "mus.ini", "", true, Settings};
-
-// How the disk is that takes the save: what the tracer does to every call, and the program.
-struct Disk {
-  std::string_view Name;
-  std::string Tracer;
-  std::string Program;
-  bool AfterACrash = false;  // with what a save leaves that is killed at the worst moments
-};
-
-const std::string Nada = "-e inject=getppid:delay_enter=0";
-const Disk DiscoCorriente{"WithLinks", Nada, TASCA_SAVE_ONCE};
-const Disk DiscoSinEnlaces{"WithoutLinks", "-e inject=link:error=EPERM", TASCA_SAVE_ONCE};
-const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
-const Disk DiscoTrasUnFallo{"AfterACrash", Nada, TASCA_SAVE_ONCE, true};
-
-// A save and its disk.
-struct Case {
-  Saved Save;
-  Disk On;
-
-  std::string Antes() const { return Save.Content("antes", "mucho antes"); }
-  std::string MuchoAntes() const { return Save.Content("mucho antes", ""); }
-  std::string Nuevo() const { return Save.Content("nuevo", "antes"); }
-  bool HasCopy() const { return !Save.Copy.empty(); }
-
-  std::vector<std::string> Files() const {
-    if (!HasCopy()) return {Save.File};
-    return {Save.Copy, Save.File};
-  }
-
-  void Fill(const TempFolder& carpeta) const {
-    carpeta.Write(Save.File, Antes());
-    if (HasCopy()) carpeta.Write(Save.Copy, MuchoAntes());
-    if (!On.AfterACrash) return;
-    carpeta.Write(Save.File + ".tmp", Nuevo().substr(0, 20));
-    if (!HasCopy()) return;
-    std::filesystem::create_hard_link(carpeta.Path() / Save.File,
-                                      carpeta.Path() / (Save.Copy + ".tmp"));
-  }
-
-  std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
-    return On.Program + " " + Save.Word + " " + carpeta.Path().string() + " " + nombre;
-  }
-
-  std::vector<Call> Calls() const {
-    const TempFolder carpeta;
-    Fill(carpeta);
-    return CallsOf(On.Tracer, SaveIn(carpeta, "nuevo"));
-  }
-};
-
-void PrintTo(const Case& caso, std::ostream* salida) {
-  *salida << caso.Save.Word << " " << caso.On.Name;
-}
+// How save-once ends when it has told of a save that failed.
+constexpr int GoesOn = 3;
 
 class SaveFaults : public testing::TestWithParam<Case> {
  protected:
   void SetUp() override {
-    if (!MachineTraces()) GTEST_SKIP() << "this machine traces nothing";
+    ASSERT_TRUE(MachineTraces()) << "strace is missing, or may trace nothing here";
   }
 
   // Saves once for every call of a save, with a fault at that call; then looks at what it left.
@@ -152,22 +74,30 @@ class SaveFaults : public testing::TestWithParam<Case> {
     EXPECT_EQ(carpeta_.Read(GetParam().Save.Copy), antes);
   }
 
-  // What may be said when a call has failed for that reason.
-  std::vector<std::string> Messages(const std::string& motivo) const {
-    std::vector<std::string> mensajes;
-    const auto add = [&mensajes](std::initializer_list<std::string_view> partes) {
-      mensajes.emplace_back();
-      for (const std::string_view parte : partes) mensajes.back() += parte;
-      mensajes.back() += FinDelPrograma;
-    };
-    for (const std::string& nombre : GetParam().Files()) {
-      const std::string archivo = (carpeta_.Path() / nombre).string();
-      add({"No se ha podido escribir el archivo ", archivo, ": ", motivo});
-      if (!GetParam().Save.IsReadFirst) continue;
-      add({archivo, ": no se puede leer el archivo."});
-      add({archivo, ", línea 1: no se puede leer el archivo."});
+  // How a folder's file is called in messages.
+  std::string PathOf(const std::string& nombre) const {
+    return (carpeta_.Path() / nombre).string();
+  }
+
+  // What may be said of a save that has failed for that reason; the program goes on.
+  std::set<std::string> Notices(const std::string& motivo) const {
+    if (!GetParam().HasCopy()) {
+      return {"No se ha podido guardar su nombre en mus.ini: " + motivo +
+              " La partida se juega igual."};
     }
-    return mensajes;
+    const std::string inicio = "No se ha podido escribir el archivo ";
+    const std::string final = " Los cambios siguen aquí: puede intentarlo otra vez.";
+    const std::string archivo = PathOf(GetParam().Save.File);
+    const std::string copia = PathOf(GetParam().Save.Copy);
+    return {inicio + archivo + ": " + motivo + final, inicio + copia + ": " + motivo + final,
+            inicio + copia + ": no se puede leer " + archivo + "." + final};
+  }
+
+  // What ends the program: the settings are read before they are written.
+  std::set<std::string> Endings() const {
+    if (GetParam().HasCopy()) return {};
+    const std::string motivo = std::string{": no se puede leer el archivo."} + FinDelPrograma;
+    return {PathOf("mus.ini") + motivo, PathOf("mus.ini") + ", línea 1" + motivo};
   }
 
   // A save that went well although a call failed has saved; any other has said what it could not
@@ -175,17 +105,18 @@ class SaveFaults : public testing::TestWithParam<Case> {
   void ExpectASaveOrAMessage(const Outcome& fin, const std::string& motivo) const {
     if (fin.Status == 0) {
       EXPECT_EQ(File(), GetParam().Nuevo());
-      return;
+    } else if (fin.Status == GoesOn) {
+      EXPECT_TRUE(Notices(motivo).contains(fin.Output)) << fin.Output;
+    } else {
+      EXPECT_EQ(fin.Status, 1);
+      EXPECT_TRUE(Endings().contains(fin.Output)) << fin.Output;
     }
-    EXPECT_EQ(fin.Status, 1);
-    const std::vector<std::string> mensajes = Messages(motivo);
-    EXPECT_EQ(std::count(mensajes.begin(), mensajes.end(), fin.Output), 1) << fin.Output;
   }
 
   void ExpectWholeFilesAfterErrors(const std::string& error, const std::string& motivo) {
     int contados = 0;
     SaveWithFaultAtEveryCall("error=" + error, IsAboutFiles, [&](const Outcome& fin) {
-      contados += fin.Status;
+      contados += fin.Status == GoesOn ? 1 : 0;
       ExpectASaveOrAMessage(fin, motivo);
     });
     EXPECT_GE(contados, 8);
@@ -227,11 +158,28 @@ TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
 TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   std::string orden;
   for (const Call& llamada : GetParam().Calls()) orden += llamada.Name + " ";
-  EXPECT_NE(orden.find("write fsync close rename openat fsync close "), std::string::npos) << orden;
-  if (!GetParam().HasCopy()) return;
-  const bool conEnlaces = GetParam().On.Name != DiscoSinEnlaces.Name;
-  const std::string copia = conEnlaces ? "link rename " : "openat fsync close rename ";
-  EXPECT_NE(orden.find(copia + "openat fsync close "), std::string::npos) << orden;
+  const std::string escrito = "write fsync rename openat fsync close ";
+  const auto escritos = static_cast<int>(GetParam().Written().size());
+  int vistos = 0;
+  for (std::size_t en = 0; (en = orden.find(escrito, en)) != std::string::npos; ++en) ++vistos;
+  EXPECT_EQ(vistos, escritos) << orden;
+}
+
+// A name that another save has taken is not opened: that would be writing into its file.
+TEST_P(SaveFaults, OpensNoFileThatAnotherHasCreated) {
+  int nuevos = 0;
+  for (const Call& llamada : GetParam().Calls()) {
+    if (llamada.Text.find("O_CREAT") == std::string::npos) continue;
+    EXPECT_NE(llamada.Text.find("O_EXCL"), std::string::npos) << llamada.Text;
+    SCOPED_TRACE(llamada.Count);
+    GetParam().Fill(carpeta_);
+    EXPECT_EQ(SaveWith(llamada, "error=EEXIST").Status, 0);
+    ExpectWholeFiles();
+    EXPECT_EQ(File(), GetParam().Nuevo());
+    EXPECT_EQ(carpeta_.Names(), GetParam().Files());
+    ++nuevos;
+  }
+  EXPECT_EQ(nuevos, std::ssize(GetParam().Written()));
 }
 
 // A signal that comes in between is nothing to give up a writing for.
@@ -239,7 +187,7 @@ class SaveInterrupted : public SaveFaults {};
 
 TEST_P(SaveInterrupted, GoesOnWriting) {
   const std::set<std::string> deEscribir{"openat", "write", "fsync"};
-  bool seLee = GetParam().Save.IsReadFirst;
+  bool seLee = !GetParam().HasCopy();
   int interrumpidas = 0;
   for (const Call& llamada : GetParam().Calls()) {
     if (!deEscribir.contains(llamada.Name)) continue;
@@ -254,34 +202,69 @@ TEST_P(SaveInterrupted, GoesOnWriting) {
             5);  // opening, writing and flushing the file; opening, flushing the folder
 }
 
-// What the disk says is told in words.
+// What the disk says of the last step is told in words: the temporary file can be lost, the folder
+// cannot.
 class SaveRefused : public SaveFaults {};
 
 TEST_P(SaveRefused, TellsTheReason) {
   const std::map<std::string, std::string> motivos{
       {"EACCES", "no hay permiso para escribir."},
-      {"EPERM", "no hay permiso para escribir."},
       {"EROFS", "el disco es de solo lectura."},
-      {"ENOSPC", "no queda sitio en el disco."},
-      {"EDQUOT", "no queda sitio en el disco."},
-      {"EFBIG", "no queda sitio en el disco."},
       {"EISDIR", "hay otra cosa en su lugar."},
-      {"ENOENT", "no existe la carpeta."},
-      {"ENOTDIR", "no existe la carpeta."},
-      {"ELOOP", "sus enlaces no llevan a un archivo propio."},
-      {"EIO", "el disco falla."},
+      {"ENOENT", "ha desaparecido el archivo temporal."},
       {"EXDEV", "error 18 del sistema."},
   };
-  const std::string copia = (carpeta_.Path() / "Jugadores.bak").string();
-  const std::string inicio = "No se ha podido escribir el archivo " + copia + ": ";
   GetParam().Fill(carpeta_);
   for (const auto& [error, motivo] : motivos) {
-    std::string mensaje = inicio;
-    mensaje += motivo;
-    mensaje += FinDelPrograma;
     const Outcome fin = SaveWith({.Name = "rename", .Count = 1}, "error=" + error);
-    EXPECT_EQ(fin.Output, mensaje) << error;
+    EXPECT_EQ(fin.Status, GoesOn);
+    EXPECT_TRUE(Notices(motivo).contains(fin.Output)) << fin.Output;
+    EXPECT_EQ(File(), GetParam().Antes());
+    EXPECT_EQ(carpeta_.Names(), GetParam().Files());
   }
+}
+
+// Another save may take a new file for a leftover before its lock is had.
+class SaveRobbed : public SaveFaults {};
+
+TEST_P(SaveRobbed, LeavesAFileWhoseLockAnotherHas) {
+  int cerrojos = 0;
+  for (const Call& llamada : GetParam().Calls()) {
+    if (llamada.Name != "flock") continue;
+    GetParam().Fill(carpeta_);
+    EXPECT_EQ(SaveWith(llamada, "error=EAGAIN").Status, 0);
+    ExpectWholeFiles();
+    EXPECT_EQ(File(), GetParam().Nuevo());
+    EXPECT_EQ(carpeta_.Names().size(), GetParam().Files().size() + 1);
+    ExpectTheNextSaveToSucceed();
+    ++cerrojos;
+  }
+  EXPECT_EQ(cerrojos, std::ssize(GetParam().Written()));
+}
+
+TEST_P(SaveRobbed, CreatesAnotherFileWhenTheFirstIsGone) {
+  Case robado = GetParam();
+  robado.On.Program = TASCA_SAVE_ROBBED;
+  robado.Fill(carpeta_);
+  const Outcome fin = RunCommand(robado.SaveIn(carpeta_, "nuevo"));
+  EXPECT_EQ(fin.Status, 0) << fin.Output;
+  ExpectWholeFiles();
+  EXPECT_EQ(File(), GetParam().Nuevo());
+  EXPECT_EQ(carpeta_.Names(), GetParam().Files());
+}
+
+// A leftover's name may be another save's by the time its lock is had.
+TEST_P(SaveRobbed, LeavesAFileThatHasGotTheNameOfALeftover) {
+  Case robado = GetParam();
+  robado.On = DiscoTrasUnFallo;
+  robado.On.Program = TASCA_SAVE_ROBBED;
+  robado.Fill(carpeta_);
+  EXPECT_EQ(RunCommand(robado.SaveIn(carpeta_, "nuevo")).Status, 0);
+  EXPECT_EQ(File(), GetParam().Nuevo());
+  for (const std::string& nombre : robado.Written()) {
+    EXPECT_EQ(carpeta_.Read(nombre + Case::Resto), "de otro");
+  }
+  ExpectTheNextSaveToSucceed();
 }
 
 // A disk that takes nothing at all is full: to go on would be to go on for ever.
@@ -292,8 +275,8 @@ TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
     SCOPED_TRACE(llamada.Count);
     GetParam().Fill(carpeta_);
     const Outcome fin = SaveWith(llamada, "retval=0");
-    EXPECT_EQ(fin.Status, 1);
-    EXPECT_NE(fin.Output.find(": no queda sitio en el disco."), std::string::npos) << fin.Output;
+    EXPECT_EQ(fin.Status, GoesOn);
+    EXPECT_TRUE(Notices("no queda sitio en el disco.").contains(fin.Output)) << fin.Output;
     ExpectTheNextSaveToSucceed();
     ++escrituras;
   }
@@ -308,7 +291,9 @@ TEST_P(SaveInBits, WritesAFewBytesAtATime) {
   const auto escrituras = std::count_if(llamadas.begin(), llamadas.end(), [](const Call& llamada) {
     return llamada.Name == "write";
   });
-  EXPECT_EQ(escrituras, (std::ssize(GetParam().Nuevo()) + 4) / 5);
+  std::ptrdiff_t veces = (std::ssize(GetParam().Nuevo()) + 4) / 5;
+  if (GetParam().HasCopy()) veces += (std::ssize(GetParam().Antes()) + 4) / 5;
+  EXPECT_EQ(escrituras, veces);
 }
 
 const auto ByDisk = [](const testing::TestParamInfo<Case>& caso) {
@@ -317,7 +302,7 @@ const auto ByDisk = [](const testing::TestParamInfo<Case>& caso) {
 
 INSTANTIATE_TEST_SUITE_P(Characters, SaveFaults,
                          testing::Values(Case{Personajes, DiscoCorriente},
-                                         Case{Personajes, DiscoSinEnlaces},
+                                         Case{Personajes, DiscoSinCerrojos},
                                          Case{Personajes, DiscoLento},
                                          Case{Personajes, DiscoTrasUnFallo}),
                          ByDisk);
@@ -336,6 +321,12 @@ INSTANTIATE_TEST_SUITE_P(Characters, SaveInBits, testing::Values(Case{Personajes
                          ByDisk);
 INSTANTIATE_TEST_SUITE_P(Settings, SaveInBits, testing::Values(Case{Ajustes, DiscoLento}), ByDisk);
 INSTANTIATE_TEST_SUITE_P(Characters, SaveRefused, testing::Values(Case{Personajes, DiscoCorriente}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Settings, SaveRefused, testing::Values(Case{Ajustes, DiscoCorriente}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Characters, SaveRobbed, testing::Values(Case{Personajes, DiscoCorriente}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Settings, SaveRobbed, testing::Values(Case{Ajustes, DiscoCorriente}),
                          ByDisk);
 
 }  // namespace

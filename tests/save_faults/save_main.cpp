@@ -1,42 +1,97 @@
-// save-once characters|settings FOLDER NAME: saves a cast of one character, or the last player's
-// name, between two system calls that nothing else makes, so that a tracer can tell the save's
-// calls from those of starting and ending.
+// save-once characters|settings FOLDER NAME: saves a cast of one character as the editor does, or
+// accepts the start-up dialog with that player's name. It does so between two system calls that
+// nothing else makes, so that a tracer can tell the save's calls from those of starting and ending.
+// Prints what the player is told. Ends with 0 after a save, with 3 when the program goes on without
+// it, with 1 when the program ends.
 #include <unistd.h>
 
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "base/code_page.h"
 #include "base/endings.h"
-#include "characters/character_file.h"
-#include "startup/settings.h"
+#include "characters/editor.h"
+#include "startup/dlg_inicio.h"
+#include "tests/support/quiet_port.h"
 #include "ui/utf8.h"
+
+namespace {
+
+constexpr int Saved = 0;
+constexpr int Ended = 1;
+constexpr int WentOn = 3;
+
+class GamePort : public tasca::test::QuietPort {
+ public:
+  std::u16string Told;
+  void MsgBox(const tasca::Table& /*t*/, std::u16string_view texto) override { Told += texto; }
+};
+
+class EditorsPort : public tasca::EditorPort {
+ public:
+  std::u16string Told;
+  void MsgBox(std::u16string_view texto) override { Told += texto; }
+  bool OkCancelBox(std::u16string_view /*texto*/, std::u16string_view /*titulo*/) override {
+    return false;
+  }
+  std::u16string InputBox(std::u16string_view /*texto*/, std::u16string_view /*titulo*/,
+                          std::u16string_view /*porDefecto*/) override {
+    return {};
+  }
+  void Beep() override {}
+};
+
+void Mark() { static_cast<void>(::getppid()); }
+
+int SaveSettings(tasca::Table& t, const std::u16string& nombre) {
+  GamePort port;
+  tasca::Rnd rnd;
+  tasca::Game g{t, rnd, port};
+  const auto d = std::make_unique<tasca::DlgInicio>();
+  // A sanitizer makes system calls of its own when it meets a type of stream for the first time:
+  // this reads the settings before the save does.
+  Form_Load(*d, g);
+  Combo1_Click(*d, 1);
+  Combo2_Click(*d, 2);
+  Combo3_Click(*d, 3);
+  d->Text2 = nombre;
+  Mark();
+  const bool aceptado = CbOK_Click(*d, g);
+  Mark();
+  std::cout << tasca::ToUtf8(port.Told);
+  if (!aceptado) return Ended;
+  return port.Told.empty() ? Saved : WentOn;
+}
+
+int SaveCharacters(tasca::Table& t, const std::u16string& nombre) {
+  EditorsPort port;
+  tasca::Dialog1 d;
+  d.NumPersonajes = 1;
+  t.Personajes[1].Nombre = nombre;
+  Mark();
+  GuardarPersonajes(d, t, port);
+  Mark();
+  std::cout << tasca::ToUtf8(port.Told);
+  return HayCambios(d, t) ? WentOn : Saved;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   if (argc != 4) return 2;
-  const bool ajustes = argv[1] == std::string_view{"settings"};
   const auto mesa = std::make_unique<tasca::Table>();
   mesa->Carpeta = argv[2];
   const std::u16string nombre = tasca::Decode(argv[3]);
-  mesa->Personajes[1].Nombre = nombre;
   try {
-    // A sanitizer makes system calls of its own when it meets a type of stream for the first time:
-    // that must be before the save.
-    if (ajustes) static_cast<void>(tasca::LeerIni(*mesa));
-    static_cast<void>(::getppid());
-    if (ajustes) {
-      tasca::GuardarIni(*mesa, nombre);
-    } else {
-      tasca::EscribirPersonajes(*mesa, 1);
-    }
-    static_cast<void>(::getppid());
-    return 0;
+    const bool ajustes = argv[1] == std::string_view{"settings"};
+    return ajustes ? SaveSettings(*mesa, nombre) : SaveCharacters(*mesa, nombre);
   } catch (const tasca::RunTimeError& error) {
     std::cout << tasca::ToUtf8(error.Message());
   } catch (const std::exception& error) {
     std::cout << error.what();
   }
-  return 1;
+  return Ended;
 }

@@ -55,7 +55,7 @@ std::vector<Call> CallsOf(const std::string& opciones, const std::string& orden)
     if (nombre == "getppid") {
       ++marcas;
     } else if (marcas == 1) {
-      llamadas.push_back({nombre, veces});
+      llamadas.push_back({nombre, veces, linea});
     }
   }
   EXPECT_EQ(marcas, 2);

@@ -16,10 +16,12 @@ Outcome RunCommand(const std::string& orden);
 // Whether this machine lets a program be traced at all.
 bool MachineTraces();
 
-// A system call of the save: its name, and how many of that name the process has made by then.
+// A system call of the save: its name, how many of that name the process has made by then, and the
+// whole call as the tracer writes it.
 struct Call {
   std::string Name;
-  int Count;
+  int Count = 0;
+  std::string Text = {};
 };
 
 // Calls that only order memory know nothing of disks.

@@ -3,7 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <optional>
+
 #include "tests/startup/inicio.h"
+#include "tests/support/plain_user.h"
 
 namespace tasca::test {
 namespace {
@@ -275,6 +279,82 @@ TEST(CbOK, SavesNothingWithoutASettingsFile) {
   inicio.Elegir(1, 2, 3);
   EXPECT_TRUE(inicio.Aceptar());
   EXPECT_FALSE(std::filesystem::exists(inicio.t.Carpeta / "mus.ini"));
+}
+
+const std::string SinNombre =
+    "box: No se ha podido guardar su nombre en mus.ini: no hay permiso para escribir. La partida "
+    "se "
+    "juega igual.";
+
+// A dialog with settings in a folder of a user whom permissions bind.
+struct EnCarpetaAjena : Inicio {
+  EnCarpetaAjena() {
+    carpeta.Write("mus.ini", "35\r\n3\r\n3\r\nLuis\r\n");
+    Cargar(Personajes(3));
+    Elegir(1, 2, 3);
+    d.Text2 = u"Ana";
+    d.Option1 = 1;
+    usuario.emplace(carpeta);
+  }
+  ~EnCarpetaAjena() { Permitir(carpeta.Path(), 0755); }
+
+  static void Permitir(const std::filesystem::path& ruta, unsigned permisos) {
+    std::filesystem::permissions(ruta, std::filesystem::perms{permisos});
+  }
+  std::string Ajustes() const { return carpeta.Read("mus.ini"); }
+
+  std::optional<PlainUser> usuario;
+};
+
+TEST(CbOK, PlaysWithoutSavingTheNameInAReadOnlyFolderAndTellsWhy) {
+  EnCarpetaAjena inicio;
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path(), 0555);
+  EXPECT_TRUE(inicio.Aceptar());
+  EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{SinNombre});
+  EXPECT_EQ(Utf8(inicio.t.NombreJugador), "Ana");
+  EXPECT_EQ(inicio.t.PersonajeAsiento, (Array<Integer, 0, 3>{0, 4, 3, 5}));
+  EXPECT_FALSE(inicio.t.EstiloDirecto);
+  EXPECT_EQ(inicio.Ajustes(), "35\r\n3\r\n3\r\nLuis\r\n");
+}
+
+TEST(CbOK, PlaysWithoutSavingTheNameInAReadOnlyFileAndTellsWhy) {
+  EnCarpetaAjena inicio;
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path() / "mus.ini", 0444);
+  EXPECT_TRUE(inicio.Aceptar());
+  EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{SinNombre});
+  EXPECT_EQ(inicio.Ajustes(), "35\r\n3\r\n3\r\nLuis\r\n");
+}
+
+TEST(CbOK, TellsOnlyOnceThatTheNameCannotBeSaved) {
+  EnCarpetaAjena inicio;
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path(), 0555);
+  EXPECT_TRUE(inicio.Aceptar());
+  inicio.port.TakeEvents();
+  inicio.d = DlgInicio{};
+  inicio.Cargar();
+  inicio.Elegir(3, 2, 1);
+  EXPECT_TRUE(inicio.Aceptar());
+  EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{});
+}
+
+TEST(CbOK, SavesTheNameOnceItCanAfterAll) {
+  EnCarpetaAjena inicio;
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path(), 0555);
+  EXPECT_TRUE(inicio.Aceptar());
+  inicio.port.TakeEvents();
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path(), 0755);
+  EXPECT_TRUE(inicio.Aceptar());
+  EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{});
+  EXPECT_EQ(inicio.Ajustes(), "35\r\n3\r\n3\r\nAna> Nombre del \xFAltimo jugador\r\nLuis\r\n");
+}
+
+TEST(CbOK, EndsTheProgramForSettingsThatMayNotBeRead) {
+  EnCarpetaAjena inicio;
+  EnCarpetaAjena::Permitir(inicio.carpeta.Path() / "mus.ini", 0222);
+  EXPECT_EQ(FalloDe([&inicio] { inicio.Aceptar(); }),
+            (inicio.t.Carpeta / "mus.ini").string() +
+                ": no se puede leer el archivo. El programa va a terminar su ejecución.");
+  EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{});
 }
 
 TEST(CbOK, EndsTheProgramForSettingsCutShort) {

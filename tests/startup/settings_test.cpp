@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "base/endings.h"
+#include "base/write_error.h"
+#include "tests/support/plain_user.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
 
@@ -274,6 +276,18 @@ TEST(GuardarIni, EndsTheProgramWithFewerThanFourLinesAndLeavesTheFile) {
     EXPECT_EQ(Fallo(a, [&a] { GuardarIni(a.t, u"Ana"); }), FaltaLaLinea(lineas + 1));
     EXPECT_EQ(a.Read(), archivo);
   }
+}
+
+// Not a run-time error alone: the game goes on without it.
+TEST(GuardarIni, TellsAWritingThatFailsFromAReadingThatFails) {
+  const Ajustes a{"35\r\n3\r\n3\r\nLuis> x\r\n"};
+  const PlainUser usuario{a.carpeta};
+  std::filesystem::permissions(a.t.Carpeta / "mus.ini", std::filesystem::perms{0444});
+  EXPECT_THROW(GuardarIni(a.t, u"Ana"), WriteError);
+  EXPECT_EQ(a.Read(), "35\r\n3\r\n3\r\nLuis> x\r\n");
+  std::filesystem::permissions(a.t.Carpeta / "mus.ini", std::filesystem::perms{0222});
+  EXPECT_EQ(Fallo(a, [&a] { GuardarIni(a.t, u"Ana"); }),
+            "mus.ini: no se puede leer el archivo. El programa va a terminar su ejecución.");
 }
 
 TEST(GuardarIni, TakesFourLinesAndMore) {

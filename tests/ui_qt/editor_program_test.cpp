@@ -112,12 +112,22 @@ TEST_F(EditorInWindows, EndsWithTheMessageOfARunTimeError) {
   EXPECT_EQ(Work({Alt(Qt::Key_C), Reads(mensaje.c_str())}), 1);
 }
 
-TEST_F(EditorInWindows, EndsWithTheMessageOfASaveThatFails) {
-  std::filesystem::create_directory(carpeta_.Path() / "Jugadores.bak");
-  const std::string mensaje =
-      "No se ha podido escribir el archivo " + (carpeta_.Path() / "Jugadores.bak").string() +
-      ": hay otra cosa en su lugar. El programa va a terminar su ejecución.";
-  EXPECT_EQ(Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_G), Reads(mensaje.c_str())}), 1);
+TEST_F(EditorInWindows, StaysOpenWithItsChangesAfterASaveThatFails) {
+  const std::filesystem::path copia = carpeta_.Path() / "Jugadores.bak";
+  std::filesystem::create_directory(copia);
+  const std::string mensaje = "No se ha podido escribir el archivo " + copia.string() +
+                              ": hay otra cosa en su lugar. Los cambios siguen aquí: puede "
+                              "intentarlo otra vez.";
+  EXPECT_EQ(Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_N),
+                  [](QWidget* v) { Type(v->focusWidget(), "Lola"); }, Alt(Qt::Key_U),
+                  Alt(Qt::Key_G), Reads(mensaje.c_str()), Close, Reads(SinGuardar),
+                  [&copia](QWidget* v) {
+                    std::filesystem::remove(copia);
+                    Press(v, Qt::Key_G, Qt::AltModifier);
+                  },
+                  Reads("Se han guardado datos de 6 jugadores"), Close}),
+            0);
+  EXPECT_NE(carpeta_.Read("Jugadores.dat").find("Datos>\r\nLola\r\n"), std::string::npos);
 }
 
 TEST_F(EditorInWindows, LeavesTheFileAloneWhenItEndsWithAnError) {

@@ -7,8 +7,10 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <filesystem>
 #include <utility>
 
+#include "tests/support/plain_user.h"
 #include "tests/ui_qt/companions.h"
 #include "tests/ui_qt/player.h"
 
@@ -258,6 +260,24 @@ TEST_F(ProgramInWindows, TellsOfADamagedSettingsFileAndLeavesIt) {
   EXPECT_TRUE(
       preguntas_.constFirst().endsWith(QStringLiteral("El programa va a terminar su ejecución.")));
   EXPECT_EQ(carpeta_.Read("mus.ini"), "35\r\n");
+}
+
+TEST_F(ProgramInWindows, PlaysWithoutSavingTheNameAndTellsSoOnce) {
+  SetTable(carpeta_, PartidaCorta);
+  const PlainUser usuario{carpeta_};
+  std::filesystem::permissions(carpeta_.Path() / "mus.ini", std::filesystem::perms{0444});
+  bool otros = false;
+  const int estado = Play([&otros](const QString& pregunta) {
+    if (pregunta == QString::fromUtf8(OtraPartida) && std::exchange(otros, true)) return Qt::Key_N;
+    return pregunta == QString::fromUtf8(OtrosJugadores) ? Qt::Key_S : CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_EQ(Utf8(preguntas_.constFirst()),
+            "No se ha podido guardar su nombre en mus.ini: no hay permiso para escribir. La "
+            "partida se juega igual.");
+  EXPECT_EQ(preguntas_.count(preguntas_.constFirst()), 1);
+  EXPECT_EQ(Asked(OtrosJugadores), 1);
+  EXPECT_EQ(Asked(OtraPartida), 2);
 }
 
 TEST_F(ProgramInWindows, SaysWhyTheChoiceOfCompanionsIsNoGood) {

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "base/endings.h"
+#include "tests/support/plain_user.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"
 #include "ui/terminal/terminal_port.h"
@@ -88,6 +91,18 @@ TEST(AskStartup, TakesOtherAnswersAndTellsTheStories) {
   EXPECT_EQ(a.Carpeta.Read("mus.ini"),
             "35\r\n3\r\n3\r\n\xCD\xF1igo> Nombre del \xFAltimo jugador\r\n"
             "Ana> Nombre del \xFAltimo jugador\r\n");
+}
+
+TEST(AskStartup, TellsOnceThatTheNameCannotBeSavedAndGoesOn) {
+  AtTheDoor a{Puerta + Puerta};
+  const PlainUser usuario{a.Carpeta};
+  std::filesystem::permissions(a.Carpeta.Path() / "mus.ini", std::filesystem::perms{0444});
+  EXPECT_TRUE(
+      a.Ask().ends_with("Así se contará: La boticaria: Sí, como bueyes\n"
+                        "[No se ha podido guardar su nombre en mus.ini: no hay permiso para "
+                        "escribir. La partida se juega igual.]\n"));
+  EXPECT_EQ(a.t.NombreJugador, u"Ana");
+  EXPECT_TRUE(a.Ask().ends_with("Así se contará: La boticaria: Sí, como bueyes\n"));
 }
 
 TEST(AskStartup, PreviewsTheLineWithoutExpressions) {

@@ -5,6 +5,7 @@
 #include <random>
 #include <utility>
 
+#include "tests/support/plain_user.h"
 #include "tests/ui_trace/trace_run.h"
 
 namespace tasca::test {
@@ -47,6 +48,20 @@ TEST(TraceStart, SavesTheName) {
   folder.Play({StartWith(R"("name": "Íñigo €", "combos": [1, 2, 3])")});
   EXPECT_EQ(folder.Files().Read("mus.ini"),
             "7\r\n3\r\n3\r\n\xCD\xF1igo \x80> Nombre del \xFAltimo jugador\r\nAna> Nombre\r\n");
+}
+
+TEST(TraceStart, PlaysWithoutSavingTheNameAndTellsWhy) {
+  const TraceFolder folder{7, 3, 3};
+  const PlainUser user{folder.Files()};
+  std::filesystem::permissions(folder.Files().Path() / "mus.ini", std::filesystem::perms{0444});
+  const TraceRun run = folder.Play({Start});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(run.Names(), "msgbox sound state");
+  EXPECT_EQ(run.First("msgbox")["text"],
+            "No se ha podido guardar su nombre en mus.ini: no hay permiso para escribir. La "
+            "partida se juega igual.");
+  EXPECT_EQ(run.Last()["NombreJugador"], "Ana");
+  EXPECT_EQ(run.Last()["PiedrasJuego"], 7);
 }
 
 TEST(TraceStart, SetsTheOptionsOfTheNarration) {

@@ -1,0 +1,104 @@
+// Creating, locking and renaming; and clearing what killed saves have left.
+#include "base/temporary_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+#include "base/write_error.h"
+
+namespace tasca {
+namespace fs = std::filesystem;
+
+namespace {
+
+// "mus.ini.guardando-k3TzQ9.tmp" is a temporary file of "mus.ini".
+constexpr std::string_view Marca = ".guardando-";
+constexpr std::size_t LetrasAlAzar = 6;
+constexpr std::string_view Final = ".tmp";
+
+bool IsTemporaryOf(const std::string& destino, const std::string& nombre) {
+  const std::string principio = destino + std::string{Marca};
+  return nombre.size() == principio.size() + LetrasAlAzar + Final.size() &&
+         nombre.starts_with(principio) && nombre.ends_with(Final);
+}
+
+// The file may have been renamed between opening and locking it: its name is looked up again.
+void RemoveIfLeftover(const fs::path& ruta) {
+  const Descriptor archivo{ruta, O_RDONLY | O_NOFOLLOW | O_NONBLOCK};
+  if (!archivo.IsOpen() || !archivo.Lock()) return;
+  const std::optional<struct stat> abierto = archivo.Status();
+  struct stat deEseNombre {};
+  if (!abierto || ::lstat(ruta.c_str(), &deEseNombre) != 0) return;
+  if (abierto->st_ino == deEseNombre.st_ino && S_ISREG(abierto->st_mode)) ::unlink(ruta.c_str());
+}
+
+fs::path FolderOf(const fs::path& archivo) {
+  const fs::path madre = archivo.parent_path();
+  return madre.empty() ? "." : madre;
+}
+
+// Leftovers are in nobody's way: whatever fails here leaves them to a later save.
+void RemoveLeftovers(const fs::path& destino) {
+  std::error_code error;
+  fs::directory_iterator entrada{FolderOf(destino), error};
+  for (; !error && entrada != fs::directory_iterator{}; entrada.increment(error)) {
+    const fs::path& ruta = entrada->path();
+    if (IsTemporaryOf(destino.filename(), ruta.filename())) RemoveIfLeftover(ruta);
+  }
+}
+
+}  // namespace
+
+TemporaryFile::TemporaryFile(fs::path destino) : destino_{std::move(destino)} {
+  RemoveLeftovers(destino_);
+  do {
+    archivo_.emplace(destino_.native() + std::string{Marca}, Final, ruta_);
+    CheckWritten(archivo_->IsOpen(), destino_);
+  } while (!IsMine());
+}
+
+TemporaryFile::~TemporaryFile() {
+  if (!colocado_) ::unlink(ruta_.c_str());
+}
+
+void TemporaryFile::Write(std::string_view contenido,
+                          const std::optional<struct stat>& anterior) const {
+  constexpr mode_t PermisosNormales = 0644;
+  const mode_t permisos = anterior ? anterior->st_mode & 07777U : PermisosNormales;
+  CheckWritten((!anterior || GiveTo(*anterior)) && archivo_->SetPermissions(permisos) &&
+                   archivo_->Write(contenido) && archivo_->Flush(),
+               destino_);
+}
+
+void TemporaryFile::TakeItsPlace() {
+  if (std::rename(ruta_.c_str(), destino_.c_str()) != 0) {
+    if (errno == ENOENT) throw WriteError{destino_, u"ha desaparecido el archivo temporal."};
+    throw WriteError{destino_, errno};
+  }
+  colocado_ = true;
+  const Descriptor carpeta{FolderOf(destino_), O_RDONLY | O_DIRECTORY};
+  CheckWritten(carpeta.IsOpen() && carpeta.Flush(), destino_);
+}
+
+// False when another save has taken the new file for a leftover.
+bool TemporaryFile::IsMine() const {
+  if (!archivo_->Lock() && errno == EWOULDBLOCK) return false;
+  const std::optional<struct stat> datos = archivo_->Status();
+  return !datos || datos->st_nlink > 0;
+}
+
+// Root gives the file to whose it was. An ordinary user may not: then the file becomes the user's
+// own, and keeps its group if the user is in it. The user may write it because its group or
+// everybody may, and still may: the permissions are kept.
+bool TemporaryFile::GiveTo(const struct stat& anterior) const {
+  constexpr auto ElMismo = static_cast<uid_t>(-1);
+  if (archivo_->SetOwner(anterior.st_uid, anterior.st_gid)) return true;
+  if (errno != EPERM) return false;
+  return archivo_->SetOwner(ElMismo, anterior.st_gid) || errno == EPERM;
+}
+
+}  // namespace tasca

@@ -1,0 +1,185 @@
+// Temporary files: whose they become, and which leftovers are removed.
+#include "base/temporary_file.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+#include "base/replace_file.h"
+#include "tests/base/file_facts.h"
+#include "tests/support/errors.h"
+#include "tests/support/plain_user.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Nombres = std::vector<std::string>;
+
+TEST(TemporaryFile, StandsBesideTheFileUntilItTakesItsPlace) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "antes");
+  {
+    TemporaryFile nuevo{carpeta.Path() / "f.txt"};
+    nuevo.Write("nuevo", std::nullopt);
+    EXPECT_EQ(carpeta.Names().size(), 2U);
+    EXPECT_EQ(carpeta.Read("f.txt"), "antes");
+    nuevo.TakeItsPlace();
+    EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
+  }
+  EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+TEST(TemporaryFile, IsRemovedWhenItNeverTakesItsPlace) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "antes");
+  TemporaryFile{carpeta.Path() / "f.txt"}.Write("nuevo", std::nullopt);
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+TEST(TemporaryFile, EveryOneHasANameOfItsOwn) {
+  const TempFolder carpeta;
+  TemporaryFile uno{carpeta.Path() / "f.txt"};
+  TemporaryFile otro{carpeta.Path() / "f.txt"};
+  EXPECT_EQ(carpeta.Names().size(), 2U);
+  otro.Write("otro", std::nullopt);
+  uno.Write("uno", std::nullopt);
+  otro.TakeItsPlace();
+  EXPECT_EQ(carpeta.Read("f.txt"), "otro");
+  uno.TakeItsPlace();
+  EXPECT_EQ(carpeta.Read("f.txt"), "uno");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+// The folder is there: it is the file that is not.
+TEST(TemporaryFile, SaysThatItHasBeenRemoved) {
+  const TempFolder carpeta;
+  TemporaryFile nuevo{carpeta.Path() / "f.txt"};
+  for (const std::string& nombre : carpeta.Names()) fs::remove(carpeta.Path() / nombre);
+  EXPECT_EQ(ErrorOf([&] { nuevo.TakeItsPlace(); }),
+            "No se ha podido escribir el archivo " + (carpeta.Path() / "f.txt").string() +
+                ": ha desaparecido el archivo temporal." + FinDelPrograma);
+}
+
+TEST(Leftovers, OfTheSameFileAreRemoved) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "antes");
+  carpeta.Write("f.txt.guardando-a1B2c3.tmp", "a medio escribir, y más largo que lo nuevo");
+  carpeta.Write("f.txt.guardando-zzzzzz.tmp", "");
+  ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
+  EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+TEST(Leftovers, AreThoseOfDeadWriters) {
+  const TempFolder carpeta;
+  const std::string deOtro = "f.txt.guardando-a1B2c3.tmp";
+  carpeta.Write(deOtro, "a medio escribir");
+  {
+    const Descriptor otro{carpeta.Path() / deOtro, O_RDWR};
+    ASSERT_TRUE(otro.Lock());
+    ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
+    EXPECT_EQ(carpeta.Read(deOtro), "a medio escribir");
+    EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt", deOtro}));
+  }
+  ReplaceFile(carpeta.Path() / "f.txt", "más nuevo");
+  EXPECT_EQ(carpeta.Read("f.txt"), "más nuevo");
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+// Names that only look like a leftover's, and things of such a name that are no files.
+TEST(Leftovers, AreNoOtherFiles) {
+  const TempFolder carpeta;
+  const Nombres ajenos{"f.txt.backup.tmp",
+                       "f.txt.guardando-a1B2c.tmp",
+                       "f.txt.guardando-a1B2c34.tmp",
+                       "f.txt.guardando-a1B2c3.bak",
+                       "f.txt.tmp",
+                       "g.txt.guardando-a1B2c3.tmp"};
+  for (const std::string& nombre : ajenos) carpeta.Write(nombre, "x");
+  fs::create_directory(carpeta.Path() / "f.txt.guardando-folder.tmp");
+  fs::create_symlink("f.txt.tmp", carpeta.Path() / "f.txt.guardando-linked.tmp");
+  ASSERT_EQ(::mkfifo((carpeta.Path() / "f.txt.guardando-tubo00.tmp").c_str(), 0600), 0);
+  Nombres antes = carpeta.Names();
+  ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
+  antes.insert(antes.begin(), "f.txt");
+  EXPECT_EQ(carpeta.Names(), antes);
+  for (const std::string& nombre : ajenos) EXPECT_EQ(carpeta.Read(nombre), "x");
+}
+
+TEST(Leftovers, AreRemovedInTheFolderOneIsIn) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt.guardando-a1B2c3.tmp", "x");
+  const fs::path antes = fs::current_path();
+  fs::current_path(carpeta.Path());
+  EXPECT_EQ(ErrorOf([] { ReplaceFile("f.txt", "nuevo"); }), "");
+  fs::current_path(antes);
+  EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
+}
+
+// Root in a user's folder: the user must be able to go on.
+TEST(TemporaryFile, KeepsTheOwnerAndTheGroup) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root gives files away";
+  const TempFolder carpeta;
+  const fs::path ruta = carpeta.Path() / "f.txt";
+  carpeta.Write("f.txt", "antes");
+  ASSERT_EQ(::chown(ruta.c_str(), 1234, 4321), 0);
+  ASSERT_EQ(::chmod(ruta.c_str(), 0640), 0);
+  ReplaceFile(ruta, "nuevo");
+  EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
+  EXPECT_EQ(OwnerOf(ruta), (Owner{1234, 4321}));
+  EXPECT_EQ(PermissionsOf(ruta), 0640U);
+}
+
+// Another's file that everybody may write, in a folder that everybody may write.
+class FileOfAnother : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (::geteuid() != 0) GTEST_SKIP() << "only root gives files away";
+    fs::create_directory(carpeta_.Path() / "dentro");
+    carpeta_.Write("dentro/f.txt", "antes");
+    ASSERT_EQ(::chmod(ruta_.c_str(), 0666), 0);
+  }
+  // As one whose new files have group 4321 in that folder, as folders with the setgid bit have it.
+  void SaveAsSomebodyElse() {
+    const PlainUser usuario{carpeta_};
+    ReplaceFile(ruta_, "nuevo");
+    quien_ = ::geteuid();
+  }
+  void GiveFolderAGroup() const {
+    const fs::path dentro = carpeta_.Path() / "dentro";
+    ASSERT_EQ(::chown(dentro.c_str(), 0, 4321), 0);
+    ASSERT_EQ(::chmod(dentro.c_str(), 02777), 0);
+  }
+
+  TempFolder carpeta_;
+  fs::path ruta_ = carpeta_.Path() / "dentro" / "f.txt";
+  uid_t quien_ = 0;
+};
+
+TEST_F(FileOfAnother, BecomesTheUsersAndKeepsTheGroupThatTheUserIsIn) {
+  GiveFolderAGroup();
+  ASSERT_EQ(::chown(ruta_.c_str(), 1234, ::getegid()), 0);
+  SaveAsSomebodyElse();
+  EXPECT_EQ(carpeta_.Read("dentro/f.txt"), "nuevo");
+  EXPECT_EQ(OwnerOf(ruta_), (Owner{quien_, ::getegid()}));
+  EXPECT_EQ(PermissionsOf(ruta_), 0666U);
+}
+
+TEST_F(FileOfAnother, IsSavedAlsoWhenTheUserIsNotInItsGroup) {
+  GiveFolderAGroup();
+  ASSERT_EQ(::chown(ruta_.c_str(), 1234, 5678), 0);
+  SaveAsSomebodyElse();
+  EXPECT_EQ(carpeta_.Read("dentro/f.txt"), "nuevo");
+  EXPECT_EQ(OwnerOf(ruta_).User, quien_);
+  EXPECT_EQ(PermissionsOf(ruta_), 0666U);
+}
+
+}  // namespace
+}  // namespace tasca::test

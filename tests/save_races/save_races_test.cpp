@@ -1,0 +1,123 @@
+// Several programs save in one folder at once and are killed at random: every file is always one
+// writer's whole content, and no save fails. TASCA_SAVES=1000 sets how often each program saves.
+#include <gtest/gtest.h>
+#include <poll.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/code_page.h"
+#include "characters/character_file.h"
+#include "startup/settings.h"
+#include "tests/save_races/saving_program.h"
+#include "tests/save_races/writers_text.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+namespace {
+
+constexpr int Seconds = 1000;  // in milliseconds
+
+// Rounds that each program is to save.
+int RoundsOfEach() {
+  constexpr int EnLaSuite = 10;
+  const char* const pedidas = std::getenv("TASCA_SAVES");      // NOLINT(concurrency-mt-unsafe)
+  return pedidas == nullptr ? EnLaSuite : std::atoi(pedidas);  // NOLINT(cert-err34-c)
+}
+
+class SaveRaces : public testing::TestWithParam<int> {
+ protected:
+  // Writer 0 is the one before all others.
+  SaveRaces() {
+    t_->Carpeta = carpeta_.Path();
+    for (int numero = GetParam(); numero >= 0; --numero) {
+      personajes_ = FillCast(*t_, numero);
+      repartos_.insert(TextoPersonajes(*t_, personajes_));
+      for (int otro = 0; otro <= GetParam(); ++otro) ajustes_.insert(Settings(numero, otro));
+    }
+    carpeta_.Write("mus.ini", Settings(0, 0));
+    carpeta_.Write("Jugadores.dat", TextoPersonajes(*t_, personajes_));
+    carpeta_.Write("Jugadores.bak", TextoPersonajes(*t_, personajes_));
+  }
+
+  static std::string Settings(int numero, int anterior) {
+    const auto linea = [](int escritor) {
+      return Encode(WritersName(escritor)) + "> Nombre del \xFAltimo jugador\r\n";
+    };
+    return "35\r\n3\r\n3\r\n" + linea(numero) + linea(anterior);
+  }
+
+  void StartAll() {
+    for (int numero = 1; numero <= GetParam(); ++numero) {
+      programas_.push_back(std::make_unique<SavingProgram>(carpeta_.Path().string(), numero));
+    }
+  }
+
+  // Waits until a program has saved; the rounds saved since the last time.
+  int WaitForRounds() {
+    std::vector<pollfd> esperados;
+    for (const auto& programa : programas_) {
+      esperados.push_back({.fd = programa->Output(), .events = POLLIN, .revents = 0});
+    }
+    EXPECT_GT(::poll(esperados.data(), esperados.size(), 60 * Seconds), 0) << "nobody saves";
+    int rondas = 0;
+    for (std::size_t i = 0; i < esperados.size(); ++i) {
+      if (esperados.at(i).revents != 0) rondas += programas_.at(i)->TakeRounds();
+    }
+    return rondas;
+  }
+
+  void ExpectWholeFiles() const {
+    EXPECT_TRUE(ajustes_.contains(carpeta_.Read("mus.ini")));
+    EXPECT_TRUE(repartos_.contains(carpeta_.Read("Jugadores.dat")));
+    EXPECT_TRUE(repartos_.contains(carpeta_.Read("Jugadores.bak")));
+  }
+
+  // A number from 0 to `hasta` - 1.
+  std::size_t Any(std::size_t hasta) { return azar_() % hasta; }
+
+  // A random program at a random step of its save: looking at the files takes about as long as one.
+  void KillOne() {
+    for (std::size_t veces = Any(8); veces > 0; --veces) ExpectWholeFiles();
+    programas_.at(Any(programas_.size()))->Restart();
+  }
+
+  TempFolder carpeta_;
+  std::unique_ptr<Table> t_ = std::make_unique<Table>();
+  int personajes_ = 0;
+  std::set<std::string> ajustes_;   // all that the settings may hold
+  std::set<std::string> repartos_;  // all that the character file and its copy may hold
+  std::vector<std::unique_ptr<SavingProgram>> programas_;
+  std::mt19937 azar_{static_cast<unsigned>(GetParam())};
+};
+
+TEST_P(SaveRaces, LeaveWholeFilesAndNoMessage) {
+  const int rondas = GetParam() * RoundsOfEach();
+  int muertes = 0;
+  StartAll();
+  for (int guardadas = 0; guardadas < rondas && !HasFailure();) {
+    guardadas += WaitForRounds();
+    ExpectWholeFiles();
+    if (Any(4) > 0) continue;
+    KillOne();
+    ++muertes;
+  }
+  EXPECT_GT(muertes, 0);
+  programas_.clear();
+  ExpectWholeFiles();
+  GuardarIni(*t_, WritersName(0));
+  EscribirPersonajes(*t_, personajes_);
+  EXPECT_EQ(carpeta_.Names(),
+            (std::vector<std::string>{"Jugadores.bak", "Jugadores.dat", "mus.ini"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, SaveRaces, testing::Values(2, 4, 8),
+                         testing::PrintToStringParamName{});
+
+}  // namespace
+}  // namespace tasca::test
