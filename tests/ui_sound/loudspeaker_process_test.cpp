@@ -1,0 +1,116 @@
+// The process that plays: how the game starts it, what it orders, and how it lets it go.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <optional>
+
+#include "tests/ui_sound/listener.h"
+#include "tests/ui_sound/stand_in.h"
+
+namespace tasca::test {
+namespace {
+
+// Tells its number, when it is ready, in a file that is there as a whole or not at all.
+constexpr const char* Ready = R"(echo $$ >"$here/new" && mv "$here/new" "$here/ready")";
+
+class LoudspeakerProcess : public testing::Test {
+ protected:
+  void Open(std::u16string_view archivo = u"Son.wav", const MediaPlayerSettings& ajustes = {}) {
+    mp1_->Open(carpeta_.Path(), archivo, ajustes);
+  }
+
+  // The number of the process that has been started.
+  pid_t WaitUntilReady() {
+    const auto listo = [this] { return std::filesystem::exists(carpeta_.Path() / "ready"); };
+    EXPECT_TRUE(Eventually(listo));
+    return listo() ? std::stoi(carpeta_.Read("ready")) : 0;
+  }
+
+  std::string Path(const std::string& nombre) const { return carpeta_.Path() / nombre; }
+
+  TempFolder carpeta_;
+  std::optional<MediaPlayer> mp1_{std::in_place};
+};
+
+// Not even a zombie is left: its number is nobody's.
+void ExpectGone(pid_t proceso) {
+  ASSERT_GT(proceso, 0);
+  EXPECT_EQ(::kill(proceso, 0), -1);
+  EXPECT_EQ(errno, ESRCH);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneOnceTheSoundIsTurnedOff) {
+  StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_EQ(::kill(proceso, 0), 0);
+  mp1_->TurnOn(false);
+  ExpectGone(proceso);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneWithTheMediaPlayer) {
+  StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  mp1_.reset();
+  ExpectGone(proceso);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneOnceItHasEndedByItself) {
+  StandIn(carpeta_, std::string{Ready} + "\nexit 1");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+  ExpectGone(proceso);
+}
+
+// Waiting for it would take until it has written its last file.
+TEST_F(LoudspeakerProcess, GoesAtOnceEvenIfItIgnoresRequestsToEnd) {
+  StandIn(carpeta_,
+          std::string{"trap '' TERM INT HUP\n"} + Ready + "\nsleep 5\n: >\"$here/lived on\"");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  mp1_->TurnOn(false);
+  ExpectGone(proceso);
+  EXPECT_FALSE(std::filesystem::exists(Path("lived on")));
+}
+
+TEST_F(LoudspeakerProcess, WritesNothingToThePlayersTerminal) {
+  StandIn(carpeta_, std::string{R"(outputs=$(readlink /proc/$$/fd/1 /proc/$$/fd/2))"} +
+                        R"(; echo "$outputs" >"$here/outputs"; )" + Ready);
+  Open();
+  WaitUntilReady();
+  EXPECT_EQ(carpeta_.Read("outputs"), "/dev/null\n/dev/null\n");
+}
+
+TEST_F(LoudspeakerProcess, InheritsNoneOfTheGamesFiles) {
+  carpeta_.Write("a file", "");
+  constexpr int Alto = 77;
+  const int abierto = ::open(Path("a file").c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(::dup2(abierto, Alto), Alto);
+  StandIn(carpeta_, std::string{R"(ls -l /proc/$$/fd >"$here/files"; )"} + Ready);
+  Open();
+  WaitUntilReady();
+  ::close(Alto);
+  ::close(abierto);
+  const std::string heredados = carpeta_.Read("files");
+  EXPECT_NE(heredados.find("0 -> socket:"), std::string::npos) << heredados;
+  EXPECT_EQ(heredados.find("a file"), std::string::npos) << heredados;
+}
+
+TEST_F(LoudspeakerProcess, IsOrderedToPlayAndToStop) {
+  StandInThatNotes(carpeta_);
+  Open(u"Una.wav", {.Veces = 3, .Balance = 300, .Volumen = -500});
+  mp1_->Stop();
+  Open(u"Otra.mp3");
+  const std::string ordenes =
+      "1 3 300 -500 " + Path("Una.wav") + "2 0 0 0 " + "3 1 0 0 " + Path("Otra.mp3");
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_).size() >= ordenes.size(); }));
+  EXPECT_EQ(OrdersNoted(carpeta_), ordenes);
+}
+
+}  // namespace
+}  // namespace tasca::test
