@@ -1,6 +1,7 @@
 #pragma once
 // The start-up dialog: the player's name, who sits where, and how the table talks.
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "table/game.h"
@@ -19,6 +20,11 @@ struct ComboBox {
 
 // Characters whose stories the dialog has room for.
 inline constexpr int MaximoHistorias = 50;
+
+// What a player is told whose name has more than AnchoNombre characters; no face takes one.
+static_assert(AnchoNombre == 100);
+inline constexpr std::u16string_view NombreDemasiadoLargo =
+    u"El nombre puede tener hasta 100 caracteres.";
 
 // The dialog's controls. A form shows them and passes events on; it decides nothing.
 struct DlgInicio {

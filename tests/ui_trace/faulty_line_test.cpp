@@ -104,6 +104,15 @@ TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
        with(R"("combos": [1, 2, 3], "name": 7)"), with(R"("combos": [1, 2, 3], "name": null)")});
 }
 
+TEST(TraceFaultyLine, WithANameOfMoreThanAHundredCharacters) {
+  const auto with = [](const std::string& name) {
+    return StartOf(R"("clock": [0, 0, 0], "combos": [1, 2, 3], "name": ")" + name + '"');
+  };
+  const std::string largo = std::string(97, 'x') + "Ñ€😀";
+  EveryOneIsRefused(TraceFolder{35, 3, 3}, {}, {with(largo), with(std::string(101, ' '))});
+  EXPECT_EQ(TraceFolder{}.Play({with(largo)}).Err, "line 1: name has more than 100 characters\n");
+}
+
 TEST(TraceFaultyLine, InsteadOfALaterStart) {
   const TraceFolder folder{35, 3, 3};
   const Lines refused{StartOf(R"("clock": [0, 0, 0], "combos": [1, 1, 1])")};

@@ -61,6 +61,14 @@ std::u16string Input::Text(const json& value, std::string_view name) const {
   return FromUtf8(value.get_ref<const std::string&>());
 }
 
+std::u16string Input::Name(const json& value) const {
+  std::u16string name = Text(value, "name");
+  if (name.size() > AnchoNombre) {
+    Reject("name has more than " + std::to_string(AnchoNombre) + " characters");
+  }
+  return name;
+}
+
 const json& Input::List(const json& object, const char* name, std::size_t size) const {
   const auto found = object.find(name);
   if (found == object.end() || !found->is_array() || found->size() != size) {
@@ -85,7 +93,7 @@ std::optional<StartLine> Input::NextStart(bool withClock) {
 
   StartLine line;
   if (withClock) line.Clock = Clock(start);
-  if (start.contains("name")) line.Name = Text(start["name"], "name");
+  if (start.contains("name")) line.Name = Name(start["name"]);
   const json& combos = List(start, "combos", line.Combos.size());
   std::transform(combos.begin(), combos.end(), line.Combos.begin(), [this](const json& position) {
     return Whole(position, "a position of combos", 0, INT16_MAX);

@@ -68,6 +68,7 @@ class Input {
   Integer Whole16(const nlohmann::json& value, std::string_view name) const;
   bool Truth(const nlohmann::json& value, std::string_view name) const;
   std::u16string Text(const nlohmann::json& value, std::string_view name) const;
+  std::u16string Name(const nlohmann::json& value) const;
   const nlohmann::json& List(const nlohmann::json& object, const char* name,
                              std::size_t size) const;
   TimeOfDay Clock(const nlohmann::json& start) const;
