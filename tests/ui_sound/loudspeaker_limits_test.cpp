@@ -54,6 +54,16 @@ TEST_F(LoudspeakerLimits, ADeviceThatTakesNoSamplesForLongIsClosed) {
             (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
+// Its nine or ten buffers take the device well over a second, the sound a fifth of one.
+TEST_F(LoudspeakerLimits, ASlowDeviceHasTimeToPlayItAll) {
+  Pace(150);
+  ASSERT_TRUE(Play("Son_DaUnaCarta.wav"));
+  ASSERT_TRUE(EndsWithin(seconds{30}));
+  altavoz_.Close();
+  EXPECT_EQ(Described(Listen(carpeta_.Recording())),
+            (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
+}
+
 // A hundred cards, longer than one and the delay that a device is granted.
 TEST_F(LoudspeakerLimits, EveryRepetitionHasItsTime) {
   Pace(5);

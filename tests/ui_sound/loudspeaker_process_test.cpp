@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <iterator>
 #include <optional>
 
 #include "tests/ui_sound/listener.h"
@@ -110,6 +111,62 @@ TEST_F(LoudspeakerProcess, IsOrderedToPlayAndToStop) {
       "1 3 300 -500 " + Path("Una.wav") + "2 0 0 0 " + "3 1 0 0 " + Path("Otra.mp3");
   EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_).size() >= ordenes.size(); }));
   EXPECT_EQ(OrdersNoted(carpeta_), ordenes);
+}
+
+// The second sound is opened before anybody has noticed that the program is gone.
+TEST_F(LoudspeakerProcess, IsStartedAnewWhenItHasEndedUnnoticed) {
+  StandIn(carpeta_, "exit 1");
+  Open();
+  ASSERT_TRUE(WaitForNews(*mp1_));
+  StandInThatNotes(carpeta_);
+  Open(u"Otra.wav");
+  const std::string orden = "2 1 0 0 " + Path("Otra.wav");
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_) == orden; })) << OrdersNoted(carpeta_);
+}
+
+TEST_F(LoudspeakerProcess, MayNotEndASoundBySayingThatItWasIdleBefore) {
+  StandIn(carpeta_, "printf idle >&0\nprintf 1 >&0\nexec cat");
+  Open();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+}
+
+TEST_F(LoudspeakerProcess, EndsNoSoundWithAnotherNumber) {
+  StandIn(carpeta_,
+          "printf 0 >&0; printf 2 >&0; printf 11 >&0\n" + std::string{Ready} + "\nexec cat");
+  Open();
+  WaitUntilReady();
+  EXPECT_EQ(AttendEnds(*mp1_, std::chrono::milliseconds{100}, [] { return true; }), 0);
+}
+
+TEST_F(LoudspeakerProcess, IsLetGoOnceItSaysThatItIsIdle) {
+  StandIn(carpeta_, std::string{Ready} + "\nprintf 1 >&0; printf idle >&0\nexec cat");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+  EXPECT_TRUE(Eventually([&] { return !mp1_->TakeEnd() && ::kill(proceso, 0) == -1; }));
+  ExpectGone(proceso);
+}
+
+std::size_t OpenFiles() {
+  namespace fs = std::filesystem;
+  return static_cast<std::size_t>(
+      std::distance(fs::directory_iterator{"/proc/self/fd"}, fs::directory_iterator{}));
+}
+
+TEST_F(LoudspeakerProcess, LeavesNoFileOfTheGamesOpen) {
+  mp1_.reset();
+  const std::size_t antes = OpenFiles();
+  StandInThatNotes(carpeta_);
+  for (int i = 0; i < 3; ++i) {
+    mp1_.emplace();
+    Open();
+    mp1_->TurnOn(false);
+    Open();
+    mp1_->TurnOn(true);
+    Open();
+    mp1_.reset();
+  }
+  EXPECT_EQ(OpenFiles(), antes);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 
 #include "tests/ui_sound/recording.h"
 
@@ -82,6 +83,17 @@ class SoundProgram : public testing::Test {
     return estado;
   }
 
+  // Whether it has the loudspeaker open.
+  bool HoldsTheDevice() const {
+    namespace fs = std::filesystem;
+    const fs::path archivos = fs::path{"/proc"} / std::to_string(proceso_) / "fd";
+    for (const auto& enlace : fs::directory_iterator{archivos}) {
+      std::error_code error;  // one that has been closed meanwhile
+      if (fs::read_symlink(enlace, error) == carpeta_.Recording()) return true;
+    }
+    return false;
+  }
+
   SoundFolder carpeta_;
 
  private:
@@ -130,13 +142,26 @@ TEST_F(SoundProgram, AnswersForTheLastOfTwoOrders) {
 
 TEST_F(SoundProgram, RestsOnceWhenItHasBeenQuietForAWhile) {
   Start();
-  Order("3 0 0 0 ");
+  OrderCard("3 1 0 0");
   EXPECT_EQ(Hear(), "3");
   EXPECT_EQ(Hear(1000), Nada) << "another sound may follow soon";
+  EXPECT_TRUE(HoldsTheDevice());
   EXPECT_EQ(Hear(), "idle");
+  EXPECT_FALSE(HoldsTheDevice());
   EXPECT_EQ(Hear(100), Nada);
   OrderCard("4 1 0 0");
   EXPECT_EQ(Hear(), "4");
+}
+
+TEST_F(SoundProgram, TakesTheLongestPathThereCanBe) {
+  Start();
+  constexpr std::size_t Maximo = 4095;
+  std::string ruta = carpeta_.Path().string() + "/";
+  const std::string nombre = "Son_DaUnaCarta.wav";
+  while (ruta.size() + nombre.size() + 2 <= Maximo) ruta += "./";
+  Order("1 1 0 0 " + ruta + nombre);
+  EXPECT_EQ(Hear(), "1");
+  EXPECT_TRUE(std::filesystem::exists(carpeta_.Recording())) << "it has been played";
 }
 
 TEST_F(SoundProgram, EndsWithTheGame) {
