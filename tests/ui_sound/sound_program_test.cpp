@@ -23,7 +23,7 @@ const std::string Nada = "nothing is said";
 
 class SoundProgram : public testing::Test {
  protected:
-  ~SoundProgram() override {
+  void TearDown() override {
     if (proceso_ > 0) {
       ::kill(proceso_, SIGKILL);
       ::waitpid(proceso_, nullptr, 0);
