@@ -7,6 +7,25 @@ add_compile_options(-ffp-contract=off)
 # Array and container bounds of the standard library are checked in every build; it costs nothing here.
 add_compile_definitions(_GLIBCXX_ASSERTIONS)
 
+# What players run: a fault of memory ends the program instead of being used against them. The
+# sanitizers look for the same faults themselves, and coverage wants the plain code.
+if(NOT TASCA_SANITIZE AND NOT TASCA_COVERAGE AND NOT TASCA_FUZZ)
+  set(TASCA_HARDENED ON)
+  include(CheckCXXCompilerFlag)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  # Keeps functions of the same source inlinable in position-independent code.
+  add_compile_options(-fno-semantic-interposition -fstack-protector-strong)
+  add_link_options(-Wl,-z,relro -Wl,-z,now)
+  check_cxx_compiler_flag(-fcf-protection TASCA_HAS_CF_PROTECTION)  # x86 alone has it
+  if(TASCA_HAS_CF_PROTECTION)
+    add_compile_options(-fcf-protection)
+  endif()
+  # Wants an optimised build.
+  add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=3>)
+endif()
+
 if(TASCA_SANITIZE)
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
   # Only clang sees a value that does not survive a conversion, such as a wrapped 16-bit number.

@@ -1,6 +1,7 @@
 #pragma once
 // The start-up dialog: the player's name, who sits where, and how the table talks.
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "table/game.h"
@@ -16,6 +17,11 @@ struct ComboBox {
   std::vector<Entrada> List;
   int ListIndex = -1;  // -1 while nothing is chosen
 };
+
+// What a player is told who types a name of more than AnchoNombre characters.
+static_assert(AnchoNombre == 100);
+inline constexpr std::u16string_view NombreDemasiadoLargo =
+    u"El nombre puede tener hasta 100 caracteres.";
 
 // The dialog's controls. A form shows them and passes events on; it decides nothing.
 struct DlgInicio {

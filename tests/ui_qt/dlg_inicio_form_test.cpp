@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QTest>
 
 #include "tests/support/scripted_port.h"
@@ -109,6 +111,46 @@ TEST_F(DlgInicioWindow, SelectsTheWholeNameWhenItGetsTheFocus) {
 TEST_F(DlgInicioWindow, TakesAPastedNameAsOneLine) {
   Find<QLineEdit>("Text2")->setText(QStringLiteral("Ana\r\nMaría"));
   EXPECT_EQ(Utf8(ventana_.State().Text2), "Ana  María");
+}
+
+TEST_F(DlgInicioWindow, TakesNoMoreThanAHundredCharactersAndSaysSo) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  const std::string cien(100, 'x');
+  const std::string reparo = "El nombre puede tener hasta 100 caracteres.";
+  QTest::keyClicks(nombre, QString::fromStdString(cien));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), cien);
+  EXPECT_EQ(LabelText("Status"), "");
+  QTest::keyClicks(nombre, QStringLiteral("y"));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), cien);
+  EXPECT_EQ(LabelText("Status"), reparo);
+  Press(&ventana_, Qt::Key_Backspace);
+  EXPECT_EQ(LabelText("Status"), "");
+  nombre->insert(QStringLiteral("yz"));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), std::string(99, 'x') + "y");
+  EXPECT_EQ(LabelText("Status"), reparo);
+}
+
+TEST_F(DlgInicioWindow, TakesAHundredCharactersOfALongerPaste) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  QGuiApplication::clipboard()->setText(QString{300, QChar{u'x'}});
+  nombre->selectAll();
+  nombre->paste();
+  EXPECT_EQ(Utf8(ventana_.State().Text2), std::string(100, 'x'));
+  EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
+}
+
+TEST_F(DlgInicioWindow, LeavesALongerNameOfTheSettingsAlone) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  const std::string largo(150, 'x');
+  ventana_.State().Text2 = std::u16string(150, u'x');
+  ventana_.ShowState();
+  EXPECT_EQ(Utf8(nombre->text()), largo);
+  EXPECT_EQ(Utf8(ventana_.State().Text2), largo);
+  EXPECT_EQ(LabelText("Status"), "");
+  nombre->end(false);
+  QTest::keyClicks(nombre, QStringLiteral("y"));
+  EXPECT_EQ(Utf8(ventana_.State().Text2), largo);
+  EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
 TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {

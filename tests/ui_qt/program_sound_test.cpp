@@ -10,6 +10,7 @@
 #include "tests/ui_qt/player.h"
 #include "tests/ui_sound/listener.h"
 #include "tests/ui_sound/recording.h"
+#include "tests/ui_sound/stand_in.h"
 #include "ui/qt/program.h"
 
 namespace tasca::test {
@@ -133,6 +134,35 @@ TEST_F(ProgramWithSound, StaysSilentAtTheNextTable) {
   };
   EXPECT_EQ(Play(), 0);
   EXPECT_EQ(conSonido, std::vector<bool>{false});
+}
+
+// The stand-in never says that a sound has ended: nothing but the main window's end stops one.
+TEST_F(ProgramWithSound, LetsNothingOfTheOldTablePlayOn) {
+  StandInThatNotes(carpeta_);
+  std::string ordenes;
+  const auto barajadas = [&] {
+    ordenes = OrdersNoted(carpeta_);
+    return QString::fromStdString(ordenes).count(QStringLiteral("Son_BarajaCartas.mp3"));
+  };
+  bool hayCambio = false;
+  enLaCaja_ = [&hayCambio](QWidget* caja) {
+    const auto* const mensaje = qobject_cast<QMessageBox*>(caja);
+    const QString texto = mensaje != nullptr ? mensaje->text() : QString{};
+    if (!texto.startsWith(QStringLiteral("¿Desea"))) return Answer(caja);
+    hayCambio = hayCambio || texto.contains(QStringLiteral("cambiar"));
+    Press(caja, Qt::Key_S);
+  };
+  enLaMesa_ = [&](QWidget* ventana) {
+    if (!hayCambio) return Press(ventana, Qt::Key_Return);
+    if (barajadas() == 2) ventana->close();
+  };
+  EXPECT_EQ(Play(), 0);
+  // "12 0 0 0 " stops number 11; the next order is the new table's.
+  const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
+  ASSERT_NE(ultima, std::string::npos);
+  const std::size_t anterior = ordenes.rfind("Son_", ultima);
+  EXPECT_NE(ordenes.substr(anterior, ultima - anterior).find(" 0 0 0 "), std::string::npos)
+      << ordenes;
 }
 
 }  // namespace

@@ -8,7 +8,10 @@
 #include "base/endings.h"
 #include "table/dialog.h"
 #include "tests/support/tables.h"
+#include "tests/support/temp_folder.h"
 #include "tests/ui_qt/player.h"
+#include "tests/ui_sound/listener.h"
+#include "tests/ui_sound/stand_in.h"
 
 namespace tasca::test {
 namespace {
@@ -30,11 +33,39 @@ TEST(QtPort, TellsTheTimeOfDay) {
   EXPECT_LE(qAbs(antes.secsTo(hora)) % (24 * 3600 - 1), 2);
 }
 
-TEST(QtPort, TakesSoundsWithoutALoudspeaker) {
+// The folder holds no program that plays.
+TEST(QtPort, ReportsTheEndOfASoundWithoutALoudspeaker) {
   QtPort port;
-  const Table t = MesaDePrueba();
-  port.OpenSound(t, u"no_existe.wav");
+  const TempFolder carpeta;
+  Table t = MesaDePrueba();
+  t.Carpeta = carpeta.Path();
+  port.OpenSound(t, u"Son.wav");
+  EXPECT_TRUE(WaitForEnd(port.Mp1()));
+}
+
+TEST(QtPort, OrdersASoundOfTheTablesFolderAndItsEnd) {
+  QtPort port;
+  const TempFolder carpeta;
+  StandInThatNotes(carpeta);
+  Table t = MesaDePrueba();
+  t.Carpeta = carpeta.Path();
+  t.Mp1 = {.Veces = 2, .Balance = -300, .Volumen = -500};
+  port.OpenSound(t, u"Son.wav");
   port.StopSound(t);
+  const std::string ordenes = "1 2 -300 -500 " + (carpeta.Path() / "Son.wav").string() + "2 0 0 0 ";
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta).size() >= ordenes.size(); }));
+  EXPECT_EQ(OrdersNoted(carpeta), ordenes);
+}
+
+TEST(QtPort, StopsWhatPlaysWhenTheStartWindowComes) {
+  QtPort port;
+  const TempFolder carpeta;
+  StandInThatNotes(carpeta);
+  Table t = MesaDePrueba();
+  t.Carpeta = carpeta.Path();
+  port.OpenSound(t, u"Son.wav");
+  port.SetStartWindow(nullptr);
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta).ends_with("2 0 0 0 "); }));
 }
 
 TEST(QtPort, GivesTheAnswerOfTheBiddingDialog) {

@@ -68,14 +68,27 @@ TEST(Console, ReadsAVeryLongLine) {
   EXPECT_EQ(c.Consola.ReadLine().size(), 3'000'000U);
 }
 
+// Knows how often it has been told to send on what it holds.
+struct CountingBuffer : std::stringbuf {
+  int sync() override {
+    ++Flushes;
+    return 0;
+  }
+  int Flushes = 0;
+};
+
+TEST(Console, SendsEverythingOnBeforeItTellsAnError) {
+  CountingBuffer buffer;
+  std::ostream out{&buffer};
+  std::istringstream in;
+  std::ostringstream err;
+  Console consola{{.In = in, .Out = out, .Err = err}};
+  consola.Prompt(u"¿mus? ");
+  consola.Error(u"Falta algo.");
+  EXPECT_EQ(buffer.Flushes, 1);
+}
+
 TEST(Console, SendsEverythingOnBeforeItReads) {
-  struct CountingBuffer : std::stringbuf {
-    int sync() override {
-      ++Flushes;
-      return 0;
-    }
-    int Flushes = 0;
-  };
   CountingBuffer buffer;
   std::ostream out{&buffer};
   std::istringstream in{"\n"};

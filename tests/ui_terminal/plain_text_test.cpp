@@ -61,6 +61,12 @@ TEST(PlainText, LeavesOutThePaddingOfNames) {
   EXPECT_EQ(PlainText(u"el Cojo          cambia 4 cartas."), "el Cojo cambia 4 cartas.");
 }
 
+TEST(PlainText, TakesThreeBlanksForPadding) {
+  EXPECT_EQ(PlainText(u"Rey   de oros"), "Rey de oros");
+  EXPECT_EQ(PlainText(u"Sabe   .\r\nCalla   \nMira   ,\rVe   "), "Sabe.\nCalla\nMira,\nVe");
+  EXPECT_EQ(PlainText(u"   Rey"), " Rey");
+}
+
 TEST(PlainText, KeepsTheDoubledBlanksOfTheProse) {
   EXPECT_EQ(PlainText(u"La pareja 1 se saca  las 3 envidadas a grande "),
             "La pareja 1 se saca  las 3 envidadas a grande ");

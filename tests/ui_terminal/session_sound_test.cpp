@@ -4,12 +4,14 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <sstream>
 #include <streambuf>
 #include <string>
 #include <thread>
 
 #include "tests/ui_sound/recording.h"
+#include "tests/ui_sound/stand_in.h"
 #include "tests/ui_terminal/sessions.h"
 #include "ui/terminal/terminal.h"
 
@@ -86,6 +88,41 @@ TEST_F(SessionWithSound, IsSilentOnDemandAndGoesOn) {
   const std::vector<Heard> oidos = Listen(carpeta_.Recording());
   ASSERT_EQ(oidos.size(), 1U) << "the recording begins anew with the device";
   EXPECT_EQ(oidos.front().Archivo, "Son_ReparteCartas.mp3");
+}
+
+std::size_t Shuffles(const std::string& ordenes) {
+  constexpr std::string_view Baraja = "Son_BarajaCartas.mp3";
+  std::size_t veces = 0;
+  for (std::size_t i = ordenes.find(Baraja); i != std::string::npos;
+       i = ordenes.find(Baraja, i + 1)) {
+    ++veces;
+  }
+  return veces;
+}
+
+// The stand-in never says that a sound has ended: nothing but the main window's end stops one.
+TEST(SessionThatIsHeard, LetsNothingOfTheOldTablePlayOn) {
+  const TempFolder carpeta;
+  LlenarCarpeta(carpeta, "1", "4", "4");
+  StandInThatNotes(carpeta);
+  std::string ordenes;
+  const auto segundaMesa = [&] { return Shuffles(ordenes = OrdersNoted(carpeta)) == 2; };
+  int puertas = 0;
+  const Player jugador = [&](const std::string& pregunta) -> std::optional<std::string> {
+    if (pregunta.starts_with("Su nombre: ")) ++puertas;
+    if (puertas == 2 && pregunta == "Pulse enter para empezar") {
+      EXPECT_TRUE(Eventually(segundaMesa)) << ordenes;
+      return std::nullopt;
+    }
+    return pregunta.find("¿mus?") != std::string::npos ? "n" : "";
+  };
+  EXPECT_EQ(PlayHearing(carpeta, jugador).Status, 0);
+  // "12 0 0 0 " stops number 11; the next order is the new table's.
+  const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
+  ASSERT_NE(ultima, std::string::npos);
+  const std::size_t anterior = ordenes.rfind("Son_", ultima);
+  EXPECT_NE(ordenes.substr(anterior, ultima - anterior).find(" 0 0 0 "), std::string::npos)
+      << ordenes;
 }
 
 }  // namespace

@@ -2,7 +2,9 @@
 #include "tests/ui_terminal/sessions.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <array>
 #include <istream>
 #include <streambuf>
 #include <utility>
@@ -54,10 +56,12 @@ class PlayerInput : public std::streambuf {
   std::string linea_;
 };
 
-SessionResult Play(const TempFolder& carpeta, std::istream& in, std::ostringstream& out) {
+SessionResult Play(const TempFolder& carpeta, std::istream& in, std::ostringstream& out,
+                   int teclado = -1) {
   std::ostringstream err;
   SessionResult resultado;
-  resultado.Status = RunTerminal(carpeta.Path(), {.In = in, .Out = out, .Err = err}, TenPastNine);
+  resultado.Status = RunTerminal(
+      carpeta.Path(), {.In = in, .Out = out, .Err = err, .Keyboard = teclado}, TenPastNine);
   resultado.Out = out.str();
   resultado.Err = err.str();
   return resultado;
@@ -99,6 +103,18 @@ SessionResult PlayWith(const TempFolder& carpeta, const Player& jugador, int max
   PlayerInput entrada{out, jugador, maximo};
   std::istream in{&entrada};
   return Play(carpeta, in, out);
+}
+
+SessionResult PlayHearing(const TempFolder& carpeta, const Player& jugador, int maximo) {
+  std::array<int, 2> tubo{-1, -1};
+  EXPECT_EQ(::pipe(tubo.data()), 0);
+  ::close(tubo[1]);  // there is always something at the keyboard: its end
+  std::ostringstream out;
+  PlayerInput entrada{out, jugador, maximo};
+  std::istream in{&entrada};
+  SessionResult resultado = Play(carpeta, in, out, tubo[0]);
+  ::close(tubo[0]);
+  return resultado;
 }
 
 }  // namespace tasca::test

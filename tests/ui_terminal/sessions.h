@@ -50,5 +50,7 @@ SessionResult PlayLines(const TempFolder& carpeta, const std::string& lineas);
 // input. The session fails when it takes more than `maximo` answers.
 using Player = std::function<std::optional<std::string>(const std::string& pregunta)>;
 SessionResult PlayWith(const TempFolder& carpeta, const Player& jugador, int maximo = 2000);
+// The same for a player who hears the loudspeaker.
+SessionResult PlayHearing(const TempFolder& carpeta, const Player& jugador, int maximo = 2000);
 
 }  // namespace tasca::test

@@ -178,6 +178,23 @@ TEST(AskStartup, TellsAllTheStoriesOnDemand) {
             std::string::npos);
 }
 
+TEST(AskStartup, RefusesANameOfMoreThanAHundredCharacters) {
+  const std::string cien = "Ñ" + std::string(99, 'x');
+  AtTheDoor a{cien + "y\n" + std::string(3'000'000, 'x') + "\n" + cien + "\n\n\n\n\n\n\n"};
+  const std::string reparo = "El nombre puede tener hasta 100 caracteres.\n";
+  EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [Ana] \n" + reparo +
+                                  "Su nombre: [Ana] \n" + reparo + "Su nombre: [Ana] \n" + Lista));
+  EXPECT_EQ(Utf8(a.t.NombreJugador), cien);
+}
+
+TEST(AskStartup, LeavesALongerNameOfTheSettingsAlone) {
+  const std::string largo(150, 'x');
+  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\n" + largo + "> Nombre\r\n");
+  EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [" + largo + "] \n" + Lista));
+  EXPECT_EQ(Utf8(a.t.NombreJugador), largo);
+}
+
 bool Leaves(AtTheDoor& a) {
   try {
     a.Ask();

@@ -282,6 +282,37 @@ TEST_F(Session, TellsOnceThatTheCharacterFileIsMissing) {
   EXPECT_EQ(sesion.Err, "");
 }
 
+// An output that takes what it is given until it has been told so often to send it on.
+struct FillingBuffer : std::stringbuf {
+  explicit FillingBuffer(int quedan) : Quedan{quedan} {}
+  int sync() override { return Quedan-- > 0 ? 0 : -1; }
+  int Quedan;
+};
+
+TEST_F(Session, EndsWithAnErrorWheneverItsOutputDoesNotArrive) {
+  LlenarCarpeta(Carpeta);
+  const auto jugar = [&](FillingBuffer& buffer, std::string& error) {
+    std::istringstream in{Puerta + "?\n"};
+    std::ostream out{&buffer};
+    std::ostringstream err;
+    const int estado = RunTerminal(Carpeta.Path(), {.In = in, .Out = out, .Err = err});
+    error = err.str();
+    return estado;
+  };
+  constexpr int DeSobra = 1000;
+  FillingBuffer entera{DeSobra};
+  std::string error;
+  EXPECT_EQ(jugar(entera, error), 0);
+  const int veces = DeSobra - entera.Quedan;
+  EXPECT_EQ(veces, 10) << "nine lines to read, the end of the input among them, and the end";
+  for (int llena = 0; llena < veces; ++llena) {
+    FillingBuffer buffer{llena};
+    EXPECT_EQ(jugar(buffer, error), 1) << llena;
+    EXPECT_EQ(error,
+              "No se puede escribir en la salida. El programa va a terminar su ejecución.\n");
+  }
+}
+
 TEST_F(Session, PrintsNoControlCharacterOfAnyFile) {
   LlenarCarpeta(Carpeta);
   std::string personajes = Carpeta.Read("Jugadores.dat");

@@ -2,9 +2,13 @@
 #include "ui/terminal/waiting.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
+#include <cstdlib>
 
 #include "tests/support/temp_folder.h"
 
@@ -21,6 +25,7 @@ class Waiting : public testing::Test {
   }
 
   void Type() { EXPECT_EQ(::write(tubo_[1], "\n", 1), 1); }
+  int Keyboard() const { return tubo_[1]; }
   void HangUp() {
     if (tubo_[1] >= 0) ::close(tubo_[1]);
     tubo_[1] = -1;
@@ -63,6 +68,42 @@ TEST_F(Waiting, LetsASoundEndEvenIfTheLineIsThereAlready) {
   Type();
   Wait([&finales] { ++finales; });
   EXPECT_EQ(finales, 1);
+}
+
+// Signals that come every ten milliseconds; the twentieth types a line.
+volatile std::sig_atomic_t senales = 0;
+volatile std::sig_atomic_t dondeTeclear = -1;
+
+void OnSignal(int /*senal*/) {
+  constexpr int Ultima = 20;
+  senales = senales + 1;
+  if (senales == Ultima && ::write(dondeTeclear, "\n", 1) != 1) std::abort();
+}
+
+// How often this thread has gone to sleep so far. One that spins never does, however busy the
+// machine.
+long Sleeps() {
+  rusage uso{};
+  ::getrusage(RUSAGE_THREAD, &uso);
+  return uso.ru_nvcsw;
+}
+
+TEST_F(Waiting, GoesOnAfterASignalAndSleepsBetweenThem) {
+  senales = 0;
+  dondeTeclear = Keyboard();
+  struct sigaction antes {};
+  struct sigaction accion {};
+  accion.sa_handler = OnSignal;
+  ASSERT_EQ(::sigaction(SIGALRM, &accion, &antes), 0);
+  const itimerval cada{.it_interval = {0, 10'000}, .it_value = {0, 10'000}};
+  const long comienzo = Sleeps();
+  ::setitimer(ITIMER_REAL, &cada, nullptr);
+  Wait([] { FAIL() << "no sound was opened"; });
+  const itimerval nunca{};
+  ::setitimer(ITIMER_REAL, &nunca, nullptr);
+  EXPECT_GE(Sleeps() - comienzo, 3) << "between twenty signals";
+  ASSERT_EQ(::sigaction(SIGALRM, &antes, nullptr), 0);
+  EXPECT_GE(senales, 20) << "it ended before there was a line";
 }
 
 }  // namespace

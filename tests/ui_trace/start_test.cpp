@@ -37,6 +37,20 @@ TEST(TraceStart, TrimsTheName) {
   EXPECT_EQ(state.Last()["NombreJugador"], "Ana");
 }
 
+TEST(TraceStart, TakesANameOfAHundredCharacters) {
+  const std::string cien = std::string(96, 'x') + "Ñ€😀";
+  const auto state =
+      TraceFolder{}.Play({StartWith(R"("name": ")" + cien + R"(", "combos": [1, 2, 3])")}).Last();
+  EXPECT_EQ(state["NombreJugador"], cien);
+}
+
+TEST(TraceStart, LeavesALongerNameOfTheSettingsAlone) {
+  const TraceFolder folder;
+  const std::string largo(150, 'x');
+  folder.Files().Write("mus.ini", "7\r\n3\r\n3\r\n" + largo + "> Nombre\r\n");
+  EXPECT_EQ(folder.Play({StartWith(R"("combos": [1, 2, 3])")}).Last()["NombreJugador"], largo);
+}
+
 TEST(TraceStart, WithoutANameTakesTheOneThatTheDialogLoaded) {
   const std::string line = StartWith(R"("combos": [1, 2, 3], "checks": [true, true], "option": 0)");
   EXPECT_EQ(TraceFolder{}.Play({line}).Last()["NombreJugador"], "Jugador 1");

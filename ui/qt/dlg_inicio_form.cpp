@@ -2,12 +2,14 @@
 #include "ui/qt/dlg_inicio_form.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QFocusEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMetaObject>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "ui/qt/qt_text.h"
@@ -66,6 +68,7 @@ DlgInicioForm::DlgInicioForm(Events sucesos)
     : sucesos_{std::move(sucesos)},
       text1_{Texto(this)},
       text2_{new NameEdit{this}},
+      estadoTexto_{new StatusLine{this}},
       text3_{Hoja(this, 1)},
       text4_{Hoja(this, 7)},
       combos_{new QComboBox{this}, new QComboBox{this}, new QComboBox{this}},
@@ -118,8 +121,7 @@ void DlgInicioForm::Connect() {
     sucesos_.Run(suceso);
     ShowState();
   };
-  connect(text2_, &QLineEdit::textChanged, this,
-          [this](const QString& texto) { estado_.Text2 = FromInput(texto); });
+  ConnectName();
   const auto elegir = [this, pasar](QComboBox* combo, ComboClick clic) {
     connect(combo, &QComboBox::activated, this, [this, pasar, clic](int posicion) {
       pasar([this, clic, posicion] { clic(estado_, posicion); });
@@ -138,6 +140,26 @@ void DlgInicioForm::Connect() {
   }
   connect(cbOK_, &QPushButton::clicked, this, [this] { sucesos_.CbOK_Click(); });
   connect(cbCancel_, &QPushButton::clicked, this, [this] { sucesos_.Left(); });
+}
+
+// What does not fit is cut off what is pasted: the line of status stays until there is room again.
+void DlgInicioForm::ConnectName() {
+  text2_->setMaxLength(AnchoNombre);
+  connect(text2_, &QLineEdit::textChanged, this, [this](const QString& texto) {
+    estado_.Text2 = FromInput(texto);
+    if (texto.size() < text2_->maxLength()) estadoTexto_->ShowText({});
+  });
+  connect(text2_, &QLineEdit::inputRejected, this, [this] {
+    estadoTexto_->ShowText(NombreDemasiadoLargo);
+    QApplication::beep();
+  });
+}
+
+void DlgInicioForm::ShowName() {
+  if (estado_.Text2 == FromInput(text2_->text())) return;
+  const QString nombre = ToDisplay(estado_.Text2);
+  text2_->setMaxLength(std::max(AnchoNombre, static_cast<int>(nombre.size())));
+  text2_->setText(nombre);
 }
 
 void DlgInicioForm::BuildLayout() {
@@ -194,7 +216,7 @@ QLayout* DlgInicioForm::BuildStyle() {
 
 QLayout* DlgInicioForm::BuildButtons() {
   auto* const botones = new QHBoxLayout;
-  botones->addStretch(1);
+  botones->addWidget(estadoTexto_, 1);
   botones->addWidget(cbOK_);
   botones->addWidget(cbCancel_);
   return botones;
@@ -208,7 +230,7 @@ void DlgInicioForm::SetTabs() {
 
 void DlgInicioForm::ShowState() {
   text1_->setText(ToDisplay(estado_.Text1).trimmed());
-  if (estado_.Text2 != FromInput(text2_->text())) text2_->setText(ToDisplay(estado_.Text2));
+  ShowName();
   text3_->setText(ToDisplay(estado_.Text3));
   text4_->setText(ToDisplay(estado_.Text4));
   ShowCombo(combos_[0], estado_.Combo1);

@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "startup/dlg_inicio.h"
+#include "ui/qt/status_line.h"
 
 namespace tasca {
 
@@ -35,6 +36,9 @@ class DlgInicioForm : public QDialog {
  private:
   void NameControls();
   void Connect();
+  void ConnectName();
+  // Up to AnchoNombre characters; a longer name that is already there can only be shortened.
+  void ShowName();
   void BuildLayout();
   QLayout* BuildChoices();
   QLayout* BuildStyle();
@@ -45,6 +49,7 @@ class DlgInicioForm : public QDialog {
   DlgInicio estado_;
   QLabel* text1_;
   QLineEdit* text2_;
+  StatusLine* estadoTexto_;
   QLabel* text3_;
   QLabel* text4_;
   std::array<QComboBox*, 3> combos_;

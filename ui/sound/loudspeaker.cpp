@@ -13,7 +13,8 @@ constexpr int Frecuencia = 44100;
 constexpr int Lados = 2;
 constexpr int Canal = 0;
 
-// A file of the game, and nothing that could be read for ever.
+// A file of the game, and nothing that could be read for ever. What file_size gives for that is
+// each system's own.
 bool MayHoldSound(const std::filesystem::path& archivo) {
   constexpr std::uintmax_t maximo = 16'000'000;
   std::error_code error;

@@ -72,8 +72,20 @@ void AskNarration(DlgInicio& d, Console& consola, const Prompts& preguntas) {
   consola.Line(Join(u"Así se contará: ", d.Text3));
 }
 
+// A longer name that the settings file already holds stays when it is left alone.
+void AskName(DlgInicio& d, Console& consola, const Prompts& preguntas) {
+  for (;;) {
+    const std::u16string nombre = preguntas.Text(u"Su nombre:", d.Text2);
+    if (nombre.size() <= AnchoNombre || nombre == d.Text2) {
+      d.Text2 = nombre;
+      return;
+    }
+    consola.Line(NombreDemasiadoLargo);
+  }
+}
+
 void AskEverything(DlgInicio& d, Console& consola, const Prompts& preguntas) {
-  d.Text2 = preguntas.Text(u"Su nombre:", d.Text2);
+  AskName(d, consola, preguntas);
   PrintCharacters(d, consola);
   AskCombo(d, consola, preguntas, u"Compañero:", d.Combo1, Combo1_Click);
   AskCombo(d, consola, preguntas, u"Contrario 1:", d.Combo2, Combo2_Click);

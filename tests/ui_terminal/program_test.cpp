@@ -1,0 +1,118 @@
+// The program tasca-terminal as a player starts it: at a terminal, over SSH, in a pipe, through a
+// link, by its name.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/ui_sound/stand_in.h"
+#include "tests/ui_terminal/sessions.h"
+#include "tests/ui_terminal/terminal_program.h"
+
+namespace tasca::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Words = std::vector<std::string>;
+
+constexpr Sides Terminal{};
+constexpr Sides Pipes{.TypesAtTerminal = false, .ReadsAtTerminal = false};
+
+class TerminalProgramRun : public testing::Test {
+ protected:
+  TerminalProgramRun() {
+    LlenarCarpeta(carpeta_);
+    CopyTerminalProgram(carpeta_.Path());
+    StandIn(carpeta_, ": >\"$here/started\"\nexec cat");
+  }
+
+  std::string Program() const { return carpeta_.Path() / "tasca-terminal"; }
+  bool LoudspeakerStarted() const { return fs::exists(carpeta_.Path() / "started"); }
+
+  // What the game says to the wish for no sound, once the first hand has been dealt.
+  std::string AnswerAboutSound(const Sides& lados, const Words& variables) {
+    Words orden = variables;
+    orden.push_back(Program());
+    TerminalProgram programa{lados, orden};
+    programa.Type(Puerta);
+    EXPECT_TRUE(programa.Shows("Pulse enter para empezar")) << programa.Shown();
+    programa.Type("sonido\n");
+    const bool sin = programa.Shows("onido.");
+    EXPECT_TRUE(sin) << programa.Shown();
+    EXPECT_EQ(programa.End(), 0);
+    const bool hay = programa.Shown().find("En esta terminal no hay sonido.") == std::string::npos;
+    return hay ? "plays" : "silent";
+  }
+
+  TempFolder carpeta_;
+};
+
+TEST_F(TerminalProgramRun, PlaysToThePlayerInFrontOfIt) {
+  TerminalProgram programa{Terminal, {Program()}};
+  programa.Type(Puerta);
+  EXPECT_TRUE(Eventually([this] { return LoudspeakerStarted(); }));
+  programa.Type("sonido\n");
+  EXPECT_TRUE(programa.Shows("Sin sonido.")) << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+TEST_F(TerminalProgramRun, IsSilentOverSsh) {
+  EXPECT_EQ(AnswerAboutSound(Terminal, {"SSH_CONNECTION=192.0.2.7 50000 192.0.2.1 22"}), "silent");
+  EXPECT_EQ(AnswerAboutSound(Terminal, {"SSH_TTY=/dev/pts/0"}), "silent");
+  EXPECT_FALSE(LoudspeakerStarted());
+  EXPECT_EQ(AnswerAboutSound(Terminal, {}), "plays");
+}
+
+TEST_F(TerminalProgramRun, IsSilentUnlessThePlayerTypesAndReadsAtATerminal) {
+  EXPECT_EQ(AnswerAboutSound(Pipes, {}), "silent");
+  EXPECT_EQ(AnswerAboutSound({.TypesAtTerminal = false}, {}), "silent");
+  EXPECT_EQ(AnswerAboutSound({.ReadsAtTerminal = false}, {}), "silent");
+  EXPECT_FALSE(LoudspeakerStarted());
+}
+
+// The terminal shows the Enter; a second line break would leave an empty line.
+TEST_F(TerminalProgramRun, LeavesTheEndOfThePromptsLineToTheTerminal) {
+  TerminalProgram programa{Terminal, {Program()}};
+  ASSERT_TRUE(programa.Shows("Su nombre: [Ana] ")) << programa.Shown();
+  programa.Type("Eva\n");
+  EXPECT_TRUE(programa.Shows("Compañero: [0 Aleatorio] "));
+  EXPECT_NE(programa.Shown().find("\r\nSu nombre: [Ana] Eva\r\n0 Aleatorio\r\n"), std::string::npos)
+      << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+TEST_F(TerminalProgramRun, EndsThePromptsLineInAPipe) {
+  TerminalProgram programa{Pipes, {Program()}};
+  programa.Type("Eva\n");
+  EXPECT_EQ(programa.End(), 0);
+  EXPECT_NE(programa.Shown().find("\nSu nombre: [Ana] \n0 Aleatorio\n"), std::string::npos)
+      << programa.Shown();
+}
+
+// A player who reads through another program still sees what is typed.
+TEST_F(TerminalProgramRun, LeavesTheEndOfTheLineToTheTerminalAtWhichThePlayerTypes) {
+  TerminalProgram programa{{.ReadsAtTerminal = false}, {Program()}};
+  programa.Type("Eva\n");
+  EXPECT_TRUE(programa.Shows("Compañero: "));
+  EXPECT_NE(programa.Shown().find("\nSu nombre: [Ana] 0 Aleatorio\n"), std::string::npos)
+      << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+TEST_F(TerminalProgramRun, FindsItsFilesThroughALinkFromAnotherFolder) {
+  const TempFolder otra;
+  LlenarCarpeta(otra);
+  otra.Write("mus.ini", "35\r\n3\r\n3\r\nOtra> Nombre\r\n");
+  fs::create_symlink(Program(), otra.Path() / "mus");
+  TerminalProgram programa{Pipes, {otra.Path() / "mus"}};
+  EXPECT_TRUE(programa.Shows("Su nombre: [Ana] ")) << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+TEST_F(TerminalProgramRun, FindsItsFilesWhenItIsFoundInThePath) {
+  TerminalProgram programa{Pipes, {"PATH=/usr/bin:" + carpeta_.Path().string(), "tasca-terminal"}};
+  EXPECT_TRUE(programa.Shows("Su nombre: [Ana] ")) << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+}  // namespace
+}  // namespace tasca::test
