@@ -162,6 +162,25 @@ TEST_F(ProgramInWindows, OpensTheTableMaximisedWithTheTitleOfTheMatch) {
   EXPECT_TRUE(maximizada);
 }
 
+TEST_F(ProgramInWindows, TakesAceptarOnceHoweverOftenItIsPressed) {
+  SetTable(carpeta_);
+  alInicio_ = [](QWidget* ventana) {
+    auto* const aceptar = Control<QPushButton>(ventana, "CbOK");
+    auto* const salir = Control<QPushButton>(ventana, "CbCancel");
+    aceptar->setFocus();
+    for (QPushButton* const boton : {aceptar, aceptar, salir}) {
+      QTest::keyClick(boton, Qt::Key_Return);
+    }
+  };
+  bool enLaMesa = false;
+  enLaMesa_ = [&enLaMesa](QWidget* ventana) {
+    enLaMesa = true;
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_TRUE(enLaMesa);
+}
+
 TEST_F(ProgramInWindows, EndsWhenTheMainWindowIsClosed) {
   SetTable(carpeta_);
   enLaMesa_ = [](QWidget* ventana) { ventana->close(); };
