@@ -1,4 +1,4 @@
-"""What Enter alone leads to, told by tasca-trace: the windows, and what is said in the transcript."""
+"""What Enter alone leads to, told by tasca-trace: the windows, and the texts of the transcript."""
 import json
 import subprocess
 from itertools import takewhile
@@ -11,8 +11,8 @@ _OTHER_PLAYERS = "¿Desea cambiar de jugadores?"  # the match ends with the step
 class Untitled:
     """Whether a window without a title of its own counts: between two matches it does not.
 
-    The start-up dialog and the table may get a key before they are active, so their events come late
-    or not at all. The first two boxes of a match have titles of their own.
+    The start-up dialog and the table may get a key before they are active, so their events come
+    late or not at all. The first two boxes of a match have titles of their own.
     """
 
     def __init__(self):

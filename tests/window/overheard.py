@@ -8,8 +8,8 @@ _BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
 class Overheard:
     """What has been shown so far, in `log`: ("window", title) and ("said", text).
 
-    A window counts when it first has the keyboard, a text when the transcript gets it; the log begins
-    with the first transcript. To be made before the program starts.
+    A window counts when it first has the keyboard, a text when the transcript gets it; the log
+    begins with the first transcript. To be made before the program starts.
     """
 
     def __init__(self, bus):
