@@ -33,7 +33,10 @@ class ProgramInWindows : public testing::Test {
   }
 
   void TakeTurn(const Answer& respuesta) {
-    if (QWidget* const caja = QApplication::activeModalWidget()) return AnswerBox(caja, respuesta);
+    if (QWidget* const caja = QApplication::activeModalWidget()) {
+      if (TakesKeys(caja)) AnswerBox(caja, respuesta);
+      return;
+    }
     if (QWidget* const dlgInicio = VisibleWindow("DlgInicio")) return alInicio_(dlgInicio);
     if (QWidget* const form1 = VisibleWindow("Form1")) return enLaMesa_(form1);
   }
@@ -159,6 +162,25 @@ TEST_F(ProgramInWindows, OpensTheTableMaximisedWithTheTitleOfTheMatch) {
   EXPECT_EQ(Play(CutAndPass), 0);
   EXPECT_EQ(comienzo, "Partida de\nAna y ");
   EXPECT_TRUE(maximizada);
+}
+
+TEST_F(ProgramInWindows, TakesAceptarOnceHoweverOftenItIsPressed) {
+  SetTable(carpeta_);
+  alInicio_ = [](QWidget* ventana) {
+    auto* const aceptar = Control<QPushButton>(ventana, "CbOK");
+    auto* const salir = Control<QPushButton>(ventana, "CbCancel");
+    aceptar->setFocus();
+    for (QPushButton* const boton : {aceptar, aceptar, salir}) {
+      QTest::keyClick(boton, Qt::Key_Return);
+    }
+  };
+  bool enLaMesa = false;
+  enLaMesa_ = [&enLaMesa](QWidget* ventana) {
+    enLaMesa = true;
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_TRUE(enLaMesa);
 }
 
 TEST_F(ProgramInWindows, EndsWhenTheMainWindowIsClosed) {

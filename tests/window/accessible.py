@@ -38,6 +38,19 @@ class Bus:
                 return program
         return None
 
+    def listen(self, event):
+        """Lets the programs that are started from now on tell of such events."""
+        registry = Node(self._connection, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
+        registry.call("org.a11y.atspi.Registry", "RegisterEvent", GLib.Variant("(s)", (event,)))
+
+    def subscribe(self, kind, name, heard):
+        """Calls `heard` with the path, the detail and the value of every such event."""
+        def pass_on(_connection, _sender, path, _interface, _signal, values):
+            detail, _, _, value, *_ = values.unpack()
+            heard(path, detail, value)
+        self._connection.signal_subscribe(None, f"org.a11y.atspi.Event.{kind}", name, None, None,
+                                          Gio.DBusSignalFlags.NONE, pass_on)
+
     def _pid(self, program):
         daemon = Node(self._connection, "org.freedesktop.DBus", "/org/freedesktop/DBus")
         try:
@@ -103,7 +116,7 @@ class Node:
             if error.matches(Gio.io_error_quark(), Gio.IOErrorEnum.TIMED_OUT):
                 raise Hung(f"{method} of {self.path}: no answer") from error
             raise Gone(error.message) from error
-        return answer.unpack()[0]
+        return next(iter(answer.unpack()), None)
 
     def _property(self, name):
         return self.call("org.freedesktop.DBus.Properties", "Get",

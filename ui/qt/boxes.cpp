@@ -6,10 +6,12 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "ui/qt/qt_text.h"
+#include "ui/qt/run_box.h"
 
 namespace tasca {
 namespace {
@@ -70,9 +72,9 @@ void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto)
   QMessageBox caja{padre};
   Prepare(caja, "MsgBox", {}, texto);
   caja.setIcon(icono);
-  caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+  auto* const aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
   LeaveRoomForTitle(caja);
-  caja.exec();
+  RunBox(caja, aceptar);
 }
 
 }  // namespace
@@ -92,9 +94,10 @@ std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
   caja.setIcon(pregunta.ConIcono ? QMessageBox::Question : QMessageBox::NoIcon);
   auto* const si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
   auto* const no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
-  caja.setDefaultButton(pregunta.PorDefecto ? si : no);
+  auto* const porDefecto = pregunta.PorDefecto ? si : no;
+  caja.setDefaultButton(porDefecto);
   LeaveRoomForTitle(caja);
-  caja.exec();
+  RunBox(caja, porDefecto);
   if (caja.clickedButton() == nullptr) return std::nullopt;
   return caja.clickedButton() == si;
 }
@@ -106,7 +109,7 @@ bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view 
   caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole);
   caja.setDefaultButton(aceptar);
   LeaveRoomForTitle(caja);
-  caja.exec();
+  RunBox(caja, aceptar);
   return caja.clickedButton() == aceptar;
 }
 
@@ -122,7 +125,8 @@ std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string
   caja.setCancelButtonText(QStringLiteral("Cancelar"));
   if (auto* const etiqueta = caja.findChild<QLabel*>()) etiqueta->setTextFormat(Qt::PlainText);
   for (QPushButton* const boton : caja.findChildren<QPushButton*>()) boton->setIcon({});
-  return caja.exec() == QDialog::Accepted ? FromInput(caja.textValue()) : std::u16string{};
+  const int respuesta = RunBox(caja, caja.findChild<QLineEdit*>());
+  return respuesta == QDialog::Accepted ? FromInput(caja.textValue()) : std::u16string{};
 }
 
 }  // namespace tasca

@@ -9,6 +9,7 @@
 
 #include "ui/qt/guarded_text.h"
 #include "ui/qt/qt_text.h"
+#include "ui/qt/run_box.h"
 #include "ui/qt/status_line.h"
 
 namespace tasca {
@@ -30,7 +31,6 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   frase->setMinimumWidth(60 * caja.fontMetrics().averageCharWidth());
   frase->ShowText(porDefecto);
   frase->selectAll();
-  frase->setFocus();
   etiqueta->setBuddy(frase);
   auto* const botones = new QDialogButtonBox{&caja};
   botones->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole)->setDefault(true);
@@ -41,7 +41,7 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   for (QWidget* const fila : std::initializer_list<QWidget*>{etiqueta, frase, estado, botones}) {
     filas.addWidget(fila);
   }
-  return caja.exec() == QDialog::Accepted ? frase->Text() : std::u16string{};
+  return RunBox(caja, frase) == QDialog::Accepted ? frase->Text() : std::u16string{};
 }
 
 }  // namespace tasca

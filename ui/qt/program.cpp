@@ -43,6 +43,7 @@ void Program::CbOK_Click() {
   Run([this] {
     if (!tasca::CbOK_Click(dlgInicio_->State(), g_)) return dlgInicio_->ShowState();
     OpenForm1();
+    dlgInicio_->setEnabled(false);  // A second Enter may be on its way to it.
     dlgInicio_->hide();
     dlgInicio_.release()->deleteLater();
   });

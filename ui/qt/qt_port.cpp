@@ -7,6 +7,7 @@
 #include "base/endings.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/dialog_form.h"
+#include "ui/qt/run_box.h"
 
 namespace tasca {
 
@@ -42,7 +43,8 @@ bool QtPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& p
 
 void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
   ShowTexts(t);
-  DialogForm{ventana_, dialogo}.exec();
+  DialogForm forma{ventana_, dialogo};
+  RunBox(forma, forma.focusWidget());
   if (dialogo.Visible) throw LeaveProgram{};
 }
 

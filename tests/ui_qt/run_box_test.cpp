@@ -1,0 +1,125 @@
+// When a box takes keys, and when it does not.
+#include "ui/qt/run_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <array>
+
+#include "lances/dialog.h"
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+#include "ui/qt/boxes.h"
+#include "ui/qt/phrase_box.h"
+#include "ui/qt/qt_port.h"
+
+namespace tasca::test {
+namespace {
+
+// Presses Enter at every button of a box as soon as it is there, before it has the focus, and once
+// more when it goes; in between, Enter alone answers it. Such keys come to whatever control has the
+// focus by then.
+class HastyPlayer : public QObject {
+ public:
+  HastyPlayer() { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* objeto, QEvent* suceso) override {
+    auto* const caja = qobject_cast<QDialog*>(objeto);
+    const bool cambia = suceso->type() == QEvent::Show || suceso->type() == QEvent::Hide;
+    if (caja == nullptr || !cambia) return false;
+    PressEverywhere(caja);
+    if (suceso->type() == QEvent::Show && !caja->isVisible()) ShowAgain(caja);
+    return false;
+  }
+
+  // How many keys came too early or too late.
+  int Wasted() const { return perdidas_; }
+
+ private:
+  void PressEverywhere(QDialog* caja) {
+    for (QPushButton* const boton : caja->findChildren<QPushButton*>()) {
+      QTest::keyClick(boton, Qt::Key_Return);
+      ++perdidas_;
+    }
+  }
+
+  // A box that is answered before it waits would wait for ever.
+  static void ShowAgain(QDialog* caja) {
+    ADD_FAILURE() << "answered by a key that came too early";
+    QMetaObject::invokeMethod(caja, &QWidget::show, Qt::QueuedConnection);
+  }
+
+  int perdidas_ = 0;
+  BoxAnswerer paciente_{[](QWidget* caja) { Press(caja, Qt::Key_Return); }};
+};
+
+class HurriedBox : public testing::Test {
+ protected:
+  void TearDown() override { EXPECT_EQ(jugador_.Wasted(), teclas_) << "keys before and after"; }
+
+  HastyPlayer jugador_;
+  int teclas_ = 4;
+};
+
+TEST_F(HurriedBox, TakesYesByDefault) {
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), true);
+}
+
+TEST_F(HurriedBox, TakesNoWhereThatIsTheDefault) {
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}),
+            false);
+}
+
+TEST_F(HurriedBox, ConfirmsByDefault) { EXPECT_TRUE(AskOkCancel(nullptr, u"¿Fuera?", u"")); }
+
+TEST_F(HurriedBox, TakesTheTextThatStandsThere) {
+  EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "2");
+}
+
+TEST_F(HurriedBox, TakesThePhraseThatStandsThere) {
+  EXPECT_EQ(Utf8(AskPhrase(nullptr, u"Nuevo mensaje:", u"Mensaje", u"van", 10)), "van");
+}
+
+TEST_F(HurriedBox, BidsPaso) {
+  teclas_ = 8;
+  QtPort port;
+  Dialog dialogo;
+  Form_Activate(dialogo);
+  port.ShowDialog(MesaDePrueba(), dialogo);
+  EXPECT_EQ(dialogo.Resultado, 0);
+}
+
+TEST_F(HurriedBox, StaysUntilItHasBeenRead) {
+  teclas_ = 2;
+  ShowMessage(nullptr, u"La pareja 1 gana");
+}
+
+// Another control has got the focus: the first Enter must not be its, and the second must count.
+TEST(RunBox, CountsTheKeyAfterTheOneThatCameTooEarly) {
+  QMessageBox caja;
+  auto* const inicial = caja.addButton(QStringLiteral("Uno"), QMessageBox::AcceptRole);
+  caja.addButton(QStringLiteral("Dos"), QMessageBox::RejectRole);
+  inicial->setEnabled(false);
+  int teclas = 0;
+  const BoxAnswerer jugador{[&](QWidget* ventana) {
+    inicial->setEnabled(true);
+    ++teclas;
+    Press(ventana, Qt::Key_Return);
+  }};
+  RunBox(caja, inicial);
+  EXPECT_EQ(caja.clickedButton(), inicial);
+  EXPECT_EQ(teclas, 2);
+}
+
+TEST(RunBox, LeavesTheFocusToThePlayerOnceItHasBeenThere) {
+  std::size_t pulsadas = 0;
+  const std::array teclas{Qt::Key_Tab, Qt::Key_Return};
+  const BoxAnswerer jugador{[&](QWidget* caja) { Press(caja, teclas.at(pulsadas++)); }};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
+}
+
+}  // namespace
+}  // namespace tasca::test

@@ -1,0 +1,44 @@
+"""Everything that a program shows, in order and without a gap: AT-SPI's events, as they come."""
+from accessible import GLib
+
+_EVENTS = ("window:activate", "object:text-changed")
+_BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
+
+
+class Overheard:
+    """What has been shown so far, in `log`: ("window", title) and ("said", text).
+
+    A window counts when it first has the keyboard, a text when the transcript gets it; the log
+    begins with the first transcript. To be made before the program starts.
+    """
+
+    def __init__(self, bus):
+        self.log = []
+        self._known = set()
+        self._transcript = None
+        self._bus = bus
+        for event in _EVENTS:
+            bus.listen(event)
+        bus.subscribe("Window", "Activate", self._window)
+        bus.subscribe("Object", "TextChanged", self._text)
+
+    def take(self):
+        """Takes what has come in since; true if there was anything."""
+        before = len(self.log)
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return len(self.log) > before
+
+    def _window(self, path, _, title):
+        if path in self._known:
+            return
+        self._known.add(path)
+        if self._transcript:
+            self.log.append(("window", title))
+
+    def _text(self, path, kind, text):
+        text = text.replace("\u2029", "\n")
+        if text.startswith(_BEGINNING):
+            self._transcript = path
+        if kind == "insert" and path == self._transcript:
+            self.log.append(("said", text))

@@ -1,0 +1,49 @@
+// Running a modal box.
+#include "ui/qt/run_box.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace tasca {
+namespace {
+
+// Sees every event of the application while the box is open.
+class KeyGuard : public QObject {
+ public:
+  KeyGuard(QDialog& caja, QWidget* inicial) : caja_{caja}, inicial_{inicial} {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* objeto, QEvent* suceso) override {
+    if (suceso->type() == QEvent::FocusIn && inicial_->hasFocus()) lista_ = true;
+    const bool esTecla = suceso->type() == QEvent::KeyPress || suceso->type() == QEvent::Shortcut;
+    if (!esTecla || !IsOfTheBox(objeto) || (lista_ && caja_.isVisible())) return false;
+    if (caja_.isVisible()) GetReady();
+    return true;
+  }
+
+ private:
+  bool IsOfTheBox(QObject* objeto) const {
+    const auto* const control = qobject_cast<QWidget*>(objeto);
+    return control != nullptr && control->window() == &caja_;
+  }
+
+  void GetReady() {
+    caja_.activateWindow();
+    inicial_->setFocus();
+  }
+
+  QDialog& caja_;
+  QWidget* inicial_;
+  bool lista_ = false;
+};
+
+}  // namespace
+
+int RunBox(QDialog& caja, QWidget* inicial) {
+  const KeyGuard guarda{caja, inicial};
+  inicial->setFocus();
+  return caja.exec();
+}
+
+}  // namespace tasca
