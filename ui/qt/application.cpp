@@ -14,10 +14,19 @@
 namespace tasca {
 namespace {
 
+QString PorQueNoHayVentanas() {
+  const QString elegida = qEnvironmentVariable("QT_QPA_PLATFORM");
+  if (elegida.isEmpty()) return QStringLiteral("no hay pantalla en la que abrir las ventanas.");
+  return QStringLiteral("no se pueden abrir ventanas con QT_QPA_PLATFORM=") +
+         ToDisplay(FromInput(elegida));
+}
+
 // Without a screen the toolkit would abort with a page of its own advice.
 void AlArrancar(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& /*mensaje*/) {
   if (tipo != QtFatalMsg) return;
-  (void)std::fputs("tasca: no hay pantalla en la que abrir las ventanas.\n", stderr);
+  const QString linea =
+      QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), PorQueNoHayVentanas());
+  (void)std::fputs(linea.toUtf8().constData(), stderr);
   std::_Exit(EXIT_FAILURE);
 }
 
