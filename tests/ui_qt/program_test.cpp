@@ -23,6 +23,7 @@ class ProgramInWindows : public testing::Test {
 
   int Play(const Answer& respuesta) {
     Program programa{carpeta_.Path()};
+    programa_ = &programa;
     bool abierto = false;
     return PlayUntilEnd([&] {
       if (!std::exchange(abierto, true)) return programa.OpenDlgInicio();
@@ -50,6 +51,7 @@ class ProgramInWindows : public testing::Test {
   }
 
   TempFolder carpeta_;
+  Program* programa_ = nullptr;  // while it is played
   QStringList preguntas_;
   std::function<void(QWidget*)> alInicio_ = [](QWidget* ventana) {
     Press(ventana, Qt::Key_Return);
@@ -221,6 +223,60 @@ TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
   EXPECT_EQ(vistas.at(1).count(u'\n'), 8);
   EXPECT_TRUE(vistas.at(1).startsWith(QStringLiteral("Ana\n") + vistas.at(0)));
   EXPECT_EQ(vistas.at(2).count(u'\n'), 0);
+}
+
+TEST_F(ProgramInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
+  for (const char* const caja : {"YesNoBox", "Dialog", "InputBox"}) {
+    SetTable(carpeta_);
+    bool estaba = false;
+    const int estado = Play([&](const QString& pregunta) {
+      if (QApplication::activeModalWidget()->objectName() == QLatin1String{caja}) {
+        EXPECT_FALSE(std::exchange(estaba, true)) << "asks on: " << Utf8(pregunta);
+        programa_->AtSessionEnd().Comes();
+        return Qt::Key_F5;
+      }
+      const bool mus = QLatin1String{caja} == QLatin1String{"InputBox"};
+      return mus && pregunta == QStringLiteral("¿mus?") ? Qt::Key_S : CutAndPass(pregunta);
+    });
+    EXPECT_EQ(estado, 0) << caja;
+    EXPECT_TRUE(estaba) << caja;
+  }
+}
+
+TEST_F(ProgramInWindows, EndsWithTheSessionBetweenQuestions) {
+  SetTable(carpeta_);
+  alInicio_ = [this](QWidget*) { programa_->AtSessionEnd().Comes(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  alInicio_ = [](QWidget* ventana) { Press(ventana, Qt::Key_Return); };
+  enLaMesa_ = [this](QWidget*) { programa_->AtSessionEnd().Comes(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_TRUE(preguntas_.isEmpty());
+}
+
+TEST_F(ProgramInWindows, NeverKeepsTheSessionFromEnding) {
+  Program programa{carpeta_.Path()};
+  EXPECT_TRUE(programa.AtSessionEnd().MayCome([] {
+    ADD_FAILURE() << "there is nothing to ask";
+    return true;
+  }));
+}
+
+TEST_F(ProgramInWindows, ShowsTheTextsBeforeTheErrorThatEndsTheProgram) {
+  SetTable(carpeta_);
+  QString alAcabar;
+  const int estado = Play([&alAcabar](const QString& pregunta) {
+    QWidget* const caja = QApplication::activeModalWidget();
+    if (pregunta.contains(QStringLiteral("Desbordamiento"))) {
+      alAcabar = Control<QPlainTextEdit>(VisibleWindow("Form1"), "Text1")->toPlainText();
+    } else if (qobject_cast<QInputDialog*>(caja) != nullptr) {
+      QTest::keyClicks(caja->focusWidget(), QStringLiteral("99999"));
+    } else if (caja->objectName() == QLatin1String{"Dialog"}) {
+      Press(caja, Qt::Key_Down);
+    }
+    return CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 1);
+  EXPECT_NE(Utf8(alAcabar), "");
 }
 
 TEST_F(ProgramInWindows, TellsARunTimeErrorOnceAndEndsWithStatus1) {

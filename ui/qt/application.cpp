@@ -2,11 +2,13 @@
 #include "ui/qt/application.h"
 
 #include <QScreen>
+#include <QSessionManager>
 #include <QStyleHints>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "base/endings.h"
 #include "ui/qt/qt_text.h"
@@ -46,21 +48,32 @@ void EnlargeOnTallScreens() {
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) : aplicacion_{Quietly(argc), argv} {
+Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), argv} {
   qInstallMessageHandler(nullptr);
   QCoreApplication::installTranslator(&castellano_);
   QApplication::setQuitOnLastWindowClosed(false);
   // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
   QGuiApplication::styleHints()->setCursorFlashTime(0);
   EnlargeOnTallScreens();
+  connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& gestor) {
+    if (fin_.MayCome) AnswerSessionManager(gestor, fin_);
+  });
 }
 
-int Application::Run(const std::function<void()>& abrir) {
+int Application::Run(const std::function<void()>& abrir, SessionEnd fin) {
+  fin_ = std::move(fin);
   QTimer comienzo;
   comienzo.setSingleShot(true);
   QObject::connect(&comienzo, &QTimer::timeout, &comienzo, abrir);
   comienzo.start();
   return QApplication::exec();
+}
+
+// The toolkit would close the windows one by one, and stay when a question refuses that.
+bool Application::event(QEvent* suceso) {
+  if (suceso->type() != QEvent::Quit || !fin_.Comes) return QApplication::event(suceso);
+  fin_.Comes();
+  return true;
 }
 
 std::optional<Ending> EndingOf(const std::function<void()>& paso) {
