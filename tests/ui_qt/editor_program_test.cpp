@@ -32,7 +32,7 @@ class EditorInWindows : public testing::Test {
       QWidget* const ventana = caja != nullptr ? caja : VisibleWindow("Dialog1");
       if (ventana == nullptr || ButtonIsDown(ventana)) return;
       // A screen would give the window back its keys when a box goes.
-      if (!ventana->isActiveWindow()) return ventana->activateWindow();
+      if (!TakesKeys(ventana)) return ventana->activateWindow();
       if (dados < pasos.size()) pasos.at(dados++)(ventana);
     });
     EXPECT_EQ(dados, pasos.size()) << "ended before the last step";

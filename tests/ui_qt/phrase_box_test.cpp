@@ -18,7 +18,7 @@ namespace {
 std::string Ask(std::u16string_view porDefecto, const std::function<void(QWidget*)>& hacer) {
   bool hecho = false;
   const BoxAnswerer jugador{[&](QWidget* caja) {
-    if (caja->isActiveWindow() && !std::exchange(hecho, true)) hacer(caja);
+    if (!std::exchange(hecho, true)) hacer(caja);
   }};
   return Utf8(
       AskPhrase(nullptr, u"Nuevo mensaje & más: ", u"Mensaje envido & más", porDefecto, 10));

@@ -2,6 +2,8 @@
 #include "tests/ui_qt/player.h"
 
 #include <QAbstractButton>
+#include <QDeadlineTimer>
+#include <QDialog>
 #include <QTest>
 #include <algorithm>
 #include <utility>
@@ -13,6 +15,11 @@ QWidget* VisibleWindow(const char* nombre) {
     if (ventana->objectName() == QLatin1String{nombre} && ventana->isVisible()) return ventana;
   }
   return nullptr;
+}
+
+bool TakesKeys(const QWidget* ventana) {
+  const QWidget* const control = ventana->focusWidget();
+  return control != nullptr && control->hasFocus();
 }
 
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
@@ -32,10 +39,17 @@ bool ButtonIsDown(const QWidget* ventana) {
                      [](const QAbstractButton* boton) { return boton->isDown(); });
 }
 
-BoxAnswerer::BoxAnswerer(std::function<void(QWidget*)> alVer) {
+BoxAnswerer::BoxAnswerer(std::function<void(QWidget*)> alVer, std::chrono::seconds limite) {
   reloj_.setInterval(1);
-  QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [alVer = std::move(alVer)] {
-    if (QWidget* const caja = QApplication::activeModalWidget()) alVer(caja);
+  const QDeadlineTimer plazo{limite};
+  QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [plazo, alVer = std::move(alVer)] {
+    auto* const caja = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (caja == nullptr) return;
+    if (plazo.hasExpired()) {
+      ADD_FAILURE() << "nobody has answered the box";
+      return caja->done(QDialog::Rejected);
+    }
+    if (TakesKeys(caja)) alVer(caja);
   });
   reloj_.start();
 }
@@ -53,13 +67,14 @@ namespace {
 // A turn may open a box, whose loop needs the next turn: that one is arranged first.
 class Turns {
  public:
-  Turns(const std::function<void()>& turno, int maximo) : turno_{turno}, quedan_{maximo} {
+  Turns(const std::function<void()>& turno, std::chrono::seconds limite)
+      : turno_{turno}, plazo_{limite} {
     siguiente_.setSingleShot(true);
     QObject::connect(&siguiente_, &QTimer::timeout, &siguiente_, [this] { Take(); });
   }
 
   void Take() {
-    if (--quedan_ < 0) {
+    if (plazo_.hasExpired()) {
       ADD_FAILURE() << "the program does not end";
       return QCoreApplication::exit(-1);
     }
@@ -69,14 +84,14 @@ class Turns {
 
  private:
   const std::function<void()>& turno_;
-  int quedan_;
+  QDeadlineTimer plazo_;
   QTimer siguiente_;
 };
 
 }  // namespace
 
-int PlayUntilEnd(const std::function<void()>& turno, int maximo) {
-  Turns turnos{turno, maximo};
+int PlayUntilEnd(const std::function<void()>& turno, std::chrono::seconds limite) {
+  Turns turnos{turno, limite};
   return RunInEventLoop([&turnos] { turnos.Take(); });
 }
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -21,6 +22,9 @@ T* Control(const QWidget* ventana, const char* nombre) {
 // The window in view with that name; nullptr when there is none.
 QWidget* VisibleWindow(const char* nombre);
 
+// True once the window is active and one of its controls has the focus.
+bool TakesKeys(const QWidget* ventana);
+
 // A key for the control that has the focus in `ventana`.
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
 
@@ -30,11 +34,16 @@ void Type(QWidget* control, const char* texto);
 // True while a button that was pressed by its access key has yet to be clicked.
 bool ButtonIsDown(const QWidget* ventana);
 
-// Waits for modal boxes and shows each of them to `alVer`, once or until it is gone. Boxes wait
-// inside their question, so this looks from a timer.
+// How long anything may take before its test fails.
+inline constexpr std::chrono::seconds Paciencia{60};
+
+// Waits for modal boxes and shows each of them, once it takes keys, to `alVer` until it is gone.
+// Boxes wait inside their question, so this looks from a timer. A box that is still there when
+// the time is over is closed, and the test fails.
 class BoxAnswerer {
  public:
-  explicit BoxAnswerer(std::function<void(QWidget*)> alVer);
+  explicit BoxAnswerer(std::function<void(QWidget*)> alVer,
+                       std::chrono::seconds limite = Paciencia);
 
  private:
   QTimer reloj_;
@@ -44,8 +53,8 @@ class BoxAnswerer {
 int RunInEventLoop(const std::function<void()>& paso);
 
 // Plays in the event loop: `turno` is called over and over, also while a box waits, until the
-// program ends. Gives the exit status; the test fails after too many turns.
-int PlayUntilEnd(const std::function<void()>& turno, int maximo = 200000);
+// program ends. Gives the exit status; the test fails when the time is over.
+int PlayUntilEnd(const std::function<void()>& turno, std::chrono::seconds limite = Paciencia);
 
 std::string Utf8(const QString& texto);
 

@@ -32,7 +32,10 @@ class ProgramInWindows : public testing::Test {
   }
 
   void TakeTurn(const Answer& respuesta) {
-    if (QWidget* const caja = QApplication::activeModalWidget()) return AnswerBox(caja, respuesta);
+    if (QWidget* const caja = QApplication::activeModalWidget()) {
+      if (TakesKeys(caja)) AnswerBox(caja, respuesta);
+      return;
+    }
     if (QWidget* const dlgInicio = VisibleWindow("DlgInicio")) return alInicio_(dlgInicio);
     if (QWidget* const form1 = VisibleWindow("Form1")) return enLaMesa_(form1);
   }

@@ -41,6 +41,7 @@ class Effects : public testing::Test {
     EXPECT_EQ(quedan, 0) << "sounds that did not end";
     EXPECT_EQ(AttendEnds(puerto_.Reproductor, std::chrono::milliseconds{200}, [] { return true; }),
               0);
+    WaitForSilence(carpeta_.Recording());
     return Described(Listen(carpeta_.Recording()));
   }
 

@@ -6,7 +6,19 @@
 #include <algorithm>
 #include <thread>
 
+#include "tests/ui_sound/recording.h"
+
 namespace tasca::test {
+
+bool WaitUntil(std::chrono::seconds limite, const std::function<bool()>& condicion) {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point fin = Clock::now() + limite;
+  while (!condicion()) {
+    if (Clock::now() > fin) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds{5});
+  }
+  return true;
+}
 
 int AttendEnds(MediaPlayer& mp1, std::chrono::milliseconds limite,
                const std::function<bool()>& alTerminar) {
@@ -35,6 +47,18 @@ bool WaitForNews(const MediaPlayer& mp1) {
   return ::poll(&suceso, 1, medioMinuto) == 1;
 }
 
-void LetTheSilencePass() { std::this_thread::sleep_for(std::chrono::milliseconds{200}); }
+bool WaitForRecording(const std::filesystem::path& grabacion,
+                      const std::vector<std::string>& archivos) {
+  return WaitUntil(std::chrono::seconds{30}, [&] { return HasRecorded(grabacion, archivos); });
+}
+
+void WaitForSilence(const std::filesystem::path& grabacion) {
+  if (!std::filesystem::exists(grabacion)) return;
+  // More than the device holds back. Once idle for five seconds it is closed and nothing is left.
+  constexpr std::uintmax_t deSobra = 1 << 16;
+  const std::uintmax_t bytes = std::filesystem::file_size(grabacion) + deSobra;
+  WaitUntil(std::chrono::seconds{6},
+            [&] { return std::filesystem::file_size(grabacion) >= bytes; });
+}
 
 }  // namespace tasca::test

@@ -26,6 +26,10 @@ struct Heard {
 // Everything heard, in order. What is none of the four sounds fails the test.
 std::vector<Heard> Listen(const std::filesystem::path& grabacion);
 
+// Whether these sounds and no other have been recorded so far, each to its end, and a second of
+// silence after them.
+bool HasRecorded(const std::filesystem::path& grabacion, const std::vector<std::string>& archivos);
+
 // "Son_DaUnaCarta.wav -5.0 -5.0", one entry a sound: decibels of the left and the right side to the
 // tenth. Fails when a sound was cut short.
 std::vector<std::string> Described(const std::vector<Heard>& oidos);

@@ -9,6 +9,7 @@
 #include <string>
 #include <thread>
 
+#include "tests/ui_sound/listener.h"
 #include "tests/ui_sound/recording.h"
 #include "tests/ui_terminal/sessions.h"
 #include "ui/terminal/terminal.h"
@@ -60,26 +61,26 @@ class SessionWithSound : public testing::Test {
     return out.str();
   }
 
-  static void Wait() { std::this_thread::sleep_for(std::chrono::seconds{2}); }
+  void Hear(const std::vector<std::string>& archivos) {
+    EXPECT_TRUE(WaitForRecording(carpeta_.Recording(), archivos));
+  }
 
   SoundFolder carpeta_;
 };
 
 TEST_F(SessionWithSound, ShufflesAndDealsWhileItWaitsForALine) {
-  Play([](const Typist& teclear) {
+  Play([this](const Typist& teclear) {
     teclear(Puerta);
-    Wait();
+    Hear({"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3"});
   });
   EXPECT_EQ(Described(Listen(carpeta_.Recording())),
             (Oidos{"Son_BarajaCartas.mp3 0.0 0.0", "Son_ReparteCartas.mp3 0.0 0.0"}));
 }
 
 TEST_F(SessionWithSound, IsSilentOnDemandAndGoesOn) {
-  const std::string salida = Play([](const Typist& teclear) {
-    teclear(Puerta + "sonido\nq\nq\n");
-    Wait();
-    teclear("sonido\nq\n");
-    Wait();
+  const std::string salida = Play([this](const Typist& teclear) {
+    teclear(Puerta + "sonido\nq\nq\nsonido\nq\n");
+    Hear({"Son_ReparteCartas.mp3"});
   });
   EXPECT_NE(salida.find("Sin sonido.\n"), std::string::npos);
   EXPECT_NE(salida.find("Con sonido.\n"), std::string::npos);
