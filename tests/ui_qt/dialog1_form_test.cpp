@@ -211,6 +211,16 @@ TEST_F(EditorWindow, AddsACharacterFromTheThreeTextBoxes) {
   EXPECT_EQ(Utf8(t_.Personajes[6].Historia.Trimmed()), "Bebe.");
 }
 
+// "Eliminar jugador" has the letter of the euro.
+TEST_F(EditorWindow, TypesTheEuroWithoutPressingAButton) {
+  Load();
+  Alt(Qt::Key_N);
+  QTest::sendKeyEvent(QTest::Click, ventana_.focusWidget(), Qt::Key_E, QStringLiteral("€"),
+                      Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(Text("Text1"), "€");
+  EXPECT_EQ(port_.TakeEvents(), Textos{});
+}
+
 TEST_F(EditorWindow, StoresTheTextBoxesIntoTheSelectedCharacter) {
   Load();
   Alt(Qt::Key_J);

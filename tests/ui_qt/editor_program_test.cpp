@@ -23,6 +23,7 @@ class EditorInWindows : public testing::Test {
   // Takes the steps one after the other, each at the window in front, until the program ends.
   int Work(const std::vector<Step>& pasos) {
     EditorProgram programa{carpeta_.Path()};
+    programa_ = &programa;
     bool abierto = false;
     std::size_t dados = 0;
     const int estado = PlayUntilEnd([&] {
@@ -55,7 +56,21 @@ class EditorInWindows : public testing::Test {
   }
   static void Close(QWidget* ventana) { ventana->close(); }
 
+  // The session is about to end: the program answers as wanted. What the player is asked, and
+  // whether that is possible, is for the steps that follow.
+  Step SessionMayEnd(bool dejanPreguntar, bool puede) {
+    return [this, dejanPreguntar, puede](QWidget*) {
+      EXPECT_EQ(programa_->AtSessionEnd().MayCome([=] { return dejanPreguntar; }), puede);
+      ++sesiones_;
+    };
+  }
+  Step SessionEnds() {
+    return [this](QWidget*) { programa_->AtSessionEnd().Comes(); };
+  }
+
   TempFolder carpeta_;
+  EditorProgram* programa_ = nullptr;  // while it is worked with
+  int sesiones_ = 0;                   // whose end has been answered
 };
 
 constexpr auto SinGuardar =
@@ -84,6 +99,34 @@ TEST_F(EditorInWindows, AsksBeforeChangesAreThrownAway) {
   EXPECT_EQ(Work({Alt(Qt::Key_U), Close, Reads(SinGuardar), Close, Reads(SinGuardar, Qt::Key_S)}),
             0);
   EXPECT_EQ(carpeta_.Names(), (std::vector<std::string>{"Jugadores.dat", "mus.ini"}));
+}
+
+TEST_F(EditorInWindows, AsksBeforeTheSessionTakesUnsavedChangesAway) {
+  EXPECT_EQ(Work({Alt(Qt::Key_U), SessionMayEnd(true, false), Reads(SinGuardar),
+                  SessionMayEnd(true, true), Reads(SinGuardar, Qt::Key_S), SessionEnds()}),
+            0);
+  EXPECT_EQ(sesiones_, 2);
+}
+
+TEST_F(EditorInWindows, LetsTheSessionEndWhenThereIsNothingToAskOrNoWay) {
+  EXPECT_EQ(
+      Work({SessionMayEnd(true, true), Alt(Qt::Key_U), SessionMayEnd(false, true), SessionEnds()}),
+      0);
+  EXPECT_EQ(sesiones_, 2);
+}
+
+TEST_F(EditorInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
+  EXPECT_EQ(Work({Alt(Qt::Key_C), SessionEnds()}), 0);
+  EXPECT_EQ(Work({Alt(Qt::Key_U), Close, SessionEnds()}), 0);
+  EXPECT_EQ(Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_J), Key(Qt::Key_Down),
+                  Alt(Qt::Key_M), Key(Qt::Key_F2), SessionEnds()}),
+            0);
+  EXPECT_EQ(Work({Alt(Qt::Key_U), SessionMayEnd(true, true), SessionEnds()}), 0);
+}
+
+TEST(EditorProgram, HasNothingToAskBeforeItsWindowIsOpen) {
+  EditorProgram programa{{}};
+  EXPECT_TRUE(programa.AtSessionEnd().MayCome([] { return true; }));
 }
 
 TEST_F(EditorInWindows, ConfirmsADeletionByOkAndNotByEscape) {

@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,8 @@
 
 namespace tasca::test {
 namespace {
+
+constexpr int TeclaSinSignificado = 255;
 
 // A window whose keys are written down; Q and Enter are used up.
 class Form1Window : public testing::Test {
@@ -150,6 +153,20 @@ TEST_F(Form1Window, ScrollsTheTranscriptToItsEndWheneverItGrows) {
   }
 }
 
+TEST_F(Form1Window, KeepsTheEndOfTheTranscriptInViewWhenTheWindowIsResized) {
+  for (int j = 0; j < 40; ++j) {
+    estado_.Text2 += std::u16string(150, u'x') + u"\r\n";  // a line more when it is narrow
+  }
+  ventana_.ShowTexts(estado_);
+  const QScrollBar* const barra = Text2()->verticalScrollBar();
+  for (const QSize tamano : {QSize{1000, 300}, QSize{800, 300}, QSize{1000, 500}}) {
+    ventana_.resize(tamano);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ventana_.size() == tamano; }));
+    EXPECT_GT(barra->maximum(), 0);
+    EXPECT_EQ(barra->value(), barra->maximum()) << tamano.width() << " x " << tamano.height();
+  }
+}
+
 TEST_F(Form1Window, TurnsThePagesOfTheTranscriptFromTheInputLine) {
   for (int j = 0; j < 200; ++j) estado_.Text2 += u"Berta: paso\r\n";
   ventana_.ShowTexts(estado_);
@@ -180,6 +197,42 @@ TEST_F(Form1Window, LetsTheTranscriptBeReadByKeyboard) {
   Press(&ventana_, Qt::Key_C, Qt::ControlModifier);
   EXPECT_TRUE(Text2()->hasFocus());
   EXPECT_TRUE(teclas_.empty());
+}
+
+// AltGr with a key: on Windows it looks like Ctrl+Alt, under X11 like nothing or another group.
+constexpr std::array<Qt::KeyboardModifiers, 3> ConAltGr{
+    Qt::NoModifier, Qt::ControlModifier | Qt::AltModifier, Qt::GroupSwitchModifier};
+
+TEST_F(Form1Window, TypesTheSignsOfAltGr) {
+  for (const Qt::KeyboardModifiers con : ConAltGr) {
+    QTest::sendKeyEvent(QTest::Click, Text1(), Qt::Key_At, QStringLiteral("@"), con);
+    QTest::sendKeyEvent(QTest::Click, Text1(), Qt::Key(0x20AC), QStringLiteral("€"), con);
+  }
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "@€@€@€");
+  for (const auto& [tecla, shift] : teclas_) EXPECT_EQ(tecla, TeclaSinSignificado);
+}
+
+// The place of the zero, where a German keyboard has the brace.
+TEST_F(Form1Window, TakesNoSignOfAltGrForACommand) {
+  constexpr quint32 lugarDelCero = 19;
+  for (const Qt::KeyboardModifiers con : ConAltGr) {
+    QKeyEvent llave{QEvent::KeyPress,   Qt::Key_BraceRight, con, lugarDelCero, 0, 0,
+                    QStringLiteral("}")};
+    QApplication::sendEvent(Text1(), &llave);
+  }
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "}}}");
+  EXPECT_EQ(teclas_.size(), 3U);
+  for (const auto& [tecla, shift] : teclas_) EXPECT_NE(shift, MayusculasYControl);
+}
+
+TEST_F(Form1Window, BringsTheSignsOfAltGrIntoTheInputLineToo) {
+  Text2()->setFocus();
+  QTest::sendKeyEvent(QTest::Click, Text2(), Qt::Key_AltGr, QString{}, Qt::GroupSwitchModifier);
+  EXPECT_TRUE(Text2()->hasFocus()) << "on its way to a sign, or to nothing";
+  QTest::sendKeyEvent(QTest::Click, Text2(), Qt::Key_At, QStringLiteral("@"),
+                      Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_TRUE(Text1()->hasFocus());
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "@");
 }
 
 TEST_F(Form1Window, MovesTheFocusWithTab) {

@@ -53,6 +53,23 @@ TEST_F(TextBox, TakesWhatTheFileHolds) {
   EXPECT_EQ(reparo_, "");
 }
 
+// On Windows AltGr looks like Ctrl+Alt, under X11 like nothing or another group.
+TEST_F(TextBox, TakesTheSignsOfAltGrAndCountsThem) {
+  Show(6);
+  for (const Qt::KeyboardModifiers con :
+       {Qt::KeyboardModifiers{Qt::NoModifier}, Qt::ControlModifier | Qt::AltModifier,
+        Qt::KeyboardModifiers{Qt::GroupSwitchModifier}}) {
+    QTest::sendKeyEvent(QTest::Click, caja_.get(), Qt::Key_At, QStringLiteral("@"), con);
+    QTest::sendKeyEvent(QTest::Click, caja_.get(), Qt::Key(0x20AC), QStringLiteral("€"), con);
+  }
+  EXPECT_EQ(Text(), "@€@€@€");
+  EXPECT_EQ(reparo_, "");
+  QTest::sendKeyEvent(QTest::Click, caja_.get(), Qt::Key_At, QStringLiteral("@"),
+                      Qt::ControlModifier | Qt::AltModifier);
+  EXPECT_EQ(Text(), "@€@€@€");
+  EXPECT_EQ(reparo_, Largo);
+}
+
 TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
   Show(20);
   Type("a>");

@@ -25,6 +25,7 @@ class ProgramInWindows : public testing::Test {
 
   int Play(const Answer& respuesta) {
     Program programa{carpeta_.Path()};
+    programa_ = &programa;
     bool abierto = false;
     return PlayUntilEnd([&] {
       if (!std::exchange(abierto, true)) return programa.OpenDlgInicio();
@@ -55,6 +56,7 @@ class ProgramInWindows : public testing::Test {
   }
 
   TempFolder carpeta_;
+  Program* programa_ = nullptr;  // while it is played
   QStringList preguntas_;
   std::function<void(QWidget*)> alInicio_ = [](QWidget* ventana) {
     Press(ventana, Qt::Key_Return);
@@ -245,6 +247,60 @@ TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
   EXPECT_EQ(vistas.at(1).count(u'\n'), 8);
   EXPECT_TRUE(vistas.at(1).startsWith(QStringLiteral("Ana\n") + vistas.at(0)));
   EXPECT_EQ(vistas.at(2).count(u'\n'), 0);
+}
+
+TEST_F(ProgramInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
+  for (const char* const caja : {"YesNoBox", "Dialog", "InputBox"}) {
+    SetTable(carpeta_);
+    bool estaba = false;
+    const int estado = Play([&](const QString& pregunta) {
+      if (QApplication::activeModalWidget()->objectName() == QLatin1String{caja}) {
+        EXPECT_FALSE(std::exchange(estaba, true)) << "asks on: " << Utf8(pregunta);
+        programa_->AtSessionEnd().Comes();
+        return Qt::Key_F5;
+      }
+      const bool mus = QLatin1String{caja} == QLatin1String{"InputBox"};
+      return mus && pregunta == QStringLiteral("¿mus?") ? Qt::Key_S : CutAndPass(pregunta);
+    });
+    EXPECT_EQ(estado, 0) << caja;
+    EXPECT_TRUE(estaba) << caja;
+  }
+}
+
+TEST_F(ProgramInWindows, EndsWithTheSessionBetweenQuestions) {
+  SetTable(carpeta_);
+  alInicio_ = [this](QWidget*) { programa_->AtSessionEnd().Comes(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  alInicio_ = [](QWidget* ventana) { Press(ventana, Qt::Key_Return); };
+  enLaMesa_ = [this](QWidget*) { programa_->AtSessionEnd().Comes(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  EXPECT_TRUE(preguntas_.isEmpty());
+}
+
+TEST_F(ProgramInWindows, NeverKeepsTheSessionFromEnding) {
+  Program programa{carpeta_.Path()};
+  EXPECT_TRUE(programa.AtSessionEnd().MayCome([] {
+    ADD_FAILURE() << "there is nothing to ask";
+    return true;
+  }));
+}
+
+// Without phrases the first companion to speak ends the program, right after Ana, who is mano.
+TEST_F(ProgramInWindows, ShowsTheTextsBesideTheErrorThatEndsTheProgram) {
+  SetTable(carpeta_);
+  alInicio_ = [](QWidget* ventana) {
+    Control<QCheckBox>(ventana, "Check1_1")->click();
+    Press(ventana, Qt::Key_Return);
+  };
+  std::string alAcabar;
+  const int estado = Play([&alAcabar](const QString& pregunta) {
+    if (pregunta == QStringLiteral("¿mus?")) return Qt::Key_S;
+    alAcabar = Utf8(Control<QPlainTextEdit>(VisibleWindow("Form1"), "Text2")->toPlainText());
+    return Qt::Key_Return;
+  });
+  EXPECT_EQ(estado, 1);
+  EXPECT_EQ(alAcabar, "Ana: Digo QMus\n");
+  EXPECT_TRUE(preguntas_.constLast().contains(QStringLiteral("no tiene nada que decir")));
 }
 
 TEST_F(ProgramInWindows, TellsARunTimeErrorOnceAndEndsWithStatus1) {

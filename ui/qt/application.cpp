@@ -2,11 +2,13 @@
 #include "ui/qt/application.h"
 
 #include <QScreen>
+#include <QSessionManager>
 #include <QStyleHints>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 #include "base/endings.h"
 #include "ui/qt/qt_text.h"
@@ -14,10 +16,19 @@
 namespace tasca {
 namespace {
 
+QString PorQueNoHayVentanas() {
+  const QString elegida = qEnvironmentVariable("QT_QPA_PLATFORM");
+  if (elegida.isEmpty()) return QStringLiteral("no hay pantalla en la que abrir las ventanas.");
+  return QStringLiteral("no se pueden abrir ventanas con QT_QPA_PLATFORM=") +
+         ToDisplay(FromInput(elegida));
+}
+
 // Without a screen the toolkit would abort with a page of its own advice.
 void AlArrancar(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& /*mensaje*/) {
   if (tipo != QtFatalMsg) return;
-  (void)std::fputs("tasca: no hay pantalla en la que abrir las ventanas.\n", stderr);
+  const QString linea =
+      QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), PorQueNoHayVentanas());
+  (void)std::fputs(linea.toUtf8().constData(), stderr);
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -37,21 +48,32 @@ void EnlargeOnTallScreens() {
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) : aplicacion_{Quietly(argc), argv} {
+Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), argv} {
   qInstallMessageHandler(nullptr);
   QCoreApplication::installTranslator(&castellano_);
   QApplication::setQuitOnLastWindowClosed(false);
   // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
   QGuiApplication::styleHints()->setCursorFlashTime(0);
   EnlargeOnTallScreens();
+  connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& gestor) {
+    if (fin_.MayCome) AnswerSessionManager(gestor, fin_);
+  });
 }
 
-int Application::Run(const std::function<void()>& abrir) {
+int Application::Run(const std::function<void()>& abrir, SessionEnd fin) {
+  fin_ = std::move(fin);
   QTimer comienzo;
   comienzo.setSingleShot(true);
   QObject::connect(&comienzo, &QTimer::timeout, &comienzo, abrir);
   comienzo.start();
   return QApplication::exec();
+}
+
+// The toolkit would close the windows one by one, and stay when a question refuses that.
+bool Application::event(QEvent* suceso) {
+  if (suceso->type() != QEvent::Quit || !fin_.Comes) return QApplication::event(suceso);
+  fin_.Comes();
+  return true;
 }
 
 std::optional<Ending> EndingOf(const std::function<void()>& paso) {

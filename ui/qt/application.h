@@ -6,20 +6,26 @@
 #include <optional>
 #include <string>
 
+#include "ui/qt/session_end.h"
 #include "ui/qt/spanish.h"
 
 namespace tasca {
 
-class Application {
+class Application : public QApplication {
  public:
+  // Without a screen it ends the program, with status 1 and a line on standard error.
   Application(int& argc, char** argv);
 
-  // Runs `abrir` from the event loop, and the loop to its end; the exit status.
-  static int Run(const std::function<void()>& abrir);
+  // Runs `abrir` from the event loop, and the loop to its end; the exit status. The end of the
+  // desktop's session is passed on to `fin`.
+  int Run(const std::function<void()>& abrir, SessionEnd fin);
+
+ protected:
+  bool event(QEvent* suceso) override;
 
  private:
-  QApplication aplicacion_;
   Spanish castellano_;
+  SessionEnd fin_;
 };
 
 // The end of the program: its exit status, and the message that is still to be shown, or "".

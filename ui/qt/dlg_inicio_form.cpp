@@ -81,7 +81,6 @@ DlgInicioForm::DlgInicioForm(Events sucesos)
   setWindowTitle(ToDisplay(TituloAplicacion));
   NameControls();
   BuildLayout();
-  SetTabs();
   Connect();
   text2_->setFocus();
 }
@@ -220,12 +219,6 @@ QLayout* DlgInicioForm::BuildButtons() {
   botones->addWidget(cbOK_);
   botones->addWidget(cbCancel_);
   return botones;
-}
-
-void DlgInicioForm::SetTabs() {
-  const std::array<QWidget*, 10> orden{text2_,     combos_[0],  combos_[1],  combos_[2], check1_[0],
-                                       check1_[1], option1_[0], option1_[1], cbOK_,      cbCancel_};
-  for (std::size_t i = 1; i < orden.size(); ++i) setTabOrder(orden.at(i - 1), orden.at(i));
 }
 
 void DlgInicioForm::ShowState() {

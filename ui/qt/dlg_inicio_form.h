@@ -43,10 +43,10 @@ class DlgInicioForm : public QDialog {
   QLayout* BuildChoices();
   QLayout* BuildStyle();
   QLayout* BuildButtons();
-  void SetTabs();
 
   Events sucesos_;
   DlgInicio estado_;
+  // Tab goes through the controls in this order.
   QLabel* text1_;
   QLineEdit* text2_;
   StatusLine* estadoTexto_;

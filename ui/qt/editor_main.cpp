@@ -4,7 +4,7 @@
 #include "ui/qt/editor_program.h"
 
 int main(int argc, char** argv) {
-  const tasca::Application aplicacion{argc, argv};
+  tasca::Application aplicacion{argc, argv};
   tasca::EditorProgram programa{tasca::ProgramFolder(argv[0])};
-  return tasca::Application::Run([&programa] { programa.Open(); });
+  return aplicacion.Run([&programa] { programa.Open(); }, programa.AtSessionEnd());
 }

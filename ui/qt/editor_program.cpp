@@ -48,14 +48,28 @@ void EditorProgram::Run(const std::function<void()>& suceso) {
 }
 
 void EditorProgram::Close() {
-  if (!terminando_ && HayCambios(ventana_->State(), t_)) {
-    const YesNoQuestion pregunta{
-        .Titulo = {},
-        .Texto = u"Hay cambios que no se han guardado en el disco. ¿Salir sin guardarlos?",
-        .PorDefecto = false};
-    if (!AskYesNo(ventana_.get(), pregunta).value_or(true)) return;
-  }
+  if (HasUnsaved() && !MayLoseChanges()) return;
   Exit(0);
+}
+
+SessionEnd EditorProgram::AtSessionEnd() {
+  return {.MayCome =
+              [this](const std::function<bool()>& dejanPreguntar) {
+                return !HasUnsaved() || !dejanPreguntar() || MayLoseChanges();
+              },
+          .Comes = [this] { Exit(0); }};
+}
+
+bool EditorProgram::HasUnsaved() {
+  return !terminando_ && ventana_ && HayCambios(ventana_->State(), t_);
+}
+
+bool EditorProgram::MayLoseChanges() {
+  const YesNoQuestion pregunta{
+      .Titulo = {},
+      .Texto = u"Hay cambios que no se han guardado en el disco. ¿Salir sin guardarlos?",
+      .PorDefecto = false};
+  return AskYesNo(ventana_.get(), pregunta).value_or(true);
 }
 
 void EditorProgram::Exit(int estado) {

@@ -6,6 +6,7 @@
 #include "characters/editor.h"
 #include "table/table.h"
 #include "ui/qt/dialog1_form.h"
+#include "ui/qt/session_end.h"
 
 namespace tasca {
 
@@ -33,12 +34,18 @@ class EditorProgram {
   // Opens the window. Wants to be called from the event loop, which ends with the exit status when
   // the window is closed.
   void Open();
+  // The session's end asks about unsaved changes, as closing the window does; when it comes, the
+  // program ends at once, with status 0.
+  SessionEnd AtSessionEnd();
 
  private:
   void Run(const std::function<void()>& suceso);
   // The window is to be closed: what is not on the disk yet is not thrown away without asking. What
   // was only typed into the text boxes, and not made a character's, is.
   void Close();
+  bool HasUnsaved();
+  // Asks whether to leave without saving.
+  bool MayLoseChanges();
   void Exit(int estado);
 
   Table t_;

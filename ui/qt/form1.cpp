@@ -92,8 +92,6 @@ void Form1::BuildLayout() {
   ventana->addWidget(Etiqueta(QStringLiteral("Sus cartas:"), text1_));
   ventana->addWidget(text1_);
   ventana->addWidget(ayuda_);
-  setTabOrder(text1_, text2_);
-  setTabOrder(text2_, text3_);
 }
 
 QMenuBar* Form1::BuildMenu(bool conSonido) {

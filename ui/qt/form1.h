@@ -43,6 +43,7 @@ class Form1 : public QWidget {
   bool KeyInText1(const QKeyEvent& suceso);
 
   Events sucesos_;
+  // Tab goes through the controls in this order.
   InputLine* text1_;
   Transcript* text2_;
   QLineEdit* text3_;

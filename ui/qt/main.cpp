@@ -4,7 +4,7 @@
 #include "ui/qt/program.h"
 
 int main(int argc, char** argv) {
-  const tasca::Application aplicacion{argc, argv};
+  tasca::Application aplicacion{argc, argv};
   tasca::Program programa{tasca::ProgramFolder(argv[0])};
-  return tasca::Application::Run([&programa] { programa.OpenDlgInicio(); });
+  return aplicacion.Run([&programa] { programa.OpenDlgInicio(); }, programa.AtSessionEnd());
 }

@@ -38,6 +38,10 @@ void Program::OpenDlgInicio() {
   });
 }
 
+SessionEnd Program::AtSessionEnd() {
+  return {.MayCome = [](const auto&) { return true; }, .Comes = [this] { Exit(0); }};
+}
+
 // The dialog is still in the middle of its button's click: it is deleted once that is over.
 void Program::CbOK_Click() {
   Run([this] {

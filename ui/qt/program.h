@@ -13,6 +13,7 @@
 #include "ui/qt/dlg_inicio_form.h"
 #include "ui/qt/form1.h"
 #include "ui/qt/qt_port.h"
+#include "ui/qt/session_end.h"
 
 namespace tasca {
 
@@ -24,6 +25,8 @@ class Program {
   // Opens the start-up dialog, in place of the main window if there is one. Wants to be called from
   // the event loop, which it ends with the exit status when the program is over.
   void OpenDlgInicio();
+  // Nothing would be lost with the session: the program ends at once, with status 0.
+  SessionEnd AtSessionEnd();
 
  private:
   void CbOK_Click();

@@ -1,0 +1,135 @@
+// The toolkit as the programs with windows set it up.
+#include "ui/qt/application.h"
+
+#include <gtest/gtest.h>
+
+#include <QFont>
+#include <QSessionManager>
+#include <QStyleHints>
+#include <array>
+#include <memory>
+
+#include "tests/support/tables.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+namespace {
+
+// Each test starts the toolkit, on a screen of its own.
+class Started : public testing::Test {
+ protected:
+  Application& Start(int alto = 800) {
+    carpeta_.Write("screen.json",
+                   R"({"synchronousWindowSystemEvents": false, "windowFrameMargins": true,
+                       "screens": [{"name": "alta", "x": 0, "y": 0, "width": 1000, "height": )" +
+                       std::to_string(alto) +
+                       R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen:configfile=" +
+                QByteArray::fromStdString((carpeta_.Path() / "screen.json").string()));
+    aplicacion_.reset();
+    return *(aplicacion_ = std::make_unique<Application>(argc_, argv_.data()));
+  }
+
+  // The size of the letters on a screen of that height.
+  double Letra(int alto) {
+    Start(alto);
+    return QApplication::font().pointSizeF();
+  }
+
+  TempFolder carpeta_;
+  std::string orden_ = "tasca";
+  int argc_ = 1;
+  std::array<char*, 2> argv_{orden_.data(), nullptr};
+  std::unique_ptr<Application> aplicacion_;
+};
+
+TEST_F(Started, KeepsTheCursorFromBlinking) {
+  Start();
+  EXPECT_EQ(QGuiApplication::styleHints()->cursorFlashTime(), 0);
+}
+
+TEST_F(Started, GoesOnWhileNoWindowIsOpen) {
+  Start();
+  EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+}
+
+TEST_F(Started, SpeaksSpanish) {
+  Start();
+  EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "&Undo").toStdString(), "&Deshacer");
+}
+
+TEST_F(Started, EnlargesTheLettersOnATallScreenUpToTwice) {
+  const double corriente = Letra(800);
+  EXPECT_GT(corriente, 0);
+  EXPECT_EQ(Letra(1200), corriente);
+  EXPECT_NEAR(Letra(1500), 1.25 * corriente, 0.01);
+  EXPECT_NEAR(Letra(2400), 2 * corriente, 0.01);
+  EXPECT_NEAR(Letra(4320), 2 * corriente, 0.01);
+}
+
+TEST_F(Started, RunsUntilTheProgramEnds) {
+  EXPECT_EQ(Start().Run([] { QCoreApplication::exit(7); }, {}), 7);
+}
+
+TEST_F(Started, PassesTheEndOfTheSessionOn) {
+  std::string dicho;
+  Application& aplicacion = Start();
+  const auto acabarSesion = [] {
+    emit qApp->commitDataRequest(*qApp->findChild<QSessionManager*>());
+    QCoreApplication::quit();
+  };
+  const SessionEnd fin{.MayCome =
+                           [&dicho](const auto& dejanPreguntar) {
+                             dicho += dejanPreguntar() ? "may ask, " : "may not ask, ";
+                             return true;
+                           },
+                       .Comes =
+                           [&dicho] {
+                             dicho += "ends";
+                             QCoreApplication::exit(3);
+                           }};
+  EXPECT_EQ(aplicacion.Run(acabarSesion, fin), 3);
+  EXPECT_EQ(dicho, "may not ask, ends") << "this screen has no session manager to ask through";
+}
+
+// A session manager that writes down what it is told.
+struct Manager {
+  bool allowsInteraction() {
+    dicho += "asked ";
+    return deja;
+  }
+  void cancel() { dicho += "cancel"; }
+  void release() { dicho += "release"; }
+
+  bool deja;
+  std::string dicho;
+};
+
+std::string Answered(bool deja, bool puedeAcabar) {
+  Manager gestor{.deja = deja, .dicho = {}};
+  bool dejaban = !deja;
+  AnswerSessionManager(gestor, {.MayCome =
+                                    [&](const auto& dejanPreguntar) {
+                                      dejaban = dejanPreguntar();
+                                      return puedeAcabar;
+                                    },
+                                .Comes = {}});
+  EXPECT_EQ(dejaban, deja);
+  return gestor.dicho;
+}
+
+TEST(AnswerSessionManager, CallsTheEndOffWhenTheProgramHasToStay) {
+  EXPECT_EQ(Answered(true, true), "asked release");
+  EXPECT_EQ(Answered(true, false), "asked cancel");
+  EXPECT_EQ(Answered(false, true), "asked release");
+}
+
+TEST(AnswerSessionManager, AsksForNothingThatTheProgramDoesNotNeed) {
+  Manager gestor{.deja = true, .dicho = {}};
+  AnswerSessionManager(gestor, {.MayCome = [](const auto&) { return true; }, .Comes = {}});
+  EXPECT_EQ(gestor.dicho, "release");
+}
+
+}  // namespace
+}  // namespace tasca::test
