@@ -34,7 +34,8 @@ std::string_view LineReader::NextPiece() {
   }
   const std::string_view quedan = std::string_view{bloque_}.substr(usados_);
   const std::size_t final = quedan.find('\n');
-  const std::string_view pieza = quedan.substr(0, final == quedan.npos ? final : final + 1);
+  const std::string_view pieza =
+      quedan.substr(0, final == std::string_view::npos ? final : final + 1);
   usados_ += pieza.size();
   return pieza;
 }
