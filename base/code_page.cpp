@@ -30,9 +30,9 @@ char16_t DecodeByte(unsigned char byte) {
 }
 
 std::u16string Decode(std::string_view bytes) {
-  std::u16string texto;
-  texto.reserve(bytes.size());
-  for (const char byte : bytes) texto += DecodeByte(static_cast<unsigned char>(byte));
+  std::u16string texto(bytes.size(), u'\0');
+  std::transform(bytes.begin(), bytes.end(), texto.begin(),
+                 [](char byte) { return DecodeByte(static_cast<unsigned char>(byte)); });
   return texto;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 // Text fields of a fixed width, as card names, character names and phrases have.
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -14,7 +15,9 @@ template <std::size_t N>
 class FixedText {
  public:
   FixedText& operator=(std::u16string_view texto) {
-    for (std::size_t i = 0; i < N; ++i) letras_[i] = i < texto.size() ? texto[i] : u' ';
+    const std::size_t caben = std::min(texto.size(), N);
+    std::copy_n(texto.begin(), caben, letras_.begin());
+    std::fill(letras_.begin() + caben, letras_.end(), u' ');
     return *this;
   }
 

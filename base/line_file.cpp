@@ -1,6 +1,7 @@
 // Line reading with a bound on the line.
 #include "base/line_file.h"
 
+#include <iterator>
 #include <utility>
 
 #include "base/code_page.h"
@@ -25,15 +26,29 @@ LineReader::LineReader(fs::path archivo) : ruta_{std::move(archivo)} {
   if (!flujo_) Fail(u"no se puede leer el archivo.");
 }
 
+std::string_view LineReader::NextPiece() {
+  if (usados_ == bloque_.size() && flujo_.peek() != std::ifstream::traits_type::eof()) {
+    bloque_.resize(static_cast<std::size_t>(flujo_.rdbuf()->in_avail()));
+    flujo_.read(bloque_.data(), std::ssize(bloque_));
+    usados_ = 0;
+  }
+  const std::string_view quedan = std::string_view{bloque_}.substr(usados_);
+  const std::size_t final = quedan.find('\n');
+  const std::string_view pieza =
+      quedan.substr(0, final == std::string_view::npos ? final : final + 1);
+  usados_ += pieza.size();
+  return pieza;
+}
+
 bool LineReader::NextBytes(std::string& bytes) {
   bytes.clear();
-  int letra = flujo_.get();
-  if (letra == std::ifstream::traits_type::eof() && !flujo_.bad()) return false;
+  std::string_view pieza = NextPiece();
+  if (pieza.empty() && !flujo_.bad()) return false;
   ++linea_;
-  for (; letra != std::ifstream::traits_type::eof(); letra = flujo_.get()) {
-    if (bytes.size() == LargoMaximo) Fail(u"la línea es demasiado larga.");
-    bytes += static_cast<char>(letra);
-    if (letra == '\n') break;
+  while (!pieza.empty()) {
+    bytes += pieza;
+    if (bytes.size() > LargoMaximo) Fail(u"la línea es demasiado larga.");
+    pieza = bytes.ends_with('\n') ? std::string_view{} : NextPiece();
   }
   if (flujo_.bad()) Fail(u"no se puede leer el archivo.");
   return true;

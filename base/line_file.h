@@ -34,8 +34,14 @@ class LineReader {
   [[noreturn]] void Fail(std::u16string_view queHaPasado) const;
 
  private:
+  // The next bytes, at most up to the line's end; empty at the end of the file and where it cannot
+  // be read any further.
+  std::string_view NextPiece();
+
   std::filesystem::path ruta_;
   std::ifstream flujo_;
+  std::string bloque_;      // what the stream last had ready
+  std::size_t usados_ = 0;  // bytes of the block
   int linea_ = 0;
 };
 

@@ -1,19 +1,118 @@
-// The bytes as the choices of a player who may do anything, in a game through the trace: whatever
+// The bytes as the choices of a player who may do anything, in a game of the rules alone: whatever
 // is done, the table stays in order, and every game ends well or in the error that was asked for.
+#include <array>
 #include <memory>
 
+#include "base/code_page.h"
+#include "base/endings.h"
+#include "base/text.h"
 #include "fuzz/support/bytes.h"
 #include "fuzz/support/folder.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/target.h"
-#include "tests/ui_trace/random_player.h"
+#include "lances/dialog.h"
+#include "sound/effects.h"
+#include "startup/dlg_inicio.h"
+#include "table/phase_machine.h"
+#include "table/start.h"
+#include "tests/ui_trace/invariants.h"
+#include "tests/ui_trace/random_choices.h"
 
 namespace tasca::fuzz {
 namespace {
 
 using test::Provocation;
 
-constexpr test::Length Longest{.Hands = 12};
+// How the game is to go, out of one byte. Most games are short: what a long one costs is shuffling.
+struct Plan {
+  Provocation Provoked;
+  int Hands;
+};
+
+Plan PlanOf(int byte) {
+  constexpr std::array<int, 8> hands{1, 1, 1, 1, 1, 2, 3, 12};
+  Plan plan{Provocation::None, hands.at(static_cast<std::size_t>(byte / 8 % 8))};
+  if (byte % 8 == 6) plan.Provoked = Provocation::NoPhrases;
+  if (byte % 8 == 7) plan.Provoked = Provocation::HugeAmounts;
+  return plan;
+}
+
+// The world of a game in which the choices answer.
+class Answers : public Port {
+ public:
+  explicit Answers(test::RandomChoices& choices) : choices_{choices} {}
+
+  void SetClock(TimeOfDay clock) { clock_ = clock; }
+  bool PlayersChange() const { return playersChange_; }
+
+  void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
+  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& pregunta) override {
+    return choices_.SaysYes(pregunta.Texto);
+  }
+  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
+                          std::u16string_view titulo, std::u16string_view /*porDefecto*/) override {
+    return Decode(choices_.Typed(titulo).value_or(""));
+  }
+  void ShowDialog(const Table& /*t*/, Dialog& dialogo) override {
+    const int button = choices_.Button(dialogo.Modo);
+    Require(dialogo.Command1[button].Visible && dialogo.Command1[button].Enabled,
+            "the dialog offers what its mode promises");
+    Command1_Click(dialogo, button);
+  }
+  void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
+  void StopSound(const Table& /*t*/) override {}
+  TimeOfDay Now() override { return clock_; }
+  void ChangePlayers() override { playersChange_ = true; }
+
+ private:
+  test::RandomChoices& choices_;
+  TimeOfDay clock_;
+  bool playersChange_ = false;
+};
+
+// Through the start-up dialog to the table.
+void Start(Game& g, const test::StartChoice& start) {
+  DlgInicio d;
+  Form_Load(d, g);
+  Combo1_Click(d, start.Combos[0]);
+  Combo2_Click(d, start.Combos[1]);
+  Combo3_Click(d, start.Combos[2]);
+  Check1_Click(d, 0, start.Checks[0]);
+  Check1_Click(d, 1, start.Checks[1]);
+  Option1_Click(d, start.Option);
+  Require(CbOK_Click(d, g), "the dialog takes companions that differ");
+  Form_Load(g);
+}
+
+void Move(Game& g, const test::MoveChoice& move) {
+  if (move.Sound) return Mp1_FinReproduccion(g, *move.Sound);
+  Integer code = move.Key;
+  Text1_KeyDown(g, code, move.Shift);
+}
+
+// The table in its folder. It is too big to be made for every game.
+Table& NewTable(const Folder& folder) {
+  static const auto blank = std::make_unique<const Table>();
+  static const auto t = std::make_unique<Table>();
+  *t = *blank;
+  t->Carpeta = folder.Path();
+  return *t;
+}
+
+// Plays until the hands are played, the player leaves, or the bytes end and no question is open.
+// Looks at the table whenever it waits for a key.
+void Play(Game& g, test::RandomChoices& choices, Answers& answers, const Bytes& bytes, int hands) {
+  test::Watch watch;
+  const test::StartChoice start = choices.Start();
+  answers.SetClock(start.Clock);
+  Start(g, start);
+  while (!answers.PlayersChange()) {
+    watch.Look(test::SituationOf(g.t, g.rnd));
+    Require(watch.Fault().empty(), watch.Fault());
+    if (bytes.Empty() || watch.HandsPlayed() >= hands) break;
+    Move(g, choices.Move());
+  }
+}
 
 std::unique_ptr<Folder> FolderWithCharacters() {
   auto folder = std::make_unique<Folder>();
@@ -22,30 +121,25 @@ std::unique_ptr<Folder> FolderWithCharacters() {
   return folder;
 }
 
-Provocation ProvocationOf(int choice) {
-  if (choice == 6) return Provocation::NoPhrases;
-  return choice == 7 ? Provocation::HugeAmounts : Provocation::None;
-}
-
-bool WaitsForAKey(const test::TraceEvents& events) {
-  return !events.empty() && events.back()["event"] == "state";
-}
-
 }  // namespace
 
 void Run(std::string_view input) {
   static const std::unique_ptr<Folder> folder = FolderWithCharacters();
   Bytes bytes{input};
-  const Provocation provocation = ProvocationOf(bytes.Below(8));
-  test::RandomPlayer player{[&bytes](int n) { return bytes.Below(n); }, Longest, provocation};
-  folder->Write("mus.ini", player.Settings());
-  // The game ends with the bytes, once no question is open.
-  const test::Player untilTheEnd = [&](const test::TraceEvents& events) {
-    std::optional<std::string> line = player(events);
-    return bytes.Empty() && WaitsForAKey(events) ? std::nullopt : line;
-  };
-  const std::string fault = player.FaultOf(test::Converse(folder->Path(), untilTheEnd));
-  Require(fault.empty(), fault);
+  const Plan plan = PlanOf(bytes.Below(64));
+  test::RandomChoices choices{[&bytes](int n) { return bytes.Below(n); }, plan.Provoked};
+  folder->Write("mus.ini", choices.Settings());
+  Answers answers{choices};
+  Rnd rnd;
+  Game g{NewTable(*folder), rnd, answers};
+  try {
+    Play(g, choices, answers, bytes, plan.Hands);
+  } catch (const LeaveProgram&) {
+  } catch (const RunTimeError& error) {
+    const std::u16string_view allowed = test::ErrorOf(plan.Provoked);
+    Require(!allowed.empty() && Contains(error.Message(), allowed),
+            "a game ends as it was asked to");
+  }
 }
 
 }  // namespace tasca::fuzz

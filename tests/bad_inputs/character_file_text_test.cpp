@@ -149,7 +149,6 @@ std::vector<OnlyPhrase> BadPhrases() {
       {"Of101", cien + "x", cien},
       {"Of200", cien + cien, cien},
       {"Of201", cien + cien + "x", cien},
-      {"OfAMebibyte", std::string(LineReader::LargoMaximo - 2, 'x'), cien},
   };
 }
 
@@ -157,6 +156,23 @@ INSTANTIATE_TEST_SUITE_P(Phrases, BadPhrase, testing::ValuesIn(BadPhrases()),
                          [](const testing::TestParamInfo<OnlyPhrase>& caso) {
                            return caso.param.Name;
                          });
+
+// Only the refusal of mus, which every hand hears, has the long phrase: all of them would be 70
+// MiB.
+TEST(BadPhrase, OfAMebibyteIsCutWhenItIsSaid) {
+  constexpr int LineasRegistro = 32;
+  constexpr int FraseNMus = 8;
+  Fichero fichero;
+  for (int linea = FraseNMus; linea <= 160; linea += LineasRegistro) {
+    fichero.Cambiar(linea, std::string(LineReader::LargoMaximo - 2, 'x'));
+  }
+  const TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", fichero.Bytes());
+  const Played partida = Play(carpeta.Path());
+  EXPECT_EQ(partida.Outcome, "plays");
+  EXPECT_NE(partida.Lines.find(std::string(100, 'x')), std::string::npos) << partida.Lines;
+  EXPECT_EQ(partida.Lines.find(std::string(101, 'x')), std::string::npos);
+}
 
 // A line of the longest length there may be, its end included, and one byte more.
 struct LongLine {

@@ -97,6 +97,16 @@ TEST(LineReader, ReadsTheCodePage) { EXPECT_EQ(LinesOf("t\xEDo \x80\r\n"), (Line
 
 TEST(LineReader, KeepsBlanks) { EXPECT_EQ(LinesOf("  a \t\r\n"), (Lineas{"  a \t"})); }
 
+// The stream reads blocks of some thousand bytes; a line, or its end, may lie across two.
+TEST(LineReader, ReadsLinesThatEndAroundTheEndOfABlock) {
+  constexpr std::size_t Bloque = 8192;
+  for (std::size_t largo = Bloque - 8; largo <= Bloque + 8; ++largo) {
+    const std::string larga(largo, 'x');
+    EXPECT_EQ(LinesOf(larga + "\r\n" + larga + "\n\r\nfin"), (Lineas{larga, larga, "", "fin"}));
+    EXPECT_EQ(LinesOf(larga), Lineas{larga});
+  }
+}
+
 TEST(LineReader, GivesBytesWithTheirLineEnds) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "35\r\n\n\x80");

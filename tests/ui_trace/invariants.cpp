@@ -3,15 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <nlohmann/json.hpp>
-#include <set>
-#include <vector>
+#include <bitset>
 
 namespace tasca::test {
 namespace {
 
-using nlohmann::ordered_json;
-using Numbers = std::vector<int>;
+constexpr int HandHasEnded = -1;  // the phase in which a hand waits for the next one
 
 bool IsCard(int number) { return number >= 1 && number <= 40; }
 
@@ -20,10 +17,9 @@ int ValorGrandeOf(int card) {
   return values.at(static_cast<std::size_t>((card - 1) % 10));
 }
 
-bool HandsAreSortedCards(const ordered_json& state) {
-  return std::all_of(state["Manos"].begin(), state["Manos"].end(), [](const ordered_json& seat) {
-    const auto hand = seat.get<Numbers>();
-    return hand.size() == 4 && std::all_of(hand.begin(), hand.end(), IsCard) &&
+bool HandsAreSortedCards(const Situation& s) {
+  return std::all_of(s.Manos.begin(), s.Manos.end(), [](const std::array<int, 4>& hand) {
+    return std::all_of(hand.begin(), hand.end(), IsCard) &&
            std::is_sorted(hand.begin(), hand.end(), [](int card, int other) {
              return ValorGrandeOf(card) > ValorGrandeOf(other);
            });
@@ -31,85 +27,84 @@ bool HandsAreSortedCards(const ordered_json& state) {
 }
 
 // The answer to a bet comes on the Enter of the bet: its phases are never waited in.
-bool PhaseIsOneToWaitIn(const ordered_json& state) {
-  const std::set<int> phases{-1, 0, 1, 3, 5, 6, 8, 9, 11, 13};
-  return phases.contains(state["Fase"].get<int>());
+bool PhaseIsOneToWaitIn(const Situation& s) {
+  constexpr std::array<int, 10> phases{HandHasEnded, 0, 1, 3, 5, 6, 8, 9, 11, 13};
+  return std::find(phases.begin(), phases.end(), s.Fase) != phases.end();
 }
 
-bool SpeakingOrderGoesRound(const ordered_json& state) {
-  const auto order = state["OrdenAsiento"].get<Numbers>();
-  const int mano = order.front();
-  Numbers expected;
-  for (int k = 0; k < 4; ++k) expected.push_back((mano - 1 + k) % 4 + 1);
-  return mano >= 1 && mano <= 4 && order == expected;
+bool SpeakingOrderGoesRound(const Situation& s) {
+  const int mano = s.OrdenAsiento.front();
+  const auto after = [mano](int k) { return (mano - 1 + k) % 4 + 1; };
+  return mano >= 1 && mano <= 4 &&
+         s.OrdenAsiento == std::array<int, 4>{mano, after(1), after(2), after(3)};
 }
 
-bool DeckHoldsCards(const ordered_json& state) {
-  const auto deck = state["Baraja"].get<Numbers>();
-  const int next = state["CartaSiguiente"];
-  const int pile = state["DescarteSiguiente"];
-  return deck.size() == 40 && std::all_of(deck.begin(), deck.end(), IsCard) && next >= 1 &&
-         next <= 40 && pile >= 1 && pile <= 40;
+bool DeckHoldsCards(const Situation& s) {
+  return std::all_of(s.Baraja.begin(), s.Baraja.end(), IsCard) && IsCard(s.CartaSiguiente) &&
+         IsCard(s.DescarteSiguiente);
 }
 
-bool IsNewHand(const ordered_json& state) { return state["Fase"] == 0 && state["RondasMus"] == 0; }
+bool IsNewHand(const Situation& s) { return s.Fase == 0 && s.RondasMus == 0; }
 
-bool FreshDeckIsWhole(const ordered_json& state) {
-  const auto deck = state["Baraja"].get<std::set<int>>();
-  return !IsNewHand(state) || (deck.size() == 40 && state["CartaSiguiente"] == 17);
+using CardSet = std::bitset<41>;
+
+// The first `count` cards of the deck, none of them twice if there are as many in the set.
+CardSet FirstOfTheDeck(const Situation& s, std::size_t count) {
+  CardSet cards;
+  for (std::size_t i = 0; i < count; ++i) cards.set(static_cast<std::size_t>(s.Baraja.at(i)));
+  return cards;
+}
+
+bool FreshDeckIsWhole(const Situation& s) {
+  return !IsNewHand(s) || (FirstOfTheDeck(s, 40).count() == 40 && s.CartaSiguiente == 17);
 }
 
 // Four hands of four, none of them twice.
-bool DealtCardsAreTheFirstOfTheDeck(const ordered_json& state) {
-  const auto deck = state["Baraja"].get<Numbers>();
-  std::set<int> held;
-  for (const ordered_json& seat : state["Manos"]) {
-    for (const int card : seat.get<Numbers>()) held.insert(card);
+bool DealtCardsAreTheFirstOfTheDeck(const Situation& s) {
+  if (!IsNewHand(s)) return true;
+  CardSet held;
+  for (const std::array<int, 4>& hand : s.Manos) {
+    for (const int card : hand) held.set(static_cast<std::size_t>(card));
   }
-  return !IsNewHand(state) || held == std::set<int>(deck.begin(), deck.begin() + 16);
+  return held == FirstOfTheDeck(s, 16);
 }
 
 // Neither juegos nor vacas wait past the number that ends the vaca or the match.
-bool ScoresEndWhenTheyMust(const ordered_json& state) {
-  const int juegos = state["JuegosVaca"];
-  const int vacas = state["VacasPartida"];
-  const auto within = [&state](const char* name, int most) {
-    const auto score = state[name].get<Numbers>();
-    return score.size() == 2 &&
-           std::all_of(score.begin(), score.end(), [most](int n) { return n >= 0 && n <= most; });
+bool ScoresEndWhenTheyMust(const Situation& s) {
+  const auto within = [](const std::array<int, 2>& score, int most) {
+    return std::all_of(score.begin(), score.end(), [most](int n) { return n >= 0 && n <= most; });
   };
-  return within("Juegos", juegos % 2) && within("Vacas", std::min(vacas % 2, vacas - 1));
+  return within(s.Juegos, s.JuegosVaca % 2) &&
+         within(s.Vacas, std::min(s.VacasPartida % 2, s.VacasPartida - 1));
 }
 
-std::string Score(const ordered_json& state, const char* name) {
-  return state[name][1].dump() + " / " + state[name][0].dump();
+std::string Score(const std::array<int, 2>& score) {
+  return std::to_string(score[1]) + " / " + std::to_string(score[0]);
 }
 
-bool HasScoreboard(const ordered_json& state) {
-  return !state["Text3"].get_ref<const std::string&>().empty();
-}
+bool HasScoreboard(const Situation& s) { return !s.Text3.empty(); }
 
 // Whenever it has been written at all, the scoreboard is up to date when a move has ended.
-bool ScoreboardIsTrue(const ordered_json& state) {
-  return !HasScoreboard(state) || state["Text3"] == "Piedras: " + Score(state, "Piedras") +
-                                                        ";    juegos: " + Score(state, "Juegos") +
-                                                        ";    Vacas: " + Score(state, "Vacas");
+bool ScoreboardIsTrue(const Situation& s) {
+  return !HasScoreboard(s) || s.Text3 == "Piedras: " + Score(s.Piedras) +
+                                             ";    juegos: " + Score(s.Juegos) +
+                                             ";    Vacas: " + Score(s.Vacas);
 }
 
 // A refused punto pays what an older record says, at worst -2; nothing else takes stones away but
 // the end of a juego, and that from both.
-bool StonesFallOnlyTogether(const ordered_json& before, const ordered_json& after) {
-  const auto had = before["Piedras"].get<Numbers>();
-  const auto has = after["Piedras"].get<Numbers>();
-  const bool fell = has.at(0) < had.at(0) - 2 || has.at(1) < had.at(1) - 2;
-  return !fell || has == Numbers{0, 0};
+bool StonesFallOnlyTogether(const Situation& before, const Situation& after) {
+  const bool fell =
+      after.Piedras[0] < before.Piedras[0] - 2 || after.Piedras[1] < before.Piedras[1] - 2;
+  return !fell || after.Piedras == std::array<int, 2>{0, 0};
 }
 
 struct Rule {
   const char* Name;
-  bool (*Holds)(const ordered_json& state);
+  bool (*Holds)(const Situation& s);
 };
 
+// In this order: the later ones rely on cards being cards.
 constexpr std::array<Rule, 9> Rules{{
     {"a hand that is not four cards in order", HandsAreSortedCards},
     {"a phase that nobody waits in", PhaseIsOneToWaitIn},
@@ -118,25 +113,29 @@ constexpr std::array<Rule, 9> Rules{{
     {"a new hand without a whole deck", FreshDeckIsWhole},
     {"a new hand with other cards than the first of the deck", DealtCardsAreTheFirstOfTheDeck},
     {"a scoreboard that is not true", ScoreboardIsTrue},
-    {"a bet left standing", [](const ordered_json& state) { return state["SeguirLance"] == 0; }},
+    {"a bet left standing", [](const Situation& s) { return s.SeguirLance == 0; }},
     {"a vaca or a match that should have ended", ScoresEndWhenTheyMust},
 }};
 
 }  // namespace
 
-std::string FaultIn(const ordered_json& state) {
-  for (const Rule& rule : Rules) {
-    if (!rule.Holds(state)) return rule.Name + std::string{": "} + state.dump();
-  }
-  return {};
+std::string FaultIn(const Situation& s) {
+  const auto* const broken =
+      std::find_if(Rules.begin(), Rules.end(), [&s](const Rule& rule) { return !rule.Holds(s); });
+  return broken == Rules.end() ? "" : broken->Name;
 }
 
-std::string FaultBetween(const ordered_json& before, const ordered_json& after) {
-  std::string fault;
-  if (!StonesFallOnlyTogether(before, after)) fault = "stones that fell";
-  if (HasScoreboard(before) && !HasScoreboard(after)) fault = "a scoreboard that went blank";
-  if (after["draws"] < before["draws"]) fault = "draws that were taken back";
-  return fault.empty() ? fault : fault + ": " + before.dump() + "\n" + after.dump();
+std::string FaultBetween(const Situation& before, const Situation& after) {
+  if (after.Draws < before.Draws) return "draws that were taken back";
+  if (HasScoreboard(before) && !HasScoreboard(after)) return "a scoreboard that went blank";
+  return StonesFallOnlyTogether(before, after) ? "" : "stones that fell";
+}
+
+void Watch::Look(const Situation& s) {
+  if (fault_.empty()) fault_ = FaultIn(s);
+  if (fault_.empty() && before_) fault_ = FaultBetween(*before_, s);
+  if (before_ && before_->Fase != HandHasEnded && s.Fase == HandHasEnded) ++handsPlayed_;
+  before_ = s;
 }
 
 }  // namespace tasca::test

@@ -1,11 +1,10 @@
-// Random lines.
+// The choices as lines of a trace.
 #include "tests/ui_trace/random_player.h"
 
-#include <array>
 #include <string_view>
 #include <utility>
 
-#include "tests/ui_trace/invariants.h"
+#include "ui/utf8.h"
 
 namespace tasca::test {
 namespace {
@@ -22,97 +21,88 @@ std::string YesOrNo(bool yes) {
   return R"({"button": ")" + std::string{yes ? "yes" : "no"} + "\"}";
 }
 
-std::string_view ErrorOf(Provocation provocation) {
-  switch (provocation) {
-    case Provocation::NoPhrases:
-      return "Un personaje no tiene nada que decir";
-    case Provocation::HugeAmounts:
-      return "Desbordamiento";
-    default:
-      return {};
+std::string LineOf(const StartChoice& start) {
+  const auto& [hour, minute, second] = start.Clock;
+  const auto& [partner, right, left] = start.Combos;
+  return R"({"start": {"clock": )" + List(hour, minute, second) + R"(, "combos": )" +
+         List(partner, right, left) + R"(, "checks": [)" + Word(start.Checks[0]) + ", " +
+         Word(start.Checks[1]) + R"(], "option": )" + std::to_string(start.Option) + "}}";
+}
+
+std::string LineOf(const MoveChoice& move) {
+  if (move.Sound) return R"({"sound": )" + std::to_string(*move.Sound) + "}";
+  const std::string shift = move.Shift == 0 ? "" : R"(, "shift": )" + std::to_string(move.Shift);
+  return R"({"key": )" + std::to_string(move.Key) + shift + "}";
+}
+
+std::u16string TextOf(const ordered_json& value) {
+  return FromUtf8(value.get_ref<const std::string&>());
+}
+
+// False when a list has another length than the table's.
+template <std::size_t N>
+bool ReadList(const ordered_json& list, std::array<int, N>& numbers) {
+  if (!list.is_array() || list.size() != N) return false;
+  list.get_to(numbers);
+  return true;
+}
+
+// Nothing when a list has another length than the table's.
+std::optional<Situation> SituationOf(const ordered_json& state) {
+  Situation s;
+  bool whole = state["Manos"].size() == s.Manos.size();
+  for (std::size_t seat = 0; whole && seat < s.Manos.size(); ++seat) {
+    whole = ReadList(state["Manos"][seat], s.Manos.at(seat));
   }
+  whole = whole && ReadList(state["Baraja"], s.Baraja) &&
+          ReadList(state["OrdenAsiento"], s.OrdenAsiento) &&
+          ReadList(state["Piedras"], s.Piedras) && ReadList(state["Juegos"], s.Juegos) &&
+          ReadList(state["Vacas"], s.Vacas);
+  if (!whole) return std::nullopt;
+  s.CartaSiguiente = state["CartaSiguiente"];
+  s.DescarteSiguiente = state["DescarteSiguiente"];
+  s.Fase = state["Fase"];
+  s.SeguirLance = state["SeguirLance"];
+  s.RondasMus = state["RondasMus"];
+  s.JuegosVaca = state["JuegosVaca"];
+  s.VacasPartida = state["VacasPartida"];
+  s.Text3 = state["Text3"];
+  s.Draws = state["draws"];
+  return s;
 }
 
 }  // namespace
 
 RandomPlayer::RandomPlayer(Chooser any, Length length, Provocation provocation)
-    : any_{std::move(any)}, length_{length}, provocation_{provocation} {}
-
-std::string RandomPlayer::Settings() {
-  constexpr std::array<int, 6> stones{1, 5, 12, 25, 40, 200};
-  const int piedras = stones.at(static_cast<std::size_t>(any_(6)));
-  const int juegos = any_(5) + 1;
-  const int vacas = any_(5) + 1;
-  return std::to_string(piedras) + "\r\n" + std::to_string(juegos) + "\r\n" +
-         std::to_string(vacas) + "\r\nAna> Nombre\r\n";
-}
+    : choices_{std::move(any), provocation}, length_{length}, provocation_{provocation} {}
 
 std::string RandomPlayer::Start() {
-  before_ = nullptr;  // a new table
-  constexpr std::array<std::string_view, 4> seats{"[0, 0, 0]", "[1, 2, 3]", "[3, 0, 1]",
-                                                  "[2, 3, 0]"};
-  const int hour = any_(24);
-  const int minute = any_(60);
-  const int second = any_(60);
-  const std::string clock = List(hour, minute, second);
-  const std::string combos{seats.at(static_cast<std::size_t>(any_(4)))};
-  const std::string names = Word(Sometimes(50));
-  const std::string phrases = Word(provocation_ != Provocation::NoPhrases);
-  const std::string option = std::to_string(any_(2));
-  return R"({"start": {"clock": )" + clock + R"(, "combos": )" + combos + R"(, "checks": [)" +
-         names + ", " + phrases + R"(], "option": )" + option + "}}";
-}
-
-std::string RandomPlayer::Move() {
-  if (Sometimes(90)) return R"({"key": 13})";
-  if (Sometimes(60)) return R"({"sound": )" + std::to_string(any_(4) * 2) + "}";
-  if (Sometimes(30)) return R"({"key": 81})";
-  if (Sometimes(50)) return R"({"key": 48, "shift": 3})";
-  return R"({"key": )" + std::to_string(any_(256)) + "}";
-}
-
-std::string RandomPlayer::Amount() {
-  if (Sometimes(15)) return R"({"button": "cancel"})";
-  if (Sometimes(10)) return R"({"text": "muchas"})";
-  const int greatest = provocation_ == Provocation::HugeAmounts ? 60000 : 12;
-  return R"({"text": ")" + std::to_string(any_(greatest)) + "\"}";
-}
-
-// Órdagos are rare, or no hand would ever be counted.
-std::string RandomPlayer::Button(const ordered_json& dialog) {
-  constexpr int againstAnOrdago = -2;
-  if (dialog["mode"] == againstAnOrdago) return R"({"result": )" + std::to_string(any_(2)) + "}";
-  return R"({"result": )" + std::to_string(Sometimes(5) ? 3 : any_(3)) + "}";
+  watch_.NewTable();
+  return LineOf(choices_.Start());
 }
 
 std::string RandomPlayer::Answer(const ordered_json& question) {
-  if (question["event"] == "dialog") return Button(question);
-  if (question["event"] == "inputbox") {
-    if (question["title"] != "Sustituir cartas") return Amount();
-    return R"({"text": ")" + std::to_string(any_(10000)) + "\"}";
+  if (question["event"] == "dialog") {
+    return R"({"result": )" + std::to_string(choices_.Button(question["mode"])) + "}";
   }
-  if (question["text"] == "¿Desea cambiar de jugadores?") return YesOrNo(Sometimes(5));
-  if (question["text"] == "¿Desea jugar otra partida?") {
-    ++matchesPlayed_;
-    return YesOrNo(Sometimes(95));
+  if (question["event"] != "inputbox") {
+    return YesOrNo(choices_.SaysYes(TextOf(question["text"])));
   }
-  return YesOrNo(Sometimes(70));
+  const std::optional<std::string> typed = choices_.Typed(TextOf(question["title"]));
+  return typed ? R"({"text": ")" + *typed + "\"}" : R"({"button": "cancel"})";
 }
 
 bool RandomPlayer::HasPlayedEnough() const {
-  return handsPlayed_ >= length_.Hands || matchesPlayed_ >= length_.Matches;
+  return HandsPlayed() >= length_.Hands || MatchesPlayed() >= length_.Matches;
 }
 
 void RandomPlayer::Look(const ordered_json& state) {
-  fault_ = FaultIn(state);
-  if (fault_.empty() && !before_.is_null()) fault_ = FaultBetween(before_, state);
-  const bool ended = state["Fase"] == -1 && !before_.is_null() && before_["Fase"] != -1;
-  if (ended) ++handsPlayed_;
-  if (before_.is_null()) {
-    const ordered_json& seats = state["PersonajeAsiento"];
-    seated_.insert(seats.begin() + 1, seats.end());  // the first is the human's
-  }
-  before_ = state;
+  const std::optional<Situation> situation = SituationOf(state);
+  if (situation) watch_.Look(*situation);
+  const std::string fault = situation ? watch_.Fault() : "a list of another length";
+  if (!fault.empty()) fault_ = fault + ": " + state.dump();
+  const ordered_json& seats = state["PersonajeAsiento"];
+  seated_.insert(seats.begin() + 1, seats.end());  // the first is the human's
 }
 
 std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {
@@ -124,14 +114,14 @@ std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {
   const ordered_json& last = events.back();
   if (last["event"] != "state") return Answer(last);
   if (HasPlayedEnough()) return std::nullopt;
-  return Move();
+  return LineOf(choices_.Move());
 }
 
 std::string RandomPlayer::FaultOf(const Conversation& game) const {
   if (!fault_.empty()) return fault_;
   if (!game.Err.empty()) return "a message: " + game.Err;
   if (game.Status == 0) return {};
-  const std::string_view allowed = ErrorOf(provocation_);
+  const std::string allowed = ToUtf8(ErrorOf(provocation_));
   const bool asked = game.Status == 1 && !allowed.empty() && !game.Rest.empty() &&
                      game.Rest.back().dump().find(allowed) != std::string::npos;
   return asked ? "" : "an end that nobody asked for, status " + std::to_string(game.Status);

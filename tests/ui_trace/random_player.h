@@ -1,16 +1,14 @@
 #pragma once
-// A player who does anything that is allowed, and looks at every state as it comes by.
-#include <functional>
+// A random player in a trace, who looks at every state as it comes by.
 #include <limits>
 #include <set>
 #include <string>
 
 #include "tests/ui_trace/conversation.h"
+#include "tests/ui_trace/invariants.h"
+#include "tests/ui_trace/random_choices.h"
 
 namespace tasca::test {
-
-// What a random game may try besides good play.
-enum class Provocation { None, NoPhrases, HugeAmounts };
 
 // When the player leaves the table: after so many hands, or so many matches played to their end.
 struct Length {
@@ -18,20 +16,17 @@ struct Length {
   int Matches = std::numeric_limits<int>::max();
 };
 
-// Says a whole number from 0 to n - 1: what the player does depends on nothing else.
-using Chooser = std::function<int(int n)>;
-
 class RandomPlayer {
  public:
   RandomPlayer(Chooser any, Length length, Provocation provocation);
 
   // A "mus.ini" with match parameters that make long and short matches.
-  std::string Settings();
+  std::string Settings() { return choices_.Settings(); }
 
   std::optional<std::string> operator()(const TraceEvents& events);
 
-  int HandsPlayed() const { return handsPlayed_; }
-  int MatchesPlayed() const { return matchesPlayed_; }
+  int HandsPlayed() const { return watch_.HandsPlayed(); }
+  int MatchesPlayed() const { return choices_.MatchesPlayed(); }
   // The characters that have sat at the table.
   const std::set<int>& Seated() const { return seated_; }
   // The first thing that was not as it must always be, the end of the game included; "" when all
@@ -40,25 +35,17 @@ class RandomPlayer {
   std::string FaultOf(const Conversation& game) const;
 
  private:
-  // True `percent` times of a hundred.
-  bool Sometimes(int percent) { return any_(100) < percent; }
-
   bool HasPlayedEnough() const;
   void Look(const nlohmann::ordered_json& state);
   std::string Start();
-  std::string Move();
-  std::string Amount();
-  std::string Button(const nlohmann::ordered_json& dialog);
   std::string Answer(const nlohmann::ordered_json& question);
 
-  Chooser any_;
+  RandomChoices choices_;
   Length length_;
   Provocation provocation_;
-  int handsPlayed_ = 0;
-  int matchesPlayed_ = 0;
+  Watch watch_;
   std::set<int> seated_;
-  nlohmann::ordered_json before_;  // the last state
-  std::string fault_;
+  std::string fault_;  // the first one, with the state
 };
 
 }  // namespace tasca::test
