@@ -10,11 +10,11 @@
 #include "fuzz/support/folder.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/target.h"
-#include "lances/dialog.h"
+#include "match/phase_machine.h"
+#include "match/start.h"
 #include "sound/effects.h"
 #include "startup/dlg_inicio.h"
-#include "table/phase_machine.h"
-#include "table/start.h"
+#include "table/dialog.h"
 #include "tests/ui_trace/invariants.h"
 #include "tests/ui_trace/random_choices.h"
 
@@ -46,15 +46,15 @@ class Answers : public Port {
   bool PlayersChange() const { return playersChange_; }
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
-  bool YesNoBox(const Table& /*t*/, const YesNoQuestion& pregunta) override {
+  bool YesNoBox(const Table& /*t*/, Pregunta /*sobre*/, const YesNoQuestion& pregunta) override {
     return choices_.SaysYes(pregunta.Texto);
   }
-  std::u16string InputBox(const Table& /*t*/, std::u16string_view /*texto*/,
-                          std::u16string_view titulo, std::u16string_view /*porDefecto*/) override {
-    return Decode(choices_.Typed(titulo).value_or(""));
+  std::u16string InputBox(const Table& /*t*/, Pregunta /*sobre*/,
+                          const InputQuestion& pregunta) override {
+    return Decode(choices_.Typed(pregunta.Titulo).value_or(""));
   }
   void ShowDialog(const Table& /*t*/, Dialog& dialogo) override {
-    const int button = choices_.Button(dialogo.Modo);
+    const int button = choices_.Button(static_cast<int>(dialogo.Modo));
     Require(dialogo.Command1[button].Visible && dialogo.Command1[button].Enabled,
             "the dialog offers what its mode promises");
     Command1_Click(dialogo, button);

@@ -21,7 +21,8 @@ int PuntuacionMus(const Table& t, Seat asiento);
 // Which cards (slots 1..4) a computer seat throws: all but its Reyes and Treses.
 Array<bool, 1, 4> DecideDescarte(const Table& t, Seat asiento);
 
-// One discard pass of all four seats, from the mano. The human names cards by their numbers. Thrown cards go on the pile of discards in the deck.
+// One discard pass of all four seats, from the mano. The human names cards by their numbers. Thrown
+// cards go on the pile of discards in the deck.
 void Descartar(Game& g);
 
 }  // namespace tasca

@@ -12,8 +12,8 @@ inline constexpr int SonidoUnaCarta = 0;
 // Plays shuffling (SonidoBarajado) or dealing (SonidoReparto); anything else plays nothing.
 void SonidoCartas(Game& g, Integer Tipo);
 
-// The cards of a discard pass, one seat after the other: starts with the seat `primero`; `cambiadas`
-// has the number of cards that each seat changed.
+// The cards of a discard pass, one seat after the other: starts with the seat `primero`;
+// `cambiadas` has the number of cards that each seat changed.
 void SonidoDescartes(Game& g, const Array<Integer, 1, 4>& cambiadas, Seat primero);
 
 // Goes on to the next seat that changed cards, or ends the sequence after the fourth seat.

@@ -9,7 +9,7 @@
 #include <QTest>
 #include <array>
 
-#include "lances/dialog.h"
+#include "table/dialog.h"
 #include "tests/support/tables.h"
 #include "tests/ui_qt/player.h"
 #include "ui/qt/boxes.h"

@@ -3,8 +3,8 @@
 
 #include <utility>
 
-#include "lances/dialog.h"
-#include "table/keys.h"
+#include "base/keys.h"
+#include "table/dialog.h"
 
 namespace tasca::test {
 
@@ -60,7 +60,7 @@ std::optional<std::string> RandomChoices::Amount() {
 
 // Órdagos are rare, or no hand would ever be counted.
 int RandomChoices::Button(int modo) {
-  if (modo == ModoRespuestaOrdago) return any_(2);
+  if (modo == static_cast<int>(ModoDialogo::RespuestaOrdago)) return any_(2);
   return Sometimes(5) ? 3 : any_(3);
 }
 
