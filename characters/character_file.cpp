@@ -43,7 +43,7 @@ void Guardar(Table& t, const LineReader& archivo, const LineasPersonajes& lineas
   }
 }
 
-int LeerTodo(Table& t, Lector lector) {
+int LeerTodo(Table& t, LectorPersonajes lector) {
   LineReader archivo{ArchivoPersonajes(t)};
   LineasPersonajes lineas{lector};
   std::u16string linea;
@@ -94,9 +94,9 @@ void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas) {
   }
 }
 
-void LeerPersonajes(Table& t) { LeerTodo(t, Lector::Juego); }
+void LeerPersonajes(Table& t) { LeerTodo(t, LectorPersonajes::Juego); }
 
-int LeerPersonajesSinMayusculas(Table& t) { return LeerTodo(t, Lector::Editor); }
+int LeerPersonajesSinMayusculas(Table& t) { return LeerTodo(t, LectorPersonajes::Editor); }
 
 std::string TextoPersonajes(const Table& t, int cuantos) {
   std::string bytes;

@@ -180,7 +180,7 @@ bool Revisar(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
 
 // The start-up dialog at work.
 struct Oferta {
-  LineasPersonajes Lineas{Lector::Inicio};
+  LineasPersonajes Lineas{LectorPersonajes::Inicio};
   int Ofrecidos = 0;
 };
 
@@ -228,8 +228,8 @@ void ExaminarLetras(CuadernoFaltas& c, std::u16string_view linea) {
 struct Examen {
   CuadernoFaltas Apuntes;
   std::array<Revisor, 2> Completos{
-      {{.Quien = LectorJuego, .Lineas = LineasPersonajes{Lector::Juego}},
-       {.Quien = LectorEditor, .Lineas = LineasPersonajes{Lector::Editor}}}};
+      {{.Quien = LectorJuego, .Lineas = LineasPersonajes{LectorPersonajes::Juego}},
+       {.Quien = LectorEditor, .Lineas = LineasPersonajes{LectorPersonajes::Editor}}}};
   Oferta Ofrece;
 };
 

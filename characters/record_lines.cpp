@@ -29,7 +29,7 @@ std::u16string_view NombreDe(ClaseLinea cabecera) {
 
 ClaseLinea LineasPersonajes::Leer(std::u16string_view linea) {
   if (pendiente_) return LeerCabecera(linea);
-  if (lector_ == Lector::Inicio) {
+  if (lector_ == LectorPersonajes::Inicio) {
     return Contains(linea, u"Datos>") ? EmpezarPersonaje() : ClaseLinea::Ajena;
   }
   if (LlevaMarca(linea)) return LeerMarca(Before(linea, u'>'));
@@ -47,8 +47,8 @@ ClaseLinea LineasPersonajes::LeerCabecera(std::u16string_view linea) {
   } else {
     pendiente_ = clase == ClaseLinea::Nombre ? ClaseLinea::Ordaguero : ClaseLinea::Historia;
   }
-  const bool esDeNadie =
-      lector_ == Lector::Inicio && clase == ClaseLinea::Nombre && Contains(linea, u"Default");
+  const bool esDeNadie = lector_ == LectorPersonajes::Inicio && clase == ClaseLinea::Nombre &&
+                         Contains(linea, u"Default");
   if (!esDeNadie) return clase;
   pendiente_.reset();
   return ClaseLinea::Ajena;
@@ -59,7 +59,7 @@ ClaseLinea LineasPersonajes::LeerCabecera(std::u16string_view linea) {
 // marker.
 ClaseLinea LineasPersonajes::LeerMarca(std::u16string_view etiqueta) {
   const ComparacionEtiquetas coinciden =
-      lector_ == Lector::Editor ? EqualIgnoringCase : EqualExactly;
+      lector_ == LectorPersonajes::Editor ? EqualIgnoringCase : EqualExactly;
   siguienteHueco_ = 1;
   if (coinciden(etiqueta, EtiquetaDatos)) return EmpezarPersonaje();
   const int categoria = CategoriaDe(etiqueta, coinciden);

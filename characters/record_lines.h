@@ -24,7 +24,7 @@ using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
 // The MessageCategory of a tag, 0 when there is none.
 int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden);
 
-enum class Lector {
+enum class LectorPersonajes {
   Juego,   // knows the tags only as they are written
   Editor,  // Kept: knows them in upper and lower case
   Inicio,  // the start-up dialog: looks for names and stories alone
@@ -47,7 +47,7 @@ std::u16string_view NombreDe(ClaseLinea cabecera);
 // Follows a reader through the file, line by line.
 class LineasPersonajes {
  public:
-  explicit LineasPersonajes(Lector lector) : lector_{lector} {}
+  explicit LineasPersonajes(LectorPersonajes lector) : lector_{lector} {}
 
   // What the next line is.
   ClaseLinea Leer(std::u16string_view linea);
@@ -65,7 +65,7 @@ class LineasPersonajes {
   ClaseLinea LeerMarca(std::u16string_view etiqueta);
   ClaseLinea EmpezarPersonaje();
 
-  Lector lector_;
+  LectorPersonajes lector_;
   std::optional<ClaseLinea> pendiente_;
   int personaje_ = 0;
   int categoria_ = 1;

@@ -43,7 +43,7 @@ void LlenarCombos(DlgInicio& d, Game& g) {
     throw RunTimeError::AlreadyShown(mensaje);
   }
   LineReader archivo{ArchivoPersonajes(g.t)};
-  LineasPersonajes lineas{Lector::Inicio};
+  LineasPersonajes lineas{LectorPersonajes::Inicio};
   std::u16string linea;
   while (archivo.Next(linea)) {
     const ClaseLinea clase = lineas.Leer(linea);

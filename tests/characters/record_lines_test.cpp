@@ -39,7 +39,7 @@ std::string Word(const LineasPersonajes& lineas, ClaseLinea clase) {
 }
 
 // The lines in the reader's words, one after the other.
-std::string Read(Lector lector, const Lineas& archivo) {
+std::string Read(LectorPersonajes lector, const Lineas& archivo) {
   LineasPersonajes lineas{lector};
   std::string todas;
   for (const std::u16string& linea : archivo) {
@@ -53,57 +53,60 @@ std::string Read(Lector lector, const Lineas& archivo) {
 const Lineas Registro{u"Datos>", u"Berta", u"040", u"Cuida cabras.", u"NMus>", u"no", u"nones"};
 
 TEST(LineasPersonajes, FollowsARecordFromItsMarkerToItsPhrases) {
-  for (const Lector lector : {Lector::Juego, Lector::Editor}) {
+  for (const LectorPersonajes lector : {LectorPersonajes::Juego, LectorPersonajes::Editor}) {
     EXPECT_EQ(Read(lector, Registro),
               "personaje 1, nombre, ordaguero, historia, categoria 2, frase 1.2.1, frase 1.2.2");
   }
 }
 
 TEST(LineasPersonajes, GivesTheStartUpDialogNamesAndStoriesAlone) {
-  EXPECT_EQ(Read(Lector::Inicio, Registro),
+  EXPECT_EQ(Read(LectorPersonajes::Inicio, Registro),
             "personaje 1, nombre, ordaguero, historia, ajena, ajena, ajena");
 }
 
 TEST(LineasPersonajes, LetsTheStartUpDialogLeaveARecordOfDefaultPhrases) {
-  EXPECT_EQ(Read(Lector::Inicio, {u"Datos>", u"el Default de todos", u"Datos>", u"Berta"}),
-            "personaje 1, ajena, personaje 2, nombre");
-  EXPECT_EQ(Read(Lector::Inicio, {u"Datos>", u"default"}), "personaje 1, nombre");
+  EXPECT_EQ(
+      Read(LectorPersonajes::Inicio, {u"Datos>", u"el Default de todos", u"Datos>", u"Berta"}),
+      "personaje 1, ajena, personaje 2, nombre");
+  EXPECT_EQ(Read(LectorPersonajes::Inicio, {u"Datos>", u"default"}), "personaje 1, nombre");
 }
 
 TEST(LineasPersonajes, LetsTheStartUpDialogFindTheMarkerAnywhereInALine) {
-  EXPECT_EQ(Read(Lector::Inicio, {u"aquí hay Datos> de uno", u"Berta"}), "personaje 1, nombre");
-  EXPECT_EQ(Read(Lector::Juego, {u"aquí hay Datos> de uno"}), "desconocida");
+  EXPECT_EQ(Read(LectorPersonajes::Inicio, {u"aquí hay Datos> de uno", u"Berta"}),
+            "personaje 1, nombre");
+  EXPECT_EQ(Read(LectorPersonajes::Juego, {u"aquí hay Datos> de uno"}), "desconocida");
 }
 
 TEST(LineasPersonajes, TakesEveryLineOfAHeadForWhatComesNext) {
-  EXPECT_EQ(Read(Lector::Juego, {u"Datos>", u"Datos>", u"QMus>", u"a>b", u"c"}),
+  EXPECT_EQ(Read(LectorPersonajes::Juego, {u"Datos>", u"Datos>", u"QMus>", u"a>b", u"c"}),
             "personaje 1, nombre, ordaguero, historia, frase 1.1.1");
 }
 
 TEST(LineasPersonajes, Kept_KnowsOtherCapitalsForTheEditorAlone) {
   const Lineas archivo{u"datos>", u"Berta", u"040", u"", u"PASO>"};
-  EXPECT_EQ(Read(Lector::Editor, archivo), "personaje 1, nombre, ordaguero, historia, categoria 7");
-  EXPECT_EQ(Read(Lector::Juego, archivo),
+  EXPECT_EQ(Read(LectorPersonajes::Editor, archivo),
+            "personaje 1, nombre, ordaguero, historia, categoria 7");
+  EXPECT_EQ(Read(LectorPersonajes::Juego, archivo),
             "desconocida, frase 0.1.1, frase 0.1.2, frase 0.1.3, desconocida");
 }
 
 TEST(LineasPersonajes, Kept_PutsAFourthPhraseInThePlaceOfTheThird) {
-  EXPECT_EQ(Read(Lector::Juego, {u"QMus>", u"a", u"b", u"c", u"d", u"e"}),
+  EXPECT_EQ(Read(LectorPersonajes::Juego, {u"QMus>", u"a", u"b", u"c", u"d", u"e"}),
             "categoria 1, frase 0.1.1, frase 0.1.2, frase 0.1.3, frase 0.1.3, frase 0.1.3");
 }
 
 TEST(LineasPersonajes, StartsThePhrasesAnewAtAnyMarker) {
-  EXPECT_EQ(Read(Lector::Juego, {u"Derr>", u"a", u"nada>", u"b"}),
+  EXPECT_EQ(Read(LectorPersonajes::Juego, {u"Derr>", u"a", u"nada>", u"b"}),
             "categoria 14, frase 0.14.1, desconocida, frase 0.14.1");
 }
 
 TEST(LineasPersonajes, Kept_KeepsTheKindOfPhraseOverANewRecord) {
-  EXPECT_EQ(Read(Lector::Juego, {u"Orda>", u"Datos>", u"Berta", u"1", u"", u"a"}),
+  EXPECT_EQ(Read(LectorPersonajes::Juego, {u"Orda>", u"Datos>", u"Berta", u"1", u"", u"a"}),
             "categoria 10, personaje 1, nombre, ordaguero, historia, frase 1.10.1");
 }
 
 TEST(LineasPersonajes, TellsWhichLineOfAHeadIsStillMissing) {
-  LineasPersonajes lineas{Lector::Juego};
+  LineasPersonajes lineas{LectorPersonajes::Juego};
   EXPECT_EQ(lineas.CabeceraPendiente(), std::nullopt);
   lineas.Leer(u"Datos>");
   EXPECT_EQ(lineas.CabeceraPendiente(), ClaseLinea::Nombre);
