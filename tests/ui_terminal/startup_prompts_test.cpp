@@ -143,6 +143,8 @@ TEST(AskStartup, AsksAgainAfterTwoOpponentsWhoAreOne) {
   EXPECT_NE(texto.find("[Lo siento, pero Dora no tiene hermanos gemelos que puedan ser su pareja. "
                        "Elija otro compañero.]\nSu nombre: [Ana] \n"),
             std::string::npos);
+  EXPECT_NE(texto.find("Contrario 2: [3 Dora] \nUsar los nombres"), std::string::npos)
+      << "Aleatorio has no story, and Dora's has been told";
   EXPECT_EQ(a.t.PersonajeAsiento[1], 5);
 }
 

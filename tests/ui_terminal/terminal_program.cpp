@@ -56,6 +56,7 @@ TerminalProgram::TerminalProgram(const Sides& lados, std::vector<std::string> or
   ::posix_spawn_file_actions_addclosefrom_np(&acciones, STDERR_FILENO + 1);
   orden.insert(orden.begin(), {"env", "-u", "SSH_CONNECTION", "-u", "SSH_TTY"});
   std::vector<char*> argumentos;
+  argumentos.reserve(orden.size() + 1);
   for (std::string& argumento : orden) argumentos.push_back(argumento.data());
   argumentos.push_back(nullptr);
   EXPECT_EQ(::posix_spawnp(&proceso_, "env", &acciones, nullptr, argumentos.data(), ::environ), 0);
