@@ -1,6 +1,7 @@
-// tasca-signature MATCHES [FILE]: one number over everything that so many random matches ask, say
-// and hold. It is the same from every compiler and at every level of optimisation; with FILE it
-// must be the one that is kept there for as many matches.
+// tasca-signature MATCHES [FILE [FROM]]: one number over everything that so many random matches
+// ask, say and hold. It is the same from every compiler and at every level of optimisation; with
+// FILE it must be the one that is kept there for as many matches. With FROM the first matches are
+// not played: it goes on from the number that is kept for so many.
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -19,6 +20,11 @@ namespace {
 // FNV-1a, 64 bits.
 class Hash {
  public:
+  Hash() = default;
+  // Goes on from the hash that has this text.
+  explicit Hash(const std::string& text) {
+    std::from_chars(text.data(), text.data() + text.size(), valor_, 16);
+  }
   void Add(const std::string& bytes) {
     constexpr std::uint64_t Primo = 1099511628211U;
     for (const char byte : bytes) valor_ = (valor_ ^ static_cast<unsigned char>(byte)) * Primo;
@@ -37,10 +43,10 @@ Provocation ProvocationOf(std::uint32_t seed) {
   return seed % 10 == 0 ? Provocation::HugeAmounts : Provocation::None;
 }
 
-std::string SignatureOf(std::uint32_t matches) {
+// Of the matches from + 1 to `matches`, added to the hash of those before.
+std::string SignatureOf(Hash hash, std::uint32_t from, std::uint32_t matches) {
   const std::filesystem::path characters = TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat";
-  Hash hash;
-  for (std::uint32_t seed = 1; seed <= matches; ++seed) {
+  for (std::uint32_t seed = from + 1; seed <= matches; ++seed) {
     const RandomGame game = PlayRandomGame(characters, seed, {.Matches = 1}, ProvocationOf(seed));
     if (!game.Fault.empty())
       throw std::runtime_error{"seed " + std::to_string(seed) + ": " + game.Fault};
@@ -61,6 +67,13 @@ std::string KeptSignature(const char* path, std::uint32_t matches) {
   throw std::runtime_error{"no signature is kept for so many matches"};
 }
 
+std::uint32_t Number(const char* text) {
+  std::uint32_t number = 0;
+  const char* const end = text + std::strlen(text);
+  if (std::from_chars(text, end, number).ptr != end) throw std::runtime_error{"no number"};
+  return number;
+}
+
 int Compare(const std::string& found, const std::string& kept) {
   if (found == kept) return 0;
   std::cout << "but " << kept << " is kept\n";
@@ -71,14 +84,15 @@ int Compare(const std::string& found, const std::string& kept) {
 }  // namespace tasca::test
 
 int main(int argc, char** argv) {
+  using namespace tasca::test;
   try {
-    if (argc < 2 || argc > 3) throw std::runtime_error{"MATCHES [FILE]"};
-    std::uint32_t matches = 0;
-    std::from_chars(argv[1], argv[1] + std::strlen(argv[1]), matches);
-    const std::string found = tasca::test::SignatureOf(matches);
+    if (argc < 2 || argc > 4) throw std::runtime_error{"MATCHES [FILE [FROM]]"};
+    const std::uint32_t matches = Number(argv[1]);
+    const std::uint32_t from = argc > 3 ? Number(argv[3]) : 0;
+    const Hash before = from == 0 ? Hash{} : Hash{KeptSignature(argv[2], from)};
+    const std::string found = SignatureOf(before, from, matches);
     std::cout << matches << ' ' << found << '\n';
-    if (argc == 2) return 0;
-    return tasca::test::Compare(found, tasca::test::KeptSignature(argv[2], matches));
+    return argc == 2 ? 0 : Compare(found, KeptSignature(argv[2], matches));
   } catch (const std::exception& error) {
     std::cerr << "tasca-signature: " << error.what() << '\n';
     return 2;
