@@ -1,9 +1,9 @@
 """Building one mutant and running the tests that could notice it.
 
-The tests are built once, against a shared library of the rules. A mutant is one source compiled
-beside them and linked with the other objects into a library of its own, which the same tests are
-then run with: nothing of the checkout, nor of the build, is ever written over. A changed header is
-one for the rules alone: the tests keep the number as it was.
+The tests are built once, against shared libraries of the rules and of the faces. A mutant is one
+source compiled beside them and linked with the other objects into a library (or program) of its own,
+which the same tests are then run with: nothing of the checkout, nor of the build, is ever written
+over. A changed header is one for the rules alone: the tests keep the number as it was.
 """
 
 import fcntl
@@ -15,14 +15,6 @@ import signal
 import subprocess
 import threading
 import time
-
-RULE_TESTS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
-              "startup", "characters", "base")
-OTHER_TESTS = ("tests_ui_trace", "tests_bad_inputs", "tests_ui_cast", "tests_save_faults")
-# A minute or two long, and about nothing but how a file is saved.
-SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
-PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
-LEAST_PATIENCE = 20  # seconds
 
 
 class Stopped(Exception):
@@ -75,10 +67,10 @@ class Processes:
 
 
 class Build:
-    """The unmutated rules and their tests."""
+    """The unmutated program and its tests."""
 
-    def __init__(self, root, processes):
-        self.root, self.processes = root, processes
+    def __init__(self, root, processes, suites):
+        self.root, self.processes, self.suites = root, processes, suites
         self.folder = root / "build" / "mutation"
         self.log = self.folder / "build.log"
         self.usual = {}  # seconds that each test takes
@@ -97,11 +89,10 @@ class Build:
         """False when it cannot be built; the log tells why."""
         configure = ["cmake", "-G", "Ninja", "-S", self.root, "-B", self.folder,
                      "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O1 -w", "-DBUILD_SHARED_LIBS=ON",
-                     "-DCMAKE_SKIP_RPATH=ON"]
+                     "-DCMAKE_SKIP_RPATH=ON", f"-DCMAKE_LIBRARY_OUTPUT_DIRECTORY={self.folder}"]
         if shutil.which("ccache"):
             configure.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
-        targets = [f"tests_{folder}" for folder in RULE_TESTS] + [*OTHER_TESTS, *PROGRAMS]
-        ninja = ["ninja", "-C", self.folder, *targets]
+        ninja = ["ninja", "-C", self.folder, *self.suites.targets()]
         with self.log.open("w", encoding="utf-8") as log:
             if any(self.processes.run(command, None, stdout=log, stderr=log)
                    for command in (configure, ninja)):
@@ -114,43 +105,42 @@ class Build:
         self.compilers = {os.path.relpath(entry["file"], self.root):
                           [word for word in shlex.split(entry["command"]) if "ccache" not in word]
                           for entry in entries}
-        steps = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", "libtasca_rules.so"],
+        made = [f"lib{name}.so" for name in self.suites.LIBRARIES] + \
+            [f"bin/{name}" for name in self.suites.PROGRAMS]
+        self.linkers = {name: self._linker(name) for name in made}
+
+    def _linker(self, made):
+        steps = subprocess.run(["ninja", "-C", self.folder, "-t", "commands", made],
                                check=True, capture_output=True, text=True).stdout.splitlines()
         words = shlex.split(steps[-1])
-        self.linker = words[words.index("&&") + 1:]
-        self.linker = self.linker[:self.linker.index("&&")]
+        words = words[words.index("&&") + 1:]
+        return words[:words.index("&&")]
+
+    def object_of(self, path):
+        command = self.compilers[path]
+        return command[command.index("-o") + 1]
+
+    def holder_of(self, path):
+        """The library or program that a source is linked into."""
+        return next(made for made, linker in self.linkers.items() if self.object_of(path) in linker)
 
     def read_by(self, path):
-        """The sources of the rules to compile anew when that file has changed."""
+        """The sources to compile anew when that file has changed: of a header, those of the rules."""
         if not path.endswith(".h"):
             return [path]
-        return [source for source, command in self.compilers.items()
-                if command[command.index("-o") + 1] in self.linker]
+        return [source for source in self.compilers
+                if self.object_of(source) in self.linkers["libtasca_rules.so"]]
 
-    def tests_for(self, path):
-        """Names and commands: the folder's own first, then the quicker before the slower."""
-        binaries, tests = self.folder / "bin", self.root / "tests"
-        found = {f"tests_{name}": [binaries / f"tests_{name}", "--gtest_fail_fast"]
-                 for name in RULE_TESTS}
-        for game in sorted(tests.glob("traces/*/in.jsonl")):
-            found[f"traces/{game.parent.name}"] = [binaries / "tasca-golden", "check", game.parent]
-        found["shipped file"] = [binaries / "tasca-check", self.root / "data" / "Jugadores.dat"]
-        for name in OTHER_TESTS:
-            found[name] = [binaries / name, "--gtest_fail_fast"]
-        found["signature"] = [binaries / "tasca-signature", "200",
-                              tests / "ui_trace" / "signatures"]
-        if path and not path.startswith(SAVING[1]):
-            del found[SAVING[0]]
-        own = "tests_" + path.split("/")[0]
-        return sorted(found.items(), key=lambda test: (test[0] != own, self.usual.get(test[0], 0)))
+    def place(self, name):
+        return self.folder / "bin" / name
 
     def measure(self):
-        """Runs every test on the unmutated rules; the names of those that fail."""
+        """Runs every test on the unmutated program; the names of those that fail."""
         worker = Worker(self, "unmutated")
         failed = []
-        for name, command in self.tests_for(""):
+        for name, command in self.suites.every(self.place).items():
             began = time.monotonic()
-            if worker.run_test(command, 600, self.folder) != 0:
+            if worker.run_test(command, 600) != 0:
                 failed.append(name)
             self.usual[name] = time.monotonic() - began
         return failed
@@ -162,6 +152,7 @@ class Worker:
     def __init__(self, build, name):
         self.build = build
         self.folder = build.folder / "workers" / name
+        self.mutant = self.folder / "mutant"
         shutil.rmtree(self.folder, ignore_errors=True)
         (self.folder / "tmp").mkdir(parents=True)
 
@@ -169,23 +160,31 @@ class Worker:
         """What becomes of the mutant: "not compiled", "survived" or what killed it."""
         if not self._make(mutant):
             return "not compiled"
-        for name, command in self.build.tests_for(mutant.path):
-            patience = max(LEAST_PATIENCE, 10 * self.build.usual[name])
-            status = self.run_test(command, patience, self.folder)
+        usual = self.build.usual
+        for name, command in self.build.suites.of(mutant.path, self._place, usual):
+            patience = self.build.suites.patience(usual.get(name, max(usual.values())))
+            status = self.run_test(command, patience)
             if status != 0:
                 return f"{name}, too slow" if status is None else name
         return "survived"
 
+    def _place(self, name):
+        changed = self.mutant / "bin" / name
+        return changed if changed.exists() else self.build.place(name)
+
     def _make(self, mutant):
         text = (self.build.root / mutant.path).read_text(encoding="utf-8")
-        changed = self.folder / "mutant" / mutant.path
-        shutil.rmtree(self.folder / "mutant", ignore_errors=True)
+        changed = self.mutant / mutant.path
+        shutil.rmtree(self.mutant, ignore_errors=True)
         changed.parent.mkdir(parents=True)
         changed.write_text(text[:mutant.start] + mutant.replacement + text[mutant.end:],
                            encoding="utf-8")
-        link = list(self.build.linker)
-        link[link.index("-o") + 1] = self.folder / "libtasca_rules.so"
-        commands = [self._compile(path, changed, link) for path in self.build.read_by(mutant.path)]
+        sources = self.build.read_by(mutant.path)
+        made = self.build.holder_of(sources[0])
+        link = list(self.build.linkers[made])
+        (self.mutant / made).parent.mkdir(exist_ok=True)
+        link[link.index("-o") + 1] = self.mutant / made
+        commands = [self._compile(path, changed, link) for path in sources]
         return all(self.build.processes.run(command, 300, cwd=self.build.folder,
                                             stdout=subprocess.DEVNULL,
                                             stderr=subprocess.DEVNULL) == 0
@@ -195,22 +194,23 @@ class Worker:
         """The command that compiles a source with the changed file, which is that source or one of
         its headers; its object takes the usual one's place in the link."""
         command = list(self.build.compilers[path])
-        original = command[command.index("-o") + 1]
-        compiled = self.folder / "mutant" / path.replace("/", "_").replace(".cpp", ".o")
+        original = self.build.object_of(path)
+        compiled = self.mutant / path.replace("/", "_").replace(".cpp", ".o")
         command[command.index("-o") + 1] = compiled
         if changed.suffix == ".cpp":
             command[command.index("-c") + 1] = changed
-        command.insert(1, f"-I{self.folder / 'mutant'}")
+        command.insert(1, f"-I{self.mutant}")
         link[link.index(original)] = compiled
         return command
 
-    def run_test(self, command, patience, library):
-        """The exit status with the rules of that folder; None when it took too long."""
+    def run_test(self, command, patience):
+        """The exit status of a test of the mutant; None when it took too long."""
         temporary = self.folder / "tmp"
+        libraries = f"{self.mutant}:{self.build.folder}"
         status = self.build.processes.run(
             command, patience, cwd=self.folder, stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL,
-            env={**os.environ, "LD_LIBRARY_PATH": str(library), "TMPDIR": str(temporary)})
+            env={**os.environ, "LD_LIBRARY_PATH": libraries, "TMPDIR": str(temporary)})
         if any(temporary.iterdir()):
             shutil.rmtree(temporary, ignore_errors=True)
             temporary.mkdir(exist_ok=True)

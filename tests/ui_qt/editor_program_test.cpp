@@ -109,9 +109,12 @@ TEST_F(EditorInWindows, AsksBeforeTheSessionTakesUnsavedChangesAway) {
 }
 
 TEST_F(EditorInWindows, LetsTheSessionEndWhenThereIsNothingToAskOrNoWay) {
-  EXPECT_EQ(
-      Work({SessionMayEnd(true, true), Alt(Qt::Key_U), SessionMayEnd(false, true), SessionEnds()}),
-      0);
+  const Step sinPregunta = [](QWidget* ventana) {
+    EXPECT_EQ(Utf8(ventana->objectName()), "Dialog1");
+  };
+  EXPECT_EQ(Work({SessionMayEnd(true, true), sinPregunta, Alt(Qt::Key_U),
+                  SessionMayEnd(false, true), sinPregunta, SessionEnds()}),
+            0);
   EXPECT_EQ(sesiones_, 2);
 }
 
