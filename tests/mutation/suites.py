@@ -10,7 +10,8 @@ class Rules:
 
     LIBRARIES = ("tasca_rules",)
     PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
-    FOLDERS = ("cards", "lances", "count", "table", "sound", "startup", "characters", "base")
+    FOLDERS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
+               "startup", "characters", "base")
     OTHERS = ("tests_ui_trace", "tests_bad_inputs", "tests_ui_cast", "tests_save_faults")
     # A minute or two long, and about nothing but how a file is saved.
     SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
