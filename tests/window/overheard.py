@@ -1,6 +1,9 @@
 """Everything that a program shows, in order and without a gap: AT-SPI's events, as they come."""
+import signal
+
 from accessible import GLib
 
+_ENDING = (signal.SIGINT, signal.SIGTERM)
 _EVENTS = ("window:activate", "object:text-changed")
 _BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
 
@@ -25,8 +28,11 @@ class Overheard:
     def take(self):
         """Takes what has come in since; true if there was anything."""
         before = len(self.log)
+        # An exception that a signal raises within a callback would end Python without any clean-up.
+        signal.pthread_sigmask(signal.SIG_BLOCK, _ENDING)
         while GLib.MainContext.default().iteration(False):
             pass
+        signal.pthread_sigmask(signal.SIG_UNBLOCK, _ENDING)
         return len(self.log) > before
 
     def _window(self, path, _, title):
