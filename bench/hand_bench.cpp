@@ -34,7 +34,6 @@ class PassingPort : public Port {
   void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
   void StopSound(const Table& /*t*/) override {}
   TimeOfDay Now() override { return {}; }
-  void ChangePlayers() override {}
 };
 
 Table MesaConFrases() {

@@ -43,7 +43,6 @@ class Answers : public Port {
   explicit Answers(test::RandomChoices& choices) : choices_{choices} {}
 
   void SetClock(TimeOfDay clock) { clock_ = clock; }
-  bool PlayersChange() const { return playersChange_; }
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
   bool YesNoBox(const Table& /*t*/, Pregunta /*sobre*/, const YesNoQuestion& pregunta) override {
@@ -62,12 +61,10 @@ class Answers : public Port {
   void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
   void StopSound(const Table& /*t*/) override {}
   TimeOfDay Now() override { return clock_; }
-  void ChangePlayers() override { playersChange_ = true; }
 
  private:
   test::RandomChoices& choices_;
   TimeOfDay clock_;
-  bool playersChange_ = false;
 };
 
 // Through the start-up dialog to the table.
@@ -106,7 +103,7 @@ void Play(Game& g, test::RandomChoices& choices, Answers& answers, const Bytes& 
   const test::StartChoice start = choices.Start();
   answers.SetClock(start.Clock);
   Start(g, start);
-  while (!answers.PlayersChange()) {
+  while (!answers.TakeChangePlayers()) {
     watch.Look(test::SituationOf(g.t, g.rnd));
     Require(watch.Fault().empty(), watch.Fault());
     if (bytes.Empty() || watch.HandsPlayed() >= hands) break;

@@ -3,6 +3,7 @@
 // the game (windows, terminal, trace) is one of these.
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "table/table.h"
 
@@ -72,7 +73,12 @@ class Port {
 
   // The player wants other companions: once the step that asked has run to its end, the main window
   // goes and the start-up dialog comes.
-  virtual void ChangePlayers() = 0;
+  virtual void ChangePlayers() { cambiarJugadores_ = true; }
+  // Whether that has been asked for; asking forgets it.
+  bool TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
+
+ private:
+  bool cambiarJugadores_ = false;
 };
 
 }  // namespace tasca

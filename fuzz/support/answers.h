@@ -29,7 +29,6 @@ class FixedAnswers : public Port {
   void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
   void StopSound(const Table& /*t*/) override {}
   TimeOfDay Now() override { return {}; }
-  void ChangePlayers() override {}
 };
 
 }  // namespace tasca::fuzz

@@ -21,7 +21,6 @@ class QuietPort : public Port {
   void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
   void StopSound(const Table& /*t*/) override {}
   TimeOfDay Now() override { return {}; }
-  void ChangePlayers() override {}
 };
 
 }  // namespace tasca::test

@@ -82,6 +82,9 @@ void ScriptedPort::StopSound(const Table& /*t*/) { sucesos_.emplace_back("stop")
 
 TimeOfDay ScriptedPort::Now() { return Hora; }
 
-void ScriptedPort::ChangePlayers() { sucesos_.emplace_back("change players"); }
+void ScriptedPort::ChangePlayers() {
+  Port::ChangePlayers();
+  sucesos_.emplace_back("change players");
+}
 
 }  // namespace tasca::test

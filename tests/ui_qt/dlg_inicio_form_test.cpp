@@ -22,7 +22,7 @@ class DlgInicioWindow : public testing::Test {
   DlgInicioWindow() {
     SetTable(carpeta_);
     t_.Carpeta = carpeta_.Path();
-    Form_Load(ventana_.State(), g_);
+    Form_Load(estado_, g_);
     ventana_.ShowState();
     ventana_.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana_));
@@ -41,7 +41,9 @@ class DlgInicioWindow : public testing::Test {
   Game g_{t_, rnd_, port_};
   int aceptadas_ = 0;
   int salidas_ = 0;
-  DlgInicioForm ventana_{{.Run = [](const std::function<void()>& suceso) { suceso(); },
+  DlgInicio estado_;
+  DlgInicioForm ventana_{estado_,
+                         {.Run = [](const std::function<void()>& suceso) { suceso(); },
                           .CbOK_Click = [this] { ++aceptadas_; },
                           .Left = [this] { ++salidas_; }}};
 };
@@ -88,7 +90,7 @@ TEST_F(DlgInicioWindow, OffersTheSameCompanionsForEverySeat) {
 }
 
 TEST_F(DlgInicioWindow, DisablesAceptarWhenTheStateSaysSo) {
-  ventana_.State().CbOKEnabled = false;
+  estado_.CbOKEnabled = false;
   ventana_.ShowState();
   EXPECT_FALSE(Find<QPushButton>("CbOK")->isEnabled());
 }
@@ -105,12 +107,12 @@ TEST_F(DlgInicioWindow, SelectsTheWholeNameWhenItGetsTheFocus) {
   QCoreApplication::processEvents();
   EXPECT_EQ(Utf8(nombre->selectedText()), "Ana");
   QTest::keyClicks(nombre, QStringLiteral("Luz"));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), "Luz");
+  EXPECT_EQ(Utf8(estado_.Text2), "Luz");
 }
 
 TEST_F(DlgInicioWindow, TakesAPastedNameAsOneLine) {
   Find<QLineEdit>("Text2")->setText(QStringLiteral("Ana\r\nMaría"));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), "Ana  María");
+  EXPECT_EQ(Utf8(estado_.Text2), "Ana  María");
 }
 
 TEST_F(DlgInicioWindow, TakesNoMoreThanAHundredCharactersAndSaysSo) {
@@ -118,15 +120,15 @@ TEST_F(DlgInicioWindow, TakesNoMoreThanAHundredCharactersAndSaysSo) {
   const std::string cien(100, 'x');
   const std::string reparo = "El nombre puede tener hasta 100 caracteres.";
   QTest::keyClicks(nombre, QString::fromStdString(cien));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), cien);
+  EXPECT_EQ(Utf8(estado_.Text2), cien);
   EXPECT_EQ(LabelText("Status"), "");
   QTest::keyClicks(nombre, QStringLiteral("y"));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), cien);
+  EXPECT_EQ(Utf8(estado_.Text2), cien);
   EXPECT_EQ(LabelText("Status"), reparo);
   Press(&ventana_, Qt::Key_Backspace);
   EXPECT_EQ(LabelText("Status"), "");
   nombre->insert(QStringLiteral("yz"));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), std::string(99, 'x') + "y");
+  EXPECT_EQ(Utf8(estado_.Text2), std::string(99, 'x') + "y");
   EXPECT_EQ(LabelText("Status"), reparo);
 }
 
@@ -135,21 +137,21 @@ TEST_F(DlgInicioWindow, TakesAHundredCharactersOfALongerPaste) {
   QGuiApplication::clipboard()->setText(QString{300, QChar{u'x'}});
   nombre->selectAll();
   nombre->paste();
-  EXPECT_EQ(Utf8(ventana_.State().Text2), std::string(100, 'x'));
+  EXPECT_EQ(Utf8(estado_.Text2), std::string(100, 'x'));
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
 TEST_F(DlgInicioWindow, LeavesALongerNameOfTheSettingsAlone) {
   auto* const nombre = Find<QLineEdit>("Text2");
   const std::string largo(150, 'x');
-  ventana_.State().Text2 = std::u16string(150, u'x');
+  estado_.Text2 = std::u16string(150, u'x');
   ventana_.ShowState();
   EXPECT_EQ(Utf8(nombre->text()), largo);
-  EXPECT_EQ(Utf8(ventana_.State().Text2), largo);
+  EXPECT_EQ(Utf8(estado_.Text2), largo);
   EXPECT_EQ(LabelText("Status"), "");
   nombre->end(false);
   QTest::keyClicks(nombre, QStringLiteral("y"));
-  EXPECT_EQ(Utf8(ventana_.State().Text2), largo);
+  EXPECT_EQ(Utf8(estado_.Text2), largo);
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
@@ -157,18 +159,18 @@ TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
   auto* const combo1 = Find<QComboBox>("Combo1");
   combo1->setFocus();
   Press(&ventana_, Qt::Key_Down);
-  EXPECT_EQ(ventana_.State().Combo1.ListIndex, 1);
+  EXPECT_EQ(estado_.Combo1.ListIndex, 1);
   EXPECT_EQ(LabelText("Text4"), "Berta cuida cabras.");
   Find<QComboBox>("Combo2")->setFocus();
   Press(&ventana_, Qt::Key_End);
-  EXPECT_EQ(ventana_.State().Combo2.ListIndex, 3);
+  EXPECT_EQ(estado_.Combo2.ListIndex, 3);
   EXPECT_EQ(LabelText("Text4"), "Dora calla.");
   Find<QComboBox>("Combo3")->setFocus();
   Press(&ventana_, Qt::Key_Down);
   Press(&ventana_, Qt::Key_Down);
-  EXPECT_EQ(ventana_.State().Combo3.ListIndex, 2);
+  EXPECT_EQ(estado_.Combo3.ListIndex, 2);
   EXPECT_EQ(LabelText("Text4"), "El Cojo corre.");
-  EXPECT_EQ(ventana_.State().Combo1.ListIndex, 1);
+  EXPECT_EQ(estado_.Combo1.ListIndex, 1);
 }
 
 TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {
@@ -178,8 +180,8 @@ TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {
   EXPECT_EQ(LabelText("Text3"), "jugador 3: Sí tengo pares");
   Find<QRadioButton>("Option1_1")->click();
   EXPECT_EQ(LabelText("Text3"), "El jugador 3 dice: Sí tengo pares");
-  EXPECT_EQ(ventana_.State().Option1, 1);
-  EXPECT_FALSE(ventana_.State().Check1[0]);
+  EXPECT_EQ(estado_.Option1, 1);
+  EXPECT_FALSE(estado_.Check1[0]);
 }
 
 TEST_F(DlgInicioWindow, TabGoesFromTheNameToSalir) {

@@ -16,14 +16,6 @@
 namespace tasca::test {
 namespace {
 
-TEST(QtPort, RemembersThatThePlayersAreToChangeUntilAsked) {
-  QtPort port;
-  EXPECT_FALSE(port.TakeChangePlayers());
-  port.ChangePlayers();
-  EXPECT_TRUE(port.TakeChangePlayers());
-  EXPECT_FALSE(port.TakeChangePlayers());
-}
-
 TEST(QtPort, TellsTheTimeOfDay) {
   QtPort port;
   const QTime antes = QTime::currentTime();

@@ -103,7 +103,7 @@ TEST(Console, FailsWhenItsOutputDoesNotArrive) {
   FakeConsole c{"\n"};
   c.Out.setstate(std::ios::badbit);
   EXPECT_THROW(c.Consola.ReadLine(), RunTimeError);
-  EXPECT_THROW(c.Consola.Flush(), RunTimeError);
+  EXPECT_FALSE(c.Consola.Flush());
 }
 
 TEST(Console, TellsErrorsOnTheOtherStreamAndCleansThem) {

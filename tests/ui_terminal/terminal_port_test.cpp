@@ -140,14 +140,6 @@ TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {
   EXPECT_THROW(a.Bid(u"La grande", ModoDialogo::Apertura), LeaveProgram);
 }
 
-TEST(TerminalPort, RemembersTheWishForOtherCompanionsOnce) {
-  AtTheTable a;
-  EXPECT_FALSE(a.Puerto.TakeChangePlayers());
-  a.Puerto.ChangePlayers();
-  EXPECT_TRUE(a.Puerto.TakeChangePlayers());
-  EXPECT_FALSE(a.Puerto.TakeChangePlayers());
-}
-
 TEST(TerminalPort, AsksItsClock) {
   AtTheTable a;
   EXPECT_EQ(a.Puerto.Now().Hora, 16);

@@ -64,8 +64,9 @@ void ShowCombo(QComboBox* combo, const ComboBox& lista) {
 
 }  // namespace
 
-DlgInicioForm::DlgInicioForm(Events sucesos)
+DlgInicioForm::DlgInicioForm(DlgInicio& estado, Events sucesos)
     : sucesos_{std::move(sucesos)},
+      estado_{estado},
       text1_{Texto(this)},
       text2_{new NameEdit{this}},
       estadoTexto_{new StatusLine{this}},

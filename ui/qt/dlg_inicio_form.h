@@ -25,10 +25,10 @@ class DlgInicioForm : public QDialog {
     std::function<void()> Left;
   };
 
-  explicit DlgInicioForm(Events sucesos);
+  // Shows `estado`, which has to outlive it.
+  DlgInicioForm(DlgInicio& estado, Events sucesos);
 
-  // The state of the dialog's logic. ShowState copies it to the controls, all of it.
-  DlgInicio& State() { return estado_; }
+  // Copies the state of the dialog's logic to the controls, all of it.
   void ShowState();
 
   void reject() override { sucesos_.Left(); }
@@ -45,7 +45,7 @@ class DlgInicioForm : public QDialog {
   QLayout* BuildButtons();
 
   Events sucesos_;
-  DlgInicio estado_;
+  DlgInicio& estado_;
   // Tab goes through the controls in this order.
   QLabel* text1_;
   QLineEdit* text2_;

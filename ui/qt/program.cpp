@@ -4,16 +4,11 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "match/phase_machine.h"
-#include "match/start.h"
-#include "sound/effects.h"
-#include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
 
 namespace tasca {
 
-Program::Program(std::filesystem::path carpeta) {
-  t_.Carpeta = std::move(carpeta);
+Program::Program(std::filesystem::path carpeta) : sesion_{std::move(carpeta), port_} {
   cambio_.setSingleShot(true);
   QObject::connect(&cambio_, &QTimer::timeout, &cambio_, [this] {
     enPaso_ = false;
@@ -24,18 +19,18 @@ Program::Program(std::filesystem::path carpeta) {
 }
 
 void Program::OpenDlgInicio() {
-  Run([this] {
-    auto nueva = std::make_unique<DlgInicioForm>(
-        DlgInicioForm::Events{.Run = [this](const std::function<void()>& suceso) { Run(suceso); },
-                              .CbOK_Click = [this] { CbOK_Click(); },
-                              .Left = [this] { Exit(0); }});
-    Form_Load(nueva->State(), g_);
-    nueva->ShowState();
-    nueva->show();
-    dlgInicio_ = std::move(nueva);
-    port_.SetStartWindow(dlgInicio_.get());
-    form1_.reset();
-  });
+  if (!Run([this] { return sesion_.AbrirInicio(); })) return;
+  const auto hacer = [this](const std::function<void()>& suceso) {
+    Run([&] { return sesion_.EnInicio(suceso); });
+  };
+  dlgInicio_ = std::make_unique<DlgInicioForm>(
+      sesion_.Inicio(),
+      DlgInicioForm::Events{
+          .Run = hacer, .CbOK_Click = [this] { CbOK_Click(); }, .Left = [this] { Exit(0); }});
+  dlgInicio_->ShowState();
+  dlgInicio_->show();
+  port_.SetStartWindow(dlgInicio_.get());
+  form1_.reset();
 }
 
 SessionEnd Program::AtSessionEnd() {
@@ -44,24 +39,23 @@ SessionEnd Program::AtSessionEnd() {
 
 // The dialog is still in the middle of its button's click: it is deleted once that is over.
 void Program::CbOK_Click() {
-  Run([this] {
-    if (!tasca::CbOK_Click(dlgInicio_->State(), g_)) return dlgInicio_->ShowState();
-    OpenForm1();
-    dlgInicio_->setEnabled(false);  // A second Enter may be on its way to it.
-    dlgInicio_->hide();
-    dlgInicio_.release()->deleteLater();
-  });
+  Situacion situacion{};
+  if (!Run([&] { return situacion = sesion_.Aceptar(); })) return;
+  if (situacion == Situacion::EnInicio) return dlgInicio_->ShowState();
+  OpenForm1();
+  dlgInicio_->setEnabled(false);  // A second Enter may be on its way to it.
+  dlgInicio_->hide();
+  dlgInicio_.release()->deleteLater();
 }
 
 void Program::OpenForm1() {
-  Form_Load(g_);
   form1_ = std::make_unique<Form1>(
       Form1::Events{
           .Text1_KeyDown = [this](Integer& tecla, Integer shift) { KeyDown(tecla, shift); },
           .Sonido_Click = [this](bool encendido) { port_.Mp1().TurnOn(encendido); },
           .Closed = [this] { Exit(0); }},
       port_.Mp1().IsOn());
-  form1_->ShowTexts(t_);
+  form1_->ShowTexts(sesion_.Mesa());
   form1_->showMaximized();
   port_.SetMainWindow(form1_.get());
 }
@@ -72,15 +66,16 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
     return;
   }
   enPaso_ = true;
-  const bool sigue = Run([&] { Text1_KeyDown(g_, KeyCode, Shift); });
+  Situacion situacion{};
+  const bool sigue = Run([&] { return situacion = sesion_.Tecla(KeyCode, Shift); });
   enPaso_ = false;
   if (!sigue) {
     KeyCode = 0;
     return;
   }
-  form1_->ShowTexts(t_);
+  form1_->ShowTexts(sesion_.Mesa());
   form1_->FocusInput();
-  if (!port_.TakeChangePlayers()) return;
+  if (situacion != Situacion::OtrosJugadores) return;
   enPaso_ = true;
   cambio_.start();
 }
@@ -89,21 +84,27 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
 // nothing but the sound's own fields.
 void Program::AttendSound() {
   constexpr int parado = 0;
-  if (port_.Mp1().TakeEnd()) Run([this] { Mp1_FinReproduccion(g_, parado); });
+  if (port_.Mp1().TakeEnd()) Run([this] { return sesion_.FinDeSonido(parado); });
 }
 
-bool Program::Run(const std::function<void()>& paso) {
+bool Program::Run(const std::function<Situacion()>& paso) {
   if (terminando_) return false;
-  const std::optional<Ending> fin = EndingOf(paso);
-  if (!fin) return true;
-  if (!fin->Mensaje.empty()) ShowEnding(fin->Mensaje);
+  Situacion situacion{};
+  std::optional<Ending> fin = EndingOf([&] { situacion = paso(); });
+  if (!fin && situacion != Situacion::Fin) return true;
+  if (!fin) {
+    const Desenlace& final = sesion_.Final();
+    fin = {.Estado = final.Estado, .Mensaje = final.YaMostrado ? u"" : final.Mensaje};
+  }
+  ShowEnding(*fin);
   Exit(fin->Estado);
   return false;
 }
 
-void Program::ShowEnding(std::u16string_view mensaje) {
-  if (form1_) form1_->ShowTexts(t_);
-  ShowError(port_.Window(), mensaje);
+void Program::ShowEnding(const Ending& fin) {
+  if (fin.Mensaje.empty()) return;
+  if (form1_) form1_->ShowTexts(sesion_.Mesa());
+  ShowError(port_.Window(), fin.Mensaje);
 }
 
 void Program::Exit(int estado) {

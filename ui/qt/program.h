@@ -7,9 +7,8 @@
 #include <functional>
 #include <memory>
 
-#include "base/rnd.h"
-#include "table/game.h"
-#include "table/table.h"
+#include "match/session.h"
+#include "ui/qt/application.h"
 #include "ui/qt/dlg_inicio_form.h"
 #include "ui/qt/form1.h"
 #include "ui/qt/qt_port.h"
@@ -33,15 +32,13 @@ class Program {
   void OpenForm1();
   void KeyDown(Integer& KeyCode, Integer Shift);
   void AttendSound();
-  // Runs something of the rules; false when it has ended the program.
-  bool Run(const std::function<void()>& paso);
-  void ShowEnding(std::u16string_view mensaje);
+  // Does something of the session; false when it has ended the program.
+  bool Run(const std::function<Situacion()>& paso);
+  void ShowEnding(const Ending& fin);
   void Exit(int estado);
 
-  Table t_;
-  Rnd rnd_;
   QtPort port_;
-  Game g_{t_, rnd_, port_};
+  Session sesion_;
   std::unique_ptr<DlgInicioForm> dlgInicio_;
   std::unique_ptr<Form1> form1_;
   QTimer cambio_;  // the change of windows, right after the key that asked for it

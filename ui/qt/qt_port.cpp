@@ -22,8 +22,6 @@ void QtPort::SetMainWindow(Form1* form1) {
   form1_ = form1;
 }
 
-bool QtPort::TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
-
 // The player has to see what the question is about.
 void QtPort::ShowTexts(const Table& t) {
   if (form1_ != nullptr) form1_->ShowTexts(t);
@@ -63,7 +61,5 @@ TimeOfDay QtPort::Now() {
   const QTime ahora = QTime::currentTime();
   return {.Hora = ahora.hour(), .Minuto = ahora.minute(), .Segundo = ahora.second()};
 }
-
-void QtPort::ChangePlayers() { cambiarJugadores_ = true; }
 
 }  // namespace tasca

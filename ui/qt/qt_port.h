@@ -17,8 +17,6 @@ class QtPort : public Port {
 
   QWidget* Window() const { return ventana_; }
   MediaPlayer& Mp1() { return mp1_; }
-  // Whether the step that has just ended asked for other players; asking forgets it.
-  bool TakeChangePlayers();
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
   // These two throw LeaveProgram when the program is ended while they wait.
@@ -28,7 +26,6 @@ class QtPort : public Port {
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;
   TimeOfDay Now() override;
-  void ChangePlayers() override;
 
  private:
   void ShowTexts(const Table& t);
@@ -36,7 +33,6 @@ class QtPort : public Port {
   QWidget* ventana_ = nullptr;
   Form1* form1_ = nullptr;
   MediaPlayer mp1_;
-  bool cambiarJugadores_ = false;
 };
 
 }  // namespace tasca

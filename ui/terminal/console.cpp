@@ -34,7 +34,7 @@ void Console::Error(std::u16string_view mensaje) {
 }
 
 std::u16string Console::ReadLine() {
-  Flush();
+  if (!Flush()) throw RunTimeError{SalidaRota};
   if (espera_) espera_();
   std::string bytes;
   if (!std::getline(flujos_.In, bytes)) throw LeaveProgram{};
@@ -47,8 +47,6 @@ std::u16string Console::ReadLine() {
   return FromUtf8(bytes);
 }
 
-void Console::Flush() {
-  if (!flujos_.Out.flush()) throw RunTimeError{u"No se puede escribir en la salida."};
-}
+bool Console::Flush() { return static_cast<bool>(flujos_.Out.flush()); }
 
 }  // namespace tasca

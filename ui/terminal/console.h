@@ -19,6 +19,9 @@ struct TerminalStreams {
   int Keyboard = -1;
 };
 
+// Why a player who no longer sees the table cannot play on.
+inline constexpr std::u16string_view SalidaRota = u"No se puede escribir en la salida.";
+
 class Console {
  public:
   explicit Console(const TerminalStreams& flujos) : flujos_{flujos} {}
@@ -38,8 +41,8 @@ class Console {
   // The next line typed, without its line end. Throws LeaveProgram at the end of the input, and
   // RunTimeError when what was written has not arrived.
   std::u16string ReadLine();
-  // Sends on what has been written; throws RunTimeError when that fails.
-  void Flush();
+  // Sends on what has been written; false when that fails.
+  bool Flush();
 
  private:
   TerminalStreams flujos_;

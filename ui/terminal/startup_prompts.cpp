@@ -95,15 +95,17 @@ void AskEverything(DlgInicio& d, Console& consola, const Prompts& preguntas) {
 
 }  // namespace
 
-void AskStartup(Game& g, Console& consola) {
-  DlgInicio d;
-  Form_Load(d, g);
+Situacion AskStartup(Session& sesion, Console& consola) {
+  DlgInicio& d = sesion.Inicio();
   consola.Line(d.Text1);
   consola.Line(u"Enter deja lo que está entre corchetes; q sale del juego; ? da ayuda.");
   const Prompts preguntas{consola, Commands(d, consola)};
-  do {
-    AskEverything(d, consola, preguntas);
-  } while (!CbOK_Click(d, g));
+  Situacion situacion = Situacion::EnInicio;
+  while (situacion == Situacion::EnInicio) {
+    situacion = sesion.EnInicio([&] { AskEverything(d, consola, preguntas); });
+    if (situacion == Situacion::EnInicio) situacion = sesion.Aceptar();
+  }
+  return situacion;
 }
 
 }  // namespace tasca

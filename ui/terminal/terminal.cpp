@@ -5,9 +5,8 @@
 #include <optional>
 
 #include "base/endings.h"
-#include "match/phase_machine.h"
-#include "match/start.h"
-#include "sound/effects.h"
+#include "base/keys.h"
+#include "match/session.h"
 #include "ui/terminal/startup_prompts.h"
 #include "ui/terminal/waiting.h"
 
@@ -24,14 +23,9 @@ void PrintHelp(Console& consola, Screen& pantalla) {
       u"salir, o Ctrl+D, deja el juego.");
 }
 
-void EndSound(Game& g) {
-  constexpr int parado = 0;
-  Mp1_FinReproduccion(g, parado);
-}
-
-void Press(Game& g, int tecla, int mayusculas = 0) {
+Situacion Press(Session& sesion, int tecla, int mayusculas = 0) {
   Integer KeyCode = tecla;
-  Text1_KeyDown(g, KeyCode, mayusculas);
+  return sesion.Tecla(KeyCode, mayusculas);
 }
 
 void SwitchSound(Console& consola, MediaPlayer* mp1) {
@@ -40,75 +34,83 @@ void SwitchSound(Console& consola, MediaPlayer* mp1) {
   consola.Line(mp1->IsOn() ? u"Con sonido." : u"Sin sonido.");
 }
 
-// One line typed while the game waits for a key.
-void AttendLine(Game& g, Console& consola, Screen& pantalla, TerminalPort& puerto) {
-  const std::u16string orden = Fold(consola.ReadLine());
-  if (orden.empty()) {
-    Press(g, TeclaEnter);
-  } else if (orden == u"q") {
-    Press(g, TeclaQ);
-  } else if (orden == u"0") {
-    Press(g, Tecla0, MayusculasYControl);
-  } else if (orden == u"?") {
-    PrintHelp(consola, pantalla);
-  } else if (orden == u"sonido") {
-    SwitchSound(consola, puerto.Mp1());
-  } else if (orden == u"salir") {
-    throw LeaveProgram{};
-  } else {
-    consola.Line(u"Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.");
-  }
+// Where a session is played.
+struct Place {
+  Session& Sesion;
+  Console& Consola;
+  Screen& Pantalla;
+  MediaPlayer* Mp1;
+};
+
+// What is not for the rules.
+void Obey(const Place& lugar, std::u16string_view orden) {
+  if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla);
+  if (orden == u"sonido") return SwitchSound(lugar.Consola, lugar.Mp1);
+  lugar.Consola.Line(
+      u"Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.");
 }
 
-// From the first hand until the player wants other companions.
-void PlayMatch(Game& g, Console& consola, Screen& pantalla, TerminalPort& puerto) {
-  Form_Load(g);
-  consola.Line(u"Enter sigue, q abandona la mano, ? repite sus cartas y el tanteo y da ayuda.");
-  while (!puerto.TakeChangePlayers()) {
-    pantalla.Show(g.t);
-    AttendLine(g, consola, pantalla, puerto);
-  }
+// Shows the table, and does what the player types while the game waits for a key.
+Situacion AttendLine(const Place& lugar) {
+  std::u16string orden;
+  const Situacion situacion = lugar.Sesion.Atender([&] {
+    lugar.Pantalla.Show(lugar.Sesion.Mesa());
+    orden = Fold(lugar.Consola.ReadLine());
+  });
+  if (situacion != Situacion::EnLaMesa) return situacion;
+  if (orden.empty()) return Press(lugar.Sesion, TeclaEnter);
+  if (orden == u"q") return Press(lugar.Sesion, TeclaQ);
+  if (orden == u"0") return Press(lugar.Sesion, Tecla0, MayusculasYControl);
+  if (orden == u"salir") return lugar.Sesion.Salir();
+  Obey(lugar, orden);
+  return situacion;
 }
 
-void PlayUntilThePlayerLeaves(Game& g, Console& consola, Screen& pantalla, TerminalPort& puerto) {
-  try {
-    for (;;) {
-      AskStartup(g, consola);
-      PlayMatch(g, consola, pantalla, puerto);
-      // The main window goes, and with it what it showed and played.
-      puerto.StopSound(g.t);
-      static_cast<Form1State&>(g.t) = {};
-      pantalla.Show(g.t);
-    }
-  } catch (const LeaveProgram&) {
-    pantalla.Show(g.t);
-    consola.EndLine();
-    consola.Flush();
+// From the start-up choices to the end of the match.
+Situacion PlayMatch(const Place& lugar) {
+  Situacion situacion = lugar.Sesion.AbrirInicio();
+  lugar.Pantalla.Show(lugar.Sesion.Mesa());
+  if (situacion == Situacion::EnInicio) situacion = AskStartup(lugar.Sesion, lugar.Consola);
+  if (situacion == Situacion::EnLaMesa) {
+    lugar.Consola.Line(
+        u"Enter sigue, q abandona la mano, ? repite sus cartas y el tanteo y da ayuda.");
   }
+  while (situacion == Situacion::EnLaMesa) situacion = AttendLine(lugar);
+  return situacion;
+}
+
+// Shows what the player has not seen yet, and gives the exit status.
+int Finish(const Place& lugar) {
+  lugar.Pantalla.Show(lugar.Sesion.Mesa());
+  lugar.Consola.EndLine();
+  const Desenlace& final = lugar.Sesion.Final();
+  if (final.Estado != 0) {
+    if (!final.YaMostrado) lugar.Consola.Error(final.Mensaje);
+    return final.Estado;
+  }
+  if (lugar.Consola.Flush()) return 0;
+  lugar.Consola.Error(RunTimeError{SalidaRota}.Message());
+  return 1;
 }
 
 }  // namespace
 
 int RunTerminal(const std::filesystem::path& carpeta, const TerminalStreams& flujos, Clock reloj) {
-  const auto mesa = std::make_unique<Table>();
-  mesa->Carpeta = carpeta;
-  Rnd rnd;
+  constexpr int parado = 0;
   Console consola{flujos};
   Screen pantalla{consola};
   std::optional<MediaPlayer> mp1;
   if (flujos.Keyboard >= 0) mp1.emplace();
-  TerminalPort puerto{consola, pantalla, reloj, mp1 ? &*mp1 : nullptr};
-  Game g{*mesa, rnd, puerto};
-  if (mp1) consola.WaitWith([&] { WaitForLine(flujos.Keyboard, *mp1, [&g] { EndSound(g); }); });
-  try {
-    PlayUntilThePlayerLeaves(g, consola, pantalla, puerto);
-    return 0;
-  } catch (const RunTimeError& error) {
-    pantalla.Show(g.t);
-    consola.EndLine();
-    if (!error.Shown()) consola.Error(error.Message());
-    return 1;
+  MediaPlayer* const altavoz = mp1 ? &*mp1 : nullptr;
+  TerminalPort puerto{consola, pantalla, reloj, altavoz};
+  const auto sesion = std::make_unique<Session>(carpeta, puerto);
+  if (mp1) {
+    consola.WaitWith(
+        [&] { WaitForLine(flujos.Keyboard, *mp1, [&sesion] { sesion->FinDeSonido(parado); }); });
   }
+  const Place lugar{*sesion, consola, pantalla, altavoz};
+  while (PlayMatch(lugar) == Situacion::OtrosJugadores) continue;
+  return Finish(lugar);
 }
 
 }  // namespace tasca

@@ -59,8 +59,6 @@ TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj, Medi
       reloj_{reloj},
       mp1_{mp1} {}
 
-bool TerminalPort::TakeChangePlayers() { return std::exchange(cambiarJugadores_, false); }
-
 void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
   pantalla_.Show(t);
   consola_.Line(Join(u"[", texto, u"]"));

@@ -18,8 +18,6 @@ class TerminalPort : public Port {
   TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1 = nullptr);
 
   MediaPlayer* Mp1() const { return mp1_; }
-  // True once after the player has asked for other companions.
-  bool TakeChangePlayers();
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
@@ -28,7 +26,6 @@ class TerminalPort : public Port {
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;
   TimeOfDay Now() override { return reloj_(); }
-  void ChangePlayers() override { cambiarJugadores_ = true; }
 
  private:
   Console& consola_;
@@ -36,7 +33,6 @@ class TerminalPort : public Port {
   Prompts preguntas_;
   Clock reloj_;
   MediaPlayer* mp1_;
-  bool cambiarJugadores_ = false;
 };
 
 }  // namespace tasca

@@ -3,11 +3,7 @@
 
 #include <memory>
 
-#include "base/endings.h"
-#include "match/phase_machine.h"
-#include "match/start.h"
-#include "sound/effects.h"
-#include "startup/dlg_inicio.h"
+#include "match/session.h"
 #include "ui/trace/events.h"
 #include "ui/trace/input.h"
 #include "ui/trace/trace_port.h"
@@ -16,7 +12,6 @@ namespace tasca {
 namespace {
 
 constexpr int ExitNormal = 0;
-constexpr int ExitRunTimeError = 1;
 constexpr int ExitFaultyLine = 2;
 
 // All positions are looked at before the first is chosen: a faulty line changes nothing.
@@ -40,50 +35,47 @@ void FillIn(DlgInicio& d, const StartLine& line) {
   if (line.Name) d.Text2 = *line.Name;
 }
 
-// The start-up dialog, until it is accepted; false when the input ends before.
-bool StartUp(Game& g, Input& input, TracePort& port) {
+// The start-up dialog, until it is accepted; false when the game or the input ends before.
+bool StartUp(Session& session, Input& input, TracePort& port) {
   std::optional<StartLine> line = input.NextStart(true);
   if (!line) return false;
   port.SetClock(*line->Clock);
-  const auto d = std::make_unique<DlgInicio>();
-  Form_Load(*d, g);
-  while (line) {
-    CheckPositions(*d, *line, input);
-    FillIn(*d, *line);
-    if (CbOK_Click(*d, g)) return true;
-    line = input.NextStart(false);
+  Situacion situation = session.AbrirInicio();
+  while (line && situation == Situacion::EnInicio) {
+    DlgInicio& d = session.Inicio();
+    CheckPositions(d, *line, input);
+    session.EnInicio([&d, &line] { FillIn(d, *line); });
+    situation = session.Aceptar();
+    if (situation == Situacion::EnInicio) line = input.NextStart(false);
   }
-  return false;
+  return situation == Situacion::EnLaMesa;
 }
 
-void Move(Game& g, const MoveLine& line) {
-  if (line.Sound) return Mp1_FinReproduccion(g, line.Sound->PlayState);
+Situacion Move(Session& session, const MoveLine& line) {
+  if (line.Sound) return session.FinDeSonido(line.Sound->PlayState);
   Integer code = line.Key->Code;
-  Text1_KeyDown(g, code, line.Key->Shift);
+  return session.Tecla(code, line.Key->Shift);
 }
 
-void Play(Game& g, Input& input, Events& events, TracePort& port) {
-  if (!StartUp(g, input, port)) return;
-  Form_Load(g);
-  events.State(g.t, g.rnd);
-  while (const std::optional<MoveLine> line = input.NextMove()) {
-    Move(g, *line);
-    events.State(g.t, g.rnd);
-    if (port.PlayersChange()) return events.End("players");
+// Until the input ends, or the game.
+void Play(Session& session, Input& input, Events& events) {
+  events.State(session.Mesa(), session.Generador());
+  Situacion situation = Situacion::EnLaMesa;
+  while (situation == Situacion::EnLaMesa) {
+    const std::optional<MoveLine> line = input.NextMove();
+    if (!line) return;
+    situation = Move(session, *line);
+    if (situation != Situacion::Fin) events.State(session.Mesa(), session.Generador());
   }
+  if (situation == Situacion::OtrosJugadores) events.End("players");
 }
 
-int PlayToTheEnd(Game& g, Input& input, Events& events, TracePort& port) {
-  try {
-    Play(g, input, events, port);
-    return ExitNormal;
-  } catch (const LeaveProgram&) {
-    events.End("quit");
-    return ExitNormal;
-  } catch (const RunTimeError& error) {
-    events.End("error", error.Message());
-    return ExitRunTimeError;
-  }
+// Tells how the game has ended, if it has, and gives the exit status.
+int Finish(const Session& session, Events& events) {
+  if (!session.HaAcabado()) return ExitNormal;
+  const Desenlace& ending = session.Final();
+  events.End(ending.Estado == ExitNormal ? "quit" : "error", ending.Mensaje);
+  return ending.Estado;
 }
 
 }  // namespace
@@ -93,12 +85,10 @@ int RunTrace(const std::filesystem::path& carpeta, std::istream& in, std::ostrea
   Input input{in};
   Events events{out};
   TracePort port{input, events};
-  const auto t = std::make_unique<Table>();
-  t->Carpeta = carpeta;
-  Rnd rnd;
-  Game g{*t, rnd, port};
+  const auto session = std::make_unique<Session>(carpeta, port);
   try {
-    return PlayToTheEnd(g, input, events, port);
+    if (StartUp(*session, input, port)) Play(*session, input, events);
+    return Finish(*session, events);
   } catch (const InputError& error) {
     err << error.what() << '\n';
   } catch (const OutputError& error) {

@@ -12,8 +12,6 @@ class TracePort : public Port {
 
   // Every reading of the time of day gives this.
   void SetClock(TimeOfDay clock) { clock_ = clock; }
-  // The player has asked for other companions.
-  bool PlayersChange() const { return playersChange_; }
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
@@ -22,13 +20,11 @@ class TracePort : public Port {
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;
   TimeOfDay Now() override { return clock_; }
-  void ChangePlayers() override { playersChange_ = true; }
 
  private:
   Input& input_;
   Events& events_;
   TimeOfDay clock_;
-  bool playersChange_ = false;
 };
 
 }  // namespace tasca

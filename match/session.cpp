@@ -1,0 +1,85 @@
+// The session's steps.
+#include "match/session.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "base/endings.h"
+#include "match/phase_machine.h"
+#include "match/start.h"
+#include "sound/effects.h"
+
+namespace tasca {
+
+Session::Session(std::filesystem::path carpeta, Port& port) : port_{port} {
+  t_.Carpeta = std::move(carpeta);
+}
+
+Situacion Session::AbrirInicio() {
+  return Hacer([this] {
+    if (situacion_ != Situacion::EnInicio) LevantarMesa();
+    inicio_ = {};
+    Form_Load(inicio_, g_);
+    return Situacion::EnInicio;
+  });
+}
+
+Situacion Session::EnInicio(const std::function<void()>& suceso) { return Atender(suceso); }
+
+Situacion Session::Aceptar() {
+  return Hacer([this] {
+    if (!CbOK_Click(inicio_, g_)) return Situacion::EnInicio;
+    Form_Load(g_);
+    return Situacion::EnLaMesa;
+  });
+}
+
+Situacion Session::Tecla(Integer& KeyCode, Integer Shift) {
+  return Hacer([&] {
+    Text1_KeyDown(g_, KeyCode, Shift);
+    return port_.TakeChangePlayers() ? Situacion::OtrosJugadores : Situacion::EnLaMesa;
+  });
+}
+
+Situacion Session::FinDeSonido(Integer estado) {
+  return Atender([&] { Mp1_FinReproduccion(g_, estado); });
+}
+
+Situacion Session::Atender(const std::function<void()>& paso) {
+  return Hacer([&] {
+    paso();
+    return situacion_;
+  });
+}
+
+Situacion Session::Salir() {
+  return Hacer([]() -> Situacion { throw LeaveProgram{}; });
+}
+
+// A step may run within another one, as a sound's end does while a question is open: whichever ends
+// the game, it stays ended.
+Situacion Session::Hacer(const std::function<Situacion()>& paso) {
+  if (situacion_ == Situacion::Fin) return situacion_;
+  try {
+    const Situacion siguiente = paso();
+    if (situacion_ != Situacion::Fin) situacion_ = siguiente;
+  } catch (const LeaveProgram&) {
+    Acabar({.Estado = EXIT_SUCCESS, .Mensaje = {}});
+  } catch (const RunTimeError& error) {
+    Acabar({.Estado = EXIT_FAILURE, .Mensaje = error.Message(), .YaMostrado = error.Shown()});
+  }
+  return situacion_;
+}
+
+void Session::Acabar(Desenlace final) {
+  if (situacion_ == Situacion::Fin) return;
+  final_ = std::move(final);
+  situacion_ = Situacion::Fin;
+}
+
+void Session::LevantarMesa() {
+  port_.StopSound(t_);
+  static_cast<Form1State&>(t_) = {};
+}
+
+}  // namespace tasca

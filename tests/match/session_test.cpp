@@ -1,0 +1,240 @@
+// A game from its start-up dialog to its end, through its one door.
+#include "match/session.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "base/endings.h"
+#include "base/keys.h"
+#include "characters/record_lines.h"
+#include "table/dialog.h"
+#include "tests/support/scripted_port.h"
+#include "tests/support/tables.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+namespace {
+
+using Sucesos = std::vector<std::string>;
+
+// Five characters, of which three can be chosen: la boticaria, el Cojo and Dora.
+constexpr auto CincoPersonajes =
+    "Datos>\r\nDefault indirecto\r\n000\r\n\r\nQMus>\r\nque quiere mus\r\n"
+    "Datos>\r\nDefault directo\r\n000\r\n\r\nQMus>\r\nMus\r\nNMus>\r\nNo hay mus\r\n"
+    "Datos>\r\nLa boticaria\r\n040\r\nUna historia\r\n"
+    "Datos>\r\nel Cojo\r\n051\r\n\r\n"
+    "Datos>\r\nDora\r\n099\r\n\r\n";
+
+// The same with a phrase for everything: the match can be played to its end.
+std::string PersonajesQueHablan() {
+  std::string bytes;
+  for (const char* nombre : {"Default indirecto", "Default directo", "Berta", "el Cojo", "Dora"}) {
+    bytes += std::string{"Datos>\r\n"} + nombre + "\r\n050\r\n\r\n";
+    for (const std::u16string_view etiqueta : EtiquetasMensaje) {
+      bytes += Utf8(etiqueta) + ">\r\n" + Utf8(etiqueta) + "\r\n";
+    }
+  }
+  return bytes;
+}
+
+struct Puerta {
+  TempFolder carpeta;
+  ScriptedPort port;
+  std::unique_ptr<Session> sesion;
+
+  Puerta() {
+    carpeta.Write("Jugadores.dat", CincoPersonajes);
+    sesion = std::make_unique<Session>(carpeta.Path(), port);
+  }
+
+  // Opens the dialog, and sits down at the table with whoever comes.
+  Situacion Sentarse() const {
+    sesion->AbrirInicio();
+    return sesion->Aceptar();
+  }
+  Situacion Pulsar(int tecla) const {
+    Integer codigo = tecla;
+    return sesion->Tecla(codigo, 0);
+  }
+};
+
+// Plays on at a table where a match is short, and has its will at the end.
+class Jugador : public Port {
+ public:
+  bool OtraPartida = false;
+
+  void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
+  bool YesNoBox(const Table& /*t*/, Pregunta sobre, const YesNoQuestion& pregunta) override {
+    if (sobre == Pregunta::OtraPartida) return OtraPartida;
+    return sobre != Pregunta::Mus && pregunta.PorDefecto;
+  }
+  std::u16string InputBox(const Table& /*t*/, Pregunta /*sobre*/,
+                          const InputQuestion& pregunta) override {
+    return std::u16string{pregunta.PorDefecto};
+  }
+  void ShowDialog(const Table& /*t*/, Dialog& dialogo) override { Command1_Click(dialogo, 0); }
+  void OpenSound(const Table& /*t*/, std::u16string_view /*archivo*/) override {}
+  void StopSound(const Table& /*t*/) override {}
+  TimeOfDay Now() override { return {}; }
+};
+
+// Enter until the match is over; how things stand then.
+Situacion PlayAMatch(Session& sesion) {
+  sesion.AbrirInicio();
+  Situacion situacion = sesion.Aceptar();
+  for (int teclas = 0; situacion == Situacion::EnLaMesa && teclas < 10'000; ++teclas) {
+    Integer enter = TeclaEnter;
+    situacion = sesion.Tecla(enter, 0);
+  }
+  return situacion;
+}
+
+TEST(Session, WantsOtherPlayersAfterAMatchWhenThePlayerDoes) {
+  TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", PersonajesQueHablan());
+  carpeta.Write("mus.ini", "1\r\n1\r\n1\r\nAna>\r\n");
+  Jugador jugador;
+  jugador.OtraPartida = true;
+  const auto sesion = std::make_unique<Session>(carpeta.Path(), jugador);
+  EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores);
+  EXPECT_FALSE(sesion->HaAcabado());
+  EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores) << "and again, with others";
+}
+
+TEST(Session, EndsAfterAMatchWhenThePlayerHasHadEnough) {
+  TempFolder carpeta;
+  carpeta.Write("Jugadores.dat", PersonajesQueHablan());
+  carpeta.Write("mus.ini", "1\r\n1\r\n1\r\nAna>\r\n");
+  Jugador jugador;
+  const auto sesion = std::make_unique<Session>(carpeta.Path(), jugador);
+  EXPECT_EQ(PlayAMatch(*sesion), Situacion::Fin);
+  EXPECT_EQ(sesion->Final().Estado, 0);
+  EXPECT_EQ(Utf8(sesion->Mesa().Text2), "Hasta pronto");
+}
+
+TEST(Session, OpensTheStartUpDialogWithItsLists) {
+  const Puerta puerta;
+  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::EnInicio);
+  EXPECT_EQ(puerta.sesion->Inicio().Combo1.List.size(), 4U);
+  EXPECT_FALSE(puerta.sesion->HaAcabado());
+}
+
+TEST(Session, TakesTheEventsOfTheDialog) {
+  const Puerta puerta;
+  puerta.sesion->AbrirInicio();
+  DlgInicio& d = puerta.sesion->Inicio();
+  EXPECT_EQ(puerta.sesion->EnInicio([&d] { Combo1_Click(d, 2); }), Situacion::EnInicio);
+  EXPECT_EQ(d.Combo1.ListIndex, 2);
+}
+
+TEST(Session, StaysInTheDialogAfterAChoiceThatWillNotDo) {
+  Puerta puerta;
+  puerta.sesion->AbrirInicio();
+  DlgInicio& d = puerta.sesion->Inicio();
+  puerta.sesion->EnInicio([&d] {
+    Combo2_Click(d, 1);
+    Combo3_Click(d, 1);
+  });
+  EXPECT_EQ(puerta.sesion->Aceptar(), Situacion::EnInicio);
+  EXPECT_EQ(puerta.port.TakeEvents().size(), 1U);
+  EXPECT_EQ(Utf8(puerta.sesion->Mesa().Text2), "");
+}
+
+TEST(Session, SitsDownAtTheTableOnceTheChoiceIsAccepted) {
+  const Puerta puerta;
+  EXPECT_EQ(puerta.Sentarse(), Situacion::EnLaMesa);
+  const Table& t = puerta.sesion->Mesa();
+  EXPECT_TRUE(t.Text2.ends_with(u"Pulse enter para empezar"));
+  EXPECT_EQ(t.Fase, Fase::Mus);
+  EXPECT_GT(puerta.sesion->Generador().Draws(), 20000U) << "the deck has been shuffled";
+}
+
+TEST(Session, GivesKeysToTheRulesAndTellsWhichAreUsedUp) {
+  const Puerta puerta;
+  puerta.Sentarse();
+  Integer otra = 65;
+  EXPECT_EQ(puerta.sesion->Tecla(otra, 0), Situacion::EnLaMesa);
+  EXPECT_EQ(otra, 65);
+  Integer q = TeclaQ;
+  EXPECT_EQ(puerta.sesion->Tecla(q, 0), Situacion::EnLaMesa);
+  EXPECT_EQ(q, 0);
+  EXPECT_TRUE(puerta.sesion->Mesa().Text2.ends_with(u"pulse Enter para empezar"));
+}
+
+TEST(Session, LetsOneSoundFollowTheOther) {
+  Puerta puerta;
+  puerta.Sentarse();
+  puerta.port.TakeEvents();
+  EXPECT_EQ(puerta.sesion->FinDeSonido(0), Situacion::EnLaMesa);
+  EXPECT_EQ(puerta.port.TakeEvents(),
+            (Sucesos{"sound: Son_ReparteCartas.mp3 x1 balance 0 volume 0"}));
+}
+
+TEST(Session, EndsWithStatus0WhenThePlayerLeaves) {
+  const Puerta puerta;
+  puerta.Sentarse();
+  EXPECT_EQ(puerta.sesion->Salir(), Situacion::Fin);
+  EXPECT_TRUE(puerta.sesion->HaAcabado());
+  EXPECT_EQ(puerta.sesion->Final().Estado, 0);
+  EXPECT_EQ(Utf8(puerta.sesion->Final().Mensaje), "");
+}
+
+TEST(Session, EndsWithTheMessageOfARunTimeError) {
+  const Puerta puerta;
+  puerta.carpeta.Write("mus.ini", "35\r\n");
+  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->Final().Estado, 1);
+  EXPECT_FALSE(puerta.sesion->Final().YaMostrado);
+  EXPECT_TRUE(puerta.sesion->Final().Mensaje.ends_with(u"El programa va a terminar su ejecución."));
+}
+
+TEST(Session, SaysWhenTheMessageHasBeenShownAlready) {
+  Puerta puerta;
+  std::filesystem::remove(puerta.carpeta.Path() / "Jugadores.dat");
+  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_TRUE(puerta.sesion->Final().YaMostrado);
+  EXPECT_EQ(puerta.port.TakeEvents(), (Sucesos{"box: " + Utf8(puerta.sesion->Final().Mensaje)}));
+}
+
+TEST(Session, EndsWithWhatTheFaceThrowsAsARuleDoes) {
+  const Puerta puerta;
+  puerta.Sentarse();
+  EXPECT_EQ(puerta.sesion->Atender([] {}), Situacion::EnLaMesa);
+  EXPECT_EQ(puerta.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->Final().Estado, 1);
+}
+
+TEST(Session, StaysEndedWhateverIsDone) {
+  Puerta puerta;
+  puerta.Sentarse();
+  puerta.sesion->Salir();
+  puerta.port.TakeEvents();
+  const auto antes = std::make_unique<Table>(puerta.sesion->Mesa());
+  EXPECT_EQ(puerta.Pulsar(TeclaQ), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->FinDeSonido(0), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
+  EXPECT_EQ(puerta.sesion->Final().Estado, 0);
+  EXPECT_TRUE(puerta.sesion->Mesa() == *antes);
+  EXPECT_EQ(puerta.port.TakeEvents(), Sucesos{});
+}
+
+TEST(Session, IsEndedByAStepWithinAStep) {
+  const Puerta puerta;
+  puerta.Sentarse();
+  EXPECT_EQ(puerta.sesion->Atender([&puerta] { puerta.sesion->Salir(); }), Situacion::Fin);
+}
+
+TEST(Session, ClearsTheTableWhenTheDialogIsOpenedAnew) {
+  Puerta puerta;
+  puerta.Sentarse();
+  puerta.port.TakeEvents();
+  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::EnInicio);
+  EXPECT_EQ(puerta.port.TakeEvents(), Sucesos{"stop"});
+  EXPECT_TRUE(static_cast<const Form1State&>(puerta.sesion->Mesa()) == Form1State{});
+  EXPECT_EQ(puerta.sesion->Inicio().Combo1.ListIndex, 0);
+}
+
+}  // namespace
+}  // namespace tasca::test
