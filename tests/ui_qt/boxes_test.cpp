@@ -114,6 +114,14 @@ TEST(AskYesNo, IsNotAnsweredByEscOrOtherLetters) {
       false);
 }
 
+TEST(AskYesNo, IsNotAnsweredByALetterWithCtrl) {
+  const BoxAnswerer jugador{[](QWidget* caja) {
+    Press(caja, Qt::Key_S, Qt::ControlModifier);
+    if (!ButtonIsDown(caja)) Press(caja, Qt::Key_N);
+  }};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
+}
+
 TEST(AskYesNo, IsNotAnsweredByItsCloseBox) {
   bool cerrada = true;
   bool siguioVisible = false;

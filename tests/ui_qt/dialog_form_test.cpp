@@ -47,6 +47,13 @@ TEST_F(DialogWindow, ShowsTheButtonsOfAnOpening) {
   EXPECT_EQ(Captions(), "Paso|Envido|Envido Más|Órdago|");
 }
 
+TEST_F(DialogWindow, NamesTheButtonsForScreenReaders) {
+  dialogo_.Command1[2].Caption = u"Uno & más";
+  Open(ModoApertura);
+  EXPECT_EQ(Utf8(Boton(2)->text()), "Uno && más");
+  EXPECT_EQ(Utf8(Boton(2)->accessibleName()), "Uno & más");
+}
+
 TEST_F(DialogWindow, ShowsTheButtonsOfAnAnswer) {
   Open(ModoRespuesta);
   EXPECT_EQ(Captions(), "Paso|Quiero|Envido Más|Órdago|");

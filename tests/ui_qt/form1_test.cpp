@@ -235,6 +235,16 @@ TEST_F(Form1Window, BringsTheSignsOfAltGrIntoTheInputLineToo) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "@");
 }
 
+TEST_F(Form1Window, SelectsInTheTranscriptByKeyboard) {
+  estado_.Text2 = u"Dora: envido";
+  ventana_.ShowTexts(estado_);
+  Text2()->setFocus();
+  Press(&ventana_, Qt::Key_Home, Qt::ControlModifier);
+  for (int letra = 0; letra < 4; ++letra) Press(&ventana_, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(Utf8(Text2()->textCursor().selectedText()), "Dora");
+  EXPECT_FALSE(Text2()->testAttribute(Qt::WA_InputMethodEnabled)) << "nothing is written there";
+}
+
 TEST_F(Form1Window, MovesTheFocusWithTab) {
   Press(&ventana_, Qt::Key_Tab);
   EXPECT_TRUE(Text2()->hasFocus());
