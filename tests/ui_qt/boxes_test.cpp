@@ -106,6 +106,14 @@ TEST(AskYesNo, TakesEnterForTheDefaultAnswer) {
             false);
 }
 
+TEST(AskYesNo, TakesEnterAlsoWhenNoButtonHasTheFocus) {
+  for (const bool porDefecto : {true, false}) {
+    const BoxAnswerer jugador{[](QWidget* caja) { QTest::keyClick(caja, Qt::Key_Return); }};
+    EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = porDefecto}),
+              porDefecto);
+  }
+}
+
 TEST(AskYesNo, IsNotAnsweredByEscOrOtherLetters) {
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u""}, {Qt::Key_Escape, Qt::Key_X, Qt::Key_S}),
             true);

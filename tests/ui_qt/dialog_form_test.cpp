@@ -80,6 +80,7 @@ TEST_F(DialogWindow, PlacesTheButtonsInTwoRowsOfTwo) {
   EXPECT_EQ(Boton(1)->x(), Boton(3)->x());
   EXPECT_LT(Boton(0)->geometry().right(), Boton(1)->x());
   EXPECT_LT(Boton(0)->geometry().bottom(), Boton(2)->y());
+  EXPECT_LT(ventana_->width(), Boton(1)->geometry().right() + Boton(1)->width());
 }
 
 TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {

@@ -137,6 +137,15 @@ TEST_F(Form1Window, GrowsTheInputLineForFourHandsAndShrinksItAgain) {
   EXPECT_EQ(Text1()->height(), alto);
 }
 
+TEST_F(Form1Window, GrowsTheInputLineWithItsFont) {
+  const int alto = Text1()->height();
+  const int linea = Text1()->fontMetrics().lineSpacing();
+  QFont grande = Text1()->font();
+  grande.setPointSizeF(3 * grande.pointSizeF());
+  Text1()->setFont(grande);
+  EXPECT_EQ(Text1()->height(), alto + Text1()->fontMetrics().lineSpacing() - linea);
+}
+
 TEST_F(Form1Window, NeverLetsTheInputLineTakeMoreThanHalf) {
   for (int i = 0; i < 100; ++i) estado_.Text1 += u"línea\r\n";
   ventana_.ShowTexts(estado_);
