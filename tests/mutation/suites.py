@@ -41,7 +41,7 @@ class Rules:
         if not path.startswith(self.SAVING[1]):
             del found[self.SAVING[0]]
         own = "tests_" + path.split("/")[0]
-        return sorted(found.items(), key=lambda test: (test[0] != own, usual[test[0]]))
+        return sorted(found.items(), key=lambda test: (test[0] != own, usual.get(test[0], 0)))
 
     def patience(self, seconds):
         return max(LEAST_PATIENCE, 10 * seconds)

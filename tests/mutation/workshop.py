@@ -134,11 +134,14 @@ class Build:
     def place(self, name):
         return self.folder / "bin" / name
 
-    def measure(self):
-        """Runs every test on the unmutated program; the names of those that fail."""
+    def measure(self, paths):
+        """Runs the tests for those sources on the unmutated program; the names of those that fail."""
+        needed = {name for path in paths for name, _ in self.suites.of(path, self.place, {})}
         worker = Worker(self, "unmutated")
         failed = []
         for name, command in self.suites.every(self.place).items():
+            if name not in needed:
+                continue
             began = time.monotonic()
             if worker.run_test(command, 600) != 0:
                 failed.append(name)

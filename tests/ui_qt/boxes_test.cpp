@@ -106,12 +106,28 @@ TEST(AskYesNo, TakesEnterForTheDefaultAnswer) {
             false);
 }
 
+TEST(AskYesNo, TakesEnterAlsoWhenNoButtonHasTheFocus) {
+  for (const bool porDefecto : {true, false}) {
+    const BoxAnswerer jugador{[](QWidget* caja) { QTest::keyClick(caja, Qt::Key_Return); }};
+    EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = porDefecto}),
+              porDefecto);
+  }
+}
+
 TEST(AskYesNo, IsNotAnsweredByEscOrOtherLetters) {
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u""}, {Qt::Key_Escape, Qt::Key_X, Qt::Key_S}),
             true);
   EXPECT_EQ(
       AskAndPress({.Titulo = u"¿mus?", .Texto = u""}, {Qt::Key_Escape, Qt::Key_Escape, Qt::Key_N}),
       false);
+}
+
+TEST(AskYesNo, IsNotAnsweredByALetterWithCtrl) {
+  const BoxAnswerer jugador{[](QWidget* caja) {
+    Press(caja, Qt::Key_S, Qt::ControlModifier);
+    if (caja->isVisible()) Press(caja, Qt::Key_N);
+  }};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
 }
 
 TEST(AskYesNo, IsNotAnsweredByItsCloseBox) {

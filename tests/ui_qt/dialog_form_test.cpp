@@ -47,6 +47,13 @@ TEST_F(DialogWindow, ShowsTheButtonsOfAnOpening) {
   EXPECT_EQ(Captions(), "Paso|Envido|Envido Más|Órdago|");
 }
 
+TEST_F(DialogWindow, NamesTheButtonsForScreenReaders) {
+  dialogo_.Command1[2].Caption = u"Uno & más";
+  Open(ModoApertura);
+  EXPECT_EQ(Utf8(Boton(2)->text()), "Uno && más");
+  EXPECT_EQ(Utf8(Boton(2)->accessibleName()), "Uno & más");
+}
+
 TEST_F(DialogWindow, ShowsTheButtonsOfAnAnswer) {
   Open(ModoDialogo::Respuesta);
   EXPECT_EQ(Captions(), "Paso|Quiero|Envido Más|Órdago|");
@@ -73,6 +80,7 @@ TEST_F(DialogWindow, PlacesTheButtonsInTwoRowsOfTwo) {
   EXPECT_EQ(Boton(1)->x(), Boton(3)->x());
   EXPECT_LT(Boton(0)->geometry().right(), Boton(1)->x());
   EXPECT_LT(Boton(0)->geometry().bottom(), Boton(2)->y());
+  EXPECT_LT(ventana_->width(), Boton(1)->geometry().right() + Boton(1)->width());
 }
 
 TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {

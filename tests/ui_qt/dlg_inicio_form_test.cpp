@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QTest>
+#include <utility>
+#include <vector>
 
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
@@ -196,10 +199,21 @@ TEST_F(DlgInicioWindow, TabGoesFromTheNameToSalir) {
 }
 
 TEST_F(DlgInicioWindow, NamesEveryControlForScreenReaders) {
-  for (const char* const nombre : {"Text2", "Combo1", "Combo2", "Combo3", "Check1_0", "Check1_1",
-                                   "Option1_0", "Option1_1", "CbOK", "CbCancel"}) {
-    EXPECT_FALSE(Find<QWidget>(nombre)->accessibleName().isEmpty()) << nombre;
+  const std::vector<std::pair<const char*, const char*>> nombres{
+      {"Text2", "Su nombre"},
+      {"Combo1", "Compañero"},
+      {"Combo2", "Contrario 1"},
+      {"Combo3", "Contrario 2"},
+      {"Check1_0", "Usar los nombres de los jugadores"},
+      {"Check1_1", "Usar las expresiones de los jugadores"},
+      {"Option1_0", "Estilo directo"},
+      {"Option1_1", "Estilo indirecto"},
+      {"CbOK", "Aceptar"},
+      {"CbCancel", "Salir del juego"}};
+  for (const auto& [control, nombre] : nombres) {
+    EXPECT_EQ(Utf8(Find<QWidget>(control)->accessibleName()), nombre);
   }
+  EXPECT_EQ(Utf8(Find<QComboBox>("Combo2")->view()->accessibleName()), "Contrario 1");
   EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
 }
 

@@ -127,6 +127,11 @@ TEST_F(EditorInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
   EXPECT_EQ(Work({Alt(Qt::Key_U), SessionMayEnd(true, true), SessionEnds()}), 0);
 }
 
+TEST_F(EditorInWindows, EndsWithTheSessionWhileAnErrorIsTold) {
+  std::filesystem::remove(carpeta_.Path() / "Jugadores.dat");
+  EXPECT_EQ(Work({Alt(Qt::Key_C), SessionEnds()}), 0);
+}
+
 TEST(EditorProgram, HasNothingToAskBeforeItsWindowIsOpen) {
   EditorProgram programa{{}};
   EXPECT_TRUE(programa.AtSessionEnd().MayCome([] { return true; }));

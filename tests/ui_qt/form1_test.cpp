@@ -137,6 +137,15 @@ TEST_F(Form1Window, GrowsTheInputLineForFourHandsAndShrinksItAgain) {
   EXPECT_EQ(Text1()->height(), alto);
 }
 
+TEST_F(Form1Window, GrowsTheInputLineWithItsFont) {
+  const int alto = Text1()->height();
+  const int linea = Text1()->fontMetrics().lineSpacing();
+  QFont grande = Text1()->font();
+  grande.setPointSizeF(3 * grande.pointSizeF());
+  Text1()->setFont(grande);
+  EXPECT_EQ(Text1()->height(), alto + Text1()->fontMetrics().lineSpacing() - linea);
+}
+
 TEST_F(Form1Window, NeverLetsTheInputLineTakeMoreThanHalf) {
   for (int i = 0; i < 100; ++i) estado_.Text1 += u"línea\r\n";
   ventana_.ShowTexts(estado_);
@@ -233,6 +242,16 @@ TEST_F(Form1Window, BringsTheSignsOfAltGrIntoTheInputLineToo) {
                       Qt::ControlModifier | Qt::AltModifier);
   EXPECT_TRUE(Text1()->hasFocus());
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "@");
+}
+
+TEST_F(Form1Window, SelectsInTheTranscriptByKeyboard) {
+  estado_.Text2 = u"Dora: envido";
+  ventana_.ShowTexts(estado_);
+  Text2()->setFocus();
+  Press(&ventana_, Qt::Key_Home, Qt::ControlModifier);
+  for (int letra = 0; letra < 4; ++letra) Press(&ventana_, Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(Utf8(Text2()->textCursor().selectedText()), "Dora");
+  EXPECT_FALSE(Text2()->testAttribute(Qt::WA_InputMethodEnabled)) << "nothing is written there";
 }
 
 TEST_F(Form1Window, MovesTheFocusWithTab) {

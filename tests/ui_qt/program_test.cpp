@@ -267,6 +267,15 @@ TEST_F(ProgramInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
   }
 }
 
+TEST_F(ProgramInWindows, EndsWithTheSessionWhileAnErrorIsTold) {
+  const int estado = Play([this](const QString&) {
+    programa_->AtSessionEnd().Comes();
+    return Qt::Key_F5;
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_EQ(preguntas_.size(), 1);
+}
+
 TEST_F(ProgramInWindows, EndsWithTheSessionBetweenQuestions) {
   SetTable(carpeta_);
   alInicio_ = [this](QWidget*) { programa_->AtSessionEnd().Comes(); };

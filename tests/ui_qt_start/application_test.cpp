@@ -93,6 +93,18 @@ TEST_F(Started, PassesTheEndOfTheSessionOn) {
   EXPECT_EQ(dicho, "may not ask, ends") << "this screen has no session manager to ask through";
 }
 
+TEST_F(Started, HandlesTheEndOfTheSessionItself) {
+  Application& aplicacion = Start();
+  const auto acabarSesion = [] {
+    QEvent final{QEvent::Quit};
+    EXPECT_TRUE(QCoreApplication::sendEvent(qApp, &final));
+    QCoreApplication::exit(5);
+  };
+  int veces = 0;
+  EXPECT_EQ(aplicacion.Run(acabarSesion, {.MayCome = {}, .Comes = [&veces] { ++veces; }}), 5);
+  EXPECT_EQ(veces, 1);
+}
+
 // A session manager that writes down what it is told.
 struct Manager {
   bool allowsInteraction() {

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/ui_trace/trace_run.h"
 
@@ -76,15 +79,27 @@ TEST(TraceFaultyLine, InsteadOfTheFirstStart) {
   const TraceFolder folder{35, 3, 3};
   EveryOneIsRefused(folder, {}, NoObjects);
   const std::string combos = R"("combos": [1, 2, 3])";
-  EveryOneIsRefused(
-      folder, {},
-      {Enter, R"({"sound": 0})", Yes, Result(0), R"({"text": "a"})", R"({"start": []})",
-       R"({"start": 1})", StartOf(combos), StartOf(R"("clock": [0, 0, 0])"),
-       StartOf(R"("clock": [0, 0], )" + combos), StartOf(R"("clock": [0, 0, 0, 0], )" + combos),
-       StartOf(R"("clock": [24, 0, 0], )" + combos), StartOf(R"("clock": [-1, 0, 0], )" + combos),
-       StartOf(R"("clock": [0, 60, 0], )" + combos), StartOf(R"("clock": [0, 0, 60], )" + combos),
-       StartOf(R"("clock": [0, 0, 0.0], )" + combos), StartOf(R"("clock": ["0", 0, 0], )" + combos),
-       StartOf(R"("clock": "0:00:00", )" + combos)});
+  EveryOneIsRefused(folder, {},
+                    {Enter,
+                     R"({"sound": 0})",
+                     Yes,
+                     Result(0),
+                     R"({"text": "a"})",
+                     R"({"start": []})",
+                     R"({"start": 1})",
+                     StartOf(combos),
+                     StartOf(R"("clock": [0, 0, 0])"),
+                     StartOf(R"("clock": [0, 0], )" + combos),
+                     StartOf(R"("clock": [0, 0, 0, 0], )" + combos),
+                     StartOf(R"("clock": [24, 0, 0], )" + combos),
+                     StartOf(R"("clock": [-1, 0, 0], )" + combos),
+                     StartOf(R"("clock": [0, -1, 0], )" + combos),
+                     StartOf(R"("clock": [0, 0, -1], )" + combos),
+                     StartOf(R"("clock": [0, 60, 0], )" + combos),
+                     StartOf(R"("clock": [0, 0, 60], )" + combos),
+                     StartOf(R"("clock": [0, 0, 0.0], )" + combos),
+                     StartOf(R"("clock": ["0", 0, 0], )" + combos),
+                     StartOf(R"("clock": "0:00:00", )" + combos)});
 }
 
 TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
@@ -102,6 +117,32 @@ TEST(TraceFaultyLine, WithFieldsThatTheDialogCannotTake) {
        with(R"("combos": [1, 2, 3], "checks": true)"), with(R"("combos": [1, 2, 3], "option": 2)"),
        with(R"("combos": [1, 2, 3], "option": -1)"), with(R"("combos": [1, 2, 3], "option": true)"),
        with(R"("combos": [1, 2, 3], "name": 7)"), with(R"("combos": [1, 2, 3], "name": null)")});
+}
+
+TEST(TraceFaultyLine, IsRefusedWithTheReason) {
+  const TraceFolder folder{35, 3, 3};
+  const auto start = [](const std::string& clock, const std::string& fields) {
+    return StartOf("\"clock\": [" + clock + "], \"combos\": " + fields);
+  };
+  const std::vector<std::pair<std::string, std::string>> faults{
+      {"13", "not a JSON object"},
+      {"{}", "a start is waited for"},
+      {start("0, 0", "[1, 2, 3]"), "start needs clock, a list of 3"},
+      {start("24, 0, 0", "[1, 2, 3]"), "the hour is no whole number from 0 to 23"},
+      {start("0, 60, 0", "[1, 2, 3]"), "the minute is no whole number from 0 to 59"},
+      {start("0, 0, 60", "[1, 2, 3]"), "the second is no whole number from 0 to 59"},
+      {start("0, 0, 0", "[1, 2]"), "start needs combos, a list of 3"},
+      {start("0, 0, 0", "[-1, 2, 3]"), "a position of combos is no whole number from 0 to 32767"},
+      {start("0, 0, 0", "[1, 2, 3], \"checks\": [1, true]"),
+       "a box of checks is neither true nor false"},
+      {start("0, 0, 0", "[1, 2, 3], \"checks\": [true, 1]"),
+       "a box of checks is neither true nor false"},
+      {start("0, 0, 0", "[1, 2, 3], \"option\": 2"), "option is no whole number from 0 to 1"},
+      {start("0, 0, 0", "[1, 2, 3], \"name\": 7"), "name is no text"}};
+  for (const auto& [line, reason] : faults) {
+    EXPECT_EQ(folder.Play({line}).Err, "line 1: " + reason + "\n") << line;
+  }
+  EXPECT_EQ(folder.Play({Start, "{}"}).Err, "line 2: a key or a sound is waited for\n");
 }
 
 TEST(TraceFaultyLine, InsteadOfALaterStart) {
