@@ -12,12 +12,8 @@ constexpr int TeclaSinSignificado = 255;
 bool EsTecla0(const QKeyEvent& suceso) {
   if (suceso.modifiers().testFlag(Qt::KeypadModifier)) return false;
   if (suceso.key() == Qt::Key_0) return true;
-#ifdef Q_OS_WIN
-  return suceso.nativeVirtualKey() == '0';
-#else
   constexpr quint32 lugarDelCero = 19;  // under X11 and Wayland
   return suceso.nativeScanCode() == lugarDelCero;
-#endif
 }
 
 int CodigoDe(const QKeyEvent& suceso) {
