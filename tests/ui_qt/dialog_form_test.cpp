@@ -49,7 +49,7 @@ TEST_F(DialogWindow, ShowsTheButtonsOfAnOpening) {
 
 TEST_F(DialogWindow, NamesTheButtonsForScreenReaders) {
   dialogo_.Command1[2].Caption = u"Uno & más";
-  Open(ModoApertura);
+  Open(ModoDialogo::Apertura);
   EXPECT_EQ(Utf8(Boton(2)->text()), "Uno && más");
   EXPECT_EQ(Utf8(Boton(2)->accessibleName()), "Uno & más");
 }
