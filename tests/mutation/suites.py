@@ -56,17 +56,19 @@ class Ui:
     PROGRAMS = ("tasca", "tasca-editor", "tasca-terminal", "tasca-sound", "tasca-trace",
                 "tasca-cast", "tasca-check", "tasca-golden")
     TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_sound", "tests_ui_terminal",
-             "tests_ui_trace", "tests_ui_cast")
+             "tests_ui_trace", "tests_ui_cast", "tests_ui")
     # From what a path begins with to the tests, in their order.
     BY_PATH = {
         "ui/qt/": ("tests_ui_qt_start", "start of tasca", "start of tasca-editor", "tests_ui_qt"),
         "ui/sound/": ("tests_ui_sound", "tests_ui_terminal", "tests_ui_qt"),
-        "ui/terminal/": ("tests_ui_terminal", "checker"),
+        "ui/terminal/": ("tests_ui_terminal",),
         "ui/check/": ("checker",),
         "ui/cast/": ("tests_ui_cast", "cast"),
         "ui/trace/": ("tests_ui_trace", "traces/"),
         "ui/program_folder": ("tests_ui_qt_start", "tests_ui_terminal", "tests_ui_qt"),
-        "ui/utf8": ("tests_ui_cast", "tests_ui_terminal", "tests_ui_trace", "traces/", "checker"),
+        "ui/plain_text": ("tests_ui", "tests_ui_terminal", "checker"),
+        "ui/utf8": ("tests_ui", "tests_ui_cast", "tests_ui_terminal", "tests_ui_trace", "traces/",
+                    "checker"),
     }
 
     def __init__(self, root):

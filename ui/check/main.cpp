@@ -9,7 +9,7 @@
 #include "base/endings.h"
 #include "base/text.h"
 #include "characters/check.h"
-#include "ui/terminal/plain_text.h"
+#include "ui/plain_text.h"
 
 namespace tasca {
 namespace {

@@ -5,7 +5,7 @@
 #include <ostream>
 
 #include "base/endings.h"
-#include "ui/terminal/plain_text.h"
+#include "ui/plain_text.h"
 #include "ui/utf8.h"
 
 namespace tasca {

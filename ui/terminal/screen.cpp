@@ -2,7 +2,7 @@
 #include "ui/terminal/screen.h"
 
 #include "base/text.h"
-#include "ui/terminal/plain_text.h"
+#include "ui/plain_text.h"
 #include "ui/terminal/transcript.h"
 
 namespace tasca {

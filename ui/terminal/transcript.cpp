@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "lances/lance.h"
-#include "ui/terminal/plain_text.h"
+#include "ui/plain_text.h"
 
 namespace tasca {
 namespace {

@@ -1,5 +1,5 @@
 // Nothing from a file or a player can steer the terminal.
-#include "ui/terminal/plain_text.h"
+#include "ui/plain_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// Cleaning text for the terminal.
-#include "ui/terminal/plain_text.h"
+// Cleaning text for whoever reads it.
+#include "ui/plain_text.h"
 
 #include <algorithm>
 
