@@ -50,6 +50,11 @@ std::string PlainText(std::u16string_view texto) {
   return ToUtf8(limpio);
 }
 
+std::string PlainLine(std::u16string_view texto) {
+  constexpr std::u16string_view Sustituto = u"\uFFFD";
+  return PlainText(ReplaceAll(ReplaceAll(texto, u"\r", Sustituto), u"\n", Sustituto));
+}
+
 std::size_t LeadingBreak(std::u16string_view texto) {
   if (texto.starts_with(Saltos)) return 2;
   return !texto.empty() && Saltos.find(texto.front()) != std::u16string_view::npos ? 1 : 0;

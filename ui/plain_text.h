@@ -11,6 +11,9 @@ namespace tasca {
 // a line should fit a terminal, and a braille line.
 std::string PlainText(std::u16string_view texto);
 
+// The same as one line: the line breaks become U+FFFD too. Without a line break at its end.
+std::string PlainLine(std::u16string_view texto);
+
 // The length (0 to 2) of the line break that `texto` begins with.
 std::size_t LeadingBreak(std::u16string_view texto);
 // The text up to and including its last line break; "" when it has none.

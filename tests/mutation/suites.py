@@ -50,9 +50,9 @@ class Rules:
 class Ui:
     """For the faces: of each of them its own tests, and those of what is built on it."""
 
-    LIBRARIES = ("tasca_rules", "tasca_utf8", "tasca_program_folder", "tasca_cast_source",
-                 "tasca_trace_face", "tasca_media_player", "tasca_loudspeaker",
-                 "tasca_terminal_face", "tasca_qt")
+    LIBRARIES = ("tasca_rules", "tasca_utf8", "tasca_options", "tasca_program_folder",
+                 "tasca_cast_source", "tasca_trace_face", "tasca_media_player",
+                 "tasca_loudspeaker", "tasca_terminal_face", "tasca_qt")
     PROGRAMS = ("tasca", "tasca-editor", "tasca-terminal", "tasca-sound", "tasca-trace",
                 "tasca-cast", "tasca-check", "tasca-golden")
     TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_sound", "tests_ui_terminal",
@@ -66,6 +66,7 @@ class Ui:
         "ui/cast/": ("tests_ui_cast", "cast"),
         "ui/trace/": ("tests_ui_trace", "traces/"),
         "ui/program_folder": ("tests_ui_qt_start", "tests_ui_terminal", "tests_ui_qt"),
+        "ui/options": ("options/",),
         "ui/plain_text": ("tests_ui", "tests_ui_terminal", "checker"),
         "ui/utf8": ("tests_ui", "tests_ui_cast", "tests_ui_terminal", "tests_ui_trace", "traces/",
                     "checker"),
@@ -85,6 +86,10 @@ class Ui:
         for name in ("tasca", "tasca-editor"):
             script = self._tests / "ui_qt_start" / "without-a-screen"
             found[f"start of {name}"] = ["sh", script, place(name)]
+        for name, language, arguments in (("tasca", "es", "none"), ("tasca-trace", "en", "some"),
+                                          ("tasca-check", "es", "some")):
+            script = self._tests / "ui" / "check-options"
+            found[f"options/{name}"] = ["sh", script, place(name), language, arguments, "1.0"]
         found["checker"] = ["sh", self._tests / "ui_check" / "check-program", place("tasca-check"),
                             self._data / "Jugadores.dat"]
         found["cast"] = ["sh", "-c", '"$0" "$1/personajes.txt" written && '

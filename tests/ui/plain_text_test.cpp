@@ -72,5 +72,10 @@ TEST(PlainText, KeepsTheDoubledBlanksOfTheProse) {
             "La pareja 1 se saca  las 3 envidadas a grande ");
 }
 
+TEST(PlainLine, ShowsEveryLineBreakAsTheReplacement) {
+  EXPECT_EQ(PlainLine(u"uno\r\ndos\ntres\rcuatro\x1B"),
+            "uno\uFFFD\uFFFDdos\uFFFDtres\uFFFDcuatro\uFFFD");
+}
+
 }  // namespace
 }  // namespace tasca

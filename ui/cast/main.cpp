@@ -7,14 +7,24 @@
 #include "base/replace_file.h"
 #include "characters/character_file.h"
 #include "ui/cast/cast_source.h"
+#include "ui/options.h"
 #include "ui/utf8.h"
+
+namespace {
+
+constexpr tasca::ProgramOptions Programa{
+    .Name = "tasca-cast",
+    .Usage = " PERSONAJES.TXT JUGADORES.DAT",
+    .About = "Writes a character file, the second, from the cast as people write it, the first.\n",
+    .Speaks = tasca::Language::English,
+    .TakesArguments = true};
+
+}  // namespace
 
 int main(int argc, char** argv) {
   try {
-    if (argc != 3) {
-      std::cerr << "Uso: tasca-cast PERSONAJES.TXT JUGADORES.DAT\n";
-      return 2;
-    }
+    if (const auto estado = tasca::TakeOptions(Programa, argc, argv)) return *estado;
+    if (argc != 3) return tasca::UsageError(Programa);
     const auto mesa = std::make_unique<tasca::Table>();
     const int cuantos = tasca::LeerReparto(*mesa, argv[1]);
     tasca::ReplaceFile(argv[2], tasca::TextoPersonajes(*mesa, cuantos));

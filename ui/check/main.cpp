@@ -9,6 +9,7 @@
 #include "base/endings.h"
 #include "base/text.h"
 #include "characters/check.h"
+#include "ui/options.h"
 #include "ui/plain_text.h"
 
 namespace tasca {
@@ -18,12 +19,17 @@ constexpr int SinFaltas = 0;
 constexpr int ConFaltas = 1;
 constexpr int NoSePuedeLeer = 2;
 
+constexpr ProgramOptions Programa{
+    .Name = "tasca-check",
+    .Usage = " ARCHIVO (el de los personajes)",
+    .About =
+        "Dice cada falta de un archivo de personajes, con su línea. Termina con 0 si no hay\n"
+        "ninguna, con 1 si las hay y con 2 si el archivo no se puede leer.\n",
+    .TakesArguments = true};
+
 // One line, whatever stands in the text: no line break of the file's, or of its name's, either.
 void PrintLine(std::ostream& salida, std::u16string_view texto) {
-  constexpr std::u16string_view Sustituto = u"\uFFFD";
-  const std::u16string sinSaltos =
-      ReplaceAll(ReplaceAll(texto, u"\r", Sustituto), u"\n", Sustituto);
-  salida << PlainText(sinSaltos) << '\n';
+  salida << PlainLine(texto) << '\n';
 }
 
 int Check(const std::filesystem::path& archivo) {
@@ -46,10 +52,8 @@ int Check(const std::filesystem::path& archivo) {
 
 int main(int argc, char** argv) {
   try {
-    if (argc != 2) {
-      tasca::PrintLine(std::cerr, u"Uso: tasca-check ARCHIVO (el de los personajes)");
-      return tasca::NoSePuedeLeer;
-    }
+    if (const auto estado = tasca::TakeOptions(tasca::Programa, argc, argv)) return *estado;
+    if (argc != 2) return tasca::UsageError(tasca::Programa);
     return tasca::Check(argv[1]);
   } catch (const tasca::RunTimeError& error) {
     tasca::PrintLine(std::cerr, error.Message());

@@ -1,10 +1,25 @@
 // tasca: the game in windows.
+#include "ui/options.h"
 #include "ui/program_folder.h"
 #include "ui/qt/application.h"
 #include "ui/qt/program.h"
 
+namespace {
+
+constexpr tasca::ProgramOptions Programa{
+    .Name = "tasca",
+    .Usage = "",
+    .About =
+        "Abre la tasca en una ventana: el mus de cuatro, usted y tres personajes.\n"
+        "Donde no hay pantalla se juega con tasca-terminal.\n"};
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (const auto estado = tasca::AnswerOptions(Programa, argc, argv)) return *estado;
   tasca::Application aplicacion{argc, argv};
+  // The toolkit has taken its own options out.
+  if (const auto estado = tasca::RefuseOptions(Programa, argc, argv)) return *estado;
   tasca::Program programa{tasca::ProgramFolder(argv[0])};
   return aplicacion.Run([&programa] { programa.OpenDlgInicio(); }, programa.AtSessionEnd());
 }

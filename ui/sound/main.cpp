@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "ui/options.h"
 #include "ui/sound/loudspeaker.h"
 #include "ui/sound/order.h"
 
@@ -89,9 +90,16 @@ class Player {
   bool descansando_ = true;
 };
 
+constexpr tasca::ProgramOptions Programa{
+    .Name = "tasca-sound",
+    .Usage = "",
+    .About = "Plays what the game orders at its standard input; the game starts it by itself.\n",
+    .Speaks = tasca::Language::English};
+
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  if (const auto estado = tasca::TakeOptions(Programa, argc, argv)) return *estado;
   Player reproductor;
   while (reproductor.Step()) continue;
 }

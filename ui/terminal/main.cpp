@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "ui/options.h"
 #include "ui/program_folder.h"
 #include "ui/terminal/terminal.h"
 
@@ -20,9 +21,15 @@ int Keyboard() {
   return delante && !lejos ? STDIN_FILENO : -1;
 }
 
+constexpr tasca::ProgramOptions Programa{
+    .Name = "tasca-terminal",
+    .Usage = "",
+    .About = "Abre la tasca en la terminal: el mus de cuatro, usted y tres personajes.\n"};
+
 }  // namespace
 
-int main(int /*argc*/, char** argv) {
+int main(int argc, char** argv) {
+  if (const auto estado = tasca::TakeOptions(Programa, argc, argv)) return *estado;
   return tasca::RunTerminal(tasca::ProgramFolder(argv[0]), {.In = std::cin,
                                                             .Out = std::cout,
                                                             .Err = std::cerr,
