@@ -142,9 +142,9 @@ TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
   EXPECT_FALSE(Contains(mesa, "¿mus?"));
 }
 
-TEST_F(Session, LaysAllHandsOpenForTheZero) {
+TEST_F(Session, LaysAllHandsOpenOnTheWord) {
   LlenarCarpeta(Carpeta);
-  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n0\n"));
+  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\nManos\n"));
   const std::string abiertas = mesa.substr(mesa.find("empezar\n") + 8);
   EXPECT_EQ(Count(abiertas, "\n"), 8);
   EXPECT_TRUE(abiertas.starts_with("Ana\n")) << abiertas;
@@ -160,7 +160,7 @@ TEST_F(Session, HelpsWithoutPlayingOn) {
   EXPECT_TRUE(
       mesa.ends_with("Enter sigue la mano.\n"
                      "q abandona la mano y empieza otra.\n"
-                     "0 enseña las cartas de los cuatro.\n"
+                     "manos enseña las cartas de los cuatro.\n"
                      "sonido quita o pone el sonido.\n"
                      "salir, o Ctrl+D, deja el juego.\n"))
       << mesa;
@@ -173,7 +173,7 @@ TEST_F(Session, HelpsWithoutPlayingOn) {
 
 TEST_F(Session, HintsAtTheKeysForAnythingElse) {
   LlenarCarpeta(Carpeta);
-  for (const std::string otra : {"x", "13", "envido", "qq", "00"}) {
+  for (const std::string otra : {"x", "0", "13", "envido", "qq", "mano"}) {
     const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + otra + "\n"));
     EXPECT_TRUE(mesa.ends_with(
         "Pulse enter para empezar\n"

@@ -18,7 +18,7 @@ void PrintHelp(Console& consola, Screen& pantalla) {
   consola.Line(
       u"Enter sigue la mano.\n"
       u"q abandona la mano y empieza otra.\n"
-      u"0 enseña las cartas de los cuatro.\n"
+      u"manos enseña las cartas de los cuatro.\n"
       u"sonido quita o pone el sonido.\n"
       u"salir, o Ctrl+D, deja el juego.");
 }
@@ -60,7 +60,7 @@ Situacion AttendLine(const Place& lugar) {
   if (situacion != Situacion::EnLaMesa) return situacion;
   if (orden.empty()) return Press(lugar.Sesion, TeclaEnter);
   if (orden == u"q") return Press(lugar.Sesion, TeclaQ);
-  if (orden == u"0") return Press(lugar.Sesion, Tecla0, MayusculasYControl);
+  if (orden == u"manos") return Press(lugar.Sesion, Tecla0, MayusculasYControl);
   if (orden == u"salir") return lugar.Sesion.Salir();
   Obey(lugar, orden);
   return situacion;
