@@ -9,15 +9,17 @@
 namespace tasca::test {
 namespace {
 
-// A console with the prompts on it; "?" is a command that says "ayuda".
+// A console with the prompts on it; "?" is a command that says what is wanted.
 struct Asked : FakeConsole {
   explicit Asked(const std::string& entrada)
-      : FakeConsole{entrada}, Preguntas{Consola, [this](std::u16string_view linea) {
-                                          if (linea != u"?") return false;
-                                          Consola.Line(u"ayuda");
+      : FakeConsole{entrada}, Preguntas{Consola, [this](const TypedLine& linea) {
+                                          EsOpcion.push_back(linea.EsOpcion);
+                                          if (linea.Texto != u"?") return false;
+                                          Consola.Line(linea.SeContesta);
                                           return true;
                                         }} {}
 
+  std::vector<bool> EsOpcion;  // of each line typed
   Prompts Preguntas;
 };
 
@@ -125,7 +127,30 @@ TEST(PromptsTextOrCancel, LetsTheInputEnd) {
 TEST(Prompts, RunCommandsInsteadOfTakingThemForAnswers) {
   Asked a{"?\nAna\n"};
   EXPECT_EQ(a.Preguntas.Text(u"Su nombre:", u"Jugador 1"), u"Ana");
-  EXPECT_EQ(a.Take(), "Su nombre: [Jugador 1] \nayuda\nSu nombre: [Jugador 1] \n");
+  EXPECT_EQ(a.Take(), "Su nombre: [Jugador 1] \nEscriba la respuesta.\nSu nombre: [Jugador 1] \n");
+}
+
+TEST(Prompts, TellTheCommandsWhatEachQuestionWants) {
+  Asked a{"?\ns\n?\n1\n?\n2\n"};
+  EXPECT_TRUE(a.Preguntas.YesNo(u"¿mus?", true));
+  EXPECT_EQ(a.Preguntas.Choose(u"La grande:", Botones, u"0", 0), 1);
+  EXPECT_EQ(a.Preguntas.TextOrCancel(u"¿Cuántas?", u"5"), u"2");
+  EXPECT_EQ(a.Take(),
+            "¿mus? [S/n] \n"
+            "Conteste \"s\" (sí) o \"n\" (no).\n"
+            "¿mus? [S/n] \n"
+            "La grande: [0] \n"
+            "Escriba uno de los números o el comienzo de uno de los nombres.\n"
+            "La grande: [0] \n"
+            "¿Cuántas? [5; - cancela] \n"
+            "Escriba la respuesta, o \"-\" para cancelar.\n"
+            "¿Cuántas? [5; - cancela] \n");
+}
+
+TEST(Prompts, TellTheCommandsWhetherALineMeansAnOption) {
+  Asked a{"el\nx\nconde\n"};
+  EXPECT_EQ(a.Preguntas.Choose(u"Compañero:", Nombres, u"0", 0), 7);
+  EXPECT_EQ(a.EsOpcion, (std::vector<bool>{true, false, true}));
 }
 
 }  // namespace

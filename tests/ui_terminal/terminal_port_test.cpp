@@ -127,7 +127,51 @@ TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
   const std::string mesa = "Rey de oros\nPiedras: 0 / 0\n";
   EXPECT_EQ(a.Take(), "La grande\n" + mesa + pregunta + mesa +
-                          "Enter da la respuesta que está entre corchetes.\n" + pregunta);
+                          "Escriba uno de los números o el comienzo de uno de los nombres.\n"
+                          "Enter da la respuesta que está entre corchetes.\n"
+                          "salir, o Ctrl+D, deja el juego.\n" +
+                          pregunta);
+}
+
+// Each kind of question, asked until there is an answer.
+bool AskMus(AtTheTable& a) {
+  return a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""});
+}
+
+std::u16string AskDiscard(AtTheTable& a) {
+  return a.Puerto.InputBox(a.t, Pregunta::Descarte,
+                           {.Titulo = u"Sustituir cartas", .Texto = u"cuáles:", .PorDefecto = u""});
+}
+
+TEST(TerminalPort, SaysInEveryKindOfQuestionThatTheHandIsAbandonedAfterIt) {
+  const std::string despues = " Para abandonar la mano con q, conteste antes.\n";
+  AtTheTable a{"q\nn\nQ\n1 3\nq\n1\n"};
+  EXPECT_FALSE(AskMus(a));
+  const std::string mus = "¿mus? [S/n] \n";
+  EXPECT_EQ(a.Take(), "La grande\n" + mus + "Conteste \"s\" (sí) o \"n\" (no)." + despues + mus);
+  EXPECT_EQ(AskDiscard(a), u"1 3");
+  const std::string descarte = "Sustituir cartas\ncuáles: [nada; - cancela] \n";
+  EXPECT_EQ(a.Take(),
+            descarte + "Escriba la respuesta, o \"-\" para cancelar." + despues + descarte);
+  EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 1);
+  const std::string envite = "La grande: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \n";
+  EXPECT_EQ(a.Take(), envite + "Escriba uno de los números o el comienzo de uno de los nombres." +
+                          despues + envite);
+}
+
+TEST(TerminalPort, TakesQForQuieroWhereThatIsOffered) {
+  AtTheTable a{"q\n"};
+  EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::Respuesta), 1);
+}
+
+TEST(TerminalPort, LeavesOnTheWordInEveryKindOfQuestion) {
+  AtTheTable a{"salir\nn\nSalir\n1 3\n salir \n1\n"};
+  EXPECT_THROW(AskMus(a), LeaveProgram);
+  EXPECT_FALSE(AskMus(a)) << "the word is no answer";
+  EXPECT_THROW(AskDiscard(a), LeaveProgram);
+  EXPECT_EQ(AskDiscard(a), u"1 3");
+  EXPECT_THROW(a.Bid(u"La grande", ModoDialogo::Apertura), LeaveProgram);
+  EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 1);
 }
 
 TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {

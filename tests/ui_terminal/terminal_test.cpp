@@ -91,6 +91,14 @@ TEST_F(Session, EndsWithStatusZeroInEveryKindOfQuestion) {
   }
 }
 
+TEST_F(Session, LeavesOnTheWordInAQuestion) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, Puerta + "\nsalir\n\n\n");
+  EXPECT_EQ(sesion.Status, 0);
+  EXPECT_EQ(sesion.Err, "");
+  EXPECT_TRUE(sesion.Out.ends_with("\n¿mus? [S/n] \n")) << sesion.Out;
+}
+
 // The parts that `texto` lacks, or has in another order.
 std::vector<std::string> MissingParts(const std::string& texto,
                                       const std::vector<std::string>& partes) {

@@ -6,6 +6,12 @@
 namespace tasca {
 namespace {
 
+constexpr std::u16string_view ContestaSiONo = u"Conteste \"s\" (sí) o \"n\" (no).";
+constexpr std::u16string_view ContestaOpcion =
+    u"Escriba uno de los números o el comienzo de uno de los nombres.";
+constexpr std::u16string_view ContestaTexto = u"Escriba la respuesta.";
+constexpr std::u16string_view ContestaOCancela = u"Escriba la respuesta, o \"-\" para cancelar.";
+
 std::u16string NameOf(const std::vector<Option>& opciones, int numero) {
   for (const Option& opcion : opciones) {
     if (opcion.Numero == numero) return opcion.Texto;
@@ -14,9 +20,7 @@ std::u16string NameOf(const std::vector<Option>& opciones, int numero) {
 }
 
 std::u16string WhatIsWrong(const std::vector<Option>& opciones, const std::vector<int>& posibles) {
-  if (posibles.empty()) {
-    return u"Eso no se ofrece. Escriba uno de los números o el comienzo de uno de los nombres.";
-  }
+  if (posibles.empty()) return Join(u"Eso no se ofrece. ", ContestaOpcion);
   std::u16string nombres;
   for (const int numero : posibles) {
     if (!nombres.empty()) nombres += u" o ";
@@ -27,27 +31,32 @@ std::u16string WhatIsWrong(const std::vector<Option>& opciones, const std::vecto
 
 }  // namespace
 
-std::u16string Prompts::Answer(std::u16string_view pregunta, std::u16string_view ofrece) const {
+std::u16string Prompts::Answer(std::u16string_view pregunta, std::u16string_view ofrece,
+                               std::u16string_view seContesta,
+                               const std::vector<Option>& opciones) const {
   for (;;) {
     consola_.Prompt(Join(TrimRight(pregunta), u" [", ofrece, u"] "));
     const std::u16string linea = consola_.ReadLine();
-    if (!orden_(linea)) return std::u16string{Trim(linea)};
+    const TypedLine escrita{.Texto = linea,
+                            .SeContesta = seContesta,
+                            .EsOpcion = !FindOptions(opciones, linea).empty()};
+    if (!orden_(escrita)) return std::u16string{Trim(linea)};
   }
 }
 
 bool Prompts::YesNo(std::u16string_view pregunta, bool porDefecto) const {
   for (;;) {
-    const std::u16string respuesta = Answer(pregunta, porDefecto ? u"S/n" : u"s/N");
+    const std::u16string respuesta = Answer(pregunta, porDefecto ? u"S/n" : u"s/N", ContestaSiONo);
     if (respuesta.empty()) return porDefecto;
     if (const auto leida = ReadYesNo(respuesta)) return *leida;
-    consola_.Line(u"Conteste \"s\" (sí) o \"n\" (no).");
+    consola_.Line(ContestaSiONo);
   }
 }
 
 int Prompts::Choose(std::u16string_view pregunta, const std::vector<Option>& opciones,
                     std::u16string_view ofrece, int porDefecto) const {
   for (;;) {
-    const std::u16string respuesta = Answer(pregunta, ofrece);
+    const std::u16string respuesta = Answer(pregunta, ofrece, ContestaOpcion, opciones);
     if (respuesta.empty()) return porDefecto;
     const std::vector<int> posibles = FindOptions(opciones, respuesta);
     if (posibles.size() == 1) return posibles.front();
@@ -56,14 +65,14 @@ int Prompts::Choose(std::u16string_view pregunta, const std::vector<Option>& opc
 }
 
 std::u16string Prompts::Text(std::u16string_view pregunta, std::u16string_view porDefecto) const {
-  const std::u16string respuesta = Answer(pregunta, porDefecto);
+  const std::u16string respuesta = Answer(pregunta, porDefecto, ContestaTexto);
   return respuesta.empty() ? std::u16string{porDefecto} : respuesta;
 }
 
 std::u16string Prompts::TextOrCancel(std::u16string_view pregunta,
                                      std::u16string_view porDefecto) const {
-  const std::u16string respuesta =
-      Answer(pregunta, Join(porDefecto.empty() ? u"nada" : porDefecto, u"; - cancela"));
+  const std::u16string respuesta = Answer(
+      pregunta, Join(porDefecto.empty() ? u"nada" : porDefecto, u"; - cancela"), ContestaOCancela);
   if (respuesta == u"-") return {};
   return respuesta.empty() ? std::u16string{porDefecto} : respuesta;
 }

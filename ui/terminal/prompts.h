@@ -11,11 +11,18 @@
 
 namespace tasca {
 
+// A line typed at a prompt.
+struct TypedLine {
+  std::u16string_view Texto;
+  std::u16string_view SeContesta;  // a sentence: what the question wants
+  bool EsOpcion = false;           // it means at least one of the options to choose from
+};
+
 class Prompts {
  public:
   // `orden` is given every line typed and says whether it was a command, such as "?", and no
   // answer.
-  using Command = std::function<bool(std::u16string_view)>;
+  using Command = std::function<bool(const TypedLine&)>;
   Prompts(Console& consola, Command orden) : consola_{consola}, orden_{std::move(orden)} {}
 
   bool YesNo(std::u16string_view pregunta, bool porDefecto) const;
@@ -28,7 +35,9 @@ class Prompts {
   std::u16string TextOrCancel(std::u16string_view pregunta, std::u16string_view porDefecto) const;
 
  private:
-  std::u16string Answer(std::u16string_view pregunta, std::u16string_view ofrece) const;
+  std::u16string Answer(std::u16string_view pregunta, std::u16string_view ofrece,
+                        std::u16string_view seContesta,
+                        const std::vector<Option>& opciones = {}) const;
 
   Console& consola_;
   Command orden_;

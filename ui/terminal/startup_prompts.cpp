@@ -39,8 +39,8 @@ void PrintStories(const DlgInicio& d, Console& consola) {
 
 // What may be typed at every prompt instead of an answer.
 Prompts::Command Commands(const DlgInicio& d, Console& consola) {
-  return [&d, &consola](std::u16string_view linea) {
-    const std::u16string orden = Fold(linea);
+  return [&d, &consola](const TypedLine& linea) {
+    const std::u16string orden = Fold(linea.Texto);
     if (orden == u"q" || orden == u"salir") throw LeaveProgram{};
     if (orden != u"?") return false;
     PrintStories(d, consola);

@@ -6,6 +6,7 @@
 #include <ctime>
 #include <utility>
 
+#include "base/endings.h"
 #include "base/text.h"
 #include "table/dialog.h"
 
@@ -49,15 +50,30 @@ TimeOfDay LocalTime() {
 TerminalPort::TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1)
     : consola_{consola},
       pantalla_{pantalla},
-      preguntas_{consola,
-                 [this](std::u16string_view linea) {
-                   if (Fold(linea) != u"?") return false;
-                   pantalla_.Repeat();
-                   consola_.Line(u"Enter da la respuesta que está entre corchetes.");
-                   return true;
-                 }},
+      preguntas_{consola, [this](const TypedLine& linea) { return Obey(linea); }},
       reloj_{reloj},
       mp1_{mp1} {}
+
+bool TerminalPort::Obey(const TypedLine& linea) {
+  const std::u16string orden = Fold(linea.Texto);
+  if (orden == u"salir") throw LeaveProgram{};
+  if (orden == u"?") {
+    Help(linea.SeContesta);
+    return true;
+  }
+  // In the answer to a bet it is the initial of "Quiero".
+  if (orden != u"q" || linea.EsOpcion) return false;
+  consola_.Line(Join(linea.SeContesta, u" Para abandonar la mano con q, conteste antes."));
+  return true;
+}
+
+void TerminalPort::Help(std::u16string_view seContesta) {
+  pantalla_.Repeat();
+  consola_.Line(seContesta);
+  consola_.Line(
+      u"Enter da la respuesta que está entre corchetes.\n"
+      u"salir, o Ctrl+D, deja el juego.");
+}
 
 void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
   pantalla_.Show(t);

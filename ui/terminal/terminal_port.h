@@ -11,7 +11,8 @@ using Clock = TimeOfDay (*)();
 // The local time of day.
 TimeOfDay LocalTime();
 
-// Before every question it shows what is new at the table.
+// Before every question it shows what is new at the table. Instead of an answer "?" helps and
+// "salir" throws LeaveProgram; "q" has to wait for the answer, and is told so.
 class TerminalPort : public Port {
  public:
   // Without a media player the sounds are not heard.
@@ -28,6 +29,10 @@ class TerminalPort : public Port {
   TimeOfDay Now() override { return reloj_(); }
 
  private:
+  // The commands that hold in the middle of a question; false for any other line.
+  bool Obey(const TypedLine& linea);
+  void Help(std::u16string_view seContesta);
+
   Console& consola_;
   Screen& pantalla_;
   Prompts preguntas_;
