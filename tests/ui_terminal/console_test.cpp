@@ -50,6 +50,18 @@ TEST(Console, LeavesTheLineBreakToATerminalThatEchoes) {
   EXPECT_EQ(c.Take(), "¿mus? Ana: Mus\n");
 }
 
+TEST(Console, BreaksLinesAndPromptsBetweenWordsAtTheWidthOfTheMoment) {
+  std::istringstream in;
+  std::ostringstream out;
+  std::size_t ancho = 12;
+  Console consola{{.In = in, .Out = out, .Err = out, .Width = [&ancho] { return ancho; }}};
+  consola.Line(u"Ana es mano\r\ny no se rinde");
+  ancho = 9;
+  consola.Prompt(u"¿Tiene   pares? [s/N] ");
+  consola.EndLine();
+  EXPECT_EQ(out.str(), "Ana es mano\ny no se\nrinde\n¿Tiene\npares?\n[s/N] \n");
+}
+
 TEST(Console, ReadsLinesWithEitherLineEndAndALastOneWithout) {
   FakeConsole c{"sí\r\n\nno"};
   EXPECT_EQ(c.Consola.ReadLine(), u"sí");

@@ -80,6 +80,37 @@ TEST_F(TerminalProgramRun, LeavesTheEndOfThePromptsLineToTheTerminal) {
   EXPECT_EQ(programa.End(), 0);
 }
 
+// The longest line that is shown before the first question: it is known by its start.
+std::string FirstHint(TerminalProgram& programa) {
+  EXPECT_TRUE(programa.Shows("Su nombre: ")) << programa.Shown();
+  const std::string& todo = programa.Shown();
+  const std::size_t desde = todo.find("Enter deja");
+  EXPECT_NE(desde, std::string::npos) << todo;
+  return todo.substr(desde, todo.rfind("Su nombre: ") - desde);
+}
+
+TEST_F(TerminalProgramRun, BreaksLinesBetweenWordsAtTheTerminalsWidth) {
+  TerminalProgram programa{{.Columns = 40}, {Program()}};
+  EXPECT_EQ(FirstHint(programa),
+            "Enter deja lo que está entre corchetes;\r\nq sale del juego; ? da ayuda.\r\n");
+}
+
+TEST_F(TerminalProgramRun, TakesEightyCharactersForATerminalThatDoesNotTellItsWidth) {
+  TerminalProgram programa{Terminal, {Program()}};
+  programa.Type("\nx\n");
+  EXPECT_TRUE(programa.Shows("nombres.\r\n")) << programa.Shown();
+  const std::string corte =
+      "Escriba uno de los números o el comienzo de uno de los\r\nnombres.\r\n";
+  EXPECT_TRUE(programa.Shows("Eso no se ofrece. " + corte)) << programa.Shown();
+  EXPECT_EQ(programa.End(), 0);
+}
+
+TEST_F(TerminalProgramRun, LeavesLinesWholeInAPipe) {
+  TerminalProgram programa{{.ReadsAtTerminal = false, .Columns = 40}, {Program()}};
+  EXPECT_EQ(FirstHint(programa),
+            "Enter deja lo que está entre corchetes; q sale del juego; ? da ayuda.\n");
+}
+
 TEST_F(TerminalProgramRun, EndsThePromptsLineInAPipe) {
   TerminalProgram programa{Pipes, {Program()}};
   programa.Type("Eva\n");

@@ -22,9 +22,10 @@ struct Ends {
   int There = -1;
 };
 
-Ends NewTerminal() {
+Ends NewTerminal(unsigned short columnas) {
   Ends extremos;
-  EXPECT_EQ(::openpty(&extremos.Here, &extremos.There, nullptr, nullptr, nullptr), 0);
+  const winsize medidas{.ws_row = 24, .ws_col = columnas, .ws_xpixel = 0, .ws_ypixel = 0};
+  EXPECT_EQ(::openpty(&extremos.Here, &extremos.There, nullptr, nullptr, &medidas), 0);
   return extremos;
 }
 
@@ -43,10 +44,10 @@ void CopyTerminalProgram(const std::filesystem::path& carpeta) {
 
 TerminalProgram::TerminalProgram(const Sides& lados, std::vector<std::string> orden)
     : alTerminal_{lados.TypesAtTerminal} {
-  const Ends teclado = lados.TypesAtTerminal ? NewTerminal() : NewPipe(true);
+  const Ends teclado = lados.TypesAtTerminal ? NewTerminal(lados.Columns) : NewPipe(true);
   const bool unoSolo = lados.TypesAtTerminal && lados.ReadsAtTerminal;
   Ends pantalla = teclado;
-  if (!unoSolo) pantalla = lados.ReadsAtTerminal ? NewTerminal() : NewPipe(false);
+  if (!unoSolo) pantalla = lados.ReadsAtTerminal ? NewTerminal(lados.Columns) : NewPipe(false);
   entrada_ = teclado.Here;
   salida_ = pantalla.Here;
   posix_spawn_file_actions_t acciones;

@@ -12,6 +12,7 @@ namespace tasca::test {
 struct Sides {
   bool TypesAtTerminal = true;
   bool ReadsAtTerminal = true;
+  unsigned short Columns = 0;  // of the terminals; 0: it does not tell
 };
 
 // Puts the program, not a link to it, into a folder.

@@ -6,6 +6,7 @@
 
 #include "base/endings.h"
 #include "ui/plain_text.h"
+#include "ui/terminal/wrap.h"
 #include "ui/utf8.h"
 
 namespace tasca {
@@ -18,7 +19,7 @@ void Console::Line(std::u16string_view texto) {
 
 void Console::Prompt(std::u16string_view texto) {
   EndLine();
-  flujos_.Out << PlainText(texto);
+  flujos_.Out << Wrap(PlainText(texto), flujos_.Width ? flujos_.Width() : 0);
   lineaAbierta_ = WholeLines(texto).size() < texto.size();
 }
 

@@ -1,22 +1,26 @@
 #pragma once
 // The player's end of the line: whole lines out, one line in at a time.
+#include <cstddef>
 #include <functional>
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tasca {
 
 // Where a session is played. With `Echoes` the terminal itself shows what is typed, its Enter
 // included; without (a pipe, a file) the program ends the line of the prompt. `Keyboard` is the
 // descriptor behind `In` of a player who can hear this machine's loudspeaker; without, the game is
-// silent.
+// silent. `Width` gives how many characters a line of `Out` takes at the moment: longer ones are
+// broken between words. Lines stay whole where it gives 0, and without it.
 struct TerminalStreams {
   std::istream& In;
   std::ostream& Out;
   std::ostream& Err;
   bool Echoes = false;
   int Keyboard = -1;
+  std::function<std::size_t()> Width = {};
 };
 
 // Why a player who no longer sees the table cannot play on.
@@ -24,7 +28,7 @@ inline constexpr std::u16string_view SalidaRota = u"No se puede escribir en la s
 
 class Console {
  public:
-  explicit Console(const TerminalStreams& flujos) : flujos_{flujos} {}
+  explicit Console(TerminalStreams flujos) : flujos_{std::move(flujos)} {}
 
   // Writes the text as lines of its own.
   void Line(std::u16string_view texto);

@@ -1,4 +1,5 @@
 // The program tasca-terminal.
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -21,6 +22,16 @@ int Keyboard() {
   return delante && !lejos ? STDIN_FILENO : -1;
 }
 
+// Of the terminal on which the game is shown, whose size can change at any time; 0 elsewhere.
+std::size_t Width() {
+  constexpr std::size_t corriente = 80;
+  if (::isatty(STDOUT_FILENO) == 0) return 0;
+  winsize medidas{};
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): ioctl() has no other form.
+  if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &medidas) != 0) return corriente;
+  return medidas.ws_col > 0 ? medidas.ws_col : corriente;
+}
+
 constexpr tasca::ProgramOptions Programa{
     .Name = "tasca-terminal",
     .Usage = "",
@@ -34,5 +45,6 @@ int main(int argc, char** argv) {
                                                             .Out = std::cout,
                                                             .Err = std::cerr,
                                                             .Echoes = ::isatty(STDIN_FILENO) != 0,
-                                                            .Keyboard = Keyboard()});
+                                                            .Keyboard = Keyboard(),
+                                                            .Width = Width});
 }
