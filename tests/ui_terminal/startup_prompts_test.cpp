@@ -185,6 +185,49 @@ TEST(AskStartup, RefusesANameOfMoreThanAHundredCharacters) {
   EXPECT_EQ(Utf8(a.t.NombreJugador), cien);
 }
 
+// What is said to that name; the one typed after it is taken.
+std::string AnswerToTheName(const std::string& nombre) {
+  AtTheDoor a{nombre + "\nEva\n\n\n\n\n\n\n"};
+  std::string texto = a.Ask();
+  const std::string pregunta = "Su nombre: [Ana] \n";
+  EXPECT_EQ(Utf8(a.t.NombreJugador), "Eva") << nombre;
+  EXPECT_TRUE(texto.starts_with(Bienvenida + pregunta)) << texto;
+  texto.erase(0, Bienvenida.size() + pregunta.size());
+  return texto.substr(0, texto.find(pregunta + Lista));
+}
+
+TEST(AskStartup, RefusesANameThatIsNotWrittenInUtf8) {
+  const std::string reparo =
+      "Alguna letra no ha llegado bien: la terminal debe escribir en UTF-8.\n";
+  EXPECT_EQ(AnswerToTheName("Jos\xE9"), reparo);
+  EXPECT_EQ(AnswerToTheName("Mu\xF1oz"), reparo);
+  EXPECT_EQ(AnswerToTheName("Jos\xC3"), reparo);
+}
+
+TEST(AskStartup, RefusesANameThatTheSettingsCannotHold) {
+  EXPECT_EQ(AnswerToTheName("Иван"), "El archivo no tiene sitio para ese carácter.\n");
+  EXPECT_EQ(AnswerToTheName("Ana \xF0\x9F\x98\x80"),
+            "El archivo no tiene sitio para ese carácter.\n");
+  EXPECT_EQ(AnswerToTheName("Ana>"),
+            "El signo > no puede guardarse: separa las partes del archivo.\n");
+  EXPECT_EQ(AnswerToTheName("A\tna"), "Un carácter de control no puede guardarse.\n");
+}
+
+TEST(AskStartup, TakesANameOfEveryKindOfLetterThatTheSettingsHold) {
+  AtTheDoor a{"José Muñoz-Œuvré €\n\n\n\n\n\n\n"};
+  a.Ask();
+  EXPECT_EQ(Utf8(a.t.NombreJugador), "José Muñoz-Œuvré €");
+  EXPECT_TRUE(a.Carpeta.Read("mus.ini").find("\r\nJos\xE9 Mu\xF1oz-\x8Cuvr\xE9 \x80>") !=
+              std::string::npos);
+}
+
+TEST(AskStartup, LeavesANameOfTheSettingsAloneThatCouldNotBeTyped) {
+  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\nA\x81na> Nombre\r\n");
+  EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [A\uFFFDna] \n" + Lista));
+  EXPECT_EQ(a.t.NombreJugador, u"A\u0081na");
+}
+
 TEST(AskStartup, LeavesALongerNameOfTheSettingsAlone) {
   const std::string largo(150, 'x');
   AtTheDoor a{"\n\n\n\n\n\n\n"};

@@ -3,6 +3,7 @@
 
 #include "base/endings.h"
 #include "base/text.h"
+#include "characters/editor.h"
 #include "startup/dlg_inicio.h"
 #include "ui/terminal/prompts.h"
 
@@ -72,15 +73,25 @@ void AskNarration(DlgInicio& d, Console& consola, const Prompts& preguntas) {
   consola.Line(Join(u"Así se contará: ", d.Text3));
 }
 
-// A longer name that the settings file already holds stays when it is left alone.
+// Why a name cannot be kept, as a sentence for the player; "" when it can.
+std::u16string_view ReparoAlNombre(std::u16string_view nombre) {
+  if (nombre.size() > AnchoNombre) return NombreDemasiadoLargo;
+  if (Contains(nombre, u"\uFFFD")) {
+    return u"Alguna letra no ha llegado bien: la terminal debe escribir en UTF-8.";
+  }
+  return ReparoAlTexto(nombre, static_cast<int>(nombre.size()), AnchoNombre);
+}
+
+// What the settings file already holds stays when it is left alone, whatever it is.
 void AskName(DlgInicio& d, Console& consola, const Prompts& preguntas) {
   for (;;) {
     const std::u16string nombre = preguntas.Text(u"Su nombre:", d.Text2);
-    if (nombre.size() <= AnchoNombre || nombre == d.Text2) {
+    const std::u16string_view reparo = nombre == d.Text2 ? u"" : ReparoAlNombre(nombre);
+    if (reparo.empty()) {
       d.Text2 = nombre;
       return;
     }
-    consola.Line(NombreDemasiadoLargo);
+    consola.Line(reparo);
   }
 }
 
