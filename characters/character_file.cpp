@@ -88,6 +88,10 @@ Integer ValorOrdaguero(std::u16string_view texto) {
   return LeadingWhole(texto.substr(0, Bastantes));
 }
 
+bool SeLeeComoSeEscribe(int ordaguero) {
+  return PrimerasCifras(TextoOrdaguero(ordaguero)) == ordaguero;
+}
+
 void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas) {
   if (const auto falta = lineas.CabeceraPendiente()) {
     archivo.FailAtEnd(Join(NombreDe(*falta), u" del personaje"));

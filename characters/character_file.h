@@ -18,6 +18,10 @@ std::filesystem::path ArchivoPersonajes(const Table& t);
 // Throws RunTimeError (overflow) outside 16 bits.
 Integer ValorOrdaguero(std::u16string_view texto);
 
+// True if the file's form of the propensity is read back as the same value: from 0 to 999. The sign
+// of a negative value takes the place of a digit.
+bool SeLeeComoSeEscribe(int ordaguero);
+
 // At the end of the file: throws RunTimeError when it ends within a record's head.
 void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas);
 

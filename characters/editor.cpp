@@ -43,17 +43,27 @@ std::u16string EntradaDe(int numero, const Personaje& personaje) {
   return Join(numero, u". ", personaje.Nombre.Trimmed());
 }
 
-void GuardarTextos(Dialog1& d, Personaje& personaje) {
+// False when the file could not hold the Ordaguero: then nothing changes.
+bool GuardarTextos(Dialog1& d, Personaje& personaje, EditorPort& port) {
+  const Integer ordaguero = ValorOrdaguero(d.Text2);
+  if (!SeLeeComoSeEscribe(ordaguero)) {
+    port.MsgBox(
+        Join(u"El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha "
+             u"escrito ",
+             ordaguero, u". Cámbielo y pruebe otra vez."));
+    return false;
+  }
   personaje.Nombre = Trim(d.Text1);
-  personaje.Ordaguero = ValorOrdaguero(d.Text2);
-  d.Text2 = ToText(personaje.Ordaguero);
+  personaje.Ordaguero = ordaguero;
+  d.Text2 = ToText(ordaguero);
   personaje.Historia = Trim(d.Text3);
+  return true;
 }
 
 // Kept: the new character takes over whatever phrases its place holds.
-void NuevoJugador(Dialog1& d, Table& t) {
+void NuevoJugador(Dialog1& d, Table& t, EditorPort& port) {
   Personaje& personaje = t.Personajes[d.NumPersonajes + 1];
-  GuardarTextos(d, personaje);
+  if (!GuardarTextos(d, personaje, port)) return;
   d.NumPersonajes = d.NumPersonajes + 1;
   d.List1.List.push_back(EntradaDe(d.NumPersonajes, personaje));
 }
@@ -61,7 +71,7 @@ void NuevoJugador(Dialog1& d, Table& t) {
 // Kept: the entry of List1 keeps its old text.
 void ReleerJugador(Dialog1& d, Table& t, EditorPort& port) {
   if (Elegido(d.List1) == 0) return port.Beep();
-  GuardarTextos(d, t.Personajes[Elegido(d.List1)]);
+  GuardarTextos(d, t.Personajes[Elegido(d.List1)], port);
 }
 
 // Moves every character after `eliminado` one place down; the place that it leaves has no phrases.
@@ -155,7 +165,7 @@ void MostrarPersonaje(Dialog1& d, const Table& t, int personaje) {
 }
 
 void Command1_Click(Dialog1& d, Table& t, EditorPort& port, int indice) {
-  if (indice == 0) NuevoJugador(d, t);
+  if (indice == 0) NuevoJugador(d, t, port);
   if (indice == 1) EliminarJugador(d, t, port);
   if (indice == 2) ReleerJugador(d, t, port);
 }

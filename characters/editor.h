@@ -68,8 +68,9 @@ void List3_Click(Dialog1& d, int posicion);
 void MostrarPersonaje(Dialog1& d, const Table& t, int personaje);
 
 // Button 0 adds a character with the data of the three text boxes, 1 deletes the selected one once
-// that is confirmed, 2 stores the text boxes into the selected one. Throws RunTimeError for a 101st
-// character, and for an Ordaguero outside 16 bits.
+// that is confirmed, 2 stores the text boxes into the selected one. An Ordaguero that the file
+// could not hold is refused with a message: nothing changes, the text boxes stay. Throws
+// RunTimeError for a 101st character, and for an Ordaguero outside 16 bits.
 void Command1_Click(Dialog1& d, Table& t, EditorPort& port, int indice);
 
 // Button 0 asks for the selected phrase's new text, 1 clears the phrase. Asking throws RunTimeError

@@ -209,6 +209,12 @@ TEST(ValorOrdaguero, IsTheWholeNumberAtTheStart) {
   EXPECT_EQ(ValorOrdaguero(u"32767"), 32767);
 }
 
+TEST(SeLeeComoSeEscribe, IsTrueFrom0To999) {
+  for (int valor = -32768; valor <= 32767; ++valor) {
+    EXPECT_EQ(SeLeeComoSeEscribe(valor), valor >= 0 && valor <= 999) << valor;
+  }
+}
+
 TEST(ValorOrdaguero, OverflowsOutside16Bits) {
   const std::string desbordamiento =
       std::string{"Desbordamiento: el número no está entre -32768 y 32767."} + FinDelPrograma;

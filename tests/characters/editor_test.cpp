@@ -238,6 +238,51 @@ TEST(NuevoJugador, EndsTheProgramForAnOrdagueroOutside16Bits) {
   EXPECT_EQ(ErrorOf([&] { Command1_Click(e.d, e.t, e.port, 0); }), Desbordamiento);
 }
 
+constexpr auto OrdagueroNoCabe =
+    "box: El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha escrito ";
+
+TEST(NuevoJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
+  for (const int valor : {-999, -100, -10, -9, -1, 1000, 32767}) {
+    Taller e{1};
+    const Table antes = e.t;
+    e.d.Text1 = u" Lola ";
+    e.d.Text2 = Join(valor, u"x");
+    e.d.Text3 = u"Baila.";
+    Command1_Click(e.d, e.t, e.port, 0);
+    EXPECT_EQ(e.port.TakeEvents(),
+              (Textos{OrdagueroNoCabe + std::to_string(valor) + ". Cámbielo y pruebe otra vez."}));
+    EXPECT_EQ(e.t, antes);
+    EXPECT_EQ(e.d.NumPersonajes, 1);
+    EXPECT_EQ(Entradas(e.d.List1), Textos{"1. P1"});
+    EXPECT_EQ(Campos(e.d), (Textos{" Lola ", std::to_string(valor) + "x", "Baila."}));
+  }
+}
+
+TEST(NuevoJugador, TakesEveryOrdagueroThatComesBackFromTheFile) {
+  for (const int valor : {0, 1, 10, 99, 100, 999}) {
+    Taller e;
+    e.d.Text2 = ToText(valor);
+    Command1_Click(e.d, e.t, e.port, 0);
+    Command3_Click(e.d, e.t, e.port, 0);
+    e.t.Personajes[1].Ordaguero = -1;
+    LeerPersonajes(e.t);
+    EXPECT_EQ(e.t.Personajes[1].Ordaguero, valor);
+  }
+}
+
+TEST(ReleerJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
+  Taller e{2};
+  List1_Click(e.d, e.t, 1);
+  const Table antes = e.t;
+  e.d.Text1 = u"Lola";
+  e.d.Text2 = u"-10";
+  Command1_Click(e.d, e.t, e.port, 2);
+  EXPECT_EQ(e.port.TakeEvents(),
+            (Textos{std::string{OrdagueroNoCabe} + "-10. Cámbielo y pruebe otra vez."}));
+  EXPECT_EQ(e.t, antes);
+  EXPECT_EQ(Campos(e.d), (Textos{"Lola", "-10", "H2"}));
+}
+
 TEST(ReleerJugador, StoresTheThreeTextsIntoTheSelectedCharacter) {
   Taller e{3};
   List1_Click(e.d, e.t, 1);
