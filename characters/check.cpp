@@ -10,6 +10,7 @@
 #include "base/line_file.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/utf8_check.h"
 #include "characters/character_file.h"
 #include "characters/check_notes.h"
 
@@ -224,6 +225,12 @@ void ExaminarLetras(CuadernoFaltas& c, std::u16string_view linea) {
   }
 }
 
+// How the file was saved. Line by line, since no sequence of bytes holds a line's end.
+struct Codificacion {
+  bool EsUtf8 = true;
+  int PrimeraLinea = 0;  // with a sequence of several bytes; 0 for none yet
+};
+
 // The three readers at work.
 struct Examen {
   CuadernoFaltas Apuntes;
@@ -231,6 +238,7 @@ struct Examen {
       {{.Quien = LectorJuego, .Lineas = LineasPersonajes{LectorPersonajes::Juego}},
        {.Quien = LectorEditor, .Lineas = LineasPersonajes{LectorPersonajes::Editor}}}};
   Oferta Ofrece;
+  Codificacion Bytes;
 };
 
 void ExaminarLinea(Examen& e, std::u16string_view linea) {
@@ -271,6 +279,20 @@ void ExaminarFinal(Examen& e) {
   }
 }
 
+void ExaminarBytes(Codificacion& codificacion, int linea, std::string_view bytes) {
+  const Utf8Check son = CheckUtf8(bytes);
+  if (son == Utf8Check::Invalid) codificacion.EsUtf8 = false;
+  const bool esLaPrimera = son == Utf8Check::MultiByte && codificacion.PrimeraLinea == 0;
+  if (esLaPrimera) codificacion.PrimeraLinea = linea;
+}
+
+void AnotarCodificacion(CuadernoFaltas& c, const Codificacion& codificacion) {
+  if (!codificacion.EsUtf8 || codificacion.PrimeraLinea == 0) return;
+  c.Anotar(TodosLosLectores, codificacion.PrimeraLinea,
+           u"el archivo parece guardado en UTF-8, y así sus acentos se ven mal: guárdelo en "
+           u"Windows-1252 (ANSI)");
+}
+
 // The next line; false at the end. A line that is too long ends the reading for everyone.
 bool SiguienteLinea(LineReader& archivo, std::string& bytes, CuadernoFaltas& c,
                     bool& interrumpido) {
@@ -290,6 +312,7 @@ void ExaminarArchivo(Examen& e, LineReader& archivo) {
   bool interrumpido = false;
   std::string bytes;
   while (SiguienteLinea(archivo, bytes, e.Apuntes, interrumpido)) {
+    ExaminarBytes(e.Bytes, e.Apuntes.Linea, bytes);
     ExaminarLinea(e, Decode(WithoutLineEnd(bytes)));
     if (e.Apuntes.Cuantas() < MaximoNotas) continue;
     e.Apuntes.Anotar(TodosLosLectores, u"hay demasiadas faltas: no se mira más allá");
@@ -304,6 +327,7 @@ Revision RevisarPersonajes(const std::filesystem::path& archivo) {
   LineReader lineas{archivo};
   Examen examen;
   ExaminarArchivo(examen, lineas);
+  AnotarCodificacion(examen.Apuntes, examen.Bytes);
   return {.Faltas = examen.Apuntes.Faltas(),
           .Personajes = examen.Completos.front().Lineas.Personaje(),
           .Ofrecidos = examen.Ofrece.Ofrecidos};

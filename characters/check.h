@@ -24,8 +24,9 @@ struct Revision {
 };
 
 // Reads the file to its end, or to a line that is too long for every reader, and lists every fault;
-// only a file with faults by the hundred thousand is left at that. A fault that does not concern
-// both the game and the editor names its reader. Throws RunTimeError when the file cannot be read.
+// only a file with faults by the hundred thousand is left at that. Being saved as UTF-8 is one
+// fault, at the first line that shows it. A fault that does not concern both the game and the
+// editor names its reader. Throws RunTimeError when the file cannot be read.
 Revision RevisarPersonajes(const std::filesystem::path& archivo);
 
 }  // namespace tasca

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "base/endings.h"
@@ -37,6 +38,35 @@ TEST(RevisarPersonajes, TakesEitherLineEndAndALastLineWithoutOne) {
   EXPECT_EQ(Faltas(bytes), SinFaltas);
   bytes.pop_back();
   EXPECT_EQ(Faltas(bytes), SinFaltas);
+}
+
+// The encoding.
+
+const std::string EnUtf8 =
+    "el archivo parece guardado en UTF-8, y así sus acentos se ven mal: guárdelo en Windows-1252 "
+    "(ANSI).";
+
+TEST(RevisarPersonajes, FindsAFileSavedAsUtf8AtItsFirstLineOfSeveralBytes) {
+  const Fichero fichero = Fichero{}.Cambiar(68, "Bailó.").Cambiar(70, "¡mus!").Cambiar(72, "no");
+  EXPECT_EQ(Faltas(fichero), (Textos{"68: " + EnUtf8}));
+}
+
+TEST(RevisarPersonajes, FindsAByteOrderMark) {
+  const Textos faltas = Faltas("\xEF\xBB\xBF" + Fichero{}.Bytes());
+  EXPECT_EQ(std::count(faltas.begin(), faltas.end(), "1: " + EnUtf8), 1);
+}
+
+// "Ã©" is two bytes of Windows-1252 that are one character of UTF-8.
+TEST(RevisarPersonajes, TakesWindows1252ForWhatItIs) {
+  EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "Bail\xF3.")), SinFaltas);
+  EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "\xC3\xA9.").Cambiar(159, "Bail\xF3.")), SinFaltas);
+  EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "Bail\xF3.").Cambiar(70, "\xC3\xA9.")), SinFaltas);
+}
+
+TEST(RevisarPersonajes, FindsUtf8InALastLineWithoutAnEnd) {
+  std::string bytes = Fichero{}.Cambiar(160, "adiós").Bytes();
+  bytes.resize(bytes.size() - 2);
+  EXPECT_EQ(Faltas(bytes), (Textos{"160: " + EnUtf8}));
 }
 
 // What would stop the program.
@@ -199,7 +229,7 @@ TEST(RevisarPersonajes, FindsAFourthPhrase) {
 
 TEST(RevisarPersonajes, FindsAPhraseUnderARepeatedMarker) {
   EXPECT_EQ(
-      Faltas(Fichero{}.Insertar(97, {"QMus>", "otra", "más"})),
+      Faltas(Fichero{}.Insertar(97, {"QMus>", "otra", "una"})),
       (Textos{"98: ya hay una frase 1 de \"QMus\": esta toma su sitio y aquella se pierde."}));
 }
 
