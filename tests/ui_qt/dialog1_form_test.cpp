@@ -85,6 +85,13 @@ TEST_F(EditorWindow, HasTheCaptionsOfTheButtons) {
                              "&Cargar de disco", "Aceptar"}));
 }
 
+TEST_F(EditorWindow, AddsNoCharacterForAHeldKey) {
+  Find<QPushButton>("Command1_0")->setFocus();
+  Press(&ventana_, Qt::Key_Return);
+  for (int i = 0; i < 200; ++i) Repeat(&ventana_, Qt::Key_Return);
+  EXPECT_EQ(Find<QListWidget>("List1")->count(), 1);
+}
+
 TEST_F(EditorWindow, StartsWithTheKindsOfPhraseAlone) {
   EXPECT_EQ(Shown("List1"), Textos{});
   EXPECT_EQ(Shown("List3"), Textos{});

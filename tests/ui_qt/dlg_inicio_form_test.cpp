@@ -230,6 +230,16 @@ TEST_F(DlgInicioWindow, EnterAccepts) {
   EXPECT_EQ(salidas_, 0);
 }
 
+TEST_F(DlgInicioWindow, AHeldKeyNeitherAcceptsNorLeaves) {
+  for (const char* const nombre : {"Text2", "Combo1", "CbOK", "CbCancel"}) {
+    Find<QWidget>(nombre)->setFocus();
+    Repeat(&ventana_, Qt::Key_Return);
+    Repeat(&ventana_, Qt::Key_Escape);
+  }
+  EXPECT_EQ(aceptadas_, 0);
+  EXPECT_EQ(salidas_, 0);
+}
+
 TEST_F(DlgInicioWindow, LeavesBySalirByEscAndByClosing) {
   Find<QPushButton>("CbCancel")->click();
   EXPECT_EQ(salidas_, 1);

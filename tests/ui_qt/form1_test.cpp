@@ -105,6 +105,31 @@ TEST_F(Form1Window, PassesQAndDoesNotTypeIt) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "");
 }
 
+TEST_F(Form1Window, PlaysOneStepForAHeldKey) {
+  Press(&ventana_, Qt::Key_Return);
+  for (int i = 0; i < 100; ++i) Repeat(&ventana_, Qt::Key_Return);
+  Repeat(&ventana_, Qt::Key_Enter, Qt::KeypadModifier);
+  Press(&ventana_, Qt::Key_Q);
+  Repeat(&ventana_, Qt::Key_Q);
+  Text2()->setFocus();
+  Repeat(&ventana_, Qt::Key_Return);
+  EXPECT_EQ(teclas_, (std::vector<Pulsada>{{TeclaEnter, 0}, {TeclaQ, 0}}));
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "");
+}
+
+TEST_F(Form1Window, CountsEveryPressHoweverQuick) {
+  for (int i = 0; i < 5; ++i) Press(&ventana_, Qt::Key_Return);
+  EXPECT_EQ(teclas_.size(), 5U);
+}
+
+TEST_F(Form1Window, TypesALetterThatIsHeld) {
+  Press(&ventana_, Qt::Key_A);
+  Repeat(&ventana_, Qt::Key_A);
+  Repeat(&ventana_, Qt::Key_A);
+  Repeat(&ventana_, Qt::Key_Backspace);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "aa");
+}
+
 TEST_F(Form1Window, TypesWhatTheRulesLeaveAlone) {
   QTest::keyClicks(Text1(), QStringLiteral("hola"));
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "hola");
@@ -275,6 +300,7 @@ TEST_F(Form1Window, ShowsTextFromFilesAsPlainText) {
 TEST_F(Form1Window, TurnsTheSoundOffAndOnByF9FromAnyControl) {
   const auto* const sonido = Control<QAction>(&ventana_, "Sonido");
   EXPECT_TRUE(sonido->isChecked());
+  EXPECT_FALSE(sonido->autoRepeat());
   Press(&ventana_, Qt::Key_F9);
   EXPECT_FALSE(sonido->isChecked());
   Text2()->setFocus();

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QDeadlineTimer>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QTest>
 #include <algorithm>
 #include <utility>
@@ -25,6 +26,19 @@ bool TakesKeys(const QWidget* ventana) {
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
   QWidget* const control = ventana->focusWidget();
   QTest::keyClick(control != nullptr ? control : ventana, tecla, con);
+}
+
+// A letter comes with its text, as from a keyboard.
+void Repeat(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
+  QWidget* const control = ventana->focusWidget() != nullptr ? ventana->focusWidget() : ventana;
+  const bool esLetra = tecla >= Qt::Key_A && tecla <= Qt::Key_Z;
+  const QString texto =
+      esLetra ? QString{QChar{static_cast<char16_t>(tecla)}}.toLower() : QString{};
+  QKeyEvent atajo{QEvent::ShortcutOverride, tecla, con, texto, true};
+  atajo.ignore();
+  QApplication::sendEvent(control, &atajo);
+  QKeyEvent pulsada{QEvent::KeyPress, tecla, con, texto, true};
+  QApplication::sendEvent(control, &pulsada);
 }
 
 void Type(QWidget* control, const char* texto) {

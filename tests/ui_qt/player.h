@@ -28,6 +28,9 @@ bool TakesKeys(const QWidget* ventana);
 // A key for the control that has the focus in `ventana`.
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
 
+// The same key again, as the keyboard sends it while it is held down.
+void Repeat(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
+
 // The keys that write `texto`, one character each, for a control.
 void Type(QWidget* control, const char* texto);
 

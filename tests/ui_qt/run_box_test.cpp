@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <array>
+#include <utility>
 
 #include "table/dialog.h"
 #include "tests/support/tables.h"
@@ -119,6 +121,92 @@ TEST(RunBox, LeavesTheFocusToThePlayerOnceItHasBeenThere) {
   const std::array teclas{Qt::Key_Tab, Qt::Key_Return};
   const BoxAnswerer jugador{[&](QWidget* caja) { Press(caja, teclas.at(pulsadas++)); }};
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
+}
+
+// Holds one key after another down in every box, then presses `alFin`. Gives whether the held keys
+// have left the box alone.
+class KeyHolder {
+ public:
+  explicit KeyHolder(Qt::Key alFin) : alFin_{alFin} {}
+
+  bool Done() const { return pulsadas_ == teclas_.size(); }
+
+ private:
+  void Look(QWidget* caja) {
+    if (Done()) return Press(caja, alFin_);
+    const auto [tecla, con] = teclas_.at(pulsadas_++);
+    Repeat(caja, tecla, con);
+  }
+
+  static constexpr std::array<std::pair<Qt::Key, Qt::KeyboardModifier>, 8> teclas_{
+      {{Qt::Key_Return, Qt::NoModifier},
+       {Qt::Key_Enter, Qt::KeypadModifier},
+       {Qt::Key_Escape, Qt::NoModifier},
+       {Qt::Key_S, Qt::NoModifier},
+       {Qt::Key_N, Qt::NoModifier},
+       {Qt::Key_S, Qt::AltModifier},
+       {Qt::Key_N, Qt::ShiftModifier},
+       {Qt::Key_Return, Qt::ShiftModifier}}};
+
+  Qt::Key alFin_;
+  std::size_t pulsadas_ = 0;
+  BoxAnswerer jugador_{[this](QWidget* caja) { Look(caja); }};
+};
+
+TEST(HeldKey, AnswersNoQuestion) {
+  const KeyHolder jugador{Qt::Key_N};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
+  EXPECT_TRUE(jugador.Done());
+}
+
+TEST(HeldKey, ReadsNoMessage) {
+  const KeyHolder jugador{Qt::Key_Return};
+  ShowMessage(nullptr, u"La pareja 1 gana");
+  EXPECT_TRUE(jugador.Done());
+}
+
+TEST(HeldKey, BidsNothing) {
+  const KeyHolder jugador{Qt::Key_Return};
+  QtPort port;
+  Dialog dialogo;
+  Form_Activate(dialogo);
+  port.ShowDialog(MesaDePrueba(), dialogo);
+  EXPECT_TRUE(jugador.Done());
+}
+
+TEST(HeldKey, WritesInABoxButDoesNotCloseIt) {
+  const KeyHolder jugador{Qt::Key_Return};
+  EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "snn");
+  EXPECT_TRUE(jugador.Done());
+}
+
+TEST(HeldKey, ClosesNoPhraseBox) {
+  const KeyHolder jugador{Qt::Key_Return};
+  EXPECT_EQ(Utf8(AskPhrase(nullptr, u"Nuevo mensaje:", u"Mensaje", u"van", 10)), "snn");
+  EXPECT_TRUE(jugador.Done());
+}
+
+TEST(HeldKey, MovesTheFocus) {
+  bool movido = false;
+  const BoxAnswerer jugador{[&movido](QWidget* caja) {
+    if (std::exchange(movido, true)) return Press(caja, Qt::Key_Return);
+    Repeat(caja, Qt::Key_Tab);
+  }};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
+}
+
+// The access key of a button: an accepted override keeps it from the button.
+TEST(HeldKey, PressesNoButtonByItsAccessKey) {
+  bool aceptado = false;
+  const BoxAnswerer jugador{[&aceptado](QWidget* caja) {
+    QKeyEvent atajo{QEvent::ShortcutOverride, Qt::Key_N, Qt::AltModifier, QString{}, true};
+    atajo.ignore();
+    QApplication::sendEvent(caja->focusWidget(), &atajo);
+    aceptado = atajo.isAccepted();
+    Press(caja, Qt::Key_Return);
+  }};
+  EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), true);
+  EXPECT_TRUE(aceptado);
 }
 
 }  // namespace

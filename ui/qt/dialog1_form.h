@@ -9,6 +9,7 @@
 
 #include "characters/editor.h"
 #include "ui/qt/guarded_text.h"
+#include "ui/qt/repeat_guard.h"
 #include "ui/qt/status_line.h"
 
 namespace tasca {
@@ -60,6 +61,7 @@ class Dialog1Form : public QWidget {
   std::array<QPushButton*, 2> command2_;
   std::array<QPushButton*, 2> command3_;
   QPushButton* cbOK_;
+  RepeatGuard repeticiones_{*this};
 };
 
 }  // namespace tasca

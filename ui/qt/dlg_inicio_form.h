@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "startup/dlg_inicio.h"
+#include "ui/qt/repeat_guard.h"
 #include "ui/qt/status_line.h"
 
 namespace tasca {
@@ -57,6 +58,8 @@ class DlgInicioForm : public QDialog {
   std::array<QRadioButton*, 2> option1_;
   QPushButton* cbOK_;
   QPushButton* cbCancel_;
+  // The Enter that asked for other companions may still be held.
+  RepeatGuard repeticiones_{*this};
 };
 
 }  // namespace tasca

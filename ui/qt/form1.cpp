@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/keys.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qt_text.h"
 
@@ -100,6 +101,7 @@ QMenuBar* Form1::BuildMenu(bool conSonido) {
   auto* const sonido = opciones->addAction(QStringLiteral("&Sonido"));
   sonido->setObjectName(QStringLiteral("Sonido"));
   sonido->setShortcut(Qt::Key_F9);
+  sonido->setAutoRepeat(false);
   sonido->setCheckable(true);
   sonido->setChecked(conSonido);
   connect(sonido, &QAction::toggled, this, [this](bool encendido) {
@@ -165,6 +167,8 @@ bool Form1::KeyInText1(const QKeyEvent& suceso) {
     return true;
   }
   const Tecla tecla = TeclaDe(suceso);
+  const bool juega = tecla.KeyCode == TeclaEnter || tecla.KeyCode == TeclaQ;
+  if (juega && suceso.isAutoRepeat()) return true;  // One key press is one step.
   Integer codigo = tecla.KeyCode;
   sucesos_.Text1_KeyDown(codigo, tecla.Shift);
   return codigo == 0;

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include "ui/qt/repeat_guard.h"
+
 namespace tasca {
 namespace {
 
@@ -41,6 +43,7 @@ class KeyGuard : public QObject {
 }  // namespace
 
 int RunBox(QDialog& caja, QWidget* inicial) {
+  const RepeatGuard repeticiones{caja};
   const KeyGuard guarda{caja, inicial};
   inicial->setFocus();
   return caja.exec();
