@@ -9,4 +9,9 @@ inline constexpr int Tecla0 = 48;
 inline constexpr int TeclaF2 = 113;
 inline constexpr int MayusculasYControl = 3;  // Shift and Ctrl, nothing else
 
+// Ctrl+Shift+0, which lays all hands open and is left to the input line too.
+constexpr bool EsTeclaDeVerManos(int KeyCode, int Shift) {
+  return KeyCode == Tecla0 && Shift == MayusculasYControl;
+}
+
 }  // namespace tasca

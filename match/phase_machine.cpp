@@ -66,7 +66,7 @@ void Text1_KeyDown(Game& g, Integer& KeyCode, Integer Shift) {
   } else if (KeyCode == TeclaQ) {
     KeyCode = 0;
     EmpezarMano(g);
-  } else if (KeyCode == Tecla0 && Shift == MayusculasYControl) {
+  } else if (EsTeclaDeVerManos(KeyCode, Shift)) {
     MostrarManos(g.t, TodosLosAsientos);
   }
 }

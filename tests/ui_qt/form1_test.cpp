@@ -139,12 +139,21 @@ TEST_F(Form1Window, LeavesTypedTextAloneUntilTheRulesRewriteIt) {
   estado_.Text1 = u"As";
   ventana_.ShowTexts(estado_);
   QTest::keyClicks(Text1(), QStringLiteral("mi "));
-  estado_.Text2 = u"otra cosa";
-  ventana_.ShowTexts(estado_);
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "mi As");
+  ventana_.ShowTexts(estado_);
+  EXPECT_EQ(Utf8(Text1()->toPlainText()), "As");
+  QTest::keyClicks(Text1(), QStringLiteral("mi "));
   estado_.Text1 = u"Dos";
   ventana_.ShowTexts(estado_);
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "Dos");
+}
+
+TEST_F(Form1Window, KeepsTheCursorWhereTheTextStaysTheSame) {
+  estado_.Text1 = u"As de oros";
+  ventana_.ShowTexts(estado_);
+  Text1()->moveCursor(QTextCursor::End);
+  ventana_.ShowTexts(estado_);
+  EXPECT_TRUE(Text1()->textCursor().atEnd());
 }
 
 TEST_F(Form1Window, GrowsTheInputLineForFourHandsAndShrinksItAgain) {

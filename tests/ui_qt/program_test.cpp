@@ -249,6 +249,59 @@ TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
   EXPECT_EQ(vistas.at(2).count(u'\n'), 0);
 }
 
+constexpr Qt::KeyboardModifiers ParaVerManos = Qt::ControlModifier | Qt::ShiftModifier;
+
+TEST_F(ProgramInWindows, LaysTheSameHandsOpenOverWhatWasTyped) {
+  SetTable(carpeta_);
+  enLaMesa_ = [](QWidget* ventana) {
+    auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
+    Press(ventana, Qt::Key_0, ParaVerManos);
+    const std::string manos = Utf8(text1->toPlainText());
+    Type(text1, "zzz");
+    EXPECT_EQ(Utf8(text1->toPlainText()), "zzz" + manos);
+    Press(ventana, Qt::Key_0, ParaVerManos);
+    EXPECT_EQ(Utf8(text1->toPlainText()), manos);
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+}
+
+TEST_F(ProgramInWindows, ShowsTheHandBesideAQuestionAndAfterAStepOverWhatWasTyped) {
+  SetTable(carpeta_);
+  std::string mano;
+  int preguntas = 0;
+  enLaMesa_ = [&](QWidget* ventana) {
+    auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
+    if (mano.empty()) mano = Utf8(text1->toPlainText());
+    EXPECT_EQ(Utf8(text1->toPlainText()), mano);
+    if (preguntas > 0) return static_cast<void>(ventana->close());
+    Type(text1, "zzz");
+    Press(ventana, Qt::Key_Return);
+  };
+  const int estado = Play([&](const QString& pregunta) {
+    const auto* const text1 = Control<QPlainTextEdit>(VisibleWindow("Form1"), "Text1");
+    EXPECT_EQ(Utf8(text1->toPlainText()), mano) << Utf8(pregunta);
+    ++preguntas;
+    return CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_GE(preguntas, 1);
+}
+
+TEST_F(ProgramInWindows, LeavesTypedTextAloneWhileNoStepRuns) {
+  SetTable(carpeta_);
+  enLaMesa_ = [](QWidget* ventana) {
+    auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
+    const std::string mano = Utf8(text1->toPlainText());
+    Type(text1, "mi mano: ");
+    Press(ventana, Qt::Key_0, Qt::ControlModifier);
+    Press(ventana, Qt::Key_Left);
+    EXPECT_EQ(Utf8(text1->toPlainText()), "mi mano: " + mano);
+    ventana->close();
+  };
+  EXPECT_EQ(Play(CutAndPass), 0);
+}
+
 TEST_F(ProgramInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
   for (const char* const caja : {"YesNoBox", "Dialog", "InputBox"}) {
     SetTable(carpeta_);

@@ -119,7 +119,7 @@ void Form1::ShowHelp(bool conSonido) {
 }
 
 void Form1::ShowTexts(const Form1State& estado) {
-  if (Renovar(copiado1_, estado.Text1)) text1_->ShowText(ToDisplay(estado.Text1));
+  text1_->ShowText(ToDisplay(estado.Text1));
   if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
   if (Renovar(copiado3_, estado.Text3)) text3_->setText(ToDisplay(estado.Text3));
 }

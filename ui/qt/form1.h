@@ -25,8 +25,7 @@ class Form1 : public QWidget {
 
   explicit Form1(Events sucesos, bool conSonido = true);
 
-  // Copies the texts that the rules have changed since the last time; what the player has typed
-  // into Text1 stays until then.
+  // Shows the texts as the rules have left them. What the player has typed into Text1 goes.
   void ShowTexts(const Form1State& estado);
   void FocusInput();
 
@@ -48,7 +47,6 @@ class Form1 : public QWidget {
   Transcript* text2_;
   QLineEdit* text3_;
   QLabel* ayuda_;
-  std::u16string copiado1_;
   std::u16string copiado2_;
   std::u16string copiado3_;
 };

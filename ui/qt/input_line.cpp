@@ -19,7 +19,9 @@ InputLine::InputLine(QWidget* padre, KeyHandler alPulsar)
   FitHeight();
 }
 
-void InputLine::ShowText(const QString& texto) { setPlainText(texto); }
+void InputLine::ShowText(const QString& texto) {
+  if (toPlainText() != texto) setPlainText(texto);
+}
 
 void InputLine::keyPressEvent(QKeyEvent* suceso) {
   if (!alPulsar_(*suceso)) QPlainTextEdit::keyPressEvent(suceso);

@@ -13,7 +13,7 @@ class InputLine : public QPlainTextEdit {
 
   InputLine(QWidget* padre, KeyHandler alPulsar);
 
-  // Replaces what stands there, what was typed included.
+  // Replaces what stands there, what was typed included. The same text keeps its cursor.
   void ShowText(const QString& texto);
 
  protected:

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <utility>
 
+#include "base/keys.h"
 #include "ui/qt/boxes.h"
 
 namespace tasca {
@@ -73,7 +74,8 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
     KeyCode = 0;
     return;
   }
-  form1_->ShowTexts(sesion_.Mesa());
+  const bool haJugado = KeyCode == 0 || EsTeclaDeVerManos(KeyCode, Shift);
+  if (haJugado) form1_->ShowTexts(sesion_.Mesa());
   form1_->FocusInput();
   if (situacion != Situacion::OtrosJugadores) return;
   enPaso_ = true;
