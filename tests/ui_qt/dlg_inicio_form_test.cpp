@@ -158,6 +158,75 @@ TEST_F(DlgInicioWindow, LeavesALongerNameOfTheSettingsAlone) {
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
+TEST_F(DlgInicioWindow, KeepsANameThatNobodyTouchesByteForByte) {
+  const std::u16string raro = u"A\u0081B\tC";
+  estado_.Text2 = raro;
+  ventana_.ShowState();
+  EXPECT_EQ(estado_.Text2, raro);
+  auto* const nombre = Find<QLineEdit>("Text2");
+  nombre->end(false);
+  QTest::keyClicks(nombre, QStringLiteral("x"));
+  EXPECT_EQ(Utf8(estado_.Text2), "AB Cx");
+  Press(&ventana_, Qt::Key_Backspace);
+  EXPECT_EQ(estado_.Text2, raro) << "as it was";
+  EXPECT_EQ(LabelText("Status"), "");
+}
+
+constexpr auto SinSitio = "El archivo no tiene sitio para ese carácter.";
+constexpr auto Separador = "El signo > no puede guardarse: separa las partes del archivo.";
+
+TEST_F(DlgInicioWindow, RefusesANameThatTheSettingsCannotHold) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  nombre->deselect();
+  Type(nombre, ">");
+  EXPECT_EQ(LabelText("Status"), Separador);
+  EXPECT_EQ(Utf8(estado_.Text2), "Ana");
+  Type(nombre, "ñ");
+  EXPECT_EQ(LabelText("Status"), "");
+  Type(nombre, "ł");
+  EXPECT_EQ(LabelText("Status"), SinSitio);
+  nombre->selectAll();
+  QGuiApplication::clipboard()->setText(QStringLiteral("日本"));
+  nombre->paste();
+  EXPECT_EQ(LabelText("Status"), SinSitio);
+  EXPECT_EQ(Utf8(estado_.Text2), "Anañ");
+}
+
+TEST_F(DlgInicioWindow, ForgetsARefusalWhenTheLastCharacterFits) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  nombre->setText(QString{99, QChar{u'x'}});
+  Type(nombre, ">");
+  EXPECT_EQ(LabelText("Status"), Separador);
+  Type(nombre, "y");
+  EXPECT_EQ(LabelText("Status"), "");
+  Type(nombre, "y");
+  EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
+}
+
+// What an input method sends: first what is being composed, then what comes of it.
+void Compose(QWidget* control, const char* enCurso, const char* escrito) {
+  QInputMethodEvent suceso{QString::fromUtf8(enCurso), {}};
+  suceso.setCommitString(QString::fromUtf8(escrito));
+  QApplication::sendEvent(control, &suceso);
+}
+
+TEST_F(DlgInicioWindow, KeepsTheNameWhenAComposedOneIsRefused) {
+  auto* const nombre = Find<QLineEdit>("Text2");
+  nombre->selectAll();
+  Compose(nombre, "ri", "");
+  Compose(nombre, "", "日");
+  EXPECT_EQ(Utf8(estado_.Text2), "Ana");
+  EXPECT_EQ(Utf8(nombre->selectedText()), "Ana");
+  EXPECT_EQ(LabelText("Status"), SinSitio);
+  Compose(nombre, "´", "");
+  Compose(nombre, "", "");
+  EXPECT_EQ(Utf8(estado_.Text2), "Ana") << "nothing was written";
+  Compose(nombre, "´", "");
+  Compose(nombre, "", "é");
+  EXPECT_EQ(Utf8(estado_.Text2), "é");
+  EXPECT_EQ(LabelText("Status"), "");
+}
+
 TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
   auto* const combo1 = Find<QComboBox>("Combo1");
   combo1->setFocus();

@@ -420,6 +420,20 @@ TEST_F(ProgramInWindows, PlaysWithoutSavingTheNameAndTellsSoOnce) {
   EXPECT_EQ(Asked(OtraPartida), 2);
 }
 
+TEST_F(ProgramInWindows, WritesANameThatNobodyTouchedAsItWas) {
+  SetTable(carpeta_);
+  carpeta_.Write("mus.ini",
+                 "35\r\n3\r\n3\r\nA\x81"
+                 "B\tC> anterior\r\n");
+  enLaMesa_ = [](QWidget* ventana) { ventana->close(); };
+  EXPECT_EQ(Play(CutAndPass), 0);
+  const std::string escrito = carpeta_.Read("mus.ini");
+  EXPECT_EQ(escrito.find("A\x81"
+                         "B\tC> Nombre"),
+            std::string{"35\r\n3\r\n3\r\n"}.size())
+      << escrito;
+}
+
 TEST_F(ProgramInWindows, SaysWhyTheChoiceOfCompanionsIsNoGood) {
   SetTable(carpeta_);
   int intentos = 0;

@@ -3,36 +3,16 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QFocusEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QMetaObject>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "ui/qt/qt_text.h"
 
 namespace tasca {
 namespace {
-
-// The name, selected as a whole when it gets the focus, so that typing replaces it.
-class NameEdit : public QLineEdit {
- public:
-  using QLineEdit::QLineEdit;
-
- protected:
-  // A click sets the cursor after the focus has come, and would undo the selection.
-  void focusInEvent(QFocusEvent* suceso) override {
-    QLineEdit::focusInEvent(suceso);
-    if (suceso->reason() == Qt::MouseFocusReason) {
-      QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
-    } else {
-      selectAll();
-    }
-  }
-};
 
 QLabel* Texto(QWidget* padre) {
   auto* const texto = new QLabel{padre};
@@ -68,7 +48,7 @@ DlgInicioForm::DlgInicioForm(DlgInicio& estado, Events sucesos)
     : sucesos_{std::move(sucesos)},
       estado_{estado},
       text1_{Texto(this)},
-      text2_{new NameEdit{this}},
+      text2_{new NameEdit{this, [this](std::u16string_view reparo) { RefuseName(reparo); }}},
       estadoTexto_{new StatusLine{this}},
       text3_{Hoja(this, 1)},
       text4_{Hoja(this, 7)},
@@ -144,22 +124,16 @@ void DlgInicioForm::Connect() {
 
 // What does not fit is cut off what is pasted: the line of status stays until there is room again.
 void DlgInicioForm::ConnectName() {
-  text2_->setMaxLength(AnchoNombre);
   connect(text2_, &QLineEdit::textChanged, this, [this](const QString& texto) {
-    estado_.Text2 = FromInput(texto);
-    if (texto.size() < text2_->maxLength()) estadoTexto_->ShowText({});
-  });
-  connect(text2_, &QLineEdit::inputRejected, this, [this] {
-    estadoTexto_->ShowText(NombreDemasiadoLargo);
-    QApplication::beep();
+    estado_.Text2 = text2_->Text();
+    const bool cortado = estadoTexto_->text() == ToDisplay(NombreDemasiadoLargo);
+    if (!cortado || texto.size() < text2_->maxLength()) estadoTexto_->ShowText({});
   });
 }
 
-void DlgInicioForm::ShowName() {
-  if (estado_.Text2 == FromInput(text2_->text())) return;
-  const QString nombre = ToDisplay(estado_.Text2);
-  text2_->setMaxLength(std::max(AnchoNombre, static_cast<int>(nombre.size())));
-  text2_->setText(nombre);
+void DlgInicioForm::RefuseName(std::u16string_view reparo) {
+  estadoTexto_->ShowText(reparo);
+  QApplication::beep();
 }
 
 void DlgInicioForm::BuildLayout() {
@@ -224,7 +198,7 @@ QLayout* DlgInicioForm::BuildButtons() {
 
 void DlgInicioForm::ShowState() {
   text1_->setText(ToDisplay(estado_.Text1).trimmed());
-  ShowName();
+  text2_->ShowText(estado_.Text2);
   text3_->setText(ToDisplay(estado_.Text3));
   text4_->setText(ToDisplay(estado_.Text4));
   ShowCombo(combos_[0], estado_.Combo1);

@@ -4,13 +4,13 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <array>
 #include <functional>
 
 #include "startup/dlg_inicio.h"
+#include "ui/qt/name_edit.h"
 #include "ui/qt/repeat_guard.h"
 #include "ui/qt/status_line.h"
 
@@ -38,8 +38,7 @@ class DlgInicioForm : public QDialog {
   void NameControls();
   void Connect();
   void ConnectName();
-  // Up to AnchoNombre characters; a longer name that is already there can only be shortened.
-  void ShowName();
+  void RefuseName(std::u16string_view reparo);
   void BuildLayout();
   QLayout* BuildChoices();
   QLayout* BuildStyle();
@@ -49,7 +48,7 @@ class DlgInicioForm : public QDialog {
   DlgInicio& estado_;
   // Tab goes through the controls in this order.
   QLabel* text1_;
-  QLineEdit* text2_;
+  NameEdit* text2_;
   StatusLine* estadoTexto_;
   QLabel* text3_;
   QLabel* text4_;
