@@ -12,7 +12,7 @@
 namespace tasca::test {
 namespace {
 
-using Lineas = std::vector<std::u16string>;
+using Renglones = std::vector<std::u16string>;
 
 std::string Word(const LineasPersonajes& lineas, ClaseLinea clase) {
   const std::string personaje = std::to_string(lineas.Personaje());
@@ -39,7 +39,7 @@ std::string Word(const LineasPersonajes& lineas, ClaseLinea clase) {
 }
 
 // The lines in the reader's words, one after the other.
-std::string Read(LectorPersonajes lector, const Lineas& archivo) {
+std::string Read(LectorPersonajes lector, const Renglones& archivo) {
   LineasPersonajes lineas{lector};
   std::string todas;
   for (const std::u16string& linea : archivo) {
@@ -50,7 +50,7 @@ std::string Read(LectorPersonajes lector, const Lineas& archivo) {
   return todas;
 }
 
-const Lineas Registro{u"Datos>", u"Berta", u"040", u"Cuida cabras.", u"NMus>", u"no", u"nones"};
+const Renglones Registro{u"Datos>", u"Berta", u"040", u"Cuida cabras.", u"NMus>", u"no", u"nones"};
 
 TEST(LineasPersonajes, FollowsARecordFromItsMarkerToItsPhrases) {
   for (const LectorPersonajes lector : {LectorPersonajes::Juego, LectorPersonajes::Editor}) {
@@ -83,7 +83,7 @@ TEST(LineasPersonajes, TakesEveryLineOfAHeadForWhatComesNext) {
 }
 
 TEST(LineasPersonajes, Kept_KnowsOtherCapitalsForTheEditorAlone) {
-  const Lineas archivo{u"datos>", u"Berta", u"040", u"", u"PASO>"};
+  const Renglones archivo{u"datos>", u"Berta", u"040", u"", u"PASO>"};
   EXPECT_EQ(Read(LectorPersonajes::Editor, archivo),
             "personaje 1, nombre, ordaguero, historia, categoria 7");
   EXPECT_EQ(Read(LectorPersonajes::Juego, archivo),
