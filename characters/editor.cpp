@@ -43,21 +43,53 @@ std::u16string EntradaDe(int numero, const Personaje& personaje) {
   return Join(numero, u". ", personaje.Nombre.Trimmed());
 }
 
+// The character that the three texts describe. Throws RunTimeError for an Ordaguero outside 16
+// bits.
+Personaje Escrito(const Dialog1& d) {
+  Personaje escrito;
+  escrito.Nombre = Trim(d.Text1);
+  escrito.Ordaguero = ValorOrdaguero(d.Text2);
+  escrito.Historia = Trim(d.Text3);
+  return escrito;
+}
+
 // False when the file could not hold the Ordaguero: then nothing changes.
 bool GuardarTextos(Dialog1& d, Personaje& personaje, EditorPort& port) {
-  const Integer ordaguero = ValorOrdaguero(d.Text2);
-  if (!SeLeeComoSeEscribe(ordaguero)) {
+  const Personaje escrito = Escrito(d);
+  if (!SeLeeComoSeEscribe(escrito.Ordaguero)) {
     port.MsgBox(
         Join(u"El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha "
              u"escrito ",
-             ordaguero, u". Cámbielo y pruebe otra vez."));
+             escrito.Ordaguero, u". Cámbielo y pruebe otra vez."));
     return false;
   }
-  personaje.Nombre = Trim(d.Text1);
-  personaje.Ordaguero = ordaguero;
-  d.Text2 = ToText(ordaguero);
-  personaje.Historia = Trim(d.Text3);
+  personaje = escrito;
+  d.Text2 = ToText(personaje.Ordaguero);
   return true;
+}
+
+// What a text box makes of a text never filled is empty.
+std::u16string SinNulos(std::u16string_view texto) { return ReplaceAll(texto, Nul, u""); }
+
+bool TextosCambiados(const Dialog1& d, const Table& t) {
+  if (d.Mostrado == 0) return false;
+  const Personaje& mostrado = t.Personajes[d.Mostrado];
+  const Personaje escrito = Escrito(d);
+  return SinNulos(escrito.Nombre.Trimmed()) != SinNulos(mostrado.Nombre.Trimmed()) ||
+         escrito.Ordaguero != mostrado.Ordaguero ||
+         SinNulos(escrito.Historia.Trimmed()) != SinNulos(mostrado.Historia.Trimmed());
+}
+
+// False when the texts are to be applied and cannot be.
+bool ConservarTextos(Dialog1& d, Table& t, EditorPort& port) {
+  if (!TextosCambiados(d, t)) return true;
+  Personaje& mostrado = t.Personajes[d.Mostrado];
+  const std::u16string nombre = SinNulos(mostrado.Nombre.Trimmed());
+  const bool aplicar = port.OkCancelBox(
+      Join(u"Los datos de ", nombre.empty() ? u"este jugador" : nombre,
+           u" han cambiado. ¿Aplicarlos? Si pulsa Cancelar, se pierde lo escrito."),
+      u"Cambiar de jugador");
+  return !aplicar || GuardarTextos(d, mostrado, port);
 }
 
 // Kept: the new character takes over whatever phrases its place holds.
@@ -65,13 +97,19 @@ void NuevoJugador(Dialog1& d, Table& t, EditorPort& port) {
   Personaje& personaje = t.Personajes[d.NumPersonajes + 1];
   if (!GuardarTextos(d, personaje, port)) return;
   d.NumPersonajes = d.NumPersonajes + 1;
+  d.Mostrado = d.NumPersonajes;
   d.List1.List.push_back(EntradaDe(d.NumPersonajes, personaje));
 }
 
 // Kept: the entry of List1 keeps its old text.
 void ReleerJugador(Dialog1& d, Table& t, EditorPort& port) {
   if (Elegido(d.List1) == 0) return port.Beep();
-  GuardarTextos(d, t.Personajes[Elegido(d.List1)], port);
+  if (GuardarTextos(d, t.Personajes[Elegido(d.List1)], port)) d.Mostrado = Elegido(d.List1);
+}
+
+void ElegirPersonaje(Dialog1& d, const Table& t, int posicion) {
+  Elegir(d.List1, posicion);
+  MostrarPersonaje(d, t, Elegido(d.List1));
 }
 
 // Moves every character after `eliminado` one place down; the place that it leaves has no phrases.
@@ -102,8 +140,9 @@ void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
   d.Text1.clear();
   d.Text2.clear();
   d.Text3.clear();
+  d.Mostrado = 0;
   if (d.List1.List.empty()) return Vaciar(d.List3);
-  List1_Click(d, t, 0);
+  ElegirPersonaje(d, t, 0);
 }
 
 // Kept: the answer counts whatever it is, so that cancelling clears the phrase.
@@ -140,9 +179,8 @@ void Form_Load(Dialog1& d) {
   d.NumPersonajes = 0;
 }
 
-void List1_Click(Dialog1& d, const Table& t, int posicion) {
-  Elegir(d.List1, posicion);
-  MostrarPersonaje(d, t, Elegido(d.List1));
+void List1_Click(Dialog1& d, Table& t, EditorPort& port, int posicion) {
+  if (ConservarTextos(d, t, port)) ElegirPersonaje(d, t, posicion);
 }
 
 void List2_Click(Dialog1& d, const Table& t, int posicion) {
@@ -156,6 +194,7 @@ void List3_Click(Dialog1& d, int posicion) { Elegir(d.List3, posicion); }
 // Kept: of the three phrases the second is selected.
 void MostrarPersonaje(Dialog1& d, const Table& t, int personaje) {
   const Personaje& mostrado = t.Personajes[personaje];
+  d.Mostrado = personaje;
   d.Text1 = mostrado.Nombre.Trimmed();
   d.Text2 = ToText(mostrado.Ordaguero);
   d.Text3 = mostrado.Historia.Trimmed();

@@ -52,6 +52,7 @@ struct Dialog1 {
   std::u16string Text1;       // name
   std::u16string Text2;       // Ordaguero
   std::u16string Text3;       // story
+  int Mostrado = 0;           // the character that the three texts are of; 0 while List1 is empty
   Integer NumPersonajes = 0;  // characters in memory
   std::string Guardado;       // what the disk holds of them: the file as last loaded or saved
 };
@@ -60,7 +61,11 @@ void Form_Load(Dialog1& d);
 
 // A list position (0..) has been selected: a character, whose data are shown; a kind of phrase; a
 // phrase. Throws RunTimeError for a position that is not there, and for a 101st character.
-void List1_Click(Dialog1& d, const Table& t, int posicion);
+//
+// Texts that are no longer those of the character shown, be they its new data or those of a new
+// character not added yet, are asked about before they are replaced: OK stores them into the
+// character shown, Cancel drops them. When storing refuses them the selection and the texts stay.
+void List1_Click(Dialog1& d, Table& t, EditorPort& port, int posicion);
 void List2_Click(Dialog1& d, const Table& t, int posicion);
 void List3_Click(Dialog1& d, int posicion);
 

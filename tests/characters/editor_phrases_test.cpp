@@ -9,7 +9,7 @@ namespace {
 
 // Character 2, kind 9, phrase 3.
 void ElegirFrase(Taller& e) {
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   List2_Click(e.d, e.t, 8);
   List3_Click(e.d, 2);
 }
@@ -63,7 +63,7 @@ TEST(ModificarMensaje, EndsTheProgramWithoutASelection) {
   EXPECT_EQ(ErrorOf([&] { Command2_Click(sinPersonaje.d, sinPersonaje.t, sinPersonaje.port, 0); }),
             IndiceFuera);
   Taller sinFrase{1};
-  List1_Click(sinFrase.d, sinFrase.t, 0);
+  List1_Click(sinFrase.d, sinFrase.t, sinFrase.port, 0);
   List2_Click(sinFrase.d, sinFrase.t, 0);
   EXPECT_EQ(ErrorOf([&] { Command2_Click(sinFrase.d, sinFrase.t, sinFrase.port, 0); }),
             IndiceFuera);
@@ -96,7 +96,7 @@ TEST(EliminarMensaje, ClearsThePhrase) {
 TEST(EliminarMensaje, BeepsWithoutASelection) {
   Taller e{1};
   Command2_Click(e.d, e.t, e.port, 1);  // no character
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   List2_Click(e.d, e.t, 0);
   Command2_Click(e.d, e.t, e.port, 1);  // no phrase
   EXPECT_EQ(e.port.TakeEvents(), (Textos{"beep", "beep"}));

@@ -63,7 +63,7 @@ TEST(CargarPersonajes, EndsTheProgramWithoutAFile) {
 
 TEST(CargarPersonajes, Kept_AddsTheNamesToThoseThatAreListed) {
   Taller e{2};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   CargarPersonajes(e.d, e.t, e.port);
   EXPECT_EQ(Entradas(e.d.List1), (Textos{"1. P1", "2. P2", "1. P1", "2. P2"}));
   EXPECT_EQ(e.d.List1.ListIndex, -1);
@@ -73,7 +73,7 @@ TEST(CargarPersonajes, Kept_AddsTheNamesToThoseThatAreListed) {
 TEST(CargarPersonajes, Kept_AnEntryStandsForItsPlaceEvenBeyondTheCount) {
   Taller e{2};
   CargarPersonajes(e.d, e.t, e.port);
-  List1_Click(e.d, e.t, 2);  // reads "1. P1"
+  List1_Click(e.d, e.t, e.port, 2);  // reads "1. P1"
   EXPECT_EQ(Campos(e.d), (Textos{std::string(100, '\0'), "0", std::string(200, '\0')}));
 }
 
@@ -145,7 +145,7 @@ TEST(GuardarPersonajes, KeepsTheChangesInAReadOnlyFolder) {
 TEST(List1_Click, ShowsTheCharacter) {
   Taller e{3};
   List2_Click(e.d, e.t, 5);
-  List1_Click(e.d, e.t, 2);
+  List1_Click(e.d, e.t, e.port, 2);
   EXPECT_EQ(e.d.List1.ListIndex, 2);
   EXPECT_EQ(Campos(e.d), (Textos{"P3", "30", "H3"}));
   EXPECT_EQ(e.d.List2.ListIndex, 0);
@@ -155,20 +155,20 @@ TEST(List1_Click, ShowsTheCharacter) {
 TEST(List1_Click, Kept_ListsThePhrasesWithTheirPadding) {
   Taller e{1};
   e.t.Mensajes[1][1][3] = FixedText<AnchoFrase>{};
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   EXPECT_EQ(Entradas(e.d.List3),
             (Textos{Rellena("1-1-1"), Rellena("1-1-2"), std::string(100, '\0')}));
 }
 
 TEST(List1_Click, RefusesAPositionThatIsNotThere) {
   Taller e{1};
-  EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, 1); }), IndiceFuera);
-  EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, -1); }), IndiceFuera);
+  EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, e.port, 1); }), IndiceFuera);
+  EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, e.port, -1); }), IndiceFuera);
 }
 
 TEST(List2_Click, ListsThePhrasesOfThatKindTrimmed) {
   Taller e{2};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   List2_Click(e.d, e.t, 13);
   EXPECT_EQ(Entradas(e.d.List3), (Textos{"2-14-1", "2-14-2", "2-14-3"}));
   EXPECT_EQ(e.d.List3.ListIndex, -1);
@@ -178,7 +178,7 @@ TEST(List2_Click, ShowsSlotsThatWereNeverFilledAsTheyAre) {
   Taller e{1};
   e.t.Mensajes[1][2][2] = FixedText<AnchoFrase>{};
   e.t.Mensajes[1][2][3] = u"";
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   List2_Click(e.d, e.t, 1);
   EXPECT_EQ(Entradas(e.d.List3), (Textos{"1-2-1", std::string(100, '\0'), ""}));
 }
@@ -216,7 +216,7 @@ TEST(NuevoJugador, ReadsNoNumberAsZero) {
 
 TEST(NuevoJugador, Kept_TakesOverThePhrasesOfItsPlace) {
   Taller e{2};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   e.d.Text1 = u"Lola";
@@ -238,54 +238,9 @@ TEST(NuevoJugador, EndsTheProgramForAnOrdagueroOutside16Bits) {
   EXPECT_EQ(ErrorOf([&] { Command1_Click(e.d, e.t, e.port, 0); }), Desbordamiento);
 }
 
-constexpr auto OrdagueroNoCabe =
-    "box: El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha escrito ";
-
-TEST(NuevoJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
-  for (const int valor : {-999, -100, -10, -9, -1, 1000, 32767}) {
-    Taller e{1};
-    const Table antes = e.t;
-    e.d.Text1 = u" Lola ";
-    e.d.Text2 = Join(valor, u"x");
-    e.d.Text3 = u"Baila.";
-    Command1_Click(e.d, e.t, e.port, 0);
-    EXPECT_EQ(e.port.TakeEvents(),
-              (Textos{OrdagueroNoCabe + std::to_string(valor) + ". Cámbielo y pruebe otra vez."}));
-    EXPECT_EQ(e.t, antes);
-    EXPECT_EQ(e.d.NumPersonajes, 1);
-    EXPECT_EQ(Entradas(e.d.List1), Textos{"1. P1"});
-    EXPECT_EQ(Campos(e.d), (Textos{" Lola ", std::to_string(valor) + "x", "Baila."}));
-  }
-}
-
-TEST(NuevoJugador, TakesEveryOrdagueroThatComesBackFromTheFile) {
-  for (const int valor : {0, 1, 10, 99, 100, 999}) {
-    Taller e;
-    e.d.Text2 = ToText(valor);
-    Command1_Click(e.d, e.t, e.port, 0);
-    Command3_Click(e.d, e.t, e.port, 0);
-    e.t.Personajes[1].Ordaguero = -1;
-    LeerPersonajes(e.t);
-    EXPECT_EQ(e.t.Personajes[1].Ordaguero, valor);
-  }
-}
-
-TEST(ReleerJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
-  Taller e{2};
-  List1_Click(e.d, e.t, 1);
-  const Table antes = e.t;
-  e.d.Text1 = u"Lola";
-  e.d.Text2 = u"-10";
-  Command1_Click(e.d, e.t, e.port, 2);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{std::string{OrdagueroNoCabe} + "-10. Cámbielo y pruebe otra vez."}));
-  EXPECT_EQ(e.t, antes);
-  EXPECT_EQ(Campos(e.d), (Textos{"Lola", "-10", "H2"}));
-}
-
 TEST(ReleerJugador, StoresTheThreeTextsIntoTheSelectedCharacter) {
   Taller e{3};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.d.Text1 = u"Lola";
   e.d.Text2 = u"7x";
   e.d.Text3 = u"Baila.";
@@ -300,7 +255,7 @@ TEST(ReleerJugador, StoresTheThreeTextsIntoTheSelectedCharacter) {
 
 TEST(ReleerJugador, Kept_LeavesTheEntryOfTheListAndSavesTheNewName) {
   Taller e{2};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.d.Text1 = u"Lola";
   Command1_Click(e.d, e.t, e.port, 2);
   EXPECT_EQ(Entradas(e.d.List1), (Textos{"1. P1", "2. P2"}));
@@ -318,7 +273,7 @@ TEST(ReleerJugador, BeepsWithoutACharacter) {
 
 TEST(EliminarJugador, AsksFirst) {
   Taller e{3};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   const Table antes = e.t;
   e.port.Confirms(false);
   Command1_Click(e.d, e.t, e.port, 1);
@@ -331,7 +286,7 @@ TEST(EliminarJugador, AsksFirst) {
 
 TEST(EliminarJugador, MovesTheLaterCharactersOnePlaceDown) {
   Taller e{4};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   EXPECT_EQ(e.d.NumPersonajes, 3);
@@ -345,7 +300,7 @@ TEST(EliminarJugador, MovesTheLaterCharactersOnePlaceDown) {
 
 TEST(EliminarJugador, LeavesThePlaceOfTheLastOneWithBlankPhrases) {
   Taller e{2};
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   EXPECT_EQ(e.FrasesDe(2), Textos(42, ""));
@@ -354,7 +309,7 @@ TEST(EliminarJugador, LeavesThePlaceOfTheLastOneWithBlankPhrases) {
 TEST(EliminarJugador, Kept_CountsOneLessForAnEntryBeyondTheCount) {
   Taller e{2};
   CargarPersonajes(e.d, e.t, e.port);
-  List1_Click(e.d, e.t, 2);
+  List1_Click(e.d, e.t, e.port, 2);
   e.port.Confirms(true);
   const Table antes = e.t;
   Command1_Click(e.d, e.t, e.port, 1);
@@ -366,7 +321,7 @@ TEST(EliminarJugador, Kept_CountsOneLessForAnEntryBeyondTheCount) {
 TEST(EliminarJugador, Kept_TheCountMayFallBelowZero) {
   Taller e{1};
   CargarPersonajes(e.d, e.t, e.port);
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   e.port.Confirms(true).Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   Command1_Click(e.d, e.t, e.port, 1);
@@ -378,7 +333,7 @@ TEST(EliminarJugador, Kept_TheCountMayFallBelowZero) {
 
 TEST(EliminarJugador, Kept_LeavesTheOldNumbersAndShowsTheFirstCharacter) {
   Taller e{5};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   EXPECT_EQ(Entradas(e.d.List1), (Textos{"1. P1", "3. P3", "4. P4", "5. P5"}));
@@ -394,7 +349,7 @@ TEST(EliminarJugador, Kept_LeavesTheOldNumbersAndShowsTheFirstCharacter) {
 
 TEST(EliminarJugador, OnlyCountsOneLessForTheLast) {
   Taller e{2};
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   e.port.Confirms(true);
   const Table antes = e.t;
   Command1_Click(e.d, e.t, e.port, 1);
@@ -404,7 +359,7 @@ TEST(EliminarJugador, OnlyCountsOneLessForTheLast) {
 
 TEST(EliminarJugador, LeavesNothingShownAfterTheOnlyOne) {
   Taller e{1};
-  List1_Click(e.d, e.t, 0);
+  List1_Click(e.d, e.t, e.port, 0);
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
   EXPECT_EQ(Entradas(e.d.List1), Textos{});
@@ -424,7 +379,7 @@ TEST(EliminarJugador, BeepsWithoutACharacter) {
 TEST(HayCambios, IsTrueFromAChangeUntilItIsSaved) {
   Taller e{2};
   EXPECT_FALSE(HayCambios(e.d, e.t));
-  List1_Click(e.d, e.t, 1);
+  List1_Click(e.d, e.t, e.port, 1);
   EXPECT_FALSE(HayCambios(e.d, e.t));
   e.d.Text1 = u"Lola";
   Command1_Click(e.d, e.t, e.port, 2);

@@ -52,6 +52,11 @@ class EditorWindow : public testing::Test {
     for (int i = 0; i < lista->count(); ++i) filas.push_back(Utf8(lista->item(i)->text()));
     return filas;
   }
+  void ClickCharacter(int posicion) {
+    auto* const lista = Find<QListWidget>("List1");
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      lista->visualItemRect(lista->item(posicion)).center());
+  }
   std::string Text(const char* nombre) { return Utf8(Find<GuardedText>(nombre)->toPlainText()); }
 
   TempFolder carpeta_;
@@ -311,17 +316,56 @@ TEST_F(EditorWindow, ShowsTheCharacterAnewWhenItsEntryIsClickedAgain) {
   Keys({Qt::Key_Down});
   Alt(Qt::Key_N);
   Type("otra cosa");
-  auto* const lista = Find<QListWidget>("List1");
-  QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
-                    lista->visualItemRect(lista->item(0)).center());
+  port_.Confirms(false);
+  ClickCharacter(0);
+  EXPECT_EQ(port_.TakeEvents().size(), 1U);
   EXPECT_EQ(Text("Text1"), "Default indirecto");
+}
+
+TEST_F(EditorWindow, AsksOnceAboutChangedTextsWhenAnotherEntryIsClicked) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  Alt(Qt::Key_N);
+  Type("Lola");
+  Alt(Qt::Key_L);
+  port_.Confirms(true);
+  ClickCharacter(2);
+  EXPECT_EQ(port_.TakeEvents().size(), 1U);
+  EXPECT_EQ(Utf8(t_.Personajes[1].Nombre.Trimmed()), "Lola");
+  EXPECT_EQ(Text("Text1"), "Berta");
+}
+
+TEST_F(EditorWindow, KeepsTheTextsAndTheEntryWhenTheyCannotBeStored) {
+  Load();
+  Alt(Qt::Key_J);
+  Keys({Qt::Key_Down});
+  auto* const lista = Find<QListWidget>("List1");
+  const auto porTecla = [this, lista] {
+    lista->setFocus();
+    Keys({Qt::Key_Down});
+  };
+  const auto porClic = [this] { ClickCharacter(2); };
+  for (const std::function<void()>& elegirOtro : {std::function<void()>{porTecla}, {porClic}}) {
+    Find<GuardedText>("Text2")->setFocus();
+    Type("-10");
+    port_.Confirms(true);
+    elegirOtro();
+    EXPECT_EQ(port_.TakeEvents().size(), 2U);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [lista] { return lista->currentRow() == 0 && lista->item(0)->isSelected(); }));
+    EXPECT_EQ(ventana_.State().List1.ListIndex, 0);
+    EXPECT_EQ(Text("Text1"), "Default indirecto");
+    EXPECT_EQ(Text("Text2"), "-10");
+  }
 }
 
 TEST_F(EditorWindow, MakesABlankCharacterOfOneNeverFilled) {
   Load();
   Load();  // the names are listed twice; the last entry stands for character 10
   Alt(Qt::Key_J);
-  Keys({Qt::Key_End});
+  Keys({Qt::Key_End, Qt::Key_Home, Qt::Key_End});
+  EXPECT_EQ(port_.TakeEvents(), Textos{});
   Alt(Qt::Key_U);
   EXPECT_EQ(ventana_.State().NumPersonajes, 6);
   EXPECT_EQ(Utf8(t_.Personajes[6].Nombre.Trimmed()), "");

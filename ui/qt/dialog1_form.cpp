@@ -76,6 +76,11 @@ void ShowEntry(QListWidgetItem& entrada, const QString& texto) {
   entrada.setData(Qt::AccessibleTextRole, vacia ? QStringLiteral("(vacío)") : QString{});
 }
 
+void ShowSelection(QListWidget* control, const ListBox& lista) {
+  const QSignalBlocker silencio{control};
+  control->setCurrentRow(lista.ListIndex);
+}
+
 void ShowList(QListWidget* control, const ListBox& lista) {
   const QSignalBlocker silencio{control};
   for (int i = 0; i < static_cast<int>(lista.List.size()); ++i) {
@@ -86,7 +91,7 @@ void ShowList(QListWidget* control, const ListBox& lista) {
   while (control->count() > static_cast<int>(lista.List.size())) {
     delete control->takeItem(control->count() - 1);
   }
-  control->setCurrentRow(lista.ListIndex);
+  ShowSelection(control, lista);
   control->horizontalScrollBar()->setValue(0);
 }
 
@@ -146,19 +151,34 @@ void Dialog1Form::Connect() {
 
 // A click in the empty part of a list would leave it without a selection; the state keeps it.
 void Dialog1Form::ConnectLists() {
-  const auto alElegir = [this](QListWidget* lista, const std::function<void(int)>& clic) {
-    const auto elegida = [this, lista, clic] {
+  const auto alElegir = [this](QListWidget* lista, const ListBox& estado,
+                               const std::function<void(int)>& clic) {
+    const auto elegida = [this, lista, &estado, clic] {
+      if (devuelveSeleccion_) return;
       const bool hay = !lista->selectedItems().isEmpty();
+      const int posicion = hay ? lista->row(lista->selectedItems().first()) : estado.ListIndex;
       Do([&] {
-        if (hay) clic(lista->row(lista->selectedItems().first()));
+        if (hay) clic(posicion);
       });
+      if (estado.ListIndex != posicion) GiveSelectionBack(lista, estado);
     };
     connect(lista, &QListWidget::itemSelectionChanged, this, elegida);
     connect(lista, &QListWidget::itemClicked, this, elegida);
   };
-  alElegir(list1_, [this](int posicion) { List1_Click(estado_, t_, posicion); });
-  alElegir(list2_, [this](int posicion) { List2_Click(estado_, t_, posicion); });
-  alElegir(list3_, [this](int posicion) { List3_Click(estado_, posicion); });
+  alElegir(list1_, estado_.List1,
+           [this](int posicion) { List1_Click(estado_, t_, port_, posicion); });
+  alElegir(list2_, estado_.List2, [this](int posicion) { List2_Click(estado_, t_, posicion); });
+  alElegir(list3_, estado_.List3, [this](int posicion) { List3_Click(estado_, posicion); });
+}
+
+// The toolkit selects the entry once more before its event is over, and makes it the current one.
+void Dialog1Form::GiveSelectionBack(QListWidget* lista, const ListBox& estado) {
+  devuelveSeleccion_ = true;
+  const auto devolver = [this, lista, &estado] {
+    ShowSelection(lista, estado);
+    devuelveSeleccion_ = false;
+  };
+  QMetaObject::invokeMethod(this, devolver, Qt::QueuedConnection);
 }
 
 void Dialog1Form::ConnectButtons() {

@@ -43,6 +43,8 @@ class Dialog1Form : public QWidget {
   QLayout* BuildPhrases();
   QLayout* BuildButtons();
   void SetTabs();
+  // Selects the state's entry again once the event that chose another is over.
+  void GiveSelectionBack(QListWidget* lista, const ListBox& estado);
   // Runs an event of the logic on the texts as they have been typed, and shows what came of it.
   void Do(const std::function<void()>& suceso);
 
@@ -50,6 +52,7 @@ class Dialog1Form : public QWidget {
   EditorPort& port_;
   Events sucesos_;
   Dialog1 estado_;
+  bool devuelveSeleccion_ = false;  // a selection is about to be given back
   StatusLine* estadoTexto_;
   QListWidget* list1_;
   QListWidget* list2_;
