@@ -6,6 +6,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <regex>
 #include <set>
 #include <string>
 #include <string_view>
@@ -226,6 +227,39 @@ TEST(ShippedFile, StartsEachPhraseOfTheIndirectSetAndNoOtherWithQue) {
               return frase.Texto.starts_with(u"que");
             }),
             Ninguno);
+}
+
+// "Envido, que ...", "No hay mus, primo, que ...": what nobody at a real table says all evening.
+TEST(ShippedFile, ExplainsTheKeyWordByQueInFewerThanOneOfEightPhrases) {
+  const std::regex formula{
+      "(mus|pares|juego|sí|no|aso|nvido|nvido &|rdago|uiero),( [^,:;.!?]+,)? (¡)?que "};
+  const auto deJugador = [](const FraseLeida& frase) { return frase.Personaje > 2; };
+  const std::size_t todas = FrasesQue(deJugador).size();
+  const Textos explicadas = FrasesQue([&](const FraseLeida& frase) {
+    return deJugador(frase) && std::regex_search(Utf8(frase.Texto), formula);
+  });
+  EXPECT_EQ(todas, 16U * 14 * 3);
+  EXPECT_LT(explicadas.size() * 8, todas) << testing::PrintToString(explicadas);
+}
+
+TEST(ShippedFile, LetsNoOneRefuseMusInWordsThatOpenAsAYes) {
+  EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
+              return frase.Categoria == MessageCategory::NMus &&
+                     (frase.Texto.starts_with(u"Mus,") || frase.Texto.starts_with(u"Mus no"));
+            }),
+            Ninguno);
+}
+
+TEST(ShippedFile, LetsPacaSayHalfOfHerPhrasesWithoutShouting) {
+  const std::vector<std::u16string> nombres = NombresLeidos();
+  const auto paca = std::find(nombres.begin(), nombres.end(), u"Paca la pescadera");
+  ASSERT_NE(paca, nombres.end());
+  const int personaje = static_cast<int>(paca - nombres.begin()) + 1;
+  const Textos gritos = FrasesQue([personaje](const FraseLeida& frase) {
+    return frase.Personaje == personaje && Contains(frase.Texto, u"¡");
+  });
+  EXPECT_GT(gritos.size(), 0U);
+  EXPECT_LE(gritos.size(), 14U * 3 / 2) << testing::PrintToString(gritos);
 }
 
 TEST(ShippedFile, StartsWithTheTwoDefaultSetsAndHasNoOther) {
