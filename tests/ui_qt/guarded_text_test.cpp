@@ -29,8 +29,9 @@ class TextBox : public testing::Test {
     caja_->paste();
   }
   void Type(const char* texto) { test::Type(caja_.get(), texto); }
-  void Compose(const QString& texto) {
-    QInputMethodEvent suceso;
+  // What an input method sends: what comes of the composing, or what is being composed.
+  void Compose(const QString& texto, const QString& enCurso = {}) {
+    QInputMethodEvent suceso{enCurso, {}};
     suceso.setCommitString(texto);
     QApplication::sendEvent(caja_.get(), &suceso);
   }
@@ -120,6 +121,39 @@ TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
   Compose(QStringLiteral("日"));
   EXPECT_EQ(Text(), "é");
   EXPECT_EQ(reparo_, SinSitio);
+}
+
+TEST_F(TextBox, StaysAsItIsWhenWhatAnInputMethodComposedOverItIsRefused) {
+  Show(20);
+  caja_->ShowText(u"La\u00A0boticaria");
+  caja_->selectAll();
+  Compose({}, QStringLiteral("r"));
+  Compose({}, QStringLiteral("ri"));
+  Compose(QStringLiteral("日"));
+  EXPECT_EQ(Text(), "La\u00A0boticaria");
+  EXPECT_EQ(reparo_, SinSitio);
+  EXPECT_EQ(caja_->textCursor().selectedText().size(), 12);
+}
+
+TEST_F(TextBox, KeepsWhatWasSelectedWhenComposingComesToNothing) {
+  Show(20);
+  Type("abcd");
+  caja_->moveCursor(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+  Compose({}, QStringLiteral("´"));
+  Compose({});
+  EXPECT_EQ(Text(), "abcd");
+  Compose(QStringLiteral("é"));
+  EXPECT_EQ(Text(), "é");
+}
+
+TEST_F(TextBox, ComposesOneCharacterAfterAnother) {
+  Show(20);
+  Type("abcd");
+  caja_->selectAll();
+  Compose({}, QStringLiteral("´"));
+  Compose(QStringLiteral("é"), QStringLiteral("´"));
+  Compose({});
+  EXPECT_EQ(Text(), "é") << "the first one has been written";
 }
 
 TEST_F(TextBox, HoldsSoManyCharactersAndNoMore) {

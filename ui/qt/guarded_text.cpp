@@ -63,13 +63,34 @@ void GuardedText::keyPressEvent(QKeyEvent* suceso) {
   if (!escribe || Accepts(tecleado)) QPlainTextEdit::keyPressEvent(suceso);
 }
 
-// A refused text still ends the composing that led to it.
+// A refused text still ends the composing that led to it. Composing takes the selection away: it
+// comes back unless something is written in its place.
 void GuardedText::inputMethodEvent(QInputMethodEvent* suceso) {
-  if (suceso->commitString().isEmpty() || Accepts(suceso->commitString())) {
-    return QPlainTextEdit::inputMethodEvent(suceso);
-  }
+  const bool componia = componiendo_;
+  if (!componia) antes_ = Now();
+  const bool escribe = !suceso->commitString().isEmpty();
+  const bool rechazado = escribe && !Accepts(suceso->commitString());
   QInputMethodEvent nada;
-  QPlainTextEdit::inputMethodEvent(&nada);
+  QPlainTextEdit::inputMethodEvent(rechazado ? &nada : suceso);
+  componiendo_ = !rechazado && !suceso->preeditString().isEmpty();
+  const bool escrito = escribe && !rechazado;
+  if (escrito) antes_ = Now();
+  if (componia && !componiendo_ && !escrito) GoBack();
+}
+
+GuardedText::Stand GuardedText::Now() const {
+  return {.Texto = Typed(), .Ancla = textCursor().anchor(), .Cursor = textCursor().position()};
+}
+
+void GuardedText::GoBack() {
+  QTextCursor cursor{document()};
+  if (Typed() != antes_.Texto) {
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(antes_.Texto);
+  }
+  cursor.setPosition(antes_.Ancla);
+  cursor.setPosition(antes_.Cursor, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
 }
 
 // What holds no text, as an empty clipboard does, would crash the toolkit.

@@ -29,13 +29,23 @@ class GuardedText : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* suceso) override;
 
  private:
+  struct Stand {
+    QString Texto;
+    int Ancla = 0;
+    int Cursor = 0;
+  };
+
   bool Accepts(const QString& insertado);
   QString Typed() const;
+  Stand Now() const;
+  void GoBack();
 
   int maximo_;
   int filas_;
   Refusal alRechazar_;
   std::u16string mostrado_;
+  Stand antes_;  // of the composing
+  bool componiendo_ = false;
 };
 
 }  // namespace tasca
