@@ -169,6 +169,14 @@ TEST(AskText, ShowsAPromptOfSeveralLinesAndTheDefaultAnswer) {
   EXPECT_EQ(vista, "Sustituir cartas|1. As\n2. Dos && <i>Tres</i>||Aceptar Cancelar ");
 }
 
+TEST(AskText, IsWideEnoughForItsTitle) {
+  const BoxAnswerer jugador{[](QWidget* caja) {
+    EXPECT_GE(caja->width(), caja->fontMetrics().horizontalAdvance(caja->windowTitle()) + 100);
+    Press(caja, Qt::Key_Return);
+  }};
+  AskText(nullptr, u"¿Cuántas?", u"Envite a la grande de la última mano de la partida", u"2");
+}
+
 TEST(AskText, GivesWhatWasTyped) {
   const BoxAnswerer jugador{[](QWidget* caja) {
     QTest::keyClicks(caja->focusWidget(), QStringLiteral("134"));

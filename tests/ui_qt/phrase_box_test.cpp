@@ -51,6 +51,39 @@ TEST(AskPhrase, IsEmptyWhenCancelled) {
   EXPECT_EQ(Ask(u"antes", [](QWidget* caja) { Press(caja, Qt::Key_Escape); }), "");
 }
 
+// True when all of the reason that stands in the box can be read.
+bool IsReadable(const QLabel& estado) {
+  const QRect hueco{0, 0, estado.contentsRect().width(), 10000};
+  const QRect texto = estado.fontMetrics().boundingRect(hueco, Qt::TextWordWrap, estado.text());
+  return !estado.text().isEmpty() && texto.height() <= estado.contentsRect().height();
+}
+
+TEST(AskPhrase, HasRoomForEveryReason) {
+  Ask(u"", [](QWidget* caja) {
+    auto* const estado = Control<QLabel>(caja, "Status");
+    for (const char* const rechazado : {">", "ł", "\u0001", "abcdefghijk"}) {
+      QInputMethodEvent suceso;
+      suceso.setCommitString(QString::fromUtf8(rechazado));
+      QApplication::sendEvent(caja->focusWidget(), &suceso);
+      EXPECT_TRUE(IsReadable(*estado)) << Utf8(estado->text());
+    }
+    Press(caja, Qt::Key_Return);
+  });
+}
+
+TEST(AskPhrase, KeepsThePhraseWhenAComposedOneIsRefused) {
+  EXPECT_EQ(Ask(u"van",
+                [](QWidget* caja) {
+                  QInputMethodEvent enCurso{QStringLiteral("ri"), {}};
+                  QApplication::sendEvent(caja->focusWidget(), &enCurso);
+                  QInputMethodEvent escrito;
+                  escrito.setCommitString(QStringLiteral("日"));
+                  QApplication::sendEvent(caja->focusWidget(), &escrito);
+                  Press(caja, Qt::Key_Return);
+                }),
+            "van");
+}
+
 TEST(AskPhrase, SaysWhyItRefuses) {
   EXPECT_EQ(Ask(u"",
                 [](QWidget* caja) {

@@ -43,13 +43,16 @@ QString TituloDe(std::u16string_view titulo) {
 
 // A question may stand in the title alone: the box is as wide as the title needs with the window's
 // own buttons beside it.
+QSpacerItem* RoomForTitle(const QDialog& caja) {
+  const int letra = caja.fontMetrics().averageCharWidth();
+  const int ancho = caja.fontMetrics().horizontalAdvance(caja.windowTitle()) + 20 * letra;
+  return new QSpacerItem{ancho, 0, QSizePolicy::Minimum, QSizePolicy::Minimum};
+}
+
 void LeaveRoomForTitle(QMessageBox& caja) {
   auto* const rejilla = qobject_cast<QGridLayout*>(caja.layout());
   if (rejilla == nullptr) return;
-  const int letra = caja.fontMetrics().averageCharWidth();
-  const int ancho = caja.fontMetrics().horizontalAdvance(caja.windowTitle()) + 20 * letra;
-  rejilla->addItem(new QSpacerItem{ancho, 0, QSizePolicy::Minimum, QSizePolicy::Minimum},
-                   rejilla->rowCount(), 0, 1, rejilla->columnCount());
+  rejilla->addItem(RoomForTitle(caja), rejilla->rowCount(), 0, 1, rejilla->columnCount());
 }
 
 // A click or a screen reader's look at each control would go to a text that is not there.
@@ -125,6 +128,7 @@ std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string
   caja.setCancelButtonText(QStringLiteral("Cancelar"));
   if (auto* const etiqueta = caja.findChild<QLabel*>()) etiqueta->setTextFormat(Qt::PlainText);
   for (QPushButton* const boton : caja.findChildren<QPushButton*>()) boton->setIcon({});
+  if (caja.layout() != nullptr) caja.layout()->addItem(RoomForTitle(caja));
   const int respuesta = RunBox(caja, caja.findChild<QLineEdit*>());
   return respuesta == QDialog::Accepted ? FromInput(caja.textValue()) : std::u16string{};
 }

@@ -22,6 +22,7 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   auto* const etiqueta = new QLabel{ToLabel(texto), &caja};
   etiqueta->setTextFormat(Qt::PlainText);
   auto* const estado = new StatusLine{&caja};
+  estado->setMinimumHeight(2 * estado->fontMetrics().lineSpacing());  // the longest reason
   const auto alRechazar = [estado](std::u16string_view reparo) {
     estado->ShowText(reparo);
     if (!reparo.empty()) QApplication::beep();
