@@ -245,6 +245,23 @@ TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
   EXPECT_EQ(estado_.Combo1.ListIndex, 1);
 }
 
+TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndStaysAsItIs) {
+  auto* const historia = Find<QLabel>("Text4");
+  const QSize forma = ventana_.size();
+  for (const std::u16string& texto :
+       {std::u16string(200, u'x'), u"Dice " + std::u16string(195, u'n')}) {
+    estado_.Text4 = texto;
+    ventana_.ShowState();
+    const QRect hueco = historia->contentsRect().marginsRemoved(
+        {historia->margin(), historia->margin(), historia->margin(), historia->margin()});
+    const QRect ocupado = historia->fontMetrics().boundingRect(QRect{0, 0, hueco.width(), 10000},
+                                                               Qt::TextWordWrap, historia->text());
+    EXPECT_LE(ocupado.width(), hueco.width()) << Utf8(texto);
+    EXPECT_LE(ocupado.height(), hueco.height()) << Utf8(texto);
+    EXPECT_EQ(ventana_.size(), forma);
+  }
+}
+
 TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {
   Find<QCheckBox>("Check1_0")->click();
   EXPECT_EQ(LabelText("Text3"), "jugador 3: Sí, como bueyes");

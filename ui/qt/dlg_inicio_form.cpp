@@ -34,6 +34,18 @@ QLabel* Hoja(QWidget* padre, int lineas) {
   return hoja;
 }
 
+// A word too wide for `hoja` at its narrowest may be broken after any character.
+QString Breakable(const QString& texto, const QLabel& hoja) {
+  const QChar permisoDeCorte{0x200B};
+  const int sitio = hoja.minimumWidth() - 2 * (hoja.margin() + hoja.frameWidth());
+  QStringList palabras = texto.split(QChar{u' '});
+  for (QString& palabra : palabras) {
+    if (hoja.fontMetrics().horizontalAdvance(palabra) <= sitio) continue;
+    for (qsizetype i = palabra.size() - 1; i > 0; --i) palabra.insert(i, permisoDeCorte);
+  }
+  return palabras.join(QChar{u' '});
+}
+
 void ShowCombo(QComboBox* combo, const ComboBox& lista) {
   if (combo->count() != static_cast<int>(lista.List.size())) {
     combo->clear();
@@ -200,7 +212,7 @@ void DlgInicioForm::ShowState() {
   text1_->setText(ToDisplay(estado_.Text1).trimmed());
   text2_->ShowText(estado_.Text2);
   text3_->setText(ToDisplay(estado_.Text3));
-  text4_->setText(ToDisplay(estado_.Text4));
+  text4_->setText(Breakable(ToDisplay(estado_.Text4), *text4_));
   ShowCombo(combos_[0], estado_.Combo1);
   ShowCombo(combos_[1], estado_.Combo2);
   ShowCombo(combos_[2], estado_.Combo3);
