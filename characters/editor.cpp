@@ -168,7 +168,7 @@ std::u16string_view ReparoAlTexto(std::u16string_view texto, int largo, int maxi
   for (const char16_t letra : texto) {
     if (letra == u'\n' || letra == u'\r') return u"Un texto no puede tener más de una línea.";
     if (letra == u'>') return u"El signo > no puede guardarse: separa las partes del archivo.";
-    if (IsControl(letra)) return u"Un carácter de control no puede guardarse.";
+    if (IsControl(letra)) return u"Un texto no lleva tabuladores ni caracteres de control.";
     if (!InCodePage(letra)) return u"El archivo no tiene sitio para ese carácter.";
   }
   return largo > maximo ? u"El texto no puede ser más largo." : u"";

@@ -36,7 +36,7 @@ class EditorPort {
 
 // Why `texto` cannot be typed or pasted into a box that would then hold `largo` of at most `maximo`
 // characters, as a sentence for the player; "" when it can. What the file could not hold is
-// refused.
+// refused, and so is every control character: most of them cannot be seen.
 std::u16string_view ReparoAlTexto(std::u16string_view texto, int largo, int maximo);
 
 struct ListBox {

@@ -117,7 +117,7 @@ TEST_P(ReparoAlTextoDe, RefusesWhatTheFileCannotHold) {
 }
 
 constexpr auto Linea = "Un texto no puede tener más de una línea.";
-constexpr auto Control = "Un carácter de control no puede guardarse.";
+constexpr auto Control = "Un texto no lleva tabuladores ni caracteres de control.";
 constexpr auto SinSitio = "El archivo no tiene sitio para ese carácter.";
 
 INSTANTIATE_TEST_SUITE_P(

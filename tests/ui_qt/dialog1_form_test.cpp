@@ -90,6 +90,20 @@ TEST_F(EditorWindow, HasTheCaptionsOfTheButtons) {
                              "&Cargar de disco", "Aceptar"}));
 }
 
+TEST_F(EditorWindow, SaysInABoxOfOneRowWhatEnterDoesNot) {
+  const std::string que = "Para guardar los datos, pulse «Nuevo jugador» o «Releer datos jugador».";
+  for (const char* const nombre : {"Text1", "Text2"}) {
+    Find<QWidget>(nombre)->setFocus();
+    Keys({Qt::Key_Return});
+    EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), que) << nombre;
+    Type("3");
+    EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "") << nombre;
+  }
+  Find<QWidget>("List1")->setFocus();
+  Keys({Qt::Key_Return});
+  EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()), "");
+}
+
 TEST_F(EditorWindow, AddsNoCharacterForAHeldKey) {
   Find<QPushButton>("Command1_0")->setFocus();
   Press(&ventana_, Qt::Key_Return);

@@ -201,6 +201,16 @@ bool Dialog1Form::eventFilter(QObject* objeto, QEvent* suceso) {
   return true;
 }
 
+// Enter in a box of one row stores nothing: the player has to press a button.
+void Dialog1Form::keyPressEvent(QKeyEvent* suceso) {
+  const bool esEnter = TeclaDe(*suceso).KeyCode == TeclaEnter;
+  if (!esEnter || qobject_cast<QPlainTextEdit*>(focusWidget()) == nullptr) {
+    return QWidget::keyPressEvent(suceso);
+  }
+  estadoTexto_->ShowText(
+      u"Para guardar los datos, pulse «Nuevo jugador» o «Releer datos jugador».");
+}
+
 void Dialog1Form::BuildLayout() {
   auto* const jugadores = new QVBoxLayout;
   jugadores->addWidget(NewLabel(list1_, "Label4", u"&Jugadores"));

@@ -31,6 +31,7 @@ class Dialog1Form : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
