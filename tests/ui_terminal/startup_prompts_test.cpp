@@ -210,7 +210,7 @@ TEST(AskStartup, RefusesANameThatTheSettingsCannotHold) {
             "El archivo no tiene sitio para ese carácter.\n");
   EXPECT_EQ(AnswerToTheName("Ana>"),
             "El signo > no puede guardarse: separa las partes del archivo.\n");
-  EXPECT_EQ(AnswerToTheName("A\tna"), "Un carácter de control no puede guardarse.\n");
+  EXPECT_EQ(AnswerToTheName("A\tna"), "Un texto no lleva tabuladores ni caracteres de control.\n");
 }
 
 TEST(AskStartup, TakesANameOfEveryKindOfLetterThatTheSettingsHold) {
