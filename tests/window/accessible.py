@@ -44,10 +44,10 @@ class Bus:
         registry.call("org.a11y.atspi.Registry", "RegisterEvent", GLib.Variant("(s)", (event,)))
 
     def subscribe(self, kind, name, heard):
-        """Calls `heard` with the path, the detail and the value of every such event."""
-        def pass_on(_connection, _sender, path, _interface, _signal, values):
+        """Calls `heard` with the node, the detail and the value of every such event."""
+        def pass_on(_connection, sender, path, _interface, _signal, values):
             detail, _, _, value, *_ = values.unpack()
-            heard(path, detail, value)
+            heard(Node(self._connection, sender, path), detail, value)
         self._connection.signal_subscribe(None, f"org.a11y.atspi.Event.{kind}", name, None, None,
                                           Gio.DBusSignalFlags.NONE, pass_on)
 

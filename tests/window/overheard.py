@@ -1,18 +1,20 @@
 """Everything that a program shows, in order and without a gap: AT-SPI's events, as they come."""
 import signal
 
-from accessible import GLib
+from accessible import GLib, Gone
 
 _ENDING = (signal.SIGINT, signal.SIGTERM)
 _EVENTS = ("window:activate", "object:text-changed")
 _BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
+_TABLE = "filler"  # the role of a window that is no dialog
 
 
 class Overheard:
     """What has been shown so far, in `log`: ("window", title) and ("said", text).
 
-    A window counts when it first has the keyboard, a text when the transcript gets it; the log
-    begins with the first transcript. To be made before the program starts.
+    A box counts when it first has the keyboard, a text when the transcript gets it; the log begins
+    with the first transcript. The table may get the keyboard after its first boxes, and does not
+    count. To be made before the program starts.
     """
 
     def __init__(self, bus):
@@ -35,16 +37,25 @@ class Overheard:
         signal.pthread_sigmask(signal.SIG_UNBLOCK, _ENDING)
         return len(self.log) > before
 
-    def _window(self, path, _, title):
-        if path in self._known:
+    def _window(self, window, _, title):
+        if window.path in self._known:
             return
-        self._known.add(path)
-        if self._transcript:
+        self._known.add(window.path)
+        if self._transcript and not _is_table(window):
             self.log.append(("window", title))
 
-    def _text(self, path, kind, text):
+    def _text(self, transcript, kind, text):
+        path = transcript.path
         text = text.replace("\u2029", "\n")
         if text.startswith(_BEGINNING):
             self._transcript = path
         if kind == "insert" and path == self._transcript:
             self.log.append(("said", text))
+
+
+def _is_table(window):
+    """A box may be gone by the time its event is read; the table stays for a whole match."""
+    try:
+        return window.role() == _TABLE
+    except Gone:
+        return False
