@@ -12,7 +12,7 @@ namespace {
 
 constexpr int PalosBaraja = 4;
 constexpr int CartasPorPalo = 10;
-constexpr int CartasBaraja = PalosBaraja * CartasPorPalo;
+static_assert(CartasBaraja == PalosBaraja * CartasPorPalo);
 
 constexpr std::array<std::u16string_view, PalosBaraja> Palos{u"oros", u"copas", u"espadas",
                                                              u"bastos"};

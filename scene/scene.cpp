@@ -9,8 +9,6 @@
 namespace tasca {
 namespace {
 
-constexpr int CartasBaraja = 40;
-
 // A card of seats 2 to 4 lies open only where it is the very card that was laid open there.
 bool EstaAbierta(const Table& t, Seat asiento, int hueco) {
   const Integer carta = t.Manos[asiento][hueco];

@@ -57,6 +57,8 @@ struct Personaje {
   bool operator==(const Personaje&) const = default;
 };
 
+inline constexpr int CartasBaraja = 40;
+
 // One of the 40 cards, or the empty card 0 (all three values -1).
 struct Card {
   Integer Numero;        // (suit - 1) x 10 + rank

@@ -102,7 +102,10 @@ TEST(LineReader, ReadsLinesThatEndAroundTheEndOfABlock) {
   constexpr std::size_t Bloque = 8192;
   for (std::size_t largo = Bloque - 8; largo <= Bloque + 8; ++largo) {
     const std::string larga(largo, 'x');
-    EXPECT_EQ(LinesOf(larga + "\r\n" + larga + "\n\r\nfin"), (Lineas{larga, larga, "", "fin"}));
+    std::string dos = larga + "\r\n";
+    dos += larga;
+    dos += "\n\r\nfin";
+    EXPECT_EQ(LinesOf(dos), (Lineas{larga, larga, "", "fin"}));
     EXPECT_EQ(LinesOf(larga), Lineas{larga});
   }
 }

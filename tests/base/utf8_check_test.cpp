@@ -20,7 +20,10 @@ TEST(CheckUtf8, FindsTheFirstAndTheLastSequenceOfEachLength) {
        {"\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBF",
         "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
     EXPECT_EQ(CheckUtf8(bytes), Utf8Check::MultiByte);
-    EXPECT_EQ(CheckUtf8("a" + bytes + "b" + bytes), Utf8Check::MultiByte);
+    std::string dos = "a" + bytes;
+    dos += "b";
+    dos += bytes;
+    EXPECT_EQ(CheckUtf8(dos), Utf8Check::MultiByte);
   }
 }
 

@@ -10,21 +10,23 @@ namespace {
 constexpr auto OrdagueroNoCabe =
     "box: El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha escrito ";
 
+void ExpectRefused(int valor) {
+  Taller e{1};
+  const Table antes = e.t;
+  e.d.Text1 = u" Lola ";
+  e.d.Text2 = Join(valor, u"x");
+  e.d.Text3 = u"Baila.";
+  Command1_Click(e.d, e.t, e.port, 0);
+  EXPECT_EQ(e.port.TakeEvents(),
+            (Textos{OrdagueroNoCabe + std::to_string(valor) + ". Cámbielo y pruebe otra vez."}));
+  EXPECT_EQ(e.t, antes);
+  EXPECT_EQ(e.d.NumPersonajes, 1);
+  EXPECT_EQ(Entradas(e.d.List1), Textos{"1. P1"});
+  EXPECT_EQ(Campos(e.d), (Textos{" Lola ", std::to_string(valor) + "x", "Baila."}));
+}
+
 TEST(NuevoJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
-  for (const int valor : {-999, -100, -10, -9, -1, 1000, 32767}) {
-    Taller e{1};
-    const Table antes = e.t;
-    e.d.Text1 = u" Lola ";
-    e.d.Text2 = Join(valor, u"x");
-    e.d.Text3 = u"Baila.";
-    Command1_Click(e.d, e.t, e.port, 0);
-    EXPECT_EQ(e.port.TakeEvents(),
-              (Textos{OrdagueroNoCabe + std::to_string(valor) + ". Cámbielo y pruebe otra vez."}));
-    EXPECT_EQ(e.t, antes);
-    EXPECT_EQ(e.d.NumPersonajes, 1);
-    EXPECT_EQ(Entradas(e.d.List1), Textos{"1. P1"});
-    EXPECT_EQ(Campos(e.d), (Textos{" Lola ", std::to_string(valor) + "x", "Baila."}));
-  }
+  for (const int valor : {-999, -100, -10, -9, -1, 1000, 32767}) ExpectRefused(valor);
 }
 
 TEST(NuevoJugador, TakesEveryOrdagueroThatComesBackFromTheFile) {
@@ -64,22 +66,23 @@ struct TextoNuevo {
   Textos Datos;
 };
 
+void ExpectStored(const TextoNuevo& nuevo) {
+  Taller e{3};
+  List1_Click(e.d, e.t, e.port, 0);
+  e.d.*nuevo.Caja = nuevo.Escrito;
+  e.port.Confirms(true);
+  List1_Click(e.d, e.t, e.port, 2);
+  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P1"));
+  EXPECT_EQ(e.Datos(1), nuevo.Datos);
+  EXPECT_EQ(e.Datos(3), (Textos{"P3", "30", "H3"}));
+  EXPECT_EQ(e.d.List1.ListIndex, 2);
+  EXPECT_EQ(Campos(e.d), (Textos{"P3", "30", "H3"}));
+}
+
 TEST(List1_Click, StoresChangedTextsWhenThatIsConfirmed) {
-  const std::vector<TextoNuevo> nuevos{{&Dialog1::Text1, u" Lola ", {"Lola", "10", "H1"}},
-                                       {&Dialog1::Text2, u"7x", {"P1", "7", "H1"}},
-                                       {&Dialog1::Text3, u" Baila. ", {"P1", "10", "Baila."}}};
-  for (const TextoNuevo& nuevo : nuevos) {
-    Taller e{3};
-    List1_Click(e.d, e.t, e.port, 0);
-    e.d.*nuevo.Caja = nuevo.Escrito;
-    e.port.Confirms(true);
-    List1_Click(e.d, e.t, e.port, 2);
-    EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P1"));
-    EXPECT_EQ(e.Datos(1), nuevo.Datos);
-    EXPECT_EQ(e.Datos(3), (Textos{"P3", "30", "H3"}));
-    EXPECT_EQ(e.d.List1.ListIndex, 2);
-    EXPECT_EQ(Campos(e.d), (Textos{"P3", "30", "H3"}));
-  }
+  ExpectStored({&Dialog1::Text1, u" Lola ", {"Lola", "10", "H1"}});
+  ExpectStored({&Dialog1::Text2, u"7x", {"P1", "7", "H1"}});
+  ExpectStored({&Dialog1::Text3, u" Baila. ", {"P1", "10", "Baila."}});
 }
 
 TEST(List1_Click, DropsChangedTextsWhenThatIsNotConfirmed) {

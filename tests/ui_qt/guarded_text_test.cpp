@@ -42,8 +42,8 @@ class TextBox : public testing::Test {
 };
 
 constexpr auto Linea = "Un texto no puede tener más de una línea.";
-constexpr auto SinSitio = "El archivo no tiene sitio para ese carácter.";
-constexpr auto Separador = "El signo > no puede guardarse: separa las partes del archivo.";
+constexpr auto NoCabe = "El archivo no tiene sitio para ese carácter.";
+constexpr auto EsSeparador = "El signo > no puede guardarse: separa las partes del archivo.";
 constexpr auto Largo = "El texto no puede ser más largo.";
 
 TEST_F(TextBox, TakesWhatTheFileHolds) {
@@ -74,9 +74,9 @@ TEST_F(TextBox, TakesTheSignsOfAltGrAndCountsThem) {
 TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
   Show(20);
   Type("a>");
-  EXPECT_EQ(reparo_, Separador);
+  EXPECT_EQ(reparo_, EsSeparador);
   Type("ł");
-  EXPECT_EQ(reparo_, SinSitio);
+  EXPECT_EQ(reparo_, NoCabe);
   Type("b");
   EXPECT_EQ(reparo_, "");
   EXPECT_EQ(Text(), "ab");
@@ -96,9 +96,9 @@ TEST_F(TextBox, RefusesAPasteWholeWithTheReason) {
   Paste(QStringLiteral("uno\ndos"));
   EXPECT_EQ(reparo_, Linea);
   Paste(QStringLiteral("日本"));
-  EXPECT_EQ(reparo_, SinSitio);
+  EXPECT_EQ(reparo_, NoCabe);
   Paste(QStringLiteral("a > b"));
-  EXPECT_EQ(reparo_, Separador);
+  EXPECT_EQ(reparo_, EsSeparador);
   EXPECT_EQ(Text(), "x");
 }
 
@@ -111,7 +111,7 @@ TEST_F(TextBox, RefusesWhatIsDropped) {
   QDropEvent suelta{QPointF{2, 2}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier};
   QApplication::sendEvent(caja_->viewport(), &suelta);
   EXPECT_EQ(Text(), "");
-  EXPECT_EQ(reparo_, Separador);
+  EXPECT_EQ(reparo_, EsSeparador);
 }
 
 TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
@@ -120,7 +120,7 @@ TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
   EXPECT_EQ(Text(), "é");
   Compose(QStringLiteral("日"));
   EXPECT_EQ(Text(), "é");
-  EXPECT_EQ(reparo_, SinSitio);
+  EXPECT_EQ(reparo_, NoCabe);
 }
 
 TEST_F(TextBox, StaysAsItIsWhenWhatAnInputMethodComposedOverItIsRefused) {
@@ -131,7 +131,7 @@ TEST_F(TextBox, StaysAsItIsWhenWhatAnInputMethodComposedOverItIsRefused) {
   Compose({}, QStringLiteral("ri"));
   Compose(QStringLiteral("日"));
   EXPECT_EQ(Text(), "La\u00A0boticaria");
-  EXPECT_EQ(reparo_, SinSitio);
+  EXPECT_EQ(reparo_, NoCabe);
   EXPECT_EQ(caja_->textCursor().selectedText().size(), 12);
 }
 

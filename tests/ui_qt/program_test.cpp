@@ -302,23 +302,26 @@ TEST_F(ProgramInWindows, LeavesTypedTextAloneWhileNoStepRuns) {
   EXPECT_EQ(Play(CutAndPass), 0);
 }
 
-TEST_F(ProgramInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
-  for (const char* const caja : {"YesNoBox", "Dialog", "InputBox"}) {
-    SetTable(carpeta_);
-    bool estaba = false;
-    const int estado = Play([&](const QString& pregunta) {
-      if (QApplication::activeModalWidget()->objectName() == QLatin1String{caja}) {
-        EXPECT_FALSE(std::exchange(estaba, true)) << "asks on: " << Utf8(pregunta);
-        programa_->AtSessionEnd().Comes();
-        return Qt::Key_F5;
-      }
-      const bool mus = QLatin1String{caja} == QLatin1String{"InputBox"};
-      return mus && pregunta == QStringLiteral("¿mus?") ? Qt::Key_S : CutAndPass(pregunta);
-    });
-    EXPECT_EQ(estado, 0) << caja;
-    EXPECT_TRUE(estaba) << caja;
-  }
+class SessionWithABox : public ProgramInWindows, public testing::WithParamInterface<const char*> {};
+
+TEST_P(SessionWithABox, EndsThoughItIsOpen) {
+  SetTable(carpeta_);
+  const QLatin1String caja{GetParam()};
+  bool estaba = false;
+  const int estado = Play([&](const QString& pregunta) {
+    if (QApplication::activeModalWidget()->objectName() == caja) {
+      EXPECT_FALSE(std::exchange(estaba, true)) << "asks on: " << Utf8(pregunta);
+      programa_->AtSessionEnd().Comes();
+      return Qt::Key_F5;
+    }
+    const bool mus = caja == QLatin1String{"InputBox"};
+    return mus && pregunta == QStringLiteral("¿mus?") ? Qt::Key_S : CutAndPass(pregunta);
+  });
+  EXPECT_EQ(estado, 0);
+  EXPECT_TRUE(estaba);
 }
+
+INSTANTIATE_TEST_SUITE_P(Boxes, SessionWithABox, testing::Values("YesNoBox", "Dialog", "InputBox"));
 
 TEST_F(ProgramInWindows, EndsWithTheSessionWhileAnErrorIsTold) {
   const int estado = Play([this](const QString&) {

@@ -151,16 +151,18 @@ void Dialog1Form::Connect() {
 
 // A click in the empty part of a list would leave it without a selection; the state keeps it.
 void Dialog1Form::ConnectLists() {
+  devolucion_.setSingleShot(true);
+  connect(&devolucion_, &QTimer::timeout, this, [this] { GiveSelectionsBack(); });
   const auto alElegir = [this](QListWidget* lista, const ListBox& estado,
                                const std::function<void(int)>& clic) {
     const auto elegida = [this, lista, &estado, clic] {
-      if (devuelveSeleccion_) return;
+      if (devolucion_.isActive()) return;
       const bool hay = !lista->selectedItems().isEmpty();
       const int posicion = hay ? lista->row(lista->selectedItems().first()) : estado.ListIndex;
       Do([&] {
         if (hay) clic(posicion);
       });
-      if (estado.ListIndex != posicion) GiveSelectionBack(lista, estado);
+      if (estado.ListIndex != posicion) devolucion_.start();
     };
     connect(lista, &QListWidget::itemSelectionChanged, this, elegida);
     connect(lista, &QListWidget::itemClicked, this, elegida);
@@ -171,14 +173,12 @@ void Dialog1Form::ConnectLists() {
   alElegir(list3_, estado_.List3, [this](int posicion) { List3_Click(estado_, posicion); });
 }
 
-// The toolkit selects the entry once more before its event is over, and makes it the current one.
-void Dialog1Form::GiveSelectionBack(QListWidget* lista, const ListBox& estado) {
-  devuelveSeleccion_ = true;
-  const auto devolver = [this, lista, &estado] {
-    ShowSelection(lista, estado);
-    devuelveSeleccion_ = false;
-  };
-  QMetaObject::invokeMethod(this, devolver, Qt::QueuedConnection);
+// The toolkit selects an entry once more before its event is over, and makes it the current one:
+// what the state has not followed is put back after that.
+void Dialog1Form::GiveSelectionsBack() {
+  ShowSelection(list1_, estado_.List1);
+  ShowSelection(list2_, estado_.List2);
+  ShowSelection(list3_, estado_.List3);
 }
 
 void Dialog1Form::ConnectButtons() {

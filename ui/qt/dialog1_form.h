@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTimer>
 #include <QWidget>
 #include <array>
 #include <functional>
@@ -45,7 +46,7 @@ class Dialog1Form : public QWidget {
   QLayout* BuildButtons();
   void SetTabs();
   // Selects the state's entry again once the event that chose another is over.
-  void GiveSelectionBack(QListWidget* lista, const ListBox& estado);
+  void GiveSelectionsBack();
   // Runs an event of the logic on the texts as they have been typed, and shows what came of it.
   void Do(const std::function<void()>& suceso);
 
@@ -53,7 +54,7 @@ class Dialog1Form : public QWidget {
   EditorPort& port_;
   Events sucesos_;
   Dialog1 estado_;
-  bool devuelveSeleccion_ = false;  // a selection is about to be given back
+  QTimer devolucion_;  // runs while the lists are about to get their selections back
   StatusLine* estadoTexto_;
   QListWidget* list1_;
   QListWidget* list2_;
