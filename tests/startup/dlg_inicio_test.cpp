@@ -283,8 +283,7 @@ TEST(CbOK, SavesNothingWithoutASettingsFile) {
 
 const std::string SinNombre =
     "box: No se ha podido guardar su nombre en mus.ini: no hay permiso para escribir. La partida "
-    "se "
-    "juega igual.";
+    "se juega igual.";
 
 // A dialog with settings in a folder of a user whom permissions bind.
 struct EnCarpetaAjena : Inicio {
@@ -296,6 +295,8 @@ struct EnCarpetaAjena : Inicio {
     d.Option1 = 1;
     usuario.emplace(carpeta);
   }
+  EnCarpetaAjena(const EnCarpetaAjena&) = delete;
+  EnCarpetaAjena& operator=(const EnCarpetaAjena&) = delete;
   ~EnCarpetaAjena() { Permitir(carpeta.Path(), 0755); }
 
   static void Permitir(const std::filesystem::path& ruta, unsigned permisos) {
