@@ -33,9 +33,6 @@ if(TASCA_SANITIZE)
     list(APPEND sanitizers -fsanitize=implicit-conversion
       -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/system_headers.ignore)
   endif()
-  # The check of virtual calls probes memory through pipes: system calls that the tests of saves would
-  # count as the program's own.
-  list(APPEND sanitizers -fno-sanitize=vptr)
   add_compile_options(${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(${sanitizers})
 endif()
