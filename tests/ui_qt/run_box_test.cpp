@@ -51,7 +51,7 @@ class HastyPlayer : public QObject {
   // A box that is answered before it waits would wait for ever.
   static void ShowAgain(QDialog* caja) {
     ADD_FAILURE() << "answered by a key that came too early";
-    QMetaObject::invokeMethod(caja, &QWidget::show, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(caja, "show", Qt::QueuedConnection);
   }
 
   int perdidas_ = 0;
