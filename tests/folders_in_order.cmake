@@ -1,6 +1,6 @@
 # Fails when a file includes one of a folder that is built on its own.
 # cmake -DROOT=<the project's folder> -P folders_in_order.cmake
-set(folders base table characters sound cards score lances mus count startup scene match ui)
+set(folders base table characters sound cards score lances mus count startup scene match ui tools)
 set(upward "")
 set(seen 0)
 set(above ${folders})

@@ -9,7 +9,7 @@ import source
 
 RULES = ("base", "cards", "characters", "count", "lances", "match", "mus", "scene", "score", "sound",
          "startup", "table")
-UI = ("ui", "ui/cast", "ui/check", "ui/qt", "ui/sound", "ui/terminal", "ui/trace")
+UI = ("ui", "tools/cast", "tools/check", "ui/qt", "ui/loudspeaker", "ui/terminal", "ui/trace")
 
 RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
              "==": ("!=",), "!=": ("==",)}

@@ -12,7 +12,7 @@ class Rules:
     PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
     FOLDERS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
                "startup", "characters", "base")
-    OTHERS = ("tests_ui_trace", "tests_bad_inputs", "tests_ui_cast", "tests_save_faults")
+    OTHERS = ("tests_ui_trace", "tests_bad_inputs", "tests_tools_cast", "tests_save_faults")
     # A minute or two long, and about nothing but how a file is saved.
     SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
 
@@ -55,20 +55,20 @@ class Ui:
                  "tasca_loudspeaker", "tasca_terminal_face", "tasca_qt")
     PROGRAMS = ("tasca", "tasca-editor", "tasca-terminal", "tasca-sound", "tasca-trace",
                 "tasca-cast", "tasca-check", "tasca-golden")
-    TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_sound", "tests_ui_terminal",
-             "tests_ui_trace", "tests_ui_cast", "tests_ui")
+    TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_loudspeaker", "tests_ui_terminal",
+             "tests_ui_trace", "tests_tools_cast", "tests_ui")
     # From what a path begins with to the tests, in their order.
     BY_PATH = {
         "ui/qt/": ("tests_ui_qt_start", "start of tasca", "start of tasca-editor", "tests_ui_qt"),
-        "ui/sound/": ("tests_ui_sound", "tests_ui_terminal", "tests_ui_qt"),
+        "ui/loudspeaker/": ("tests_ui_loudspeaker", "tests_ui_terminal", "tests_ui_qt"),
         "ui/terminal/": ("tests_ui_terminal",),
-        "ui/check/": ("checker",),
-        "ui/cast/": ("tests_ui_cast", "cast"),
+        "tools/check/": ("checker",),
+        "tools/cast/": ("tests_tools_cast", "cast"),
         "ui/trace/": ("tests_ui_trace", "traces/"),
         "ui/program_folder": ("tests_ui_qt_start", "tests_ui_terminal", "tests_ui_qt"),
         "ui/options": ("options/",),
         "ui/plain_text": ("tests_ui", "tests_ui_terminal", "checker"),
-        "ui/utf8": ("tests_ui", "tests_ui_cast", "tests_ui_terminal", "tests_ui_trace", "traces/",
+        "ui/utf8": ("tests_ui", "tests_tools_cast", "tests_ui_terminal", "tests_ui_trace", "traces/",
                     "checker"),
     }
 
@@ -90,7 +90,7 @@ class Ui:
                                           ("tasca-check", "es", "some")):
             script = self._tests / "ui" / "check-options"
             found[f"options/{name}"] = ["sh", script, place(name), language, arguments, "1.0"]
-        found["checker"] = ["sh", self._tests / "ui_check" / "check-program", place("tasca-check"),
+        found["checker"] = ["sh", self._tests / "tools_check" / "check-program", place("tasca-check"),
                             self._data / "Jugadores.dat"]
         found["cast"] = ["sh", "-c", '"$0" "$1/personajes.txt" written && '
                          'cmp written "$1/Jugadores.dat"', place("tasca-cast"), self._data]
@@ -108,7 +108,7 @@ class Ui:
         """The suites of the test file that is called like the source, of those that run long."""
         folder, stem = path.split("/")[1], path.rsplit("/", 1)[1].removesuffix(".cpp")
         file = self._tests / f"ui_{folder}" / f"{stem}_test.cpp"
-        if folder not in ("qt", "sound", "terminal") or not file.exists():
+        if folder not in ("qt", "loudspeaker", "terminal") or not file.exists():
             return
         suites = sorted(set(re.findall(r"^TEST(?:_F|_P)?\((\w+),", file.read_text("utf-8"), re.M)))
         if suites:

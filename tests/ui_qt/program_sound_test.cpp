@@ -7,8 +7,8 @@
 
 #include "tests/ui_qt/companions.h"
 #include "tests/ui_qt/player.h"
-#include "tests/ui_sound/recording.h"
-#include "tests/ui_sound/stand_in.h"
+#include "tests/ui_loudspeaker/recording.h"
+#include "tests/ui_loudspeaker/stand_in.h"
 #include "ui/qt/program.h"
 
 namespace tasca::test {

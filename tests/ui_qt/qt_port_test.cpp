@@ -10,8 +10,8 @@
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
 #include "tests/ui_qt/player.h"
-#include "tests/ui_sound/listener.h"
-#include "tests/ui_sound/stand_in.h"
+#include "tests/ui_loudspeaker/listener.h"
+#include "tests/ui_loudspeaker/stand_in.h"
 
 namespace tasca::test {
 namespace {

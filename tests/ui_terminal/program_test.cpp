@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "tests/ui_sound/stand_in.h"
+#include "tests/ui_loudspeaker/stand_in.h"
 #include "tests/ui_terminal/sessions.h"
 #include "tests/ui_terminal/terminal_program.h"
 

@@ -10,9 +10,9 @@
 #include <string>
 #include <thread>
 
-#include "tests/ui_sound/listener.h"
-#include "tests/ui_sound/recording.h"
-#include "tests/ui_sound/stand_in.h"
+#include "tests/ui_loudspeaker/listener.h"
+#include "tests/ui_loudspeaker/recording.h"
+#include "tests/ui_loudspeaker/stand_in.h"
 #include "tests/ui_terminal/sessions.h"
 #include "ui/terminal/terminal.h"
 

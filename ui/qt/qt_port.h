@@ -4,7 +4,7 @@
 
 #include "table/port.h"
 #include "ui/qt/form1.h"
-#include "ui/sound/media_player.h"
+#include "ui/loudspeaker/media_player.h"
 
 namespace tasca {
 

@@ -3,7 +3,7 @@
 
 #include "base/text.h"
 #include "ui/plain_text.h"
-#include "ui/terminal/transcript.h"
+#include "ui/terminal/new_text.h"
 
 namespace tasca {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 // The rules' questions, put at the terminal.
 #include "table/port.h"
-#include "ui/sound/media_player.h"
+#include "ui/loudspeaker/media_player.h"
 #include "ui/terminal/prompts.h"
 #include "ui/terminal/screen.h"
 

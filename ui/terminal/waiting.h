@@ -2,7 +2,7 @@
 // What happens while the program waits for the player's next line: sounds end, and others follow.
 #include <functional>
 
-#include "ui/sound/media_player.h"
+#include "ui/loudspeaker/media_player.h"
 
 namespace tasca {
 

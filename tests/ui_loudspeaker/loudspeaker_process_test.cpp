@@ -1,0 +1,170 @@
+// The process that plays: how the game starts it, what it orders, and how it lets it go.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <iterator>
+#include <optional>
+
+#include "tests/ui_loudspeaker/listener.h"
+#include "tests/ui_loudspeaker/stand_in.h"
+
+namespace tasca::test {
+namespace {
+
+// Tells its number, when it is ready, in a file that is there as a whole or not at all.
+constexpr const char* Ready = R"(echo $$ >"$here/new" && mv "$here/new" "$here/ready")";
+
+class LoudspeakerProcess : public testing::Test {
+ protected:
+  void Open(std::u16string_view archivo = u"Son.wav", const MediaPlayerSettings& ajustes = {}) {
+    mp1_->Open(carpeta_.Path(), archivo, ajustes);
+  }
+
+  // The number of the process that has been started.
+  pid_t WaitUntilReady() {
+    const auto listo = [this] { return std::filesystem::exists(carpeta_.Path() / "ready"); };
+    EXPECT_TRUE(Eventually(listo));
+    return listo() ? std::stoi(carpeta_.Read("ready")) : 0;
+  }
+
+  std::string Path(const std::string& nombre) const { return carpeta_.Path() / nombre; }
+
+  TempFolder carpeta_;
+  std::optional<MediaPlayer> mp1_{std::in_place};
+};
+
+// Not even a zombie is left: its number is nobody's.
+void ExpectGone(pid_t proceso) {
+  ASSERT_GT(proceso, 0);
+  EXPECT_EQ(::kill(proceso, 0), -1);
+  EXPECT_EQ(errno, ESRCH);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneOnceTheSoundIsTurnedOff) {
+  StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_EQ(::kill(proceso, 0), 0);
+  mp1_->TurnOn(false);
+  ExpectGone(proceso);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneWithTheMediaPlayer) {
+  StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  mp1_.reset();
+  ExpectGone(proceso);
+}
+
+TEST_F(LoudspeakerProcess, IsGoneOnceItHasEndedByItself) {
+  StandIn(carpeta_, std::string{Ready} + "\nexit 1");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+  ExpectGone(proceso);
+}
+
+// Waiting for it would take until it has written its last file.
+TEST_F(LoudspeakerProcess, GoesAtOnceEvenIfItIgnoresRequestsToEnd) {
+  StandIn(carpeta_,
+          std::string{"trap '' TERM INT HUP\n"} + Ready + "\nsleep 5\n: >\"$here/lived on\"");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  mp1_->TurnOn(false);
+  ExpectGone(proceso);
+  EXPECT_FALSE(std::filesystem::exists(Path("lived on")));
+}
+
+TEST_F(LoudspeakerProcess, WritesNothingToThePlayersTerminal) {
+  StandIn(carpeta_, std::string{R"(outputs=$(readlink /proc/$$/fd/1 /proc/$$/fd/2))"} +
+                        R"(; echo "$outputs" >"$here/outputs"; )" + Ready);
+  Open();
+  WaitUntilReady();
+  EXPECT_EQ(carpeta_.Read("outputs"), "/dev/null\n/dev/null\n");
+}
+
+TEST_F(LoudspeakerProcess, InheritsNoneOfTheGamesFiles) {
+  const int abierto = ::creat(Path("a file").c_str(), 0600);
+  ASSERT_GE(abierto, 0);
+  StandIn(carpeta_, std::string{R"(ls -l /proc/$$/fd >"$here/files"; )"} + Ready);
+  Open();
+  WaitUntilReady();
+  ::close(abierto);
+  const std::string heredados = carpeta_.Read("files");
+  EXPECT_NE(heredados.find("0 -> socket:"), std::string::npos) << heredados;
+  EXPECT_EQ(heredados.find("a file"), std::string::npos) << heredados;
+}
+
+TEST_F(LoudspeakerProcess, IsOrderedToPlayAndToStop) {
+  StandInThatNotes(carpeta_);
+  Open(u"Una.wav", {.Veces = 3, .Balance = 300, .Volumen = -500});
+  mp1_->Stop();
+  Open(u"Otra.mp3");
+  const std::string ordenes =
+      "1 3 300 -500 " + Path("Una.wav") + "2 0 0 0 " + "3 1 0 0 " + Path("Otra.mp3");
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_).size() >= ordenes.size(); }));
+  EXPECT_EQ(OrdersNoted(carpeta_), ordenes);
+}
+
+// The second sound is opened before anybody has noticed that the program is gone.
+TEST_F(LoudspeakerProcess, IsStartedAnewWhenItHasEndedUnnoticed) {
+  StandIn(carpeta_, "exit 1");
+  Open();
+  ASSERT_TRUE(WaitForNews(*mp1_));
+  StandInThatNotes(carpeta_);
+  Open(u"Otra.wav");
+  const std::string orden = "2 1 0 0 " + Path("Otra.wav");
+  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_) == orden; })) << OrdersNoted(carpeta_);
+}
+
+TEST_F(LoudspeakerProcess, MayNotEndASoundBySayingThatItWasIdleBefore) {
+  StandIn(carpeta_, "printf idle >&0\nprintf 1 >&0\nexec cat");
+  Open();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+}
+
+TEST_F(LoudspeakerProcess, EndsNoSoundWithAnotherNumber) {
+  StandIn(carpeta_,
+          "printf 0 >&0; printf 2 >&0; printf 11 >&0\n" + std::string{Ready} + "\nexec cat");
+  Open();
+  WaitUntilReady();
+  EXPECT_EQ(AttendEnds(*mp1_, std::chrono::milliseconds{100}, [] { return true; }), 0);
+}
+
+TEST_F(LoudspeakerProcess, IsLetGoOnceItSaysThatItIsIdle) {
+  StandIn(carpeta_, std::string{Ready} + "\nprintf 1 >&0; printf idle >&0\nexec cat");
+  Open();
+  const pid_t proceso = WaitUntilReady();
+  EXPECT_TRUE(WaitForEnd(*mp1_));
+  EXPECT_TRUE(Eventually([&] { return !mp1_->TakeEnd() && ::kill(proceso, 0) == -1; }));
+  ExpectGone(proceso);
+}
+
+std::size_t OpenFiles() {
+  namespace fs = std::filesystem;
+  return static_cast<std::size_t>(
+      std::distance(fs::directory_iterator{"/proc/self/fd"}, fs::directory_iterator{}));
+}
+
+TEST_F(LoudspeakerProcess, LeavesNoFileOfTheGamesOpen) {
+  mp1_.reset();
+  const std::size_t antes = OpenFiles();
+  StandInThatNotes(carpeta_);
+  for (int i = 0; i < 3; ++i) {
+    mp1_.emplace();
+    Open();
+    mp1_->TurnOn(false);
+    Open();
+    mp1_->TurnOn(true);
+    Open();
+    mp1_.reset();
+  }
+  EXPECT_EQ(OpenFiles(), antes);
+}
+
+}  // namespace
+}  // namespace tasca::test
