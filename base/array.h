@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <type_traits>
 
-#include "base/endings.h"
+#include "base/errors.h"
 
 namespace tasca {
 

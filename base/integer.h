@@ -3,7 +3,7 @@
 // store is checked.
 #include <cstdint>
 
-#include "base/endings.h"
+#include "base/errors.h"
 
 namespace tasca {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/code_page.h"
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 
 namespace tasca {

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "base/descriptor.h"
+#include "base/path_text.h"
 #include "base/temporary_file.h"
 #include "base/text.h"
 

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 
+#include "base/path_text.h"
 #include "base/text.h"
 
 namespace tasca {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/endings.h"
+#include "base/errors.h"
 
 namespace tasca {
 

@@ -2,7 +2,7 @@
 #include "characters/editor.h"
 
 #include "base/code_page.h"
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/keys.h"
 #include "base/replace_file.h"
 #include "base/text.h"

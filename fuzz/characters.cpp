@@ -1,6 +1,6 @@
 // The bytes as a character file, to each of its three readers: the game, the editor, and the
 // start-up dialog, which is then accepted with three companions drawn at random.
-#include "base/endings.h"
+#include "base/errors.h"
 #include "characters/character_file.h"
 #include "fuzz/support/answers.h"
 #include "fuzz/support/folder.h"

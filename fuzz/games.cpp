@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "base/code_page.h"
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 #include "fuzz/support/bytes.h"
 #include "fuzz/support/folder.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "characters/character_file.h"
 #include "fuzz/support/folder.h"
 #include "fuzz/support/require.h"

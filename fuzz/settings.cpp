@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/code_page.h"
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 #include "fuzz/support/bytes.h"
 #include "fuzz/support/folder.h"

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "match/phase_machine.h"
 #include "match/start.h"
 #include "sound/effects.h"

@@ -1,7 +1,7 @@
 // The scoreboard and the progression from juegos to vacas to the match.
 #include "score/scoreboard.h"
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 #include "cards/hand.h"
 #include "characters/speech.h"

@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/line_file.h"
 #include "base/replace_file.h"
 #include "base/text.h"

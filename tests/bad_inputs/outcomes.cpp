@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "base/endings.h"
+#include "base/path_text.h"
 #include "characters/character_file.h"
 #include "startup/dlg_inicio.h"
 #include "tests/support/errors.h"

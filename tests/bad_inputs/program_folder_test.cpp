@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/bad_inputs/outcomes.h"
 #include "tests/characters/fichero.h"
 

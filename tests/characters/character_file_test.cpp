@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
 

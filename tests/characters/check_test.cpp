@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/line_file.h"
 #include "tests/characters/fichero.h"
 

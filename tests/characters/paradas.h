@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "characters/check.h"

@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/tables.h"
 

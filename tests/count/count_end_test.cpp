@@ -1,7 +1,7 @@
 // How a juego ends in the middle of the count, and the vaca and the match with it.
 #include <gtest/gtest.h>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "count/count.h"
 #include "tests/count/recuento.h"
 

@@ -1,7 +1,6 @@
 // The answer step, once the bet is settled: what a refusal pays and what an accepted órdago wins.
 #include <gtest/gtest.h>
 
-#include "base/endings.h"
 #include "cards/hand_text.h"
 #include "lances/grande.h"
 #include "lances/juego.h"

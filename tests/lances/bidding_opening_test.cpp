@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "lances/grande.h"
 #include "lances/juego.h"
 #include "lances/pares.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "cards/hand_text.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/scripted_port.h"

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/keys.h"
 #include "characters/record_lines.h"
 #include "table/dialog.h"

@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "base/code_page.h"
-#include "base/endings.h"
+#include "base/errors.h"
 #include "characters/editor.h"
 #include "startup/dlg_inicio.h"
 #include "tests/support/quiet_port.h"

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "characters/character_file.h"
 #include "startup/settings.h"
 #include "tests/save_races/writers_text.h"

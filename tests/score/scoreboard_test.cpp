@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "cards/hand_text.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"

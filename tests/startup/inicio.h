@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "startup/dlg_inicio.h"
 #include "tests/support/draw_list.h"
 #include "tests/support/scripted_port.h"

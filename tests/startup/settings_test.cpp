@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/write_error.h"
 #include "tests/support/plain_user.h"
 #include "tests/support/tables.h"

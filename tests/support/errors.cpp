@@ -1,7 +1,7 @@
 // Catching what a piece of the program throws.
 #include "tests/support/errors.h"
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/support/tables.h"
 
 namespace tasca::test {

@@ -5,7 +5,7 @@
 
 #include <stdexcept>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/support/tables.h"
 
 namespace tasca::test {

@@ -5,13 +5,13 @@
 
 #include <QTime>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "table/dialog.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
-#include "tests/ui_qt/player.h"
 #include "tests/ui_loudspeaker/listener.h"
 #include "tests/ui_loudspeaker/stand_in.h"
+#include "tests/ui_qt/player.h"
 
 namespace tasca::test {
 namespace {

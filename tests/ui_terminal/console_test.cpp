@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "tests/ui_terminal/sessions.h"
 
 namespace tasca::test {

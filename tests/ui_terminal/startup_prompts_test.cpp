@@ -5,7 +5,6 @@
 
 #include <filesystem>
 
-#include "base/endings.h"
 #include "tests/support/plain_user.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"

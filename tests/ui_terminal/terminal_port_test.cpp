@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "table/dialog.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"

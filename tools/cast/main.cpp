@@ -3,7 +3,7 @@
 #include <iostream>
 #include <memory>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/replace_file.h"
 #include "characters/character_file.h"
 #include "tools/cast/cast_source.h"

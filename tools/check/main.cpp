@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "base/endings.h"
+#include "base/errors.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "characters/check.h"
 #include "ui/options.h"

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "ui/qt/qt_text.h"
 
 namespace tasca {

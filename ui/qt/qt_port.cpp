@@ -4,7 +4,7 @@
 #include <QTime>
 #include <utility>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/dialog_form.h"
 #include "ui/qt/run_box.h"

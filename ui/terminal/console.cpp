@@ -4,7 +4,7 @@
 #include <istream>
 #include <ostream>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "ui/plain_text.h"
 #include "ui/terminal/wrap.h"
 #include "ui/utf8.h"

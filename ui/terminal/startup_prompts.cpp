@@ -1,7 +1,7 @@
 // The start-up dialog's controls, one prompt each.
 #include "ui/terminal/startup_prompts.h"
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 #include "characters/editor.h"
 #include "startup/dlg_inicio.h"

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/keys.h"
 #include "match/session.h"
 #include "ui/terminal/startup_prompts.h"

@@ -6,7 +6,7 @@
 #include <ctime>
 #include <utility>
 
-#include "base/endings.h"
+#include "base/errors.h"
 #include "base/text.h"
 #include "table/dialog.h"
 

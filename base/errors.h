@@ -1,20 +1,12 @@
 #pragma once
 // The two ways in which a rule ends the program: a run-time error, and leaving the table for good.
-// Rules throw them where they arise; every face catches them once, in its own loop.
+// Rules throw them; the session and the editor's window catch them, each in one place.
 #include <exception>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace tasca {
-
-// The path as text. A name in it that is no valid UTF-8 comes from older days: it is read in the
-// code page.
-std::u16string PathText(const std::filesystem::path& archivo);
-
-// "archivo, línea 4: ", the place of a fault in a file; `linea` counts from 1, and 0, the file as a
-// whole, gives "archivo: ".
-std::u16string PlaceInFile(const std::filesystem::path& archivo, int linea);
 
 // A condition that ends the program. The message is Spanish, for the player.
 class RunTimeError : public std::exception {

@@ -1,5 +1,5 @@
 // The messages of the errors that end the program.
-#include "base/endings.h"
+#include "base/errors.h"
 
 #include <gtest/gtest.h>
 
@@ -51,11 +51,6 @@ TEST(RunTimeError, NamesAFileWithAccents) {
   EXPECT_EQ(Utf8(error.Message()), "/tío/mus.ini: x. El programa va a terminar su ejecución.");
 }
 
-TEST(PlaceInFile, NamesTheFileAndTheLineIfThereIsOne) {
-  EXPECT_EQ(Utf8(PlaceInFile("/tío/mus.ini", 4)), "/tío/mus.ini, línea 4: ");
-  EXPECT_EQ(Utf8(PlaceInFile("mus.ini", 0)), "mus.ini: ");
-}
-
 TEST(RunTimeError, ThatWasAlreadyShownKeepsItsMessageAsItIs) {
   const RunTimeError error = RunTimeError::AlreadyShown(u"No se encuentra. Adiós.");
   EXPECT_EQ(Utf8(error.Message()), "No se encuentra. Adiós.");
@@ -77,16 +72,6 @@ TEST(ThrowInvalidCall, AddsTheAdvice) {
   EXPECT_EQ(Utf8(Thrown([] { ThrowInvalidCall(u"Haga otra cosa."); }).Message()),
             "Llamada a procedimiento o argumento no válidos. Haga otra cosa. El programa va a "
             "terminar su ejecución.");
-}
-
-TEST(PathText, IsThePathAsItStands) {
-  EXPECT_EQ(Utf8(PathText("/casa/el tío/mus.ini")), "/casa/el tío/mus.ini");
-}
-
-TEST(PathText, ReadsNamesOfOlderDaysInTheCodePage) {
-  EXPECT_EQ(Utf8(PathText("/casa/el t\xEDo/mus.ini")), "/casa/el tío/mus.ini");
-  EXPECT_EQ(Utf8(PathText("/t\xEDo/maño/ma\xF1o.ini")), "/tío/maño/maño.ini");
-  EXPECT_EQ(Utf8(PathText("ma\xF1o.ini")), "maño.ini");
 }
 
 }  // namespace
