@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QFont>
+#include <QLineEdit>
+#include <QMenu>
 #include <QSessionManager>
 #include <QStyleHints>
 #include <array>
@@ -54,9 +56,16 @@ TEST_F(Started, GoesOnWhileNoWindowIsOpen) {
   EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
 }
 
-TEST_F(Started, SpeaksSpanish) {
+TEST_F(Started, OffersTheTextBoxesMenusInSpanish) {
   Start();
-  EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "&Undo").toStdString(), "&Deshacer");
+  QLineEdit linea;
+  const std::unique_ptr<QMenu> menu{linea.createStandardContextMenu()};
+  std::string entradas;
+  for (const QAction* const entrada : menu->actions()) {
+    if (!entrada->isSeparator())
+      entradas += entrada->text().section(u'\t', 0, 0).toStdString() + "|";
+  }
+  EXPECT_EQ(entradas, "&Deshacer|&Rehacer|Cor&tar|&Copiar|&Pegar|Borrar|Seleccionar todo|");
 }
 
 TEST_F(Started, EnlargesTheLettersOnATallScreenUpToTwice) {

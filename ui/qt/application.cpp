@@ -1,6 +1,7 @@
 // Setting up the toolkit, and catching what the rules throw.
 #include "ui/qt/application.h"
 
+#include <QLibraryInfo>
 #include <QScreen>
 #include <QSessionManager>
 #include <QStyleHints>
@@ -50,7 +51,11 @@ void EnlargeOnTallScreens() {
 
 Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), argv} {
   qInstallMessageHandler(nullptr);
-  QCoreApplication::installTranslator(&castellano_);
+  // Without the translations the toolkit's own menus are English, and the game plays on.
+  if (castellano_.load(QStringLiteral("qtbase_es"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&castellano_);
+  }
   QApplication::setQuitOnLastWindowClosed(false);
   // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
   QGuiApplication::styleHints()->setCursorFlashTime(0);

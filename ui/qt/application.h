@@ -2,12 +2,12 @@
 // What the programs with windows share: the toolkit set up for a long, quiet evening, and the two
 // ways in which a rule ends the program. No exception passes through the event loop.
 #include <QApplication>
+#include <QTranslator>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "ui/qt/session_end.h"
-#include "ui/qt/spanish.h"
 
 namespace tasca {
 
@@ -24,7 +24,7 @@ class Application : public QApplication {
   bool event(QEvent* suceso) override;
 
  private:
-  Spanish castellano_;
+  QTranslator castellano_;
   SessionEnd fin_;
 };
 
