@@ -1,16 +1,18 @@
-"""What a program shows, read as a screen reader does: AT-SPI over its message bus."""
+"""What a program shows, read as a screen reader does: AT-SPI by pyatspi."""
+import os
+
 import gi
 
-gi.require_version("Gio", "2.0")
-from gi.repository import Gio, GLib  # noqa: E402
+gi.require_version("Atspi", "2.0")
+import pyatspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 20_000  # milliseconds that a program may take to answer
 
-_ACCESSIBLE = "org.a11y.atspi.Accessible"
-_TEXT = "org.a11y.atspi.Text"
-_COMPONENT = "org.a11y.atspi.Component"
-_STATES = {1: "active", 4: "checked", 8: "enabled", 11: "focusable", 12: "focused", 25: "showing",
-           30: "visible", 39: "default"}
+_STATES = {pyatspi.STATE_ACTIVE: "active", pyatspi.STATE_CHECKED: "checked",
+           pyatspi.STATE_ENABLED: "enabled", pyatspi.STATE_FOCUSABLE: "focusable",
+           pyatspi.STATE_FOCUSED: "focused", pyatspi.STATE_SHOWING: "showing",
+           pyatspi.STATE_VISIBLE: "visible", pyatspi.STATE_IS_DEFAULT: "default"}
 
 
 class Gone(Exception):
@@ -25,82 +27,88 @@ class Bus:
     """The bus of the accessible programs of a session."""
 
     def __init__(self, session):
-        connection = _connect(session.environment["DBUS_SESSION_BUS_ADDRESS"])
-        node = Node(connection, "org.a11y.Bus", "/org/a11y/bus")
-        self._connection = _connect(node.call("org.a11y.Bus", "GetAddress"))
+        # The library connects with its first call, and once in the life of this process.
+        os.environ.update({name: session.environment[name]
+                           for name in ("DBUS_SESSION_BUS_ADDRESS", "DISPLAY")})
+        Atspi.set_timeout(PATIENCE, PATIENCE)
+        self._desktop = Node(pyatspi.Registry.getDesktop(0))
 
     def program(self, pid):
         """The program with that process id, or nothing yet."""
-        desktop = Node(self._connection, "org.a11y.atspi.Registry",
-                       "/org/a11y/atspi/accessible/root")
-        for program in desktop.children():
-            if self._pid(program) == pid:
-                return program
+        for program in self._desktop.asked_anew().children():
+            try:
+                if program.process_id() == pid:
+                    return program.asked_anew()
+            except Gone:
+                continue
         return None
 
-    def listen(self, event):
-        """Lets the programs that are started from now on tell of such events."""
-        registry = Node(self._connection, "org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
-        registry.call("org.a11y.atspi.Registry", "RegisterEvent", GLib.Variant("(s)", (event,)))
+    def listen(self, event, heard):
+        """Calls `heard` with the node, the kind and the value of every such event."""
+        def pass_on(told):
+            heard(Node(told.source), told.type.minor, told.any_data)
+        pyatspi.Registry.registerEventListener(pass_on, event)
 
-    def subscribe(self, kind, name, heard):
-        """Calls `heard` with the node, the detail and the value of every such event."""
-        def pass_on(_connection, sender, path, _interface, _signal, values):
-            detail, _, _, value, *_ = values.unpack()
-            heard(Node(self._connection, sender, path), detail, value)
-        self._connection.signal_subscribe(None, f"org.a11y.atspi.Event.{kind}", name, None, None,
-                                          Gio.DBusSignalFlags.NONE, pass_on)
 
-    def _pid(self, program):
-        daemon = Node(self._connection, "org.freedesktop.DBus", "/org/freedesktop/DBus")
-        try:
-            return daemon.call("org.freedesktop.DBus", "GetConnectionUnixProcessID",
-                               GLib.Variant("(s)", (program.owner,)))
-        except Gone:
-            return None
+def _asked(question):
+    """The answer of a program."""
+    try:
+        return question()
+    except GLib.Error as error:
+        # The library has no error of its own for a reply that does not come in time.
+        if "hung" in error.message or "reply" in error.message:
+            raise Hung(error.message) from error
+        raise Gone(error.message) from error
 
 
 class Node:
     """A window, a control, or anything else on the screen."""
 
-    def __init__(self, connection, owner, path):
-        self._connection = connection
-        self.owner = owner
-        self.path = path
+    def __init__(self, accessible):
+        self._accessible = accessible
 
     def __eq__(self, other):
-        return isinstance(other, Node) and (self.owner, self.path) == (other.owner, other.path)
+        return isinstance(other, Node) and self._accessible == other._accessible
 
     def __hash__(self):
-        return hash((self.owner, self.path))
+        return hash(self._accessible)
+
+    def asked_anew(self):
+        """The desktop or a program, from now on without the library's cache of earlier answers."""
+        self._accessible.set_cache_mask(Atspi.Cache.NONE)
+        return self
+
+    def process_id(self):
+        return _asked(self._accessible.get_process_id)
 
     def name(self):
-        return self._property("Name")
+        return _asked(self._accessible.get_name)
 
     def role(self):
-        return self.call(_ACCESSIBLE, "GetRoleName")
+        return _asked(self._accessible.getRoleName)
 
     def states(self):
-        low, high = self.call(_ACCESSIBLE, "GetState")
-        bits = low | high << 32
-        return {name for bit, name in _STATES.items() if bits >> bit & 1}
+        states = _asked(self._accessible.getState)
+        return {name for state, name in _STATES.items() if states.contains(state)}
 
     def text(self):
-        return self.call(_TEXT, "GetText", GLib.Variant("(ii)", (0, -1)))
+        return _asked(lambda: self._accessible.queryText().getText(0, -1))
 
     def box(self):
         """Where it is on the screen: x, y, width, height."""
-        return self.call(_COMPONENT, "GetExtents", GLib.Variant("(u)", (0,)))
+        place = _asked(lambda: self._accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS))
+        return place.x, place.y, place.width, place.height
 
     def children(self):
-        return [Node(self._connection, *child) for child in self.call(_ACCESSIBLE, "GetChildren")]
+        found = (self._child(place) for place in range(_asked(self._accessible.get_child_count)))
+        return [child for child in found if child]
 
     def labels(self):
         """The names of the labels that belong to it."""
-        labelled_by = 2
-        return [Node(self._connection, *target).name()
-                for kind, targets in self.call(_ACCESSIBLE, "GetRelationSet")
-                for target in targets if kind == labelled_by]
+        return [Node(relation.getTarget(place)).name()
+                for relation in _asked(self._accessible.getRelationSet)
+                if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY
+                for place in range(relation.getNTargets())]
 
     def all(self):
         """It and everything in it."""
@@ -108,22 +116,7 @@ class Node:
         for child in self.children():
             yield from child.all()
 
-    def call(self, interface, method, arguments=None):
-        try:
-            answer = self._connection.call_sync(self.owner, self.path, interface, method, arguments,
-                                                None, Gio.DBusCallFlags.NONE, PATIENCE, None)
-        except GLib.Error as error:
-            if error.matches(Gio.io_error_quark(), Gio.IOErrorEnum.TIMED_OUT):
-                raise Hung(f"{method} of {self.path}: no answer") from error
-            raise Gone(error.message) from error
-        return next(iter(answer.unpack()), None)
-
-    def _property(self, name):
-        return self.call("org.freedesktop.DBus.Properties", "Get",
-                         GLib.Variant("(ss)", (_ACCESSIBLE, name)))
-
-
-def _connect(address):
-    flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
-    return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+    def _child(self, place):
+        """Nothing if it has gone since the children were counted."""
+        accessible = _asked(lambda: self._accessible.getChildAtIndex(place))
+        return Node(accessible) if accessible else None

@@ -4,7 +4,6 @@ import signal
 from accessible import GLib, Gone
 
 _ENDING = (signal.SIGINT, signal.SIGTERM)
-_EVENTS = ("window:activate", "object:text-changed")
 _BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
 _TABLE = "filler"  # the role of a window that is no dialog
 
@@ -21,11 +20,8 @@ class Overheard:
         self.log = []
         self._known = set()
         self._transcript = None
-        self._bus = bus
-        for event in _EVENTS:
-            bus.listen(event)
-        bus.subscribe("Window", "Activate", self._window)
-        bus.subscribe("Object", "TextChanged", self._text)
+        bus.listen("window:activate", self._window)
+        bus.listen("object:text-changed", self._text)
 
     def take(self):
         """Takes what has come in since; true if there was anything."""
@@ -38,18 +34,17 @@ class Overheard:
         return len(self.log) > before
 
     def _window(self, window, _, title):
-        if window.path in self._known:
+        if window in self._known:
             return
-        self._known.add(window.path)
+        self._known.add(window)
         if self._transcript and not _is_table(window):
             self.log.append(("window", title))
 
     def _text(self, transcript, kind, text):
-        path = transcript.path
         text = text.replace("\u2029", "\n")
         if text.startswith(_BEGINNING):
-            self._transcript = path
-        if kind == "insert" and path == self._transcript:
+            self._transcript = transcript
+        if kind == "insert" and transcript == self._transcript:
             self.log.append(("said", text))
 
 

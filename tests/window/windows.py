@@ -114,7 +114,7 @@ class Seen:
     def _kind(self):
         if self.window.role() == "filler":
             return MAIN
-        if self.window.role() == "alert message":
+        if self.window.role() == "alert":
             return _BOXES.get(tuple(self.names("push button")), "other")
         if self.names("combo box"):
             return STARTUP
@@ -127,5 +127,5 @@ class Seen:
         if self.kind == INPUT:
             (field,) = self.having("text")
             return {"text": self.text(), "default": field.node.text()}
-        icon = "question" if self.names("graphic") else "none"
+        icon = "question" if self.names("image") else "none"
         return {"text": self.text(), "icon": icon, "default": self.names("push button", "default")}
