@@ -1,5 +1,5 @@
 #pragma once
-// Arrays with the bounds that the game counts in: seats from 1, parejas and cards from 0.
+// Fixed-size arrays with the index ranges of the game: seats and slots from 1, parejas from 0.
 #include <array>
 #include <cstddef>
 #include <type_traits>
@@ -8,16 +8,16 @@
 
 namespace tasca {
 
-// Elements Primero..Ultimo. Any other index throws RunTimeError.
+// Elements Primero..Ultimo, value-initialized. Any other index throws RunTimeError.
 template <class T, int Primero, int Ultimo>
 struct Array {
   static_assert(Primero <= Ultimo);
   std::array<T, static_cast<std::size_t>(Ultimo - Primero + 1)> elementos{};
 
-  constexpr T& operator[](int indice) { return elementos[Position(indice)]; }
-  constexpr const T& operator[](int indice) const { return elementos[Position(indice)]; }
+  constexpr T& operator[](int indice) { return elementos[Offset(indice)]; }
+  constexpr const T& operator[](int indice) const { return elementos[Offset(indice)]; }
 
-  // The same for an index that has a name.
+  // Indexes by the value of an enumerator.
   template <class Nombre>
   requires std::is_enum_v<Nombre>
   constexpr T& operator[](Nombre indice) { return (*this)[static_cast<int>(indice)]; }
@@ -25,6 +25,7 @@ struct Array {
   requires std::is_enum_v<Nombre>
   constexpr const T& operator[](Nombre indice) const { return (*this)[static_cast<int>(indice)]; }
 
+  // Iterators over the elements in index order.
   constexpr auto begin() { return elementos.begin(); }
   constexpr auto end() { return elementos.end(); }
   constexpr auto begin() const { return elementos.begin(); }
@@ -33,7 +34,8 @@ struct Array {
   bool operator==(const Array&) const = default;
 
  private:
-  static constexpr std::size_t Position(int indice) {
+  // Offset of the element from the first one. Throws RunTimeError out of bounds.
+  static constexpr std::size_t Offset(int indice) {
     if (indice < Primero || indice > Ultimo) ThrowIndexOutOfRange();
     return static_cast<std::size_t>(indice - Primero);
   }

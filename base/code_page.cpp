@@ -1,4 +1,4 @@
-// The conversion table: Windows-1252 is Latin-1 but for the 32 codes from 80 to 9F.
+// The conversion table: Windows-1252 equals Latin-1 except for the 32 codes 80 to 9F.
 #include "base/code_page.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The system's calls.
+// The system calls behind Descriptor.
 #include "base/descriptor.h"
 
 #include <fcntl.h>
@@ -30,7 +30,7 @@ Descriptor::~Descriptor() {
   if (IsOpen()) ::close(numero_);
 }
 
-// mkostemps() opens with O_EXCL, and tries another name while one is taken.
+// mkostemps() opens with O_EXCL and retries with another name on EEXIST.
 Descriptor::Descriptor(std::string_view principio, std::string_view final, std::string& ruta)
     : numero_{Again([&] {
         ruta = principio;

@@ -1,4 +1,4 @@
-// The messages of the errors that end the program.
+// Builds the messages of the errors that end the program.
 #include "base/errors.h"
 
 #include "base/path_text.h"

@@ -1,6 +1,6 @@
 #pragma once
-// The two ways in which a rule ends the program: a run-time error, and leaving the table for good.
-// Rules throw them; the session and the editor's window catch them, each in one place.
+// The two exceptions with which a rule ends the program: RunTimeError and LeaveProgram. The session
+// and the editor's window catch them, each in one place.
 #include <exception>
 #include <filesystem>
 #include <string>
@@ -8,23 +8,26 @@
 
 namespace tasca {
 
-// A condition that ends the program. The message is Spanish, for the player.
+// An error that ends the program with a failure exit status. The message is Spanish, for the
+// player.
 class RunTimeError : public std::exception {
  public:
-  // `queHaPasado` is one or more sentences; the sentence that says that the program ends is added.
+  // `queHaPasado` is one or more complete sentences. Appends the sentence that the program ends.
   explicit RunTimeError(std::u16string_view queHaPasado);
 
-  // The same for a fault in a file, after its place.
+  // An error in a file: prefixes the message with the path and the line (PlaceInFile).
   static RunTimeError InFile(const std::filesystem::path& archivo, int linea,
                              std::u16string_view queHaPasado);
 
-  // An error whose whole message the player has already read in a box of the rules' own.
+  // An error whose message a rule has already shown in a message box. `mensaje` is the complete
+  // message; nothing is appended.
   static RunTimeError AlreadyShown(std::u16string_view mensaje);
 
-  // The whole message for the player.
+  // The complete message for the player.
   const std::u16string& Message() const { return mensaje_; }
-  // True when a face has nothing left to show.
+  // True if the player has already read the message: a face must not show it again.
   bool Shown() const { return mostrado_; }
+  // A constant: the text is in Message().
   const char* what() const noexcept override { return "tasca::RunTimeError"; }
 
  private:
@@ -32,12 +35,14 @@ class RunTimeError : public std::exception {
   bool mostrado_ = false;
 };
 
-// The player does not want another match: the program ends at once, with exit status 0.
+// Thrown when the player declines another match: the program ends at once with exit status 0.
 struct LeaveProgram {};
 
-// The three errors of the language itself. Each throws RunTimeError.
+// Throws RunTimeError: a number does not fit an Integer.
 [[noreturn]] void ThrowOverflow();
+// Throws RunTimeError: an index is outside its array or list.
 [[noreturn]] void ThrowIndexOutOfRange();
+// Throws RunTimeError: invalid argument. `consejo` is a sentence that tells the player what to do.
 [[noreturn]] void ThrowInvalidCall(std::u16string_view consejo);
 
 }  // namespace tasca

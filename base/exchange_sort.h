@@ -1,12 +1,14 @@
 #pragma once
-// The one order in which hands are sorted: neighbours change places until none has to.
+// Stable bubble sort of four elements. All hands are sorted by it, so that the order of equal cards
+// is defined.
 #include <utility>
 
 #include "base/array.h"
 
 namespace tasca {
 
-// Sorts four elements; equal ones keep their order. `vaAntes(a, b)`: a belongs before b.
+// Sorts `filas`; equal elements keep their order. `vaAntes(a, b)` is true if a belongs before b;
+// requires a strict weak ordering, otherwise the loop may not end.
 template <class T, class Comparacion>
 void OrdenarPorCambios(Array<T, 1, 4>& filas, Comparacion vaAntes) {
   bool cambios = true;

@@ -1,5 +1,5 @@
 #pragma once
-// Text fields of a fixed width, as card names, character names and phrases have.
+// Text fields of a fixed width: card names, character names, stories and phrases.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -9,11 +9,11 @@
 
 namespace tasca {
 
-// N characters (UTF-16 units). Never assigned, it holds N NULs; assigning cuts the text to N or
-// pads it on the right with blanks.
+// N UTF-16 units, N NULs until the first assignment.
 template <std::size_t N>
 class FixedText {
  public:
+  // Truncates the text to N units or pads it on the right with blanks.
   FixedText& operator=(std::u16string_view texto) {
     const std::size_t caben = std::min(texto.size(), N);
     std::copy_n(texto.begin(), caben, letras_.begin());
@@ -21,9 +21,9 @@ class FixedText {
     return *this;
   }
 
-  // All N characters, padding included.
+  // All N units, including the padding.
   std::u16string_view Full() const { return {letras_.data(), N}; }
-  // Without the blanks at both ends. NULs are not blanks and stay.
+  // Without leading and trailing blanks. NULs are not blanks and stay.
   std::u16string_view Trimmed() const { return Trim(Full()); }
 
   bool operator==(const FixedText&) const = default;

@@ -1,5 +1,5 @@
 #pragma once
-// The keys that mean something to the rules, by their codes.
+// The key codes and the modifier state that the rules handle.
 
 namespace tasca {
 
@@ -7,9 +7,9 @@ inline constexpr int TeclaEnter = 13;
 inline constexpr int TeclaQ = 81;
 inline constexpr int Tecla0 = 48;
 inline constexpr int TeclaF2 = 113;
-inline constexpr int MayusculasYControl = 3;  // Shift and Ctrl, nothing else
+inline constexpr int MayusculasYControl = 3;  // bit 0 Shift, bit 1 Ctrl
 
-// Ctrl+Shift+0, which lays all hands open and is left to the input line too.
+// True for Ctrl+Shift+0, which shows all hands. It is not consumed: the input line gets it as well.
 constexpr bool EsTeclaDeVerManos(int KeyCode, int Shift) {
   return KeyCode == Tecla0 && Shift == MayusculasYControl;
 }

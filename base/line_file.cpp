@@ -1,4 +1,4 @@
-// Line reading with a bound on the line.
+// Buffered reading of lines of limited length.
 #include "base/line_file.h"
 
 #include <iterator>

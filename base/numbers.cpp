@@ -1,4 +1,4 @@
-// Reading numbers by their leading part, and rounding.
+// Parsing the number at the start of a text, and rounding.
 #include "base/numbers.h"
 
 #include <charconv>
@@ -14,7 +14,7 @@ namespace {
 
 bool IsDigit(char16_t letra) { return letra >= u'0' && letra <= u'9'; }
 
-// Reads a text from left to right and copies what it accepts, as ASCII.
+// Scans a text from left to right and appends the accepted characters to `copia` as ASCII.
 class Scanner {
  public:
   explicit Scanner(std::u16string_view texto) : resto_{texto} {}
@@ -34,7 +34,7 @@ class Scanner {
     }
     return copia.size() > antes;
   }
-  // One of `marcas` and the digits after it, or nothing; the mark is copied as `copiada`.
+  // Accepts one of `marcas` if a digit follows, and the digits. Appends the mark as `copiada`.
   void DigitsAfter(std::u16string_view marcas, char copiada, std::string& copia) {
     const bool siguenCifras =
         resto_.size() > 1 && Contains(marcas, resto_.substr(0, 1)) && IsDigit(resto_[1]);

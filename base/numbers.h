@@ -1,24 +1,24 @@
 #pragma once
-// Numbers that people type or that stand in a file, and the two ways of making a number whole. None
-// of it depends on the locale.
+// Parses numbers that are typed or read from a file, and rounds them. Independent of the locale.
 #include <string_view>
 
 #include "base/integer.h"
 
 namespace tasca {
 
-// The number at the start of a text: blanks, a sign, digits, a point and digits, e or E and digits.
-// What follows is ignored; without digits it is 0; beyond a double's range it is the greatest
-// double.
+// The number at the start of a text: blanks, sign, digits, point and digits, e or E and digits; all
+// but the first digits may be missing. Ignores what follows. Without digits the result is 0; a
+// number outside the range of double gives the greatest double of its sign.
 double LeadingNumber(std::u16string_view texto);
 
-// The whole number at the start of a text of up to nine characters: blanks, a sign, digits.
+// The integer at the start of a text: blanks, sign, digits. Without digits the result is 0.
+// Requires at most nine characters, so that the number fits an int.
 int LeadingWhole(std::u16string_view texto);
 
-// To the nearest whole number, halves to the even neighbour.
+// Rounds to the nearest integer, halves to the even one (banker's rounding).
 double RoundHalfEven(double numero);
 
-// RoundHalfEven as an Integer; throws RunTimeError (overflow) outside 16 bits.
+// RoundHalfEven as an Integer. Throws RunTimeError (overflow) outside -32768..32767, also for NaN.
 Integer CInt(double numero);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Paths as the messages name them.
+// Decoding of file names for messages.
 #include "base/path_text.h"
 
 #include "base/code_page.h"

@@ -1,4 +1,5 @@
-// Atomic replacement: a temporary file in the same folder, flushed, then renamed over the old one.
+// Atomic replacement: writes a temporary file in the same folder, flushes it and renames it over
+// the old file.
 #include "base/replace_file.h"
 
 #include <fcntl.h>
@@ -19,7 +20,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The file that a path stands for once its links have been followed; nothing where there is none.
+// The path with all symbolic links resolved; nothing if no file exists there. Throws WriteError on
+// any other failure.
 std::optional<fs::path> TrueFile(const fs::path& archivo) {
   std::error_code error;
   fs::path verdadero = fs::canonical(archivo, error);

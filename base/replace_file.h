@@ -1,7 +1,6 @@
 #pragma once
-// Files replaced whole and flushed to the disk: at every moment, after any failure, after a kill
-// and while other programs save in the same folder, a path has its old content or one writer's
-// whole new one.
+// Atomic replacement of files. A path always has either its old content or the complete new content
+// of one writer: after any failure, after a kill, after a power cut and with concurrent writers.
 #include <filesystem>
 #include <string_view>
 
@@ -9,14 +8,15 @@
 
 namespace tasca {
 
-// Puts a file with this content in the place of another, or where there was none. Follows links and
-// keeps the permissions, and the owner and group as far as the user may give files away. Removes
-// what killed saves have left of the same file. Throws WriteError when it cannot be done; a
-// read-only file is left alone.
+// Writes a file with this content, replacing an existing one. Follows symbolic links; a dangling
+// link is replaced itself. Keeps the permissions, and the owner and group as far as the user may
+// change them. Removes temporary files that killed saves of the same file have left. Throws
+// WriteError on failure, also for a read-only file; the old file is then unchanged, unless only
+// flushing the folder failed.
 void ReplaceFile(const std::filesystem::path& archivo, std::string_view contenido);
 
-// Makes `copia` a copy of `archivo`, with its permissions and its owner, in the place of any
-// earlier copy; does nothing where there is no `archivo`. Throws WriteError.
+// Replaces `copia` by a copy of `archivo` with its permissions, owner and group. Does nothing if
+// `archivo` does not exist. Throws WriteError on failure, also if both paths are the same file.
 void BackUpFile(const std::filesystem::path& archivo, const std::filesystem::path& copia);
 
 }  // namespace tasca

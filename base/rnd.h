@@ -1,6 +1,6 @@
 #pragma once
-// The one random generator of the program: the 32-bit Mersenne Twister, drawn as a single-precision
-// number. The same seed always gives the same game.
+// The only random generator of the program: the 32-bit Mersenne Twister (mt19937), whose draws are
+// single-precision numbers. The same seed and the same answers always give the same game.
 #include <cstdint>
 #include <random>
 
@@ -9,22 +9,22 @@ namespace tasca {
 class Rnd {
  public:
   Rnd() = default;
-  // Goes on from the state of `motor`.
+  // Continues from the state of `motor`.
   explicit Rnd(const std::mt19937& motor) : motor_{motor} {}
 
-  // Fixes the whole state and sets the count of draws to 0.
+  // Initializes the whole state from `semilla` and sets the count of draws to 0.
   void Seed(std::uint32_t semilla) {
     motor_.seed(semilla);
     sacados_ = 0;
   }
 
-  // The next draw, in [0, 1): a whole multiple of 2^-24.
+  // The next draw, in [0, 1): a multiple of 2^-24.
   float operator()() {
     ++sacados_;
     return static_cast<float>(motor_() >> 8U) * 0x1p-24F;
   }
 
-  // Draws made since the generator was last seeded.
+  // The number of draws since the last seeding.
   std::uint64_t Draws() const { return sacados_; }
 
  private:

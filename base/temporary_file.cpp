@@ -1,4 +1,4 @@
-// Creating, locking and renaming; and clearing what killed saves have left.
+// Creates, locks and renames a temporary file, and removes the leftovers of killed saves.
 #include "base/temporary_file.h"
 
 #include <fcntl.h>
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// "mus.ini.guardando-k3TzQ9.tmp" is a temporary file of "mus.ini".
+// The name of a temporary file of "mus.ini": "mus.ini.guardando-k3TzQ9.tmp".
 constexpr std::string_view Marca = ".guardando-";
 constexpr std::size_t LetrasAlAzar = 6;
 constexpr std::string_view Final = ".tmp";
@@ -26,7 +26,8 @@ bool IsTemporaryOf(const std::string& destino, const std::string& nombre) {
          nombre.starts_with(principio) && nombre.ends_with(Final);
 }
 
-// The file may have been renamed between opening and locking it: its name is looked up again.
+// Between open() and flock() the file may have been renamed and the name given to another file:
+// compares the inodes before unlinking. O_NONBLOCK: opening a FIFO must not block.
 void RemoveIfLeftover(const fs::path& ruta) {
   const Descriptor archivo{ruta, O_RDONLY | O_NOFOLLOW | O_NONBLOCK};
   if (!archivo.IsOpen() || !archivo.Lock()) return;
@@ -41,7 +42,7 @@ fs::path FolderOf(const fs::path& archivo) {
   return madre.empty() ? "." : madre;
 }
 
-// Leftovers are in nobody's way: whatever fails here leaves them to a later save.
+// Ignores errors: a leftover does no harm, and the next save tries again.
 void RemoveLeftovers(const fs::path& destino) {
   std::error_code error;
   fs::directory_iterator entrada{FolderOf(destino), error};
@@ -84,16 +85,16 @@ void TemporaryFile::TakeItsPlace() {
   CheckWritten(carpeta.IsOpen() && carpeta.Flush(), destino_);
 }
 
-// False when another save has taken the new file for a leftover.
+// False if another save has locked or removed the new file as a leftover.
 bool TemporaryFile::IsMine() const {
   if (!archivo_->Lock() && errno == EWOULDBLOCK) return false;
   const std::optional<struct stat> datos = archivo_->Status();
   return !datos || datos->st_nlink > 0;
 }
 
-// Root gives the file to whose it was. An ordinary user may not: then the file becomes the user's
-// own, and keeps its group if the user is in it. The user may write it because its group or
-// everybody may, and still may: the permissions are kept.
+// Restores the owner and group of the old file. Only root may change the owner; an ordinary user
+// gets EPERM. Then the user becomes the owner, and the group is kept if the user belongs to it. The
+// permissions are kept in every case.
 bool TemporaryFile::GiveTo(const struct stat& anterior) const {
   constexpr auto ElMismo = static_cast<uid_t>(-1);
   if (archivo_->SetOwner(anterior.st_uid, anterior.st_gid)) return true;

@@ -1,14 +1,15 @@
 #pragma once
-// The temporary file of a save: what is to become another file, beside it until then.
+// The temporary file of a save. It is created in the folder of the destination file and renamed
+// over it when it is complete.
 //
-// Any number of programs may save in one folder at once. Each save creates a temporary file of its
-// own with O_EXCL, and holds an flock on it until it has renamed or removed it. Whoever renames or
-// removes a temporary file holds its lock, so nobody touches a living writer's file. The kernel
-// releases the lock when its holder dies: a temporary file whose lock is free is a leftover, and
-// the next save of the same file removes it.
-// A new file has no lock for a moment, in which another save may take it for a leftover. A writer
-// that does not get the lock, or gets it when the name is already gone, creates another file.
-// Where the disk has no locks, nobody gets one: saves go on, and leftovers stay.
+// Several programs may save in one folder at once. Each save creates its own temporary file with
+// O_EXCL and holds an flock on it until it has renamed or removed it. Only the holder of the lock
+// renames or removes a temporary file, so the file of a running save is safe. The kernel releases
+// the lock when the process dies: an unlocked temporary file is a leftover, and the next save of
+// the same destination removes it.
+// Between creation and flock another save may take the new file for a leftover. A writer that fails
+// to get the lock, or whose file is already unlinked, creates another file.
+// On a file system without flock saves work, but leftovers stay.
 #include <sys/stat.h>
 
 #include <filesystem>
@@ -22,18 +23,20 @@ namespace tasca {
 
 class TemporaryFile {
  public:
-  // Removes the leftovers of `destino`, and creates a new file beside it. Throws WriteError.
+  // Removes the leftovers of `destino` and creates an empty, locked temporary file for it. Throws
+  // WriteError on failure.
   explicit TemporaryFile(std::filesystem::path destino);
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
-  // Removes the file unless it has taken its place.
+  // Removes the file unless TakeItsPlace() has renamed it.
   ~TemporaryFile();
 
-  // Writes and flushes the file. It gets the permissions of the one that was there before, and its
-  // owner and group as far as the user may give files away. Throws WriteError.
+  // Writes and flushes the file. It gets the permissions of the file described by `anterior`, and
+  // its owner and group as far as the user may change them; without `anterior`, mode 0644. Throws
+  // WriteError on failure.
   void Write(std::string_view contenido, const std::optional<struct stat>& anterior) const;
 
-  // Puts the file in the place of `destino`, and flushes the folder. Throws WriteError.
+  // Renames the file over `destino` and flushes the folder. Throws WriteError on failure.
   void TakeItsPlace();
 
  private:

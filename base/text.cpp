@@ -1,4 +1,4 @@
-// Trimming, replacing and writing numbers.
+// Trimming, searching and replacing, comparison and number formatting.
 #include "base/text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Well-formed UTF-8 byte sequences, by their first byte.
+// The table of well-formed UTF-8 byte sequences, by lead byte.
 #include "base/utf8_check.h"
 
 #include <algorithm>
@@ -17,8 +17,8 @@ struct ByteRange {
   }
 };
 
-// The first bytes of a sequence and what may follow: the second byte has a range of its own, the
-// others are 80 to BF.
+// The lead bytes and the length of a kind of sequence. The second byte has its own range; the third
+// and fourth are 80 to BF.
 struct Sequence {
   ByteRange Lead;
   ByteRange Second;
@@ -35,7 +35,7 @@ constexpr std::array<Sequence, 8> Sequences{{{{0xC2, 0xDF}, Continuation, 2},
                                              {{0xF1, 0xF3}, Continuation, 4},
                                              {{0xF4, 0xF4}, {0x80, 0x8F}, 4}}};
 
-// The length of the sequence at the start of `bytes`; 0 when there is none.
+// The length of the multi-byte sequence at the start of `bytes`; 0 if it is malformed.
 std::size_t SequenceLength(std::string_view bytes) {
   for (const Sequence& sequence : Sequences) {
     if (!sequence.Lead.Holds(bytes.front())) continue;

@@ -1,4 +1,4 @@
-// The messages of files that could not be written.
+// Builds the messages of write errors from errno values.
 #include "base/write_error.h"
 
 #include <cerrno>

@@ -1,5 +1,5 @@
 #pragma once
-// The error of a file that could not be written, and its reasons in words.
+// The error of a file that could not be written, with the reason in Spanish.
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,16 +8,18 @@
 
 namespace tasca {
 
-// A file could not be written. It ends the program unless its caller can go on without the save.
+// Thrown if a file could not be written. Callers that can go on without the save catch it;
+// otherwise it ends the program like any RunTimeError.
 class WriteError : public RunTimeError {
  public:
-  // `motivo` is a sentence that goes on after a colon: "no hay permiso para escribir."
+  // `motivo` follows a colon in the message and ends in a stop: "no hay permiso para escribir."
   WriteError(const std::filesystem::path& archivo, std::u16string_view motivo);
-  // The reason of an error number of the system's.
+  // Takes the reason from an errno value.
   WriteError(const std::filesystem::path& archivo, int error);
 
-  // Which file could not be written, and why: the message without the end of the program.
+  // The file and the reason as a sentence: Message() without the end of the program.
   std::u16string Sentence() const;
+  // The reason alone, as given to the constructor.
   const std::u16string& Reason() const { return motivo_; }
 
  private:
@@ -25,7 +27,7 @@ class WriteError : public RunTimeError {
   std::u16string motivo_;
 };
 
-// Throws the WriteError that errno tells unless `hecho`.
+// Throws WriteError with the reason of errno if `hecho` is false.
 void CheckWritten(bool hecho, const std::filesystem::path& archivo);
 
 }  // namespace tasca
