@@ -11,7 +11,7 @@
 namespace tasca {
 
 // The kinds of phrase as the editor lists them, by MessageCategory - 1.
-inline constexpr std::array<std::u16string_view, 14> EtiquetasJugada{
+inline constexpr std::array<std::u16string_view, CategoriasMensaje> EtiquetasJugada{
     u"Quiero mus",     u"No quiero mus", u"Tengo pares", u"No tengo pares", u"tengo juego",
     u"No tengo juego", u"Paso",          u"Envido",      u"envido & más",   u"Órdago",
     u"No quiero",      u"quiero",        u"Victoria",    u"Derrota"};

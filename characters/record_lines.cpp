@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "base/text.h"
-#include "table/table.h"
 
 namespace tasca {
 namespace {

@@ -5,10 +5,12 @@
 #include <optional>
 #include <string_view>
 
+#include "table/table.h"
+
 namespace tasca {
 
 // The file tags, by MessageCategory - 1.
-inline constexpr std::array<std::u16string_view, 14> EtiquetasMensaje{
+inline constexpr std::array<std::u16string_view, CategoriasMensaje> EtiquetasMensaje{
     u"QMus", u"NMus", u"TPar", u"NPar", u"TJue", u"NJue", u"Paso",
     u"Envi", u"EnvM", u"Orda", u"NQui", u"SQui", u"Vict", u"Derr"};
 

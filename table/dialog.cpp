@@ -1,4 +1,4 @@
-// The bidding dialog's two events.
+// The two events of the bidding dialog.
 #include "table/dialog.h"
 
 namespace tasca {

@@ -1,5 +1,6 @@
 #pragma once
-// The bidding dialog: four buttons whose captions and reach depend on what may be answered.
+// The state of the bidding dialog: four buttons, whose captions and visibility depend on the
+// decision that is asked for.
 #include <string_view>
 
 #include "base/array.h"
@@ -7,47 +8,49 @@
 
 namespace tasca {
 
-// A decision, by the human's button or a computer seat's head. The same code means paso or no
-// quiero, envido or quiero, depending on whether a bet stands.
+// A decision in a lance, of the human or of a computer seat. Codes 0 and 1 have two names: without
+// a bet they mean paso and envido, as answers no quiero and quiero.
 enum class Decision {
-  Callar = -3,  // answers nothing at all: a silent refusal
+  Callar = -3,  // a refusal without a spoken line
   Paso = 0,
   NoQuiero = 0,
-  Envido = 1,
+  Envido = 1,  // bets two stones
   Quiero = 1,
-  EnvidoMas = 2,
+  EnvidoMas = 2,  // bets or raises by an amount
   Ordago = 3,
 };
 
-// What the dialog is for.
+// The decision that the dialog asks for.
 enum class ModoDialogo {
-  RespuestaOrdago = -2,  // answering an órdago
-  Apertura = -1,         // no bet on the table
-  Respuesta = 0,         // answering a bet of stones
+  RespuestaOrdago = -2,  // the answer to an órdago
+  Apertura = -1,         // the opening: nobody has bet
+  Respuesta = 0,         // the answer to a bet of stones
 };
 
+// One button of the dialog.
 struct DialogButton {
   std::u16string_view Caption;
   bool Visible = true;
   bool Enabled = true;
 };
 
+// The dialog's controls. A face shows them and passes the events on.
 struct Dialog {
   std::u16string_view Caption = u"Dialog Caption";
   ModoDialogo Modo = ModoDialogo::Respuesta;
-  Integer Resultado;  // index of the button last pressed; never reset by the dialog
-  // Kept: button 0 says "Paso" also where it means no quiero.
+  Integer Resultado;  // index (0..3) of the button last pressed; the dialog never resets it
+  // Kept: button 0 is labelled "Paso" even where it means no quiero.
   Array<DialogButton, 0, 3> Command1{DialogButton{u"Paso"}, DialogButton{u"Envido"},
                                      DialogButton{u"Envido Más"}, DialogButton{u"Órdago"}};
-  int Foco = 0;  // the button that has the focus when the dialog opens
+  int Foco = 0;  // index of the button that gets the focus when the dialog opens
   bool Visible = false;
 };
 
-// Prepares the buttons for Modo and shows the form: "Paso" gets the focus; against an órdago only
-// "Paso" and "Quiero" are left. An unknown Modo leaves the caption of button 1 as it is.
+// Sets up the buttons for Modo and sets Visible. The focus is on "Paso". For RespuestaOrdago only
+// "Paso" and "Quiero" are visible. An unknown Modo leaves the caption of button 1 unchanged.
 void Form_Activate(Dialog& dialogo);
 
-// A press of button `Index` (0..3): notes it in Resultado and hides the form.
+// Button `Index` (0..3) was pressed: stores it in Resultado and clears Visible.
 void Command1_Click(Dialog& dialogo, Integer Index);
 
 }  // namespace tasca

@@ -1,11 +1,12 @@
 #pragma once
-// What a step of the game that asks the human, draws or makes a sound works with.
+// The parameter of every step of the game that asks the human or plays a sound.
 #include "base/rnd.h"
 #include "table/port.h"
 #include "table/table.h"
 
 namespace tasca {
 
+// The state, the random generator and the port of one game. Does not own them.
 struct Game {
   Table& t;
   Rnd& rnd;

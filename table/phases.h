@@ -1,30 +1,29 @@
 #pragma once
-// The lances of a hand by number, and the phases that a hand goes through from one Enter to the
-// next.
+// The numbers of the lances, and the phases of a hand. Every Enter runs one phase.
 
 namespace tasca {
 
-// The lances, by the number under which Apuesta and Declaracion keep their records.
+// The lances in the order of play. The numbers are the indexes of Apuesta and Declaracion.
 enum class NumeroLance { Grande = 1, Pequena, Pares, Juego, Punto };
 
-// The step that the next Enter runs. An opening and its answer are two steps: a bet that the
-// opening leaves standing is answered on the same Enter.
+// The step that the next Enter runs, -1 to 13. The opening of a lance and its answer (Respuesta...)
+// are two steps; the same Enter runs the answer if the opening has left an unanswered bet.
 enum class Fase {
-  EmpezarMano = -1,
-  Mus = 0,
+  EmpezarMano = -1,  // also the phase between two hands
+  Mus = 0,           // repeated until a seat refuses mus
   Grande,
   RespuestaGrande,
   Pequena,
   RespuestaPequena,
-  DeclaracionPares,
+  DeclaracionPares,  // every seat says whether it has pares
   Pares,
   RespuestaPares,
-  DeclaracionJuego,
+  DeclaracionJuego,  // every seat says whether it has juego
   Juego,
   RespuestaJuego,
-  Punto,
+  Punto,  // in place of Juego if nobody has juego
   RespuestaPunto,
-  Cuenta,
+  Cuenta,  // the count of the hand
 };
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Look-ups in the table.
+// Look-ups of characters and phrases.
 #include "table/table.h"
 
 namespace tasca {

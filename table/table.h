@@ -1,6 +1,6 @@
 #pragma once
-// All the state of a match, as plain data: what belongs to the main window, and what the whole
-// program shares. Every step of the game reads and writes it in place; nothing else is remembered.
+// All the state of a match, as plain data: the main window's (Form1State) and the program's
+// (Module1State). Every step of the game reads and writes it in place; there is no other state.
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -12,43 +12,45 @@
 
 namespace tasca {
 
-// A place at the table, 1 to 4, in speaking order 1, 2, 3, 4, 1. The human sits at 1, the partner
-// opposite at 3, the opponents at 2 and 4.
+// A seat, 1 to 4, in speaking order 1, 2, 3, 4, 1. The human sits at 1, the partner at 3, the
+// opponents at 2 and 4.
 using Seat = int;
 inline constexpr Seat AsientoHumano = 1;
 
-// A team, by its seats' remainder: 1 for seats 1 and 3 (the human's), 0 for seats 2 and 4.
+// A team, the seat number modulo 2: 1 for seats 1 and 3 (the human's), 0 for seats 2 and 4.
 using Pareja = int;
+// The pareja of a seat, and the pareja that plays against it.
 constexpr Pareja ParejaDe(Seat asiento) { return asiento % 2; }
 constexpr Pareja ParejaContraria(Seat asiento) { return (asiento + 1) % 2; }
 
-// What a phrase is about, in the order of the character file.
+// The kinds of phrase, in the order of the character file.
 enum class MessageCategory {
-  QMus = 1,  // asks for mus
+  QMus = 1,  // wants mus
   NMus,      // refuses mus
   TPar,      // has pares
-  NPar,      // has none
+  NPar,      // has no pares
   TJue,      // has juego
-  NJue,      // has none
+  NJue,      // has no juego
   Paso,      // passes
   Envi,      // bets two stones
-  EnvM,      // bets or raises by an amount
-  Orda,      // bets everything
+  EnvM,      // bets or raises by an amount of stones
+  Orda,      // bets an órdago: the whole juego
   NQui,      // refuses a bet
   SQui,      // accepts a bet
   Vict,      // wins the match
   Derr,      // loses the match
 };
+inline constexpr int CategoriasMensaje = 14;
 
-// How much the tables of characters hold. Widths are in characters.
+// Sizes of the tables of characters. Widths are in UTF-16 units.
 inline constexpr int MaximoPersonajes = 100;
-inline constexpr int MaximoHistorias = 50;  // characters whose stories the start-up dialog keeps
-inline constexpr int HuecosFrase = 3;       // phrases of one kind
+inline constexpr int MaximoHistorias = 50;  // characters whose story the start-up dialog can show
+inline constexpr int HuecosFrase = 3;       // phrases of one kind that a character has
 inline constexpr int AnchoNombre = 100;
 inline constexpr int AnchoHistoria = 200;
 inline constexpr int AnchoFrase = 100;
 
-// A computer character. Record 0 of the table of characters is the human: only its name counts.
+// A computer character. Record 0 of Personajes is the human, of whom only the name is used.
 struct Personaje {
   FixedText<AnchoNombre> Nombre;
   Integer Ordaguero;  // propensity to the órdago, about 0 to 100
@@ -58,127 +60,132 @@ struct Personaje {
 };
 
 inline constexpr int CartasBaraja = 40;
+inline constexpr int AnchoCarta = 10;  // width of the name of a rank or suit
 
-// One of the 40 cards, or the empty card 0 (all three values -1).
+// One of the 40 cards, or the empty card 0, whose three values are -1.
 struct Card {
-  Integer Numero;        // (suit - 1) x 10 + rank
-  FixedText<10> Figura;  // shown padded
-  FixedText<10> Palo;    // shown padded
-  Integer ValorGrande;   // orders grande, pequeña and the sorted hand
-  Integer ValorPares;    // what pairs are matched on
-  Integer ValorJuego;    // points of juego and punto
+  Integer Numero;                // (suit - 1) x 10 + rank, 1..40
+  FixedText<AnchoCarta> Figura;  // rank; shown padded
+  FixedText<AnchoCarta> Palo;    // suit; shown padded
+  Integer ValorGrande;           // rank order in grande, pequeña and the sorted hand, 1..10
+  Integer ValorPares;            // cards of equal value make a pair
+  Integer ValorJuego;            // points in juego and punto, 1..10
 
   bool operator==(const Card&) const = default;
 };
 
-// The settings that the media player keeps between sounds.
+// The settings of the media player. They apply to the next sound.
 struct MediaPlayerSettings {
-  Integer Veces = 1;    // how often the next file is played
-  Integer Balance = 0;  // -10000 left to 10000 right
-  Integer Volumen = 0;  // hundredths of a decibel, 0 the loudest
+  Integer Veces = 1;    // number of times that the file is played
+  Integer Balance = 0;  // -10000 (left) to 10000 (right)
+  Integer Volumen = 0;  // hundredths of a decibel; 0 is the loudest
 
   bool operator==(const MediaPlayerSettings&) const = default;
 };
 
-// No number goes into a phrase.
+// The amount of a phrase that has no amount of stones.
 inline constexpr int SinCantidad = -2;
 
-// Something said at the table.
+// One spoken line of the transcript.
 struct Dicho {
-  Integer Asiento = AsientoHumano;  // who said it
+  Integer Asiento = AsientoHumano;  // the speaker
   MessageCategory Categoria = MessageCategory::Paso;
-  Integer Cantidad = SinCantidad;  // stones of a bet
-  std::u16string Frase;            // as the transcript shows it, without the speaker
+  Integer Cantidad = SinCantidad;  // stones of a bet, or SinCantidad
+  std::u16string Frase;            // the words as shown, without the speaker's label
 
   bool operator==(const Dicho&) const = default;
 };
 
-// What the records of bets hold besides stones.
-inline constexpr int EnviteOrdago = -1;    // SeguirLance and Apuesta: an órdago, made or accepted
-inline constexpr int ApuestaPagada = -2;   // Apuesta: refused and paid, or never to be bet
-inline constexpr int SinDeclaracion = -2;  // Declaracion: no pareja takes the lance by itself
+// Special values of the records of bets.
+inline constexpr int EnviteOrdago = -1;    // SeguirLance: unanswered órdago; Apuesta: accepted one
+inline constexpr int ApuestaPagada = -2;   // Apuesta: bet refused and paid, or nobody has pares
+inline constexpr int SinDeclaracion = -2;  // Declaracion: not set, the hands are compared
 
-// The main window's half: built anew with the window.
+// The state of the main window. A new match starts from a value-initialized one.
 struct Form1State {
   // Cards.
-  Array<Card, 0, 40> Cartas;
-  Array<Integer, 1, 40> Baraja;             // card numbers; thrown cards are piled from position 1
-  Integer CartaSiguiente;                   // position of the next card to deal, 1..40
-  Integer DescarteSiguiente;                // next free position of the pile of discards
+  Array<Card, 0, CartasBaraja> Cartas;      // by card number; 0 is the empty card
+  Array<Integer, 1, CartasBaraja> Baraja;   // card numbers; discards are piled from position 1
+  Integer CartaSiguiente;                   // position in Baraja of the next card to deal
+  Integer DescarteSiguiente;                // next free position in Baraja for a discard
   Array<Array<Integer, 1, 4>, 1, 4> Manos;  // card numbers by seat and slot, the highest in slot 1
 
   // Order and phase.
-  Array<Integer, 1, 4> OrdenAsiento;  // seats in speaking order; the first is the mano
-  bool ManoPorDecidir = false;        // the first seat to refuse mus becomes mano (first hand only)
-  tasca::Fase Fase = tasca::Fase::Mus;  // the step that the next Enter runs
-  Integer SeguirLance;                  // the bet nobody has answered: 0 none, stones, -1 órdago
-  Integer RondasMus;                    // discard passes of this hand
-  Integer ParejaCortaMus;               // pareja of the seat that refused mus
-  Array<Integer, 1, 4> OrdagueroAsiento;
+  Array<Integer, 1, 4> OrdenAsiento;      // seats in speaking order; the first is the mano
+  bool ManoPorDecidir = false;            // first hand: the first seat to refuse mus becomes mano
+  tasca::Fase Fase = tasca::Fase::Mus;    // the step that the next Enter runs
+  Integer SeguirLance;                    // unanswered bet: 0 none, stones, EnviteOrdago
+  Integer RondasMus;                      // number of discard passes in this hand
+  Integer ParejaCortaMus;                 // pareja of the seat that refused mus
+  Array<Integer, 1, 4> OrdagueroAsiento;  // propensity to the órdago by seat; 0 for the human
 
-  // Lances, by NumeroLance.
-  // Kept: the punto's element of both records is never reset between hands, so a punto en paso is
-  // counted from the last punto that was bet.
-  Array<Integer, 1, 5> Apuesta;  // 0 none, stones accepted, -1 órdago accepted, -2 refused, paid
-  Array<Integer, 3, 5> Declaracion;  // pareja that takes the lance without comparing hands, -2 none
-  Integer ParejaEnvite;              // pareja that made the last bet of the lance in play
-  bool SeJuegaPunto = false;         // nobody has juego: the punto takes its place
-  Array<Integer, 1, 4> OrdenPares;  // by seat: 1, 2, ... in the order of declaring pares, 0 without
-  Array<Integer, 1, 4> TurnoJuego;  // by seat with juego: 1 + rivals with juego that spoke before
+  // Lances, indexed by NumeroLance.
+  // Kept: the punto's element of both arrays is not reset between hands, so a punto en paso is
+  // counted with the values of the last punto that was bet.
+  Array<Integer, 1, 5> Apuesta;      // 0 no bet, stones accepted, EnviteOrdago, ApuestaPagada
+  Array<Integer, 3, 5> Declaracion;  // pareja that wins without comparison, SinDeclaracion if none
+  Integer ParejaEnvite;              // pareja that made the last bet of the current lance
+  bool SeJuegaPunto = false;         // nobody has juego: the punto is played instead
+  Array<Integer, 1, 4> OrdenPares;   // by seat: 1, 2, ... in order of declaration; 0 without pares
+  Array<Integer, 1, 4> TurnoJuego;   // by seat: 1 + opponents with juego who declared earlier; 0
+                                     // without juego
 
   // Scores, by pareja.
-  Array<Integer, 0, 1> Piedras;  // stones of the juego in play
-  Array<Integer, 0, 1> Juegos;   // juegos of the vaca in play
-  Array<Integer, 0, 1> Vacas;    // vacas of the match
-  Integer PiedrasJuego;
-  Integer JuegosVaca;
-  Integer VacasPartida;
+  Array<Integer, 0, 1> Piedras;  // stones in the current juego
+  Array<Integer, 0, 1> Juegos;   // juegos won in the current vaca
+  Array<Integer, 0, 1> Vacas;    // vacas won in the match
+  Integer PiedrasJuego;          // target: more stones than this win the juego
+  Integer JuegosVaca;            // a vaca is the best of this number of juegos
+  Integer VacasPartida;          // the match is the best of this number of vacas
 
   // Sound.
-  Integer SonidoActual;                  // -1 shuffling, -2 dealing, 0 single cards
-  Array<Integer, 1, 4> CartasCambiadas;  // by seat, in the last discard pass
-  Integer PosicionSonido;                // the seat whose cards sound
-  Integer SonidosDados;                  // seats that have had their turn
+  Integer SonidoActual;                  // last sound: -1 shuffle, -2 deal, 0 single cards
+  Array<Integer, 1, 4> CartasCambiadas;  // by seat: cards changed in the last discard pass
+  Integer PosicionSonido;                // the seat whose cards are being played
+  Integer SonidosDados;                  // seats played or skipped in the sequence, 1..5
   MediaPlayerSettings Mp1;
 
-  // What the player sees, with CR LF line breaks.
-  std::u16string Text1;  // input line: the hand, or all four
+  // The texts that the player sees, with CR LF line breaks.
+  std::u16string Text1;  // the input line: the human's hand or all four hands
   std::u16string Text2;  // the transcript
   std::u16string Text3;  // the scoreboard
 
-  // The same as values, so that nobody has to read the texts back.
-  std::vector<Dicho> Dichos;  // what has been said since the transcript was last begun
-  // The card that Text1 lays open, by seat and slot; 0 for none. A hand that has changed since then
-  // holds other cards, and those are not open.
+  // The same as values, so that no code has to parse the texts.
+  std::vector<Dicho> Dichos;  // the spoken lines since the transcript was last cleared
+  // The cards that Text1 shows, by seat and slot; 0 for none. A card of the seats 2 to 4 is visible
+  // if the seat still holds it in that slot.
   Array<Array<Integer, 1, 4>, 1, 4> CartasVistas;
 
   bool operator==(const Form1State&) const = default;
 };
 
-// The program-wide half: filled by the start-up dialog and the character file.
+// The state shared by the whole program, set by the start-up dialog and the character file.
 struct Module1State {
   Array<Personaje, 0, MaximoPersonajes> Personajes;
-  // Phrases by character, MessageCategory and slot. A slot never filled holds NULs.
-  Array<Array<Array<FixedText<AnchoFrase>, 1, HuecosFrase>, 1, 14>, 1, MaximoPersonajes> Mensajes;
-  Array<Integer, 0, 3> PersonajeAsiento;  // character by seat - 1
-  std::u16string NombreJugador;
-  bool EstiloDirecto = false;
-  bool UsarNombres = false;
-  bool UsarExpresiones = false;
-  bool AvisadoSinNombre = false;  // the player knows that the name cannot be saved
-  std::filesystem::path Carpeta;  // the program's own folder, where its files lie
+  // Phrases by character, MessageCategory and slot. A slot that was never filled holds NULs.
+  Array<Array<Array<FixedText<AnchoFrase>, 1, HuecosFrase>, 1, CategoriasMensaje>, 1,
+        MaximoPersonajes>
+      Mensajes;
+  Array<Integer, 0, 3> PersonajeAsiento;  // index into Personajes by seat - 1
+  std::u16string NombreJugador;           // the human's name
+  bool EstiloDirecto = false;             // "Ana: paso" instead of "Ana dice: paso"
+  bool UsarNombres = false;               // shows names instead of "Jugador 2"
+  bool UsarExpresiones = false;           // characters speak their own phrases
+  bool AvisadoSinNombre = false;          // the player was told that the name cannot be saved
+  std::filesystem::path Carpeta;          // the program's folder, which holds its files
 
   bool operator==(const Module1State&) const = default;
 };
 
+// The whole state. Copyable and comparable.
 struct Table : Form1State, Module1State {
   bool operator==(const Table&) const = default;
 };
 
-// The record of the character that sits at a seat; the human's is record 0.
+// The character at a seat; record 0 for the human.
 const Personaje& PersonajeDe(const Table& t, Seat asiento);
 
-// Phrase `hueco` (1..3) of a character (1..100); all 100 characters of it.
+// Phrase in slot `hueco` (1..3) of character `personaje` (1..100), with its padding.
 const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
                                      int hueco);
 
