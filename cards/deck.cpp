@@ -1,4 +1,4 @@
-// The deck.
+// The tables of suits and ranks, the shuffle and the deal.
 #include "cards/deck.h"
 
 #include <array>
@@ -99,7 +99,7 @@ void CrearBaraja(Table& t, Rnd& rnd) {
 
 void Barajar(Table& t, Rnd& rnd, Integer N) {
   constexpr int Cambios = 20000;
-  // Kept: the first draw goes nowhere, but every game of a seed counts on it.
+  // Kept: the first draw is not used. Without it the same seed would give other games.
   rnd();
   const auto cartas = static_cast<float>(N);
   for (int i = 0; i < Cambios; ++i) {
@@ -116,7 +116,7 @@ void Repartir(Game& g, Seat asiento, Integer N) {
     if (t.CartaSiguiente < CartasBaraja) {
       t.CartaSiguiente += 1;
     } else {
-      // Kept: nothing is shuffled; the discards come back in the order in which they were thrown.
+      // Kept: the discards are not shuffled; they are dealt in the order in which they were thrown.
       g.port.MsgBox(t, u"Necesario recoger y barajar cartas descartadas");
       t.CartaSiguiente = 1;
     }

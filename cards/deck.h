@@ -1,34 +1,32 @@
 #pragma once
-// The 40 cards and what they are worth, the shuffle and the deal. At this table a Tres counts as a
-// Rey and a Dos as an As.
+// The 40 cards and their values, the shuffle and the deal. A Tres counts as a Rey and a Dos as an
+// As.
 #include "table/game.h"
 
 namespace tasca {
 
-inline constexpr int ValorRey = 10;  // ValorGrande of Reyes and Treses, the highest
-inline constexpr int ValorAs = 1;    // ValorGrande of Ases and Doses, the lowest
+inline constexpr int ValorRey = 10;     // ValorGrande of Reyes and Treses, the highest
+inline constexpr int ValorAs = 1;       // ValorGrande of Ases and Doses, the lowest
+inline constexpr int Treintayuna = 31;  // points of the best juego; fewer points are no juego
 
-// The card record that a seat holds in slot 1..4.
+// The card of a seat in slot 1..4; the empty card if the slot is empty.
 const Card& CartaDe(const Table& t, Seat asiento, int hueco);
 
-// The number of the seat's cards whose ValorGrande is `valor`.
+// The number of a seat's cards whose ValorGrande is `valor`.
 int CuentaCartas(const Table& t, Seat asiento, int valor);
 
-// The sum of the seat's four ValorJuego.
+// The points of a seat: the sum of its four ValorJuego, 4 to 40.
 int PuntosJuego(const Table& t, Seat asiento);
 
-// The points of the best juego, and the fewest that are one.
-inline constexpr int Treintayuna = 31;
-
-// Builds the card records and a fresh deck, and shuffles it once (40,001 draws).
+// Sets Cartas and Baraja to a new deck with no discards, and shuffles it. Draws 40,001 times.
 void CrearBaraja(Table& t, Rnd& rnd);
 
-// Shuffles the first N positions (1..40) of the deck: 40,001 draws.
+// Shuffles the first N positions (1..40) of Baraja by random swaps. Draws 40,001 times.
 void Barajar(Table& t, Rnd& rnd, Integer N);
 
-// Deals N cards (1..4) into the last N slots of the seat's hand, then sorts it by falling
-// ValorGrande, equal cards in the order in which they lie. Past position 40 the player is told, and
-// dealing goes on from position 1, where the discards lie. With N = 0 it only sorts.
+// Deals N cards (0..4) into the last N slots of a seat's hand and sorts the hand by descending
+// ValorGrande; equal cards keep their order. After position 40 a message box informs the player and
+// dealing continues from position 1, where the discards are.
 void Repartir(Game& g, Seat asiento, Integer N);
 
 }  // namespace tasca

@@ -41,7 +41,7 @@ void EmpezarMano(Game& g) {
   CrearBaraja(t, g.rnd);
   t.CartaSiguiente = 1;
   SonidoCartas(g, SonidoReparto);
-  Barajar(t, g.rnd, 40);
+  Barajar(t, g.rnd, CartasBaraja);
   for (Seat asiento = 1; asiento <= 4; ++asiento) Repartir(g, asiento, 4);
   MostrarManos(t, AsientoHumano);
   t.Fase = Fase::Mus;

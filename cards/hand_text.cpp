@@ -1,4 +1,4 @@
-// Writing hands.
+// The text of one hand and of all four.
 #include "cards/hand_text.h"
 
 #include "base/text.h"

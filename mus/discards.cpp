@@ -9,12 +9,12 @@
 namespace tasca {
 namespace {
 
-// The two limits of the pile. Kept: the human's is tested once, after all the cards; a computer
-// seat's after every card.
+// The pile of discards restarts at position 1 when the next free position is past the limit.
+// Kept: the human's limit is tested once, after all discards; a computer seat's after each card.
 constexpr int LimitePilaHumano = 36;
 constexpr int LimitePilaComputador = 40;
 
-// Puts the card in a slot on the pile and empties the slot.
+// Moves the card of a slot to the pile of discards.
 void Tirar(Table& t, Seat asiento, int hueco) {
   t.Baraja[t.DescarteSiguiente] = t.Manos[asiento][hueco];
   t.DescarteSiguiente += 1;
@@ -41,14 +41,14 @@ int DescartarHumano(Game& g) {
   int cambiadas = 0;
   for (int hueco = 1; hueco <= 4; ++hueco) {
     if (!Contains(respuesta, ToText(hueco))) continue;
-    // Kept: the human's limit is tested too late for a pile that was nearly full, so the card that
-    // would go beyond the deck restarts the pile.
+    // Kept: the human's limit is tested after the discards, so a nearly full pile could overflow.
+    // The discard that would go past the deck restarts the pile.
     ReiniciarPilaPasado(t, LimitePilaComputador);
     Tirar(t, AsientoHumano, hueco);
     ++cambiadas;
   }
   ReiniciarPilaPasado(t, LimitePilaHumano);
-  // The empty slots go to the end.
+  // Moves the empty slots to the end.
   OrdenarPorCambios(t.Manos[AsientoHumano], [](int carta, int otra) { return carta > otra; });
   return cambiadas;
 }
@@ -65,7 +65,7 @@ int DescartarComputador(Table& t, Seat asiento) {
   return cambiadas;
 }
 
-// Kept: a computer seat's name is written with the padding of its field.
+// Kept: the name of a computer seat is written with its padding.
 std::u16string QuienCambia(const Table& t, Seat asiento) {
   if (!t.UsarNombres) return Join(u"El jugador ", asiento);
   if (asiento == AsientoHumano) return t.NombreJugador;

@@ -17,7 +17,7 @@ bool QuiereMus(Game& g, Seat asiento) {
   return DecideMus(g.t, g.rnd, asiento);
 }
 
-// Asks the seats from the mano on; true when all four want mus.
+// Asks the seats in speaking order until one refuses. True if all four want mus.
 bool TodosQuierenMus(Game& g) {
   Table& t = g.t;
   for (int i = 1; i <= 4; ++i) {
@@ -44,7 +44,7 @@ void FaseMus(Game& g) {
     Descartar(g);
     t.RondasMus += 1;
   } else {
-    // Kept: a lone carriage return, and always the personaje's name.
+    // Kept: ends in CR without LF, and shows the character's name even without UsarNombres.
     t.Text2 += Join(PersonajeDe(t, t.OrdenAsiento[1]).Nombre.Trimmed(), u" es mano\r");
     t.Fase = Fase::Grande;
   }
@@ -58,7 +58,7 @@ void OrdenarDesde(Table& t, Seat asiento) {
 bool DecideMus(const Table& t, Rnd& rnd, Seat asiento) {
   constexpr int OrdagueroPrudente = 50;
   bool quiere = false;
-  // Kept: the score of the hand never changes the answer, which is already no.
+  // Kept: the score of the hand has no effect, because the answer is already no.
   if (PuntuacionMus(t, asiento) > 0) quiere = false;
   const float r = rnd();
   if (r < 0.95F) quiere = true;

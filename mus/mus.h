@@ -1,28 +1,30 @@
 #pragma once
-// Mus: before the lances every seat says whether it wants to change cards. While all four want it,
-// all discard and draw; the first to refuse ends the phase, and in the first hand becomes mano.
+// Mus: before the lances each seat says whether it wants to change cards. If all four want mus, all
+// discard and are dealt new cards, and the question is repeated. The first seat to refuse ends the
+// phase; in the first hand it becomes mano.
 #include "table/game.h"
 
 namespace tasca {
 
-// One round of questions: a discard pass if all want mus (Fase stays 0), otherwise on to the
-// grande.
+// One round of questions. If all want mus: one discard pass, Fase stays Mus. Otherwise sets
+// ParejaCortaMus and Fase to Grande.
 void FaseMus(Game& g);
 
-// Makes `asiento` the mano: the speaking order runs from it.
+// Makes `asiento` the mano: sets OrdenAsiento to the seats from `asiento` on.
 void OrdenarDesde(Table& t, Seat asiento);
 
 // Whether a computer seat (2 to 4) wants mus. Draws once.
 bool DecideMus(const Table& t, Rnd& rnd, Seat asiento);
 
-// How good the hand is for cutting the mus: juego, stones still needed, place in the order.
+// Score of a hand for refusing mus, -3 to 4: higher with a juego of 31 or 32 and near the target of
+// stones, lower the later the seat speaks.
 int PuntuacionMus(const Table& t, Seat asiento);
 
-// Which cards (slots 1..4) a computer seat throws: all but its Reyes and Treses.
+// The slots (1..4) of the cards that a computer seat discards: all but Reyes and Treses.
 Array<bool, 1, 4> DecideDescarte(const Table& t, Seat asiento);
 
-// One discard pass of all four seats, from the mano. The human names cards by their numbers. Thrown
-// cards go on the pile of discards in the deck.
+// One discard pass: all four seats in speaking order discard and are dealt new cards. The human
+// types the slot numbers in an input box. Plays the sounds and shows the human's new hand.
 void Descartar(Game& g);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// The scoreboard and the progression from juegos to vacas to the match.
+// The scoreboard, and the steps from juego to vaca to match.
 #include "score/scoreboard.h"
 
 #include "base/errors.h"
@@ -10,11 +10,11 @@
 namespace tasca {
 namespace {
 
-// Kept: the limit is the remainder of "al mejor de" by 2, not its half: of 3 juegos two are needed,
-// but of 1 two as well, of 4 one and of 5 two.
+// Kept: the limit is `alMejorDe` modulo 2, not its half. The best of 3 needs two wins, but the best
+// of 1 needs two as well, the best of 4 one and the best of 5 two.
 int LimiteAlMejorDe(int alMejorDe) { return alMejorDe % 2; }
 
-// The label and the words of an opponent at the end of the match.
+// The spoken line of an opponent at the end of the match, with its label.
 std::u16string Comentario(const Table& t, Seat asiento, MessageCategory categoria) {
   const std::u16string nombre = t.UsarNombres
                                     ? std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()}
@@ -48,7 +48,7 @@ void ComprobarVaca(Game& g) {
     t.Vacas[ganadora] += 1;
     const int vacas = t.Vacas[ganadora];
     if (vacas > LimiteAlMejorDe(t.VacasPartida) || vacas >= t.VacasPartida) FinPartida(g, ganadora);
-    // Kept: after a new match has been set up, this shows the figures already back to 0.
+    // Kept: if FinPartida has set up a new match, the scores shown here are already 0.
     g.port.MsgBox(t, Join(u"La pareja ", ganadora, u" gana esta vaca. El resultado ha sido de ",
                           t.Juegos[1], u" a ", t.Juegos[0], u" partidas.", CrLf, t.Vacas[1], u" a ",
                           t.Vacas[0], u" vaca."));
@@ -58,7 +58,7 @@ void ComprobarVaca(Game& g) {
 }
 
 void FinPartida(Game& g, Pareja pareja) {
-  // Kept: no blank between the number and "gana".
+  // Kept: no blank before "gana".
   g.port.MsgBox(g.t, Join(u"La pareja ", pareja, u"gana esta vaca."));
   if (pareja == ParejaDe(AsientoHumano)) {
     SonidoAplauso(g);

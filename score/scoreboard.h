@@ -1,23 +1,26 @@
 #pragma once
-// The scoreboard, and how juegos make vacas and vacas the match.
+// The scoreboard, and the end of a juego, a vaca and the match. Juegos add up to a vaca, vacas to
+// the match.
 #include "table/game.h"
 
 namespace tasca {
 
-// Rewrites Text3: stones, juegos and vacas, the human's pareja first.
+// Rewrites Text3: stones, juegos and vacas of both parejas, the human's first.
 void MostrarTanteo(Table& t);
 
-// After a juego has been credited: a pareja with enough juegos takes the vaca and, with enough
-// vacas, the match (FinPartida). Tells the player, and rewrites the scoreboard. May throw
-// LeaveProgram.
+// Checks the juegos after one has been added. A pareja with enough juegos wins the vaca: a message
+// box says so and Juegos is reset. With enough vacas it also wins the match (FinPartida). Rewrites
+// Text3. Throws what FinPartida throws.
 void ComprobarVaca(Game& g);
 
-// The end of a match won by `pareja`: the opponents' words, another match?, other players? Another
-// match with the same players sets all scores to 0 and starts a hand. Throws LeaveProgram when the
-// human has had enough.
+// Ends a match won by `pareja`: shows the result and the opponents' comments, then asks for another
+// match and for other companions. Another match with the same companions resets all scores and
+// starts a hand; other companions are requested from the port. Throws LeaveProgram if the player
+// declines another match.
 void FinPartida(Game& g, Pareja pareja);
 
-// The pareja takes the juego in play at once, after an accepted órdago.
+// `pareja` wins the current juego by an accepted órdago: adds the juego, resets Piedras, checks the
+// vaca, and sets Fase to EmpezarMano. Throws what ComprobarVaca throws.
 void GanaJuego(Game& g, Pareja pareja);
 
 }  // namespace tasca
