@@ -16,7 +16,7 @@ namespace {
 
 using Step = void (*)(Game&);
 
-// An opening step; a bet that it leaves standing is answered on the same Enter.
+// Runs the opening step, and the answer step if the opening has left an unanswered bet.
 void Abrir(Game& g, Step apertura, Step respuesta) {
   apertura(g);
   if (g.t.SeguirLance != 0) respuesta(g);

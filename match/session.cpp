@@ -1,4 +1,4 @@
-// The session's steps.
+// Runs the steps of a session and catches what they throw.
 #include "match/session.h"
 
 #include <cstdlib>
@@ -56,8 +56,8 @@ Situacion Session::Salir() {
   return Hacer([]() -> Situacion { throw LeaveProgram{}; });
 }
 
-// A step may run within another one, as a sound's end does while a question is open: whichever ends
-// the game, it stays ended.
+// Steps may be nested: a sound may end while a question is open. If the inner step ends the game,
+// the outer one must not change the situation.
 Situacion Session::Hacer(const std::function<Situacion()>& paso) {
   if (situacion_ == Situacion::Fin) return situacion_;
   try {

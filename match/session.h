@@ -1,7 +1,8 @@
 #pragma once
-// The door to the game: everything that a face of it (windows, terminal, trace) does goes through
-// here. A session goes from the start-up dialog to the table, and back when the player wants other
-// companions, until it ends. It catches what the rules throw; the face reads how things stand.
+// The facade of the game: the faces (windows, terminal, trace) call the rules only through it. A
+// session starts with the start-up dialog, goes on to the table and back to the dialog if the
+// player wants other companions, until it ends. It catches the exceptions of the rules and reports
+// a situation.
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -11,55 +12,63 @@
 
 namespace tasca {
 
-// How the game stands after something has been done.
+// The state of the session after a step.
 enum class Situacion {
-  EnInicio,        // the start-up dialog waits for its events
-  EnLaMesa,        // the table waits for a key
-  OtrosJugadores,  // the start-up dialog is to be opened anew
-  Fin,             // the game is over: see Session::Final
+  EnInicio,        // waiting for events of the start-up dialog
+  EnLaMesa,        // waiting for a key at the table
+  OtrosJugadores,  // the face must call AbrirInicio again
+  Fin,             // the game has ended: see Session::Final
 };
 
-// How the game has ended.
+// The result of an ended game.
 struct Desenlace {
   int Estado = 0;           // the program's exit status
-  std::u16string Mensaje;   // of a run-time error; "" when the player has left
-  bool YaMostrado = false;  // the player has read the message in a box of the rules' own
+  std::u16string Mensaje;   // the message of a run-time error; "" if the player has left
+  bool YaMostrado = false;  // a rule has already shown the message in a message box
 };
 
+// One run of the game, from the start-up dialog to the end.
 class Session {
  public:
-  // `carpeta` is where the game's files lie. `port` answers what the rules ask.
+  // `carpeta` is the folder of the game's files. `port` must outlive the session.
   Session(std::filesystem::path carpeta, Port& port);
 
+  // The state of the table, for showing it.
   const Table& Mesa() const { return t_; }
+  // The random generator, for the count of draws.
   const Rnd& Generador() const { return rnd_; }
-  // The start-up dialog's state; only its events, through EnInicio, may change it.
+  // The state of the start-up dialog. Change it only inside EnInicio.
   DlgInicio& Inicio() { return inicio_; }
+  // True once the situation is Fin.
   bool HaAcabado() const { return situacion_ == Situacion::Fin; }
-  // Once the situation is Fin.
+  // The result of the game. Requires HaAcabado().
   const Desenlace& Final() const { return final_; }
 
-  // All of these return how things stand then; after the end they do nothing.
+  // Each of the functions below runs one step and returns the situation after it. A LeaveProgram or
+  // RunTimeError ends the game and sets Final. After the end they do nothing and return Fin.
 
-  // Loads the start-up dialog. The table of a match before is cleared, and its sound stops.
+  // Opens the start-up dialog. Stops the sound of a previous match and clears its table.
   Situacion AbrirInicio();
-  // Events of the start-up dialog's controls.
+  // Runs an event of the start-up dialog's controls.
   Situacion EnInicio(const std::function<void()>& suceso);
-  // "Aceptar": EnLaMesa once the match has started, EnInicio after a message about the choice.
+  // "Aceptar" was pressed. Starts the match; returns EnInicio if the choice was rejected.
   Situacion Aceptar();
-  // A key in the input line; one that is used up becomes 0.
+  // A key was pressed in the input line. Sets KeyCode to 0 if the key is consumed.
   Situacion Tecla(Integer& KeyCode, Integer Shift);
-  // The media player reports its play state. Comes between two keys, or while a question is open.
+  // The media player reports a new play state. May be called between two keys and while a question
+  // is open.
   Situacion FinDeSonido(Integer estado);
-  // Something of the face's own that may end the game as a rule does: waiting for a player who has
-  // gone, writing to an output that fails.
+  // Runs code of the face that may throw like a rule, such as reading input or writing output.
   Situacion Atender(const std::function<void()>& paso);
-  // The player leaves.
+  // The player leaves: ends the game with a successful exit status.
   Situacion Salir();
 
  private:
+  // Runs a step, catches what it throws and updates the situation.
   Situacion Hacer(const std::function<Situacion()>& paso);
+  // Ends the game. The first result stays.
   void Acabar(Desenlace final);
+  // Stops the sound and clears the main window's state.
   void LevantarMesa();
 
   Table t_;

@@ -1,4 +1,4 @@
-// The start of a match.
+// Sets up the table and writes the first transcript.
 #include "match/start.h"
 
 #include "base/text.h"
@@ -20,7 +20,7 @@ void FijarOrdagueros(Table& t) {
   t.OrdagueroAsiento[AsientoHumano] = 0;
 }
 
-// Who plays with whom; nothing while nobody sits at seat 2.
+// The names of both parejas; "" if no character sits at seat 2.
 std::u16string Titulo(const Table& t) {
   if (t.PersonajeAsiento[1] == 0) return {};
   return Join(u"Partida de", CrLf, Trim(t.NombreJugador), u" y ",
@@ -29,7 +29,7 @@ std::u16string Titulo(const Table& t) {
               CrLf);
 }
 
-// Kept: the pieces meet with two blanks, or with none, as they stand here.
+// Kept: between some pieces there are two blanks, between others none.
 std::u16string DescripcionPartida(const Table& t) {
   std::u16string texto = u"Partida ";
   if (t.VacasPartida > 1) texto += Join(u"al mejor de ", t.VacasPartida, u" vacas, cada una ");

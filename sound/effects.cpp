@@ -1,10 +1,10 @@
-// The choice of sounds.
+// The files and settings of the sounds, and the sequence of a discard pass.
 #include "sound/effects.h"
 
 namespace tasca {
 namespace {
 
-// Where a seat's cards sound.
+// The balance and volume of a seat's cards.
 struct Sitio {
   int Balance;
   int Volumen;
@@ -18,7 +18,7 @@ void TerminarSecuencia(Game& g) {
   g.port.StopSound(g.t);
 }
 
-// Moves on to the next seat that changed cards; false when the four have had their turn.
+// Advances PosicionSonido to the next seat that changed cards. False after the fourth seat.
 bool PasarAlSiguiente(Table& t) {
   do {
     t.PosicionSonido = t.PosicionSonido + 1 > 4 ? t.PosicionSonido - 3 : t.PosicionSonido + 1;
@@ -28,7 +28,7 @@ bool PasarAlSiguiente(Table& t) {
   return true;
 }
 
-// The cards of the seat at PosicionSonido, from its side of the table.
+// Plays the cards of the seat PosicionSonido, one sound per card, panned to its side of the table.
 void SonarCartas(Game& g) {
   Table& t = g.t;
   t.SonidoActual = SonidoUnaCarta;

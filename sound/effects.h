@@ -1,29 +1,32 @@
 #pragma once
-// The sound effects: which sound, how often, and from which side of the table. They never wait;
-// what follows a sound is started when the media player says that it has ended.
+// The sound effects: which sound is played, how often and from which side of the table. No function
+// blocks; the media player reports the end of a sound, and then the next one of a sequence starts.
 #include "table/game.h"
 
 namespace tasca {
 
+// The values of SonidoActual.
 inline constexpr int SonidoBarajado = -1;
 inline constexpr int SonidoReparto = -2;
 inline constexpr int SonidoUnaCarta = 0;
 
-// Plays shuffling (SonidoBarajado) or dealing (SonidoReparto); anything else plays nothing.
+// Plays the shuffle (SonidoBarajado) or the deal (SonidoReparto) once. Any other value plays
+// nothing.
 void SonidoCartas(Game& g, Integer Tipo);
 
-// The cards of a discard pass, one seat after the other: starts with the seat `primero`;
-// `cambiadas` has the number of cards that each seat changed.
+// Starts the sounds of a discard pass with the seat `primero`. `cambiadas` holds the number of
+// cards that each seat changed.
 void SonidoDescartes(Game& g, const Array<Integer, 1, 4>& cambiadas, Seat primero);
 
-// Goes on to the next seat that changed cards, or ends the sequence after the fourth seat.
+// Plays the next seat that changed cards. After the fourth seat stops the sound and resets Mp1.
 void SiguienteSonidoDescartes(Game& g);
 
-// The applause for a match won.
+// Plays the applause for a match won by the human's pareja.
 void SonidoAplauso(Game& g);
 
-// The media player reports a new play state; 0 and 6 say that it is idle. After the shuffle comes
-// the deal, after a seat's cards the next seat's.
+// The media player reports a new play state. 0 (stopped) and 6 (idle) mean that the sound has
+// ended; other states are ignored. Plays the deal after the shuffle, and the next seat's cards
+// after a seat's cards.
 void Mp1_FinReproduccion(Game& g, Integer EstadoReproduccion);
 
 }  // namespace tasca
