@@ -1,4 +1,4 @@
-// The start-up dialog's events.
+// The events of the start-up dialog.
 #include "startup/dlg_inicio.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ void AnadirEntrada(DlgInicio& d, std::u16string_view texto, int personaje) {
   }
 }
 
-// Kept: only the first 50 records have room for a story.
+// Kept: there is room for the stories of the first 50 records only.
 void GuardarHistoria(DlgInicio& d, const LineReader& archivo, int personaje,
                      std::u16string_view historia) {
   if (personaje > MaximoHistorias) {
@@ -66,7 +66,7 @@ void Elegir(DlgInicio& d, ComboBox& combo, int posicion) {
   d.CbOKEnabled = d.Combo1.ListIndex >= 0 && d.Combo2.ListIndex >= 0 && d.Combo3.ListIndex >= 0;
 }
 
-// What is wrong with the choice of companions; "" when nothing is.
+// The objection to the choice of companions; "" if the choice is valid.
 std::u16string ReparoALaEleccion(const DlgInicio& d) {
   const auto repetido = [](const ComboBox& uno, const ComboBox& otro) {
     return uno.ListIndex != Aleatorio && uno.ListIndex == otro.ListIndex;
@@ -82,7 +82,8 @@ std::u16string ReparoALaEleccion(const DlgInicio& d) {
   return {};
 }
 
-// Draws a character for a combo that says "Aleatorio", none of the other two combos'.
+// Replaces the choice "Aleatorio" by a random character that the other two combos do not have.
+// Throws RunTimeError if there is none.
 void ResolverAleatorio(DlgInicio& d, Rnd& rnd, ComboBox& combo) {
   if (combo.ListIndex != Aleatorio) return;
   const auto ocupada = [&d, &combo](int posicion) {
@@ -117,8 +118,8 @@ void AnotarNombre(const DlgInicio& d, Table& t) {
   t.Personajes[0].Nombre = t.NombreJugador;
 }
 
-// The name is only a proposal for the next game: this one is played without it. The player is told
-// once, not at every change of players.
+// The saved name is only the default of the next game, so a write error does not end this one. The
+// message is shown once, not at every change of companions.
 void RecordarNombre(const DlgInicio& d, Game& g) {
   try {
     GuardarIni(g.t, Trim(d.Text2));

@@ -1,4 +1,4 @@
-// Seeding from the clock.
+// Computes the seed from the clock.
 #include "startup/seed.h"
 
 #include <cstdint>

@@ -16,7 +16,7 @@ std::filesystem::path ArchivoAjustes(const Table& t) { return t.Carpeta / "mus.i
 
 constexpr std::u16string_view QueLineasFaltan = u"alguna de sus cuatro primeras líneas";
 
-// The parameter on the next line, or `porDefecto` when it is out of range.
+// The parameter in the next line; `porDefecto` if it is out of range.
 Integer LeerParametro(LineReader& archivo, Integer porDefecto) {
   const double numero = RoundHalfEven(LeadingNumber(archivo.Require(QueLineasFaltan)));
   return numero >= 1 && numero < 1000 ? Integer{static_cast<int>(numero)} : porDefecto;

@@ -1,7 +1,7 @@
 #pragma once
 // The settings file "mus.ini": three lines with the match parameters, then the last player's name.
-// Without it the game plays with its defaults and remembers nobody. All of these throw RunTimeError
-// when the file is there but cannot be used.
+// The file is optional: without it the functions do nothing. They throw RunTimeError if it exists
+// but cannot be read or has fewer than four lines (LeerParametrosPartida needs only three).
 #include <string>
 #include <string_view>
 
@@ -9,15 +9,16 @@
 
 namespace tasca {
 
-// The first three lines replace PiedrasJuego, JuegosVaca and VacasPartida; a number below 1 or
-// above 999 leaves that one alone.
+// Sets PiedrasJuego, JuegosVaca and VacasPartida to the numbers of the first three lines, rounded.
+// A number below 1 or above 999 leaves its parameter unchanged.
 void LeerParametrosPartida(Table& t);
 
-// The last player's name; "" when there is none.
+// The last player's name: the trimmed text of line 4 before ">". "" if there is no file.
 std::u16string LeerIni(const Table& t);
 
-// Puts `nombre` into line 4, and what stood there into line 5. Lines 1 to 3 are kept byte for byte.
-// Throws WriteError when the file can be read but not written: nobody needs it to play.
+// Writes `nombre` to line 4 and the old line 4 to line 5. Lines 1 to 3 are kept byte for byte;
+// later lines are dropped. Throws WriteError if the file can be read but not written; callers may
+// ignore it, since the game does not need the file.
 void GuardarIni(const Table& t, std::u16string_view nombre);
 
 }  // namespace tasca
