@@ -1,4 +1,4 @@
-// The scene, element by element.
+// Computes the scene from the table.
 #include "scene/scene.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 namespace tasca {
 namespace {
 
-// A card of seats 2 to 4 lies open only where it is the very card that was laid open there.
+// A card is face up if it is the one that was shown in the same slot.
 bool EstaAbierta(const Table& t, Seat asiento, int hueco) {
   const Integer carta = t.Manos[asiento][hueco];
   return carta != 0 && carta == t.CartasVistas[asiento][hueco];
@@ -21,7 +21,7 @@ std::u16string NombreDe(const Table& t, Seat asiento) {
   return Join(u"Jugador ", asiento);
 }
 
-// A card that has been thrown leaves its gap where it lay.
+// The human's empty slots stay where they are.
 Array<Naipe, 1, 4> ManoDelJugador(const Table& t) {
   Array<Naipe, 1, 4> naipes;
   for (int hueco = 1; hueco <= 4; ++hueco) {
@@ -31,7 +31,8 @@ Array<Naipe, 1, 4> ManoDelJugador(const Table& t) {
   return naipes;
 }
 
-// The gaps come last: where a face-down hand has them would tell something of it.
+// The empty slots come last: in a sorted face-down hand their places would reveal which cards were
+// discarded.
 Array<Naipe, 1, 4> ManoDeOtro(const Table& t, Seat asiento) {
   Array<Naipe, 1, 4> naipes;
   int siguiente = 1;
@@ -44,21 +45,21 @@ Array<Naipe, 1, 4> ManoDeOtro(const Table& t, Seat asiento) {
   return naipes;
 }
 
-// A declaration whose records are in force: which phase asks for it, and which lance it precedes.
-struct Declaracion {
+// A declaration: the phase in which the seats declare, and the lance that follows.
+struct PasoDeclaracion {
   Fase Pregunta;
   NumeroLance Lance;
 };
 
-constexpr Declaracion DePares{Fase::DeclaracionPares, NumeroLance::Pares};
-constexpr Declaracion DeJuego{Fase::DeclaracionJuego, NumeroLance::Juego};
+constexpr PasoDeclaracion DePares{Fase::DeclaracionPares, NumeroLance::Pares};
+constexpr PasoDeclaracion DeJuego{Fase::DeclaracionJuego, NumeroLance::Juego};
 
-// Between two hands the records are still the last hand's.
-bool HaDeclarado(const Table& t, Momento momento, const Declaracion& d, Seat asiento) {
+// Between two hands the table still holds the declarations of the last hand.
+bool HaDeclarado(const Table& t, Momento momento, const PasoDeclaracion& d, Seat asiento) {
   if (t.Fase == Fase::EmpezarMano) return HayManosAbiertas(t) && !AcaboAntesDe(t, d.Lance);
   if (t.Fase != d.Pregunta) return t.Fase > d.Pregunta;
   if (momento == Momento::Reposo) return false;
-  // The box is the player's: those who speak before have declared.
+  // The open box asks the human: the seats that speak earlier have declared.
   const auto turno = [&t](Seat s) {
     return std::find(t.OrdenAsiento.begin(), t.OrdenAsiento.end(), Integer{s});
   };
@@ -93,13 +94,15 @@ Turno TurnoEn(Momento momento) {
   return momento == Momento::Pregunta ? Turno::Jugador : Turno::Enter;
 }
 
-// A whole deck is three thick. Nobody counts the cards of a pile by looking at it.
+// The thickness of a pile, 0 to 3. The exact number of cards cannot be seen, so it is no part of
+// the scene.
 int Grosor(int cartas) {
   constexpr int porCapa = CartasBaraja / 3 + 1;
   return (cartas + porCapa - 1) / porCapa;
 }
 
-// "Al mejor de" counts by its remainder by 2, and a match never takes more vacas than it has.
+// The targets follow ComprobarVaca: "al mejor de" N needs N modulo 2 + 1 wins, but never more vacas
+// than the match has.
 TanteoVisto TanteoDe(const Table& t, Pareja pareja) {
   const int vacas = t.VacasPartida;
   return {.Piedras = t.Piedras[pareja],

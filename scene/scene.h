@@ -1,7 +1,7 @@
 #pragma once
-// What a person at the table can see, and nothing more, as plain values. Every picture and every
-// spoken description of the table is made of these. The order of the deck and the cards that lie
-// face down are not in them, so that no face can show them by mistake.
+// The scene: what a person at the table can see, as plain values. All pictures and spoken
+// descriptions of the table are made from it. It does not contain the order of the deck or the
+// face-down cards, so that no face can show them by mistake.
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,61 +10,65 @@
 
 namespace tasca {
 
-// When the table is looked at.
+// The situation in which the scene is computed.
 enum class Momento {
-  Reposo,    // a step has ended: the game waits for Enter
+  Reposo,    // between two steps: the game waits for Enter
   Pregunta,  // a question to the player is open
   Aviso,     // a message box is open
 };
 
-// A place for a card.
+// One slot of a hand.
 struct Naipe {
-  bool Hay = false;  // a card lies there
-  Integer Carta;     // its number 1..40 when it lies face up; 0 when it lies face down
+  bool Hay = false;  // the slot holds a card
+  Integer Carta;     // its number 1..40 if it is face up; 0 if it is face down
 
   bool operator==(const Naipe&) const = default;
 };
 
-// What is known of a seat's pares or juego.
+// What a seat has declared about its pares or juego.
 enum class Declarado { SinSaber, No, Si };
 
 // One of the four seats.
 struct AsientoVisto {
   std::u16string Nombre;
-  bool EsMano = false;
+  bool EsMano = false;  // false for all seats until the mano of the first hand is decided
   Array<Naipe, 1, 4> Naipes;
-  std::u16string Bocadillo;  // what the seat said last; "" while it has said nothing
-  bool HaHabladoElUltimo = false;
+  std::u16string Bocadillo;        // the seat's last words in the transcript; "" if none
+  bool HaHabladoElUltimo = false;  // the last words of the transcript are this seat's
   Declarado Pares = Declarado::SinSaber;
   Declarado Juego = Declarado::SinSaber;
-  std::optional<Integer> CartasCambiadas;  // in the discard pass that has just ended
+  std::optional<Integer> CartasCambiadas;  // set only just after a discard pass
 
   bool operator==(const AsientoVisto&) const = default;
 };
 
-// Whose turn it is: the player's to answer, or the Enter key's.
-enum class Turno { Nadie, Jugador, Enter };
-
-// How a lance stands on the slate.
-enum class EstadoLance {
-  PorJugar,
-  Declaran,       // the seats say who has pares or juego
-  Envite,         // a bet of Piedras by De, over Vistas stones already seen, has no answer yet
-  Ordago,         // an órdago by De has no answer yet
-  Queridas,       // Piedras have been accepted
-  OrdagoQuerido,  // an órdago has been accepted
-  NoSeJugo,       // an órdago accepted before it ended the hand
-  NoQuerida,      // a bet was refused and paid
-  NoHay,          // nobody has pares, or juego
-  EnPaso,         // all have passed
-  SinEnvite,      // only the pareja De has it, so nobody bets
+// What the game is waiting for.
+enum class Turno {
+  Nadie,    // a message box is open
+  Jugador,  // the player's answer to a question
+  Enter,    // the Enter key
 };
 
-// How a lance is marked on the slate.
+// The state of a lance on the slate.
+enum class EstadoLance {
+  PorJugar,       // not played yet
+  Declaran,       // the seats declare pares or juego
+  Envite,         // unanswered bet of Piedras by De; Vistas stones were bet before and are accepted
+  Ordago,         // unanswered órdago by De
+  Queridas,       // a bet of Piedras was accepted
+  OrdagoQuerido,  // an órdago was accepted
+  NoSeJugo,       // not played: an accepted órdago ended the hand earlier
+  NoQuerida,      // a bet was refused and paid
+  NoHay,          // nobody has pares or juego
+  EnPaso,         // all have passed
+  SinEnvite,      // only the pareja De has pares or juego, so nobody bets
+};
+
+// The highlight of a lance on the slate.
 enum class MarcaLance {
   Ninguna,
-  EnJuego,    // a box is open in the middle of it
-  Siguiente,  // the next Enter plays it
+  EnJuego,    // being played: a box is open
+  Siguiente,  // played by the next Enter
 };
 
 // One lance on the slate.
@@ -72,41 +76,42 @@ struct CeldaPizarra {
   NumeroLance Lance = NumeroLance::Grande;
   MarcaLance Marca = MarcaLance::Ninguna;
   EstadoLance Estado = EstadoLance::PorJugar;
-  int Piedras = 0;           // of Envite and Queridas
-  int Vistas = 0;            // of Envite
-  std::optional<Pareja> De;  // of Envite, Ordago and SinEnvite
+  int Piedras = 0;           // set for Envite and Queridas
+  int Vistas = 0;            // set for Envite
+  std::optional<Pareja> De;  // set for Envite, Ordago and SinEnvite
 
   bool operator==(const CeldaPizarra&) const = default;
 };
 
-// What a pareja has won so far, and what it takes to win.
+// The score of a pareja and its targets.
 struct TanteoVisto {
-  Integer Piedras;
-  Integer Juegos;
-  Integer Vacas;
+  Integer Piedras;           // stones in the current juego
+  Integer Juegos;            // juegos won in the current vaca
+  Integer Vacas;             // vacas won in the match
   Integer JuegosParaVaca;    // juegos that win a vaca
   Integer VacasParaPartida;  // vacas that win the match
 
   bool operator==(const TanteoVisto&) const = default;
 };
 
+// Everything that can be seen on the table.
 struct Escena {
   Array<AsientoVisto, 1, 4> Asientos;
   Turno Toca = Turno::Nadie;
-  // Grande, pequeña, pares and juego; the punto comes fifth when it is played.
+  // Grande, pequeña, pares and juego, then the punto if it is played.
   std::vector<CeldaPizarra> Pizarra;
-  int GrosorMazo = 0;       // of the deck: 0 when it is empty, else 1 to 3
-  int GrosorDescartes = 0;  // of the pile of discards, likewise
-  Array<TanteoVisto, 0, 1> Tanteo;
+  int GrosorMazo = 0;               // thickness of the deck: 0 if empty, otherwise 1 to 3
+  int GrosorDescartes = 0;          // thickness of the pile of discards, 0 to 3
+  Array<TanteoVisto, 0, 1> Tanteo;  // by pareja
 
   bool operator==(const Escena&) const = default;
 };
 
-// The table as it can be seen. Depends on nothing but what lies open, what has been said aloud and
-// the score.
+// Computes the scene. It depends only on the human's hand, the face-up cards, the spoken lines, the
+// declarations, the bets and the score.
 Escena EscenaDe(const Table& t, Momento momento);
 
-// True while cards of seats 2 to 4 lie open.
+// True if any card of the seats 2 to 4 is face up.
 bool HayManosAbiertas(const Table& t);
 
 }  // namespace tasca

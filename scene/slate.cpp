@@ -1,10 +1,10 @@
-// What each lance's record means to somebody who looks at the slate.
+// Translates the records of bets into the states shown on the slate.
 #include "scene/slate.h"
 
 namespace tasca {
 namespace {
 
-// The phases of a lance; its declaration is the first of them, where there is one.
+// The first and last phase of a lance. A declaration belongs to its lance.
 struct Tramo {
   NumeroLance Lance;
   Fase Primera;
@@ -18,7 +18,7 @@ constexpr Array<Tramo, 1, 5> Tramos{
     Tramo{NumeroLance::Juego, Fase::DeclaracionJuego, Fase::RespuestaJuego},
     Tramo{NumeroLance::Punto, Fase::Punto, Fase::RespuestaPunto}};
 
-// The pareja of the only seats with a turn in the declaration; none when both have one, or neither.
+// The only pareja whose seats have a turn (OrdenPares or TurnoJuego); none if both or neither have.
 std::optional<Pareja> UnicaConTurno(const Array<Integer, 1, 4>& turnos) {
   const bool nosotros = turnos[1] > 0 || turnos[3] > 0;
   const bool ellos = turnos[2] > 0 || turnos[4] > 0;
@@ -28,7 +28,7 @@ std::optional<Pareja> UnicaConTurno(const Array<Integer, 1, 4>& turnos) {
 
 bool NadieTienePares(const Table& t) { return t.OrdenPares == Array<Integer, 1, 4>{}; }
 
-// Nobody has bet in a lance that is over.
+// The state of an ended lance in which nobody has bet.
 void CerrarSinApuesta(const Table& t, CeldaPizarra& celda) {
   celda.Estado = EstadoLance::EnPaso;
   if (celda.Lance == NumeroLance::Pares) celda.De = UnicaConTurno(t.OrdenPares);
@@ -36,8 +36,9 @@ void CerrarSinApuesta(const Table& t, CeldaPizarra& celda) {
   if (celda.De) celda.Estado = EstadoLance::SinEnvite;
 }
 
-// Before the count an accepted órdago can only be a punto's of an earlier hand, which the count
-// pays like a refused bet.
+// The state of an ended lance. An accepted órdago ends the hand at once, so while the hand goes on
+// Apuesta[Punto] can be EnviteOrdago only from an earlier hand; the count pays it like a refused
+// bet.
 void Cerrar(const Table& t, CeldaPizarra& celda) {
   const int apuesta = t.Apuesta[celda.Lance];
   if (AcaboAntesDe(t, celda.Lance)) {
@@ -57,7 +58,7 @@ void Cerrar(const Table& t, CeldaPizarra& celda) {
   }
 }
 
-// The lance that is being played, or comes next.
+// The state and highlight of the current lance.
 void Abrir(const Table& t, Momento momento, CeldaPizarra& celda) {
   celda.Marca = momento == Momento::Reposo ? MarcaLance::Siguiente : MarcaLance::EnJuego;
   if (t.Fase == Fase::DeclaracionPares || t.Fase == Fase::DeclaracionJuego) {

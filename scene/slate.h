@@ -1,16 +1,16 @@
 #pragma once
-// The slate with the lances of the hand.
+// The slate: the state of each lance of the hand.
 #include <vector>
 
 #include "scene/scene.h"
 
 namespace tasca {
 
-// The lances as they stand. Between two hands the slate tells of the last one only while its hands
-// lie open: after that a new hand may have been dealt already.
+// The lances in order of play. Between two hands they show the last hand as long as its cards are
+// face up; otherwise all lances are PorJugar.
 std::vector<CeldaPizarra> PizarraDe(const Table& t, Momento momento);
 
-// True when an accepted órdago has ended the hand before that lance.
+// True if an accepted órdago has ended the hand before `lance` was played.
 bool AcaboAntesDe(const Table& t, NumeroLance lance);
 
 }  // namespace tasca
