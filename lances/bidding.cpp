@@ -1,5 +1,5 @@
-// The opening and the answer step. A human and a computer seat differ in where the decision and the
-// amount come from, and in nothing else.
+// The opening and the answer step. Human and computer seats differ only in where the decision and
+// the amount come from: the port, or the functions of the lance and the generator.
 #include "lances/bidding.h"
 
 #include <algorithm>
@@ -50,7 +50,7 @@ Integer CantidadApertura(Game& g, const Lance& lance, Seat asiento) {
   return CInt(r * 5.0F) + MinimoApertura;
 }
 
-// One seat speaks before anybody has bet.
+// One seat speaks in the opening, while nobody has bet.
 void HablarEnApertura(Game& g, const Lance& lance, Seat asiento) {
   Table& t = g.t;
   const Decision decision = DecidirApertura(g, lance, asiento);
@@ -74,7 +74,7 @@ void HablarEnApertura(Game& g, const Lance& lance, Seat asiento) {
   t.ParejaEnvite = ParejaDe(asiento);
 }
 
-// What has become of the bet while the other pareja answers it.
+// The state of the bet during the answer step. Abierto: unanswered, or refused by all seats so far.
 enum class Envite { Abierto, Querido, OrdagoQuerido };
 
 bool YaDecideElJuego(const Table& t, const Lance& lance) {
@@ -89,8 +89,8 @@ Decision DecidirRespuesta(Game& g, const Lance& lance, Seat asiento) {
     return PreguntarDecision(g, lance.TituloRespuesta, modo);
   }
   const Decision decision = lance.Responde(t, g.rnd, asiento);
-  // Kept: stones beyond a whole juego decide nothing, so a computer seat accepts where it would go
-  // on raising; two seats with strong hands would never end.
+  // Kept: a computer seat accepts instead of raising once the bet exceeds the target of the juego.
+  // More stones change nothing, and two seats with strong hands would raise forever.
   if (decision == Decision::EnvidoMas && YaDecideElJuego(t, lance)) return Decision::Quiero;
   return decision;
 }
@@ -113,8 +113,8 @@ Envite Querer(Game& g, const Lance& lance, Seat asiento) {
   return esOrdago ? Envite::OrdagoQuerido : Envite::Querido;
 }
 
-// One seat answers the bet. A raise or an órdago sees the bet that it answers; `posicion` goes back
-// to 0, so that the asking starts again from the mano, now of the other pareja.
+// One seat answers the bet. A raise or an órdago accepts the bet before it and sets `posicion` to
+// 0: the answers start again from the mano, now by the other pareja.
 Envite Contestar(Game& g, const Lance& lance, Seat asiento, int& posicion) {
   Table& t = g.t;
   const Decision decision = DecidirRespuesta(g, lance, asiento);

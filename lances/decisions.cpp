@@ -1,4 +1,4 @@
-// Shared judgements of the computer seats.
+// The decision rules that several lances share.
 #include "lances/decisions.h"
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 namespace tasca {
 namespace {
 
-// Against an órdago there is only quiero or no quiero.
+// An órdago can only be accepted or refused.
 Decision LimitarContraOrdago(const Table& t, Decision decision) {
   return t.SeguirLance == EnviteOrdago ? std::min(decision, Decision::Quiero) : decision;
 }

@@ -1,4 +1,4 @@
-// Asking and correcting the human's declaration.
+// Asks for the human's declaration and corrects it.
 #include "lances/declaration.h"
 
 #include "base/text.h"

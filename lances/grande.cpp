@@ -16,7 +16,7 @@ Decision DecideGrande(const Table& t, Rnd& rnd, Seat asiento) {
   k = cortoMus ? k + 1 : k - t.RondasMus;
   if (t.OrdagueroAsiento[asiento] > MuyOrdaguero) k += 1;
   const Decision porReyes = AperturaPorCartas(rnd, k);
-  // Kept: the side that refused the mus bets four times out of five even with a poor hand.
+  // Kept: a seat of the pareja that refused mus bets in 80 % of the cases where its hand says paso.
   const float r = rnd();
   if (porReyes == Decision::Paso && cortoMus && r < 0.8F) return Decision::Envido;
   return porReyes;

@@ -19,7 +19,7 @@ constexpr PreguntaDeclaracion PreguntaJuego{
     .NoEnRealidad = u"no tiene Juego y eso es lo que dice (por lo que pudiera pasar...)",
 };
 
-// The rank of a juego by its points: 10 for 31 down to 1 for 33; 0 without juego.
+// The rank of a juego by its points: 10 (best) for 31 down to 1 for 33; 0 without juego.
 int RangoJuego(int puntos) {
   switch (puntos) {
     case 31:
@@ -47,10 +47,10 @@ int RangoJuego(int puntos) {
   }
 }
 
-// The rank that the decisions use: 1 for 31, 2 for 32, 3 for 40 down to 10 for 33.
+// The reversed rank that the decisions use: 1 (best) for 31, 2 for 32, 3 for 40, ... 10 for 33.
 int FuerzaJuego(const Table& t, Seat asiento) { return 11 - RangoJuego(PuntosJuego(t, asiento)); }
 
-// Whether the seat bets at all. Every draw is made, whatever the other conditions say.
+// Whether the seat bets. Always draws five times.
 bool ApuestaAJuego(const Table& t, Rnd& rnd, Seat asiento) {
   const int fuerza = FuerzaJuego(t, asiento);
   const bool primero = t.TurnoJuego[asiento] == 1;
@@ -69,12 +69,13 @@ bool ApuestaAJuego(const Table& t, Rnd& rnd, Seat asiento) {
   return apuesta;
 }
 
-// Kept: each pareja's counter tells the other pareja's turn.
+// By pareja: 1 + its seats with juego that have declared.
+// Kept: a seat's turn is the counter of the other pareja.
 struct ContadoresJuego {
   Array<int, 0, 1> Turno{1, 1};
 };
 
-// One seat says whether it has juego, and gets its turn if so.
+// One seat declares. If it has juego, sets its TurnoJuego.
 bool DeclararAsiento(Game& g, Seat asiento, ContadoresJuego& contadores) {
   Table& t = g.t;
   const bool tiene = TieneJuego(t, asiento);

@@ -1,6 +1,5 @@
 #pragma once
-// What tells one lance from another. The betting itself is the same for all five
-// (lances/bidding.h).
+// What differs between the five lances. The betting is the same for all (lances/bidding.h).
 #include <string_view>
 
 #include "table/dialog.h"
@@ -8,41 +7,42 @@
 
 namespace tasca {
 
+// The texts and rules of one lance.
 struct Lance {
   NumeroLance Numero;
-  std::u16string_view Encabezado;  // written when the opening starts, line breaks included
+  std::u16string_view Encabezado;  // heading written at the start of the opening, with line breaks
   bool EncabezadoReemplaza;        // the heading replaces the transcript (otherwise it is appended)
   bool EmpiezaSinEnvite;           // the opening first sets SeguirLance to 0
 
-  std::u16string_view TituloApertura;         // the dialog's caption while nobody has bet
-  std::u16string_view TituloCantidad;         // the input box's title then
-  std::u16string_view TituloRespuesta;        // the dialog's caption when a bet is answered
-  std::u16string_view TituloCantidadAlSubir;  // the input box's title then
-  std::u16string_view EnPaso;                 // written when all have passed, prompt included
-  std::u16string_view OrdagoGanado;  // the box after an accepted órdago, before the pareja
-  std::u16string_view Aviso;         // the prompt after a settled bet
+  std::u16string_view TituloApertura;         // opening: caption of the bidding dialog
+  std::u16string_view TituloCantidad;         // opening: title of the input box for the stones
+  std::u16string_view TituloRespuesta;        // answer: caption of the bidding dialog
+  std::u16string_view TituloCantidadAlSubir;  // answer: title of the input box for the stones
+  std::u16string_view EnPaso;                 // text if all have passed, with the prompt
+  std::u16string_view OrdagoGanado;           // accepted órdago: message box, before the pareja
+  std::u16string_view Aviso;                  // prompt after an accepted or refused bet
 
-  Fase SiEnvidan;                 // the phase that follows a bet: its answer
-  Fase SiPasan;                   // the phase that follows when all have passed
-  Fase TrasRespuesta;             // the phase that follows a bet accepted or refused
-  std::u16string_view YaContado;  // the count's line when there is nothing left to pay; "" without
-  std::u16string_view Envidadas;  // the count, after the stones of an accepted bet
-  std::u16string_view UnaEnPaso;  // the count, when the lance in paso gives a stone; "" without
+  Fase SiEnvidan;                 // next phase after a bet: its answer
+  Fase SiPasan;                   // next phase if all have passed
+  Fase TrasRespuesta;             // next phase after an accepted or refused bet
+  std::u16string_view YaContado;  // count: text if the lance has already been paid; may be ""
+  std::u16string_view Envidadas;  // count: text after the stones of an accepted bet
+  std::u16string_view UnaEnPaso;  // count: text for the stone of a lance en paso; may be ""
 
   int RefrescosAlRehusar;  // how often the scoreboard is rewritten after a refused bet
-  bool DeclaraAlRehusar;   // a refused bet gives the lance to the bettor's pareja at the count
-  bool AvisoTrasOrdago;    // the prompt is written after an accepted órdago
+  bool DeclaraAlRehusar;   // a refused bet sets Declaracion to the pareja that bet
+  bool AvisoTrasOrdago;    // a prompt is written after an accepted órdago
 
-  bool (*PuedeHablar)(const Table& t, Seat asiento);
-  Decision (*Decide)(const Table& t, Rnd& rnd, Seat asiento);    // a computer seat opens
-  Decision (*Responde)(const Table& t, Rnd& rnd, Seat asiento);  // a computer seat answers
-  Pareja (*Gana)(Game& g);                                       // who wins the lance
+  bool (*PuedeHablar)(const Table& t, Seat asiento);             // whether the seat takes part
+  Decision (*Decide)(const Table& t, Rnd& rnd, Seat asiento);    // opening of a computer seat
+  Decision (*Responde)(const Table& t, Rnd& rnd, Seat asiento);  // answer of a computer seat
+  Pareja (*Gana)(Game& g);                                       // the pareja that wins the lance
 };
 
-// PuedeHablar of the lances in which everybody speaks.
+// PuedeHablar of the lances in which all seats take part.
 inline bool HablanTodos(const Table& /*t*/, Seat /*asiento*/) { return true; }
 
-// The prompts that end a step.
+// The prompts at the end of a step.
 inline constexpr std::u16string_view AvisoContinuar = u"Pulse enter para continuar";
 inline constexpr std::u16string_view AvisoContar = u"Pulse enter para contar";
 

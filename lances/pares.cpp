@@ -38,7 +38,8 @@ int Clase(const std::vector<int>& iguales) {
   }
 }
 
-// Separates hands of one class: 100 times the first pair, 10 times the second, and so on, rounded.
+// Tie value of hands of one class: 100 x first value + 10 x second + third + 0.1 x fourth + ...,
+// rounded.
 int Desempate(const std::vector<int>& iguales) {
   int milesimas = 0;
   int peso = 100000;
@@ -49,7 +50,7 @@ int Desempate(const std::vector<int>& iguales) {
   return static_cast<int>(RoundHalfEven(milesimas / 1000.0));
 }
 
-// The pair values that the answer weighs: the first, and the last of the others.
+// The first and the last pair value of a hand; 0 if missing.
 struct ValoresPares {
   int Primero = 0;
   int Segundo = 0;
@@ -69,7 +70,7 @@ Integer FuerzaPares(const Table& t, Seat asiento) {
          2 * valores.Segundo;
 }
 
-// How strong pares must be to accept: the more discard passes, the stronger.
+// The least strength to accept a bet. It grows with the discard passes.
 int UmbralPares(const Table& t) {
   if (t.RondasMus == 0) return 39;
   return t.RondasMus == 1 ? 52 : 59;
@@ -82,7 +83,7 @@ Decision RespondeOrdagoAPares(const Table& t, Seat asiento) {
   return fuerza > 59 ? Decision::Quiero : Decision::NoQuiero;
 }
 
-// The opening of a seat whose pareja refused the mus.
+// The opening of a seat whose pareja refused mus.
 Decision AbrePorHaberCortado(const Table& t, Rnd& rnd, Seat asiento) {
   const int clase = Clase(CartasIguales(t, asiento));
   const Marcador m{t, asiento};
@@ -98,7 +99,7 @@ Decision AbrePorHaberCortado(const Table& t, Rnd& rnd, Seat asiento) {
   return Decision::Paso;
 }
 
-// One seat says whether it has pares; `orden` is its number among those that do.
+// One seat declares. If it has pares, `orden` becomes its OrdenPares.
 bool DeclararAsiento(Game& g, Seat asiento, int orden) {
   Table& t = g.t;
   const bool tiene = TienePares(t, asiento);
@@ -169,7 +170,7 @@ Decision RespondePares(const Table& t, Rnd& rnd, Seat asiento) {
 }
 
 Pareja GanaPares(const Table& t) {
-  constexpr int PesoClase = 10000;  // above any tie value
+  constexpr int PesoClase = 10000;  // greater than any tie value
   Array<int, 1, 4> valores;
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     const std::vector<int> iguales = CartasIguales(t, asiento);

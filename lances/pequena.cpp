@@ -35,7 +35,7 @@ Pareja GanaPequena(const Table& t) {
 
 namespace {
 
-// Kept: "Pequeña" and "pequeña" stand side by side.
+// Kept: some texts have "Pequeña", others "pequeña".
 constexpr Lance Pequena{
     .Numero = NumeroLance::Pequena,
     .Encabezado = u"Pequeña \r\n",

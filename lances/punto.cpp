@@ -10,10 +10,10 @@
 namespace tasca {
 namespace {
 
-// How far the seat's points are from 31.
+// The points that the seat lacks to 31.
 int Distancia(const Table& t, Seat asiento) { return Treintayuna - PuntosJuego(t, asiento); }
 
-// 1 for the mano to 4.
+// The seat's position in the speaking order: 1 (mano) to 4.
 int PosicionDe(const Table& t, Seat asiento) {
   int posicion = 1;
   while (t.OrdenAsiento[posicion] != asiento) ++posicion;

@@ -1,4 +1,4 @@
-// Comparing the four hands.
+// Compares the values of the four hands.
 #include "lances/ranking.h"
 
 namespace tasca {

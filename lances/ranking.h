@@ -1,10 +1,10 @@
 #pragma once
-// Who has the best hand of a lance.
+// Finds the seat with the best hand.
 #include "table/table.h"
 
 namespace tasca {
 
-// The seat with the highest of four values; of equal ones, the seat nearest the mano.
+// The seat with the highest value. Of equal values the first seat in speaking order wins.
 Seat MejorAsiento(const Table& t, const Array<int, 1, 4>& valores);
 
 }  // namespace tasca
