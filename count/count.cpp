@@ -1,4 +1,4 @@
-// The count, lance by lance.
+// Counts the lances of a hand one by one.
 #include "count/count.h"
 
 #include <optional>
@@ -19,7 +19,7 @@ namespace {
 
 std::u16string SeSaca(Pareja pareja) { return Join(u"La pareja ", pareja, u" se saca "); }
 
-// The pareja that takes the grande or the pequeña; none when the bidding has settled it.
+// Counts grande or pequeña. Returns the pareja that wins it; nothing if it has already been paid.
 std::optional<Pareja> ContarPorCartas(Game& g, const Lance& lance) {
   Table& t = g.t;
   const int apuesta = t.Apuesta[lance.Numero];
@@ -39,7 +39,7 @@ std::optional<Pareja> ContarPorCartas(Game& g, const Lance& lance) {
   return pareja;
 }
 
-// The seat's name after a phrase that ends in "de"; "de el ..." becomes "del ...".
+// Appends the seat's name to a transcript that ends in "de". "de el ..." becomes "del ...".
 void NombrarAsiento(Table& t, Seat asiento) {
   if (!t.UsarNombres) {
     t.Text2 += Join(u"l jugador ", asiento);
@@ -59,7 +59,7 @@ void NombrarAsiento(Table& t, Seat asiento) {
 
 bool EsDe(Seat asiento, Pareja pareja) { return ParejaDe(asiento) == pareja; }
 
-// The seats of a pareja for which `tiene` holds.
+// The number of seats of a pareja for which `tiene` is true.
 template <class Condicion>
 int CuentaAsientos(const Table& t, Pareja pareja, Condicion tiene) {
   int cuenta = 0;
@@ -88,9 +88,10 @@ ValorPares ValorDe(const std::vector<int>& iguales) {
   }
 }
 
-// Given the pareja of the lance before; returns the one that takes the pares.
-// Kept: after a refused bet at pares nobody is named as its taker, so the pareja of the lance
-// before is paid for its pares, without a heading.
+// Returns the pareja that is paid for its pares, -1 if nobody has pares. Pays an accepted bet.
+// `anterior` is the pareja that won the lance before.
+// Kept: a refused bet at pares does not set Declaracion. Then `anterior` is paid for its pares, and
+// the text does not name it.
 Pareja QuienSeSacaPares(Table& t, Pareja anterior) {
   const int apuesta = t.Apuesta[NumeroLance::Pares];
   if (apuesta < 0) {
@@ -119,8 +120,8 @@ std::u16string_view SeparadorPares(int porNombrar) {
 
 Pareja ContarPares(Table& t, Pareja anterior) {
   const Pareja pareja = QuienSeSacaPares(t, anterior);
-  // After a bet the seats still to be named are counted down, without one those named are counted
-  // up: either way the second of two gets the "y".
+  // With an accepted bet this counts down the seats still to be named; otherwise it counts up the
+  // seats named. Either way the second of two seats gets the "y".
   int porNombrar = t.Apuesta[NumeroLance::Pares] > 0 ? CuentaAsientos(t, pareja, TienePares) : 0;
   const bool haciaArriba =
       t.Declaracion[NumeroLance::Pares] != SinDeclaracion || t.Apuesta[NumeroLance::Pares] == 0;
@@ -137,7 +138,8 @@ Pareja ContarPares(Table& t, Pareja anterior) {
   return pareja;
 }
 
-// Kept: after a refused bet the heading stands only if the pareja that bet has juego.
+// Returns the pareja that is paid for its juego, and pays an accepted bet.
+// Kept: after a refused bet the heading is written only if the pareja that bet has juego.
 Pareja QuienSeSacaJuego(Game& g) {
   Table& t = g.t;
   const int apuesta = t.Apuesta[NumeroLance::Juego];
@@ -178,7 +180,9 @@ Pareja ContarJuego(Game& g) {
   return pareja;
 }
 
-// Kept: Apuesta(5) is never reset, so a punto en paso is counted from the last punto that was bet.
+// Returns the pareja that is paid for the punto. `anterior` is the pareja of the lance before.
+// Kept: Apuesta[Punto] is never reset, so a punto en paso is paid like the last punto that was
+// bet.
 Pareja ContarPunto(Game& g, Pareja anterior) {
   Table& t = g.t;
   const int apuesta = t.Apuesta[NumeroLance::Punto];
@@ -195,9 +199,9 @@ Pareja ContarPunto(Game& g, Pareja anterior) {
   return pareja;
 }
 
-// The pareja that has just taken stones wins the juego when it is past the target; then the count
-// is over. `pareja` may be none at all.
-bool GanaElJuego(Game& g, Pareja pareja) {
+// If `pareja` has more stones than the target, it wins the juego: adds the juego, informs the
+// player and resets Piedras. Returns true then, and the count ends. A negative `pareja` is nobody.
+bool ComprobarJuego(Game& g, Pareja pareja) {
   Table& t = g.t;
   if (pareja < 0 || pareja > 1 || t.Piedras[pareja] <= t.PiedrasJuego) return false;
   t.Juegos[pareja] += 1;
@@ -209,15 +213,15 @@ bool GanaElJuego(Game& g, Pareja pareja) {
   return true;
 }
 
-// True when the juego or the punto ends the juego in play.
+// Counts the juego, or the punto if it was played. True if a pareja wins the current juego by it.
 bool ContarUltimoLance(Game& g, Pareja anterior) {
   Table& t = g.t;
-  if (!t.SeJuegaPunto) return GanaElJuego(g, ContarJuego(g));
+  if (!t.SeJuegaPunto) return ComprobarJuego(g, ContarJuego(g));
   if (t.Apuesta[NumeroLance::Punto] == 0) {
     t.Text2 += Join(DatosPunto().YaContado, CrLf);
     return false;
   }
-  return GanaElJuego(g, ContarPunto(g, anterior));
+  return ComprobarJuego(g, ContarPunto(g, anterior));
 }
 
 void TerminarCuenta(Game& g) {
@@ -238,14 +242,14 @@ void ContarMano(Game& g) {
   Pareja pareja = 0;
   for (const Lance* const lance : {&DatosGrande(), &DatosPequena()}) {
     const std::optional<Pareja> ganadora = ContarPorCartas(g, *lance);
-    // Kept: a lance that was settled in the bidding does not win the juego here, even when the
-    // stones paid then are past the target.
+    // Kept: a lance that was paid in the betting does not win the juego here, even if the pareja
+    // has more stones than the target.
     if (!ganadora) continue;
     pareja = *ganadora;
-    if (GanaElJuego(g, pareja)) return;
+    if (ComprobarJuego(g, pareja)) return;
   }
   pareja = ContarPares(t, pareja);
-  if (GanaElJuego(g, pareja)) return;
+  if (ComprobarJuego(g, pareja)) return;
   if (!ContarUltimoLance(g, pareja)) TerminarCuenta(g);
 }
 

@@ -1,13 +1,13 @@
 #pragma once
-// The count of a hand: what every lance is worth, in the fixed order grande, pequeña, pares, juego
-// or punto. A pareja that passes the stones of the juego wins it there, and nothing more is
-// counted.
+// The count of a hand: the stones of every lance, in the order grande, pequeña, pares, juego or
+// punto. The first pareja with more stones than PiedrasJuego wins the juego, and the count ends.
 #include "table/game.h"
 
 namespace tasca {
 
-// Counts the hand into Piedras, tells it in Text2, shows all hands, and leaves Fase at -1. May end
-// a juego, a vaca and the match; throws what ComprobarVaca throws.
+// Adds the stones of the hand to Piedras, describes them in Text2, shows all hands in Text1 and
+// sets Fase to EmpezarMano. May end the juego, the vaca and the match. Throws what ComprobarVaca
+// throws.
 void ContarMano(Game& g);
 
 }  // namespace tasca
