@@ -1,4 +1,4 @@
-// Reading and writing the character file.
+// Stores the lines of the character file in the table and writes them back.
 #include "characters/character_file.h"
 
 #include <cstdlib>
@@ -16,7 +16,7 @@ Integer PrimerasCifras(std::u16string_view linea) {
   return ValorOrdaguero(linea.substr(0, CifrasOrdaguero));
 }
 
-// Stores a line into the place that its record and its kind give it.
+// Stores a line in the field given by its record and kind.
 void Guardar(Table& t, const LineReader& archivo, const LineasPersonajes& lineas, ClaseLinea clase,
              std::u16string_view linea) {
   switch (clase) {
@@ -52,7 +52,7 @@ int LeerTodo(Table& t, LectorPersonajes lector) {
   return lineas.Personaje();
 }
 
-// At least three digits, after the sign: 007, -005, 1000.
+// The number with at least three digits after the sign: 007, -005, 1000.
 std::u16string TextoOrdaguero(int valor) {
   const std::u16string cifras = ToText(std::abs(valor));
   const std::size_t ceros = cifras.size() < CifrasOrdaguero ? CifrasOrdaguero - cifras.size() : 0;
@@ -72,7 +72,7 @@ std::u16string TextoPersonaje(const Table& t, int numero) {
     texto += Join(EtiquetasMensaje.at(static_cast<std::size_t>(categoria) - 1), u">", CrLf);
     for (int hueco = 1; hueco <= HuecosFrase; ++hueco) {
       const FixedText<AnchoFrase>& frase = t.Mensajes[numero][categoria][hueco];
-      // Kept: a phrase is written with its padding, unlike the name and the story.
+      // Kept: phrases are written with their padding, names and stories without.
       if (SeEscribe(frase)) texto += Join(frase.Full(), CrLf);
     }
   }

@@ -1,6 +1,7 @@
 #pragma once
-// The character file "Jugadores.dat": a record of lines for every character, then its phrases under
-// one marker line ("QMus>") per kind of phrase. characters/record_lines.h knows its format.
+// Reads and writes the character file "Jugadores.dat". For each character it has a head of four
+// lines, then the phrases after a marker line ("QMus>") for each kind. The format is defined in
+// characters/record_lines.h.
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -11,36 +12,37 @@
 
 namespace tasca {
 
-// The character file of the program's folder.
+// The path of the character file in the program's folder.
 std::filesystem::path ArchivoPersonajes(const Table& t);
 
-// The propensity to the órdago that a text stands for: the whole number that it starts with, or 0.
-// Throws RunTimeError (overflow) outside 16 bits.
+// The propensity to the órdago in a text: the integer at its start, 0 without one. Reads at most
+// nine characters. Throws RunTimeError (overflow) outside -32768..32767.
 Integer ValorOrdaguero(std::u16string_view texto);
 
-// True if the file's form of the propensity is read back as the same value: from 0 to 999. The sign
-// of a negative value takes the place of a digit.
+// True if the file can hold the value, that is, reading it back gives the same value: 0 to 999.
+// Only three characters are read, and the sign of a negative number takes one of them.
 bool SeLeeComoSeEscribe(int ordaguero);
 
-// At the end of the file: throws RunTimeError when it ends within a record's head.
+// Throws RunTimeError if the file has ended inside the head of a record. Call it after the last
+// line.
 void ExigirCabecera(LineReader& archivo, const LineasPersonajes& lineas);
 
-// Reads the whole character file into Personajes and Mensajes. Tags are case-sensitive. What the
-// file does not fill keeps what it held before. Throws RunTimeError for a missing file, a record
-// cut short, a phrase before the first record, a 101st character.
+// Reads the character file into Personajes and Mensajes. Tags are case-sensitive. Fields that the
+// file does not contain keep their old values. Throws RunTimeError if the file is missing or ends
+// inside the head of a record, for a phrase before the first record and for a 101st character.
 void LeerPersonajes(Table& t);
 
-// The same for the editor, which takes tags in upper or lower case. Tells how many characters there
-// are, 0 to 100.
+// The same for the editor, for which tags are case-insensitive. Returns the number of characters, 0
+// to 100.
 int LeerPersonajesSinMayusculas(Table& t);
 
-// The bytes of a character file with the characters 1 to `cuantos` (none below 1). Phrases are
-// written in their full width, names and stories without their padding; a phrase that is blank or
-// was never filled is left out, and the next one moves up.
+// The content of a character file with the characters 1 to `cuantos`; "" if `cuantos` is below 1.
+// Phrases are written with their padding, names and stories without. A phrase that is blank or was
+// never filled is omitted, so later phrases of the same kind move to a lower slot.
 std::string TextoPersonajes(const Table& t, int cuantos);
 
-// Makes the character file anew from characters 1 to `cuantos`, once the file that was there has
-// become "Jugadores.bak". Neither is ever absent or half written. Throws WriteError.
+// Copies the character file to "Jugadores.bak" and replaces it by characters 1 to `cuantos`. Both
+// files are replaced atomically. Throws WriteError on failure.
 void EscribirPersonajes(const Table& t, int cuantos);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Following the three readers through a character file, line by line.
+// Runs the three readers over a character file and notes the faults of each line.
 #include "characters/check.h"
 
 #include <algorithm>
@@ -21,12 +21,12 @@ constexpr int JuegosDeFrases = 2;  // characters 1 and 2 hold the default phrase
 constexpr int MinimoOfrecidos = 3;
 constexpr std::u16string_view SeDetiene = u", y aquí se detiene el programa";
 
-// The game or the editor at work.
+// The progress of the game or the editor as a reader.
 struct Revisor {
   Lectores Quien;
   LineasPersonajes Lineas;
   int LineaPersonaje = 0;
-  bool TieneMarca = false;  // the record has had a marker that is known
+  bool TieneMarca = false;  // the current record has had a known marker
   Array<Array<bool, 1, HuecosFrase>, 1, static_cast<int>(EtiquetasMensaje.size())> Llenos{};
 };
 
@@ -72,7 +72,7 @@ void ExaminarTextoDeCabecera(CuadernoFaltas& c, const Revisor& l, ClaseLinea cla
   }
 }
 
-// The phrase goes to its slot; what the slot held is lost.
+// Notes that a phrase overwrites an earlier one of the same record, kind and slot.
 void OcuparHueco(CuadernoFaltas& c, Revisor& l, std::u16string_view etiqueta) {
   bool& lleno = l.Llenos[l.Lineas.Categoria()][l.Lineas.Hueco()];
   if (lleno) {
@@ -104,8 +104,8 @@ void ExaminarFrase(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
   }
 }
 
-// Every computer player without a phrase of its own says slot 1 of these two, and so does the
-// human.
+// Slot 1 of characters 1 and 2 holds the default phrases, which the human and computer players
+// without their own phrase speak.
 void TerminarPersonaje(CuadernoFaltas& c, const Revisor& l, int personaje) {
   if (personaje == 0 || personaje > JuegosDeFrases) return;
   int categoria = 0;
@@ -145,7 +145,7 @@ void ExaminarResto(CuadernoFaltas& c, const Revisor& l, std::u16string_view line
   c.Anotar(l.Quien, u"lo que sigue a la marca en su línea se pierde");
 }
 
-// One line for the game or the editor; true when it starts a character.
+// Examines one line for the game or the editor. True if it starts a record.
 bool Revisar(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
   const ClaseLinea clase = l.Lineas.Leer(linea);
   switch (clase) {
@@ -179,13 +179,13 @@ bool Revisar(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
   return clase == ClaseLinea::Personaje;
 }
 
-// The start-up dialog at work.
+// The progress of the start-up dialog as a reader.
 struct Oferta {
   LineasPersonajes Lineas{LectorPersonajes::Inicio};
   int Ofrecidos = 0;
 };
 
-// The same for the start-up dialog.
+// Examines one line for the start-up dialog. True if it starts a record.
 bool Revisar(CuadernoFaltas& c, Oferta& l, std::u16string_view linea) {
   const ClaseLinea clase = l.Lineas.Leer(linea);
   if (clase == ClaseLinea::Nombre) ++l.Ofrecidos;
@@ -197,7 +197,7 @@ bool Revisar(CuadernoFaltas& c, Oferta& l, std::u16string_view linea) {
   return clase == ClaseLinea::Personaje;
 }
 
-// The codes of the characters that `es` picks out, each once: "00, 1B".
+// The hexadecimal codes of the distinct characters for which `es` is true: "00, 1B".
 std::u16string Codigos(std::u16string_view linea, bool (*es)(char16_t letra)) {
   constexpr std::u16string_view Cifras = u"0123456789ABCDEF";
   std::u16string vistos;
@@ -225,13 +225,14 @@ void ExaminarLetras(CuadernoFaltas& c, std::u16string_view linea) {
   }
 }
 
-// How the file was saved. Line by line, since no sequence of bytes holds a line's end.
+// The detected encoding. Lines can be checked one by one, because no UTF-8 sequence contains a line
+// end.
 struct Codificacion {
   bool EsUtf8 = true;
-  int PrimeraLinea = 0;  // with a sequence of several bytes; 0 for none yet
+  int PrimeraLinea = 0;  // first line with a multi-byte sequence; 0 if none
 };
 
-// The three readers at work.
+// The progress of all readers and the notes.
 struct Examen {
   CuadernoFaltas Apuntes;
   std::array<Revisor, 2> Completos{
@@ -293,7 +294,8 @@ void AnotarCodificacion(CuadernoFaltas& c, const Codificacion& codificacion) {
            u"Windows-1252 (ANSI)");
 }
 
-// The next line; false at the end. A line that is too long ends the reading for everyone.
+// Reads the next line. False at the end of the file, and for a line that is too long: then it is
+// noted and `interrumpido` becomes true.
 bool SiguienteLinea(LineReader& archivo, std::string& bytes, CuadernoFaltas& c,
                     bool& interrumpido) {
   ++c.Linea;

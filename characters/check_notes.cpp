@@ -1,4 +1,4 @@
-// Ordering the notes and putting them into words.
+// Sorts and merges the notes, and builds the sentences.
 #include "characters/check_notes.h"
 
 #include <algorithm>

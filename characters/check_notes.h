@@ -1,6 +1,6 @@
 #pragma once
-// What the readers of a character file come upon while it is looked over, brought together: the
-// same fault for several readers is one.
+// Collects the faults that the readers of a character file find. The same fault of several readers
+// is merged into one.
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,31 +10,34 @@
 
 namespace tasca {
 
-// Who reads the file: bits, added up.
+// A set of readers, as a bit mask.
 using Lectores = unsigned;
 inline constexpr Lectores LectorJuego = 1;
 inline constexpr Lectores LectorEditor = 2;
 inline constexpr Lectores LectorInicio = 4;
 inline constexpr Lectores TodosLosLectores = LectorJuego | LectorEditor | LectorInicio;
 
-// "el juego y el editor".
+// The Spanish names of the readers: "el juego y el editor".
 std::u16string NombreLectores(Lectores quienes);
 
-// A piece of the file between quotes, cut when it is long.
+// The text in quotes. Text after 40 characters is replaced by an ellipsis.
 std::u16string Cita(std::u16string_view texto);
 
+// The notes of one check.
 class CuadernoFaltas {
  public:
-  int Linea = 0;  // the line being read, where faults are noted; 0 for those of the whole file
+  int Linea = 0;  // the current line, from 1; 0 for the whole file
 
-  // `texto` is a sentence without its stop.
+  // Notes a fault of the current line. `texto` is a sentence without the final stop.
   void Anotar(Lectores quienes, std::u16string texto) { Anotar(quienes, Linea, std::move(texto)); }
+  // Notes a fault of line `linea`.
   void Anotar(Lectores quienes, int linea, std::u16string texto);
 
+  // The number of notes, before merging.
   std::size_t Cuantas() const { return notas_.size(); }
 
-  // Every fault once, by line and, within one, as noted; those of the whole file come last. A fault
-  // that the game and the editor do not share names its readers.
+  // The merged faults by line, within a line in the order of the notes; those of the whole file
+  // come last. A fault that does not affect both the game and the editor names its readers.
   std::vector<Falta> Faltas() const;
 
  private:
@@ -44,7 +47,7 @@ class CuadernoFaltas {
     Lectores Quienes;
   };
 
-  // The notes by line, those of one line with the same text made one.
+  // The notes sorted by line. Notes of one line with the same text are merged.
   std::vector<Nota> Reunidas() const;
 
   std::vector<Nota> notas_;

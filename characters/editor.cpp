@@ -1,4 +1,4 @@
-// The events of the character editor.
+// The events of the character editor's form.
 #include "characters/editor.h"
 
 #include "base/code_page.h"
@@ -11,9 +11,9 @@
 namespace tasca {
 namespace {
 
-constexpr std::u16string_view Nul{u"\0", 1};  // fills a phrase that was never set
+constexpr std::u16string_view Nul{u"\0", 1};  // a phrase that was never set consists of NULs
 
-// What a list's selection stands for: characters, kinds and slots count from 1; 0 is none.
+// The selected character, kind of phrase or slot, from 1; 0 without a selection.
 int Elegido(const ListBox& lista) { return lista.ListIndex + 1; }
 
 void Elegir(ListBox& lista, int posicion) {
@@ -27,8 +27,8 @@ std::u16string& Entrada(ListBox& lista) {
 
 void Vaciar(ListBox& lista) { lista = {}; }
 
-// Kept: the phrases are listed with their padding when the character is chosen, and without it when
-// the kind of phrase is.
+// Kept: selecting a character lists its phrases with their padding, selecting a kind of phrase
+// without it.
 enum class Forma { ConRelleno, SinRelleno };
 
 void ListarFrases(Dialog1& d, const Table& t, int personaje, int categoria, Forma forma) {
@@ -43,8 +43,8 @@ std::u16string EntradaDe(int numero, const Personaje& personaje) {
   return Join(numero, u". ", personaje.Nombre.Trimmed());
 }
 
-// The character that the three texts describe. Throws RunTimeError for an Ordaguero outside 16
-// bits.
+// The character in the three text boxes. Throws RunTimeError if the Ordaguero does not fit an
+// Integer.
 Personaje Escrito(const Dialog1& d) {
   Personaje escrito;
   escrito.Nombre = Trim(d.Text1);
@@ -53,7 +53,8 @@ Personaje Escrito(const Dialog1& d) {
   return escrito;
 }
 
-// False when the file could not hold the Ordaguero: then nothing changes.
+// Stores the text boxes in `personaje`. If the file cannot hold the Ordaguero, shows a message box,
+// changes nothing and returns false.
 bool GuardarTextos(Dialog1& d, Personaje& personaje, EditorPort& port) {
   const Personaje escrito = Escrito(d);
   if (!SeLeeComoSeEscribe(escrito.Ordaguero)) {
@@ -68,7 +69,7 @@ bool GuardarTextos(Dialog1& d, Personaje& personaje, EditorPort& port) {
   return true;
 }
 
-// What a text box makes of a text never filled is empty.
+// Removes NULs: a text box shows a field that was never filled as an empty text.
 std::u16string SinNulos(std::u16string_view texto) { return ReplaceAll(texto, Nul, u""); }
 
 bool TextosCambiados(const Dialog1& d, const Table& t) {
@@ -80,7 +81,7 @@ bool TextosCambiados(const Dialog1& d, const Table& t) {
          SinNulos(escrito.Historia.Trimmed()) != SinNulos(mostrado.Historia.Trimmed());
 }
 
-// False when the texts are to be applied and cannot be.
+// Asks whether to store changed text boxes. False if they should be stored but cannot be.
 bool ConservarTextos(Dialog1& d, Table& t, EditorPort& port) {
   if (!TextosCambiados(d, t)) return true;
   Personaje& mostrado = t.Personajes[d.Mostrado];
@@ -92,7 +93,7 @@ bool ConservarTextos(Dialog1& d, Table& t, EditorPort& port) {
   return !aplicar || GuardarTextos(d, mostrado, port);
 }
 
-// Kept: the new character takes over whatever phrases its place holds.
+// Kept: the new character gets the phrases that its record still holds.
 void NuevoJugador(Dialog1& d, Table& t, EditorPort& port) {
   Personaje& personaje = t.Personajes[d.NumPersonajes + 1];
   if (!GuardarTextos(d, personaje, port)) return;
@@ -112,7 +113,8 @@ void ElegirPersonaje(Dialog1& d, const Table& t, int posicion) {
   MostrarPersonaje(d, t, Elegido(d.List1));
 }
 
-// Moves every character after `eliminado` one place down; the place that it leaves has no phrases.
+// Moves the characters after `eliminado` one record down. The last record is left without phrases,
+// unless it is `eliminado` itself.
 void CorrerPersonajes(Table& t, int eliminado, int cuantos) {
   for (int k = eliminado; k < cuantos; ++k) {
     t.Personajes[k] = t.Personajes[k + 1];
@@ -126,7 +128,7 @@ void CorrerPersonajes(Table& t, int eliminado, int cuantos) {
   }
 }
 
-// Kept: the entries that remain keep their old numbers until the file is loaded again.
+// Kept: the remaining entries of List1 keep their old numbers until the file is loaded again.
 void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
   if (Elegido(d.List1) == 0) return port.Beep();
   if (!port.OkCancelBox(Join(u"Confirme que desea eliminar el jugador ", Entrada(d.List1)),
@@ -145,7 +147,7 @@ void EliminarJugador(Dialog1& d, Table& t, EditorPort& port) {
   ElegirPersonaje(d, t, 0);
 }
 
-// Kept: the answer counts whatever it is, so that cancelling clears the phrase.
+// Kept: a cancelled input box returns "", so cancelling clears the phrase.
 void ModificarMensaje(Dialog1& d, Table& t, EditorPort& port) {
   FixedText<AnchoFrase>& frase = t.Mensajes[Elegido(d.List1)][Elegido(d.List2)][Elegido(d.List3)];
   const std::u16string titulo = Join(u"Mensaje ", Trim(Entrada(d.List2)));
@@ -191,7 +193,7 @@ void List2_Click(Dialog1& d, const Table& t, int posicion) {
 
 void List3_Click(Dialog1& d, int posicion) { Elegir(d.List3, posicion); }
 
-// Kept: of the three phrases the second is selected.
+// Kept: selects the second of the three phrases.
 void MostrarPersonaje(Dialog1& d, const Table& t, int personaje) {
   const Personaje& mostrado = t.Personajes[personaje];
   d.Mostrado = personaje;
@@ -234,7 +236,7 @@ void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port) {
   port.MsgBox(Join(u"Se han guardado datos de ", d.NumPersonajes, u" jugadores"));
 }
 
-// Kept: the names are added after those that List1 already has.
+// Kept: the names are appended to those that List1 already has.
 void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port) {
   d.NumPersonajes = LeerPersonajesSinMayusculas(t);
   d.Guardado = TextoPersonajes(t, d.NumPersonajes);

@@ -1,4 +1,4 @@
-// Telling the lines of a character file apart.
+// Classifies the lines of a character file.
 #include "characters/record_lines.h"
 
 #include <algorithm>
@@ -32,13 +32,13 @@ ClaseLinea LineasPersonajes::Leer(std::u16string_view linea) {
     return Contains(linea, u"Datos>") ? EmpezarPersonaje() : ClaseLinea::Ajena;
   }
   if (LlevaMarca(linea)) return LeerMarca(Before(linea, u'>'));
-  // Kept: a fourth phrase takes the place of the third.
+  // Kept: a fourth phrase overwrites the third.
   hueco_ = siguienteHueco_;
   siguienteHueco_ = std::min(siguienteHueco_ + 1, HuecosFrase);
   return ClaseLinea::Frase;
 }
 
-// The start-up dialog leaves a record at its name when that is no player's.
+// The start-up dialog skips the rest of a record whose name contains "Default".
 ClaseLinea LineasPersonajes::LeerCabecera(std::u16string_view linea) {
   const ClaseLinea clase = *pendiente_;
   if (clase == ClaseLinea::Historia) {
@@ -53,9 +53,9 @@ ClaseLinea LineasPersonajes::LeerCabecera(std::u16string_view linea) {
   return ClaseLinea::Ajena;
 }
 
-// A marker that is none of the known ones only starts the phrases anew.
-// Kept: a new record does not set the kind of phrase, so it keeps the last one until the next
-// marker.
+// An unknown marker only resets the slot of the next phrase to 1.
+// Kept: a new record does not reset the kind of phrase, so phrases before its first marker are of
+// the last kind.
 ClaseLinea LineasPersonajes::LeerMarca(std::u16string_view etiqueta) {
   const ComparacionEtiquetas coinciden =
       lector_ == LectorPersonajes::Editor ? EqualIgnoringCase : EqualExactly;

@@ -1,6 +1,6 @@
 #pragma once
-// What each line of a character file is: the one place that knows the format. The file has three
-// readers, and they do not take every line alike.
+// The format of the character file: classifies its lines. The file has three readers, which
+// classify some lines differently.
 #include <array>
 #include <optional>
 #include <string_view>
@@ -9,57 +9,62 @@
 
 namespace tasca {
 
-// The file tags, by MessageCategory - 1.
+// The tags of the kinds of phrase, by MessageCategory - 1. A marker line is a tag followed by ">".
 inline constexpr std::array<std::u16string_view, CategoriasMensaje> EtiquetasMensaje{
     u"QMus", u"NMus", u"TPar", u"NPar", u"TJue", u"NJue", u"Paso",
     u"Envi", u"EnvM", u"Orda", u"NQui", u"SQui", u"Vict", u"Derr"};
 
-// The marker that starts a record.
+// The tag of the marker that starts a record.
 inline constexpr std::u16string_view EtiquetaDatos = u"Datos";
 
-// How many characters of the propensity to the órdago are read, and at least written.
+// The propensity to the órdago is read from this number of characters, and written with at least as
+// many digits.
 inline constexpr int CifrasOrdaguero = 3;
 
-// Compares the text of a marker with a tag.
+// Compares the text of a marker with a tag: EqualExactly or EqualIgnoringCase.
 using ComparacionEtiquetas = bool (*)(std::u16string_view, std::u16string_view);
 
-// The MessageCategory of a tag, 0 when there is none.
+// The MessageCategory of a tag; 0 if the tag is unknown.
 int CategoriaDe(std::u16string_view etiqueta, ComparacionEtiquetas coinciden);
 
+// The three readers of the file.
 enum class LectorPersonajes {
-  Juego,   // knows the tags only as they are written
-  Editor,  // Kept: knows them in upper and lower case
-  Inicio,  // the start-up dialog: looks for names and stories alone
+  Juego,   // the game: tags are case-sensitive
+  Editor,  // Kept: for the editor tags are case-insensitive
+  Inicio,  // the start-up dialog: reads only names and stories
 };
 
+// The kinds of line.
 enum class ClaseLinea {
-  Personaje,    // starts a record
-  Nombre,       // these three follow it
-  Ordaguero,    //
-  Historia,     //
-  Categoria,    // a marker: phrases of that kind follow
-  Desconocida,  // a marker that is none of the known ones
-  Frase,        //
-  Ajena,        // means nothing to this reader
+  Personaje,    // the marker "Datos>", first line of a record's head
+  Nombre,       // second line of the head
+  Ordaguero,    // third line of the head
+  Historia,     // last line of the head
+  Categoria,    // the marker of a kind of phrase
+  Desconocida,  // an unknown marker
+  Frase,        // a phrase
+  Ajena,        // ignored by this reader
 };
 
-// "el nombre", "el valor de ordaguero", "la historia": a line of a record's head.
+// The Spanish name of a line of a record's head, with its article: "el nombre", "el valor de
+// ordaguero", "la historia".
 std::u16string_view NombreDe(ClaseLinea cabecera);
 
-// Follows a reader through the file, line by line.
+// Classifies the lines of a file for one reader. Keeps the current record, kind of phrase and slot.
 class LineasPersonajes {
  public:
   explicit LineasPersonajes(LectorPersonajes lector) : lector_{lector} {}
 
-  // What the next line is.
+  // Classifies the next line. Requires that all lines are passed in order, without line ends.
   ClaseLinea Leer(std::u16string_view linea);
 
-  // The record that the line belongs to, from 1; 0 before the first.
+  // The number of the current record, from 1; 0 before the first. Has no upper limit.
   int Personaje() const { return personaje_; }
-  // Where a phrase goes: the MessageCategory, and the slot (1..3) of the phrase just read.
+  // The MessageCategory of the current kind of phrase, 1..14.
   int Categoria() const { return categoria_; }
+  // The slot (1..3) of the phrase just read; 0 before the first phrase.
   int Hueco() const { return hueco_; }
-  // The line of a record's head that comes next; none outside a head.
+  // The line of a record's head that must come next; nothing outside a head.
   std::optional<ClaseLinea> CabeceraPendiente() const { return pendiente_; }
 
  private:

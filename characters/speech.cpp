@@ -1,4 +1,4 @@
-// Building a spoken line.
+// Builds the spoken lines.
 #include "characters/speech.h"
 
 #include "base/text.h"
@@ -6,7 +6,7 @@
 namespace tasca {
 namespace {
 
-// The characters whose first phrases are everybody's default, by style.
+// The characters whose phrases in slot 1 are the default phrases, by style.
 constexpr int PersonajeIndirecto = 1;
 constexpr int PersonajeDirecto = 2;
 
@@ -15,13 +15,13 @@ std::u16string_view FrasePorDefecto(const Table& t, MessageCategory categoria) {
   return Mensaje(t, personaje, categoria, 1).Trimmed();
 }
 
-// One spoken line: who speaks, with what leads to the words, and the words.
+// One spoken line: the label of the speaker ("Ana dice: ") and the words.
 struct Linea {
   std::u16string Etiqueta;
   std::u16string Frase;
 };
 
-// Kept: the amount takes the place of every "&", in the human's name too.
+// Kept: the amount replaces every "&", also in the human's name.
 Linea LineaHumano(const Table& t, MessageCategory categoria, int cantidad) {
   Linea linea{Join(t.NombreJugador, t.EstiloDirecto ? u": " : u" dice "),
               std::u16string{FrasePorDefecto(t, categoria)}};
@@ -36,8 +36,8 @@ std::u16string Etiqueta(const Table& t, Seat asiento) {
   return nombre + (t.EstiloDirecto ? u":" : u" dice:");
 }
 
-// One of the character's own phrases, by the draw.
-// Kept: a second draw copies it over one of the three, so a character comes to repeat itself.
+// A random phrase of the character's own three.
+// Kept: the phrase is copied to a second random slot, so a character repeats itself more and more.
 std::u16string SacarExpresion(Table& t, Rnd& rnd, int personaje, MessageCategory categoria) {
   const float r1 = rnd();
   const float r2 = rnd();
@@ -48,9 +48,8 @@ std::u16string SacarExpresion(Table& t, Rnd& rnd, int personaje, MessageCategory
   return std::u16string{elegida.Trimmed()};
 }
 
-// Kept: a phrase that was never filled falls back on the default one, but an empty phrase, be it a
-// blank one or because characters do not use their own, has no first character and ends the
-// program.
+// The words of a computer seat. A phrase that was never filled is replaced by the default phrase.
+// Kept: an empty phrase ends the program. It is empty if it is blank, or without UsarExpresiones.
 std::u16string Frase(Table& t, Rnd& rnd, int personaje, MessageCategory categoria) {
   std::u16string frase;
   if (t.UsarExpresiones) frase = SacarExpresion(t, rnd, personaje, categoria);
@@ -73,7 +72,7 @@ Linea LineaComputador(Table& t, Rnd& rnd, Seat asiento, MessageCategory categori
   const int personaje = t.PersonajeAsiento[asiento - 1];
   std::u16string etiqueta = Etiqueta(t, asiento);
   const std::u16string frase = Frase(t, rnd, personaje, categoria);
-  // "La boticaria dice: que ..." loses its colons, those of the name too.
+  // "La boticaria dice: que ..." loses all colons, also those of the name.
   if (!t.EstiloDirecto && frase.starts_with(u"que")) etiqueta = ReplaceAll(etiqueta, u":", u"");
   return {etiqueta + u" ", ConCantidad(frase, categoria, cantidad)};
 }
