@@ -12,9 +12,8 @@
 namespace tasca {
 namespace {
 
-// Retries on EINTR.
 template <class Llamada>
-auto Again(const Llamada& llamada) {
+auto RetryOnEintr(const Llamada& llamada) {
   auto resultado = llamada();
   while (resultado < 0 && errno == EINTR) resultado = llamada();
   return resultado;
@@ -24,7 +23,7 @@ auto Again(const Llamada& llamada) {
 
 Descriptor::Descriptor(const std::filesystem::path& archivo, int modo)
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): open() has no other form.
-    : numero_{Again([&] { return ::open(archivo.c_str(), modo | O_CLOEXEC); })} {}
+    : numero_{RetryOnEintr([&] { return ::open(archivo.c_str(), modo | O_CLOEXEC); })} {}
 
 Descriptor::~Descriptor() {
   if (IsOpen()) ::close(numero_);
@@ -32,14 +31,14 @@ Descriptor::~Descriptor() {
 
 // mkostemps() opens with O_EXCL and retries with another name on EEXIST.
 Descriptor::Descriptor(std::string_view principio, std::string_view final, std::string& ruta)
-    : numero_{Again([&] {
+    : numero_{RetryOnEintr([&] {
         ruta = principio;
         ruta.append("XXXXXX").append(final);
         return ::mkostemps(ruta.data(), static_cast<int>(final.size()), O_CLOEXEC);
       })} {}
 
 bool Descriptor::Lock() const {
-  return Again([this] { return ::flock(numero_, LOCK_EX | LOCK_NB); }) == 0;
+  return RetryOnEintr([this] { return ::flock(numero_, LOCK_EX | LOCK_NB); }) == 0;
 }
 
 std::optional<struct stat> Descriptor::Status() const {
@@ -58,7 +57,8 @@ std::optional<std::string> Descriptor::Read() const {
   std::string contenido;
   std::array<char, 4096> trozo{};
   for (;;) {
-    const ssize_t leidos = Again([&] { return ::read(numero_, trozo.data(), trozo.size()); });
+    const ssize_t leidos =
+        RetryOnEintr([&] { return ::read(numero_, trozo.data(), trozo.size()); });
     if (leidos < 0) return std::nullopt;
     if (leidos == 0) return contenido;
     contenido.append(trozo.data(), static_cast<std::size_t>(leidos));
@@ -68,7 +68,7 @@ std::optional<std::string> Descriptor::Read() const {
 bool Descriptor::Write(std::string_view contenido) const {
   while (!contenido.empty()) {
     const ssize_t escritos =
-        Again([&] { return ::write(numero_, contenido.data(), contenido.size()); });
+        RetryOnEintr([&] { return ::write(numero_, contenido.data(), contenido.size()); });
     if (escritos == 0) errno = ENOSPC;
     if (escritos <= 0) return false;
     contenido.remove_prefix(static_cast<std::size_t>(escritos));
@@ -77,7 +77,7 @@ bool Descriptor::Write(std::string_view contenido) const {
 }
 
 bool Descriptor::Flush() const {
-  return Again([this] { return ::fsync(numero_); }) == 0;
+  return RetryOnEintr([this] { return ::fsync(numero_); }) == 0;
 }
 
 }  // namespace tasca

@@ -104,8 +104,8 @@ void ExaminarFrase(CuadernoFaltas& c, Revisor& l, std::u16string_view linea) {
   }
 }
 
-// Slot 1 of characters 1 and 2 holds the default phrases, which the human and computer players
-// without their own phrase speak.
+// Notes the missing default phrases: slot 1 of characters 1 and 2, spoken by the human and by
+// computer players without their own phrase.
 void TerminarPersonaje(CuadernoFaltas& c, const Revisor& l, int personaje) {
   if (personaje == 0 || personaje > JuegosDeFrases) return;
   int categoria = 0;

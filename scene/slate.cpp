@@ -18,7 +18,8 @@ constexpr Array<Tramo, 1, 5> Tramos{
     Tramo{NumeroLance::Juego, Fase::DeclaracionJuego, Fase::RespuestaJuego},
     Tramo{NumeroLance::Punto, Fase::Punto, Fase::RespuestaPunto}};
 
-// The only pareja whose seats have a turn (OrdenPares or TurnoJuego); none if both or neither have.
+// The only pareja whose seats have a turn in OrdenPares or TurnoJuego; nothing if both parejas or
+// neither have.
 std::optional<Pareja> UnicaConTurno(const Array<Integer, 1, 4>& turnos) {
   const bool nosotros = turnos[1] > 0 || turnos[3] > 0;
   const bool ellos = turnos[2] > 0 || turnos[4] > 0;
