@@ -1,4 +1,4 @@
-// Reading the options.
+// Parsing of --help and --version, and the texts in both languages.
 #include "ui/options.h"
 
 #include <cstdio>
@@ -57,7 +57,7 @@ std::string Help(const ProgramOptions& programa) {
   return Text(UsageLine(programa), programa.About, TextsIn(programa.Speaks).Options);
 }
 
-// A caller may have given not even the program's name.
+// Without the program's name. argc may be 0.
 std::span<const char* const> ArgumentsOf(int argc, const char* const* argv) {
   if (argc < 1) return {};
   return {argv + 1, static_cast<std::size_t>(argc - 1)};

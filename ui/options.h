@@ -1,5 +1,5 @@
 #pragma once
-// The options that every program has, --help and --version; any other is refused.
+// The command-line options of every program: --help and --version.
 #include <optional>
 #include <string_view>
 
@@ -7,27 +7,27 @@ namespace tasca {
 
 enum class Language { Spanish, English };
 
-// What a program tells of itself.
+// A program's description, from which the help is composed.
 struct ProgramOptions {
-  std::string_view Name;   // as it is called: "tasca-check"
-  std::string_view Usage;  // its arguments: " FILE", or ""
-  std::string_view About;  // what it does, in whole lines
+  std::string_view Name;   // name of the executable: "tasca-check"
+  std::string_view Usage;  // its arguments, with a leading blank: " FILE", or ""
+  std::string_view About;  // what it does: one or more lines, each ending in a line feed
   Language Speaks = Language::Spanish;
-  bool TakesArguments = false;  // else it refuses every argument, not only unknown options
+  bool TakesArguments = false;  // false: every argument is refused, not only unknown options
 };
 
-// The exit status when the arguments ask for the help or the version, which it has printed then:
-// 0, or 2 when that could not be written. Nothing when they do not ask.
+// Prints the help or the version on standard output if an argument asks for it. Returns the exit
+// status: 0, or 2 if the output cannot be written. Returns nothing if no argument asks.
 std::optional<int> AnswerOptions(const ProgramOptions& programa, int argc, const char* const* argv);
 
-// The exit status (2) when there is an argument that the program does not know, which it has named
-// on standard error then. Nothing when there is none.
+// Reports the first unknown argument on standard error and returns the exit status 2. Returns
+// nothing if all arguments are allowed.
 std::optional<int> RefuseOptions(const ProgramOptions& programa, int argc, const char* const* argv);
 
-// Both, one after the other.
+// AnswerOptions, then RefuseOptions.
 std::optional<int> TakeOptions(const ProgramOptions& programa, int argc, const char* const* argv);
 
-// Tells on standard error how the program is used, and gives its exit status: 2.
+// Prints the usage line on standard error and returns the exit status 2.
 int UsageError(const ProgramOptions& programa);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Cleaning text for whoever reads it.
+// Replaces control characters and removes padding.
 #include "ui/plain_text.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::u16string_view Saltos = u"\r\n";
 
-// The text with the padding of its fixed fields taken out.
+// Shortens the padding of fixed-width fields.
 std::u16string WithoutPadding(std::u16string_view texto) {
   constexpr std::size_t Relleno = 3;
   std::u16string breve;

@@ -1,22 +1,22 @@
 #pragma once
-// The game's text as bytes that are safe to print: UTF-8, nothing that could steer a terminal.
+// Makes the game's text safe to print: UTF-8 without control characters.
 #include <string>
 #include <string_view>
 
 namespace tasca {
 
-// CR LF, a lone CR and a lone LF become one line feed; every other control character, the five
-// undefined codes of the text files among them, becomes U+FFFD. The padding of card and character
-// names (three blanks or more) becomes one blank, and none before a comma, a stop or a line's end:
-// a line should fit a terminal, and a braille line.
+// Converts to UTF-8. CR LF, CR and LF become LF. Any other control character becomes U+FFFD,
+// including the five codes that Windows-1252 leaves undefined. The padding of card and character
+// names (three or more blanks) becomes one blank, or none before a comma, a full stop, a line break
+// or the end, so that lines stay short on terminals and braille displays.
 std::string PlainText(std::u16string_view texto);
 
-// The same as one line: the line breaks become U+FFFD too. Without a line break at its end.
+// As PlainText, but line breaks become U+FFFD too. Appends no line feed.
 std::string PlainLine(std::u16string_view texto);
 
-// The length (0 to 2) of the line break that `texto` begins with.
+// Length of the line break at the start of `texto`: 2 for CR LF, 1 for CR or LF, 0 for none.
 std::size_t LeadingBreak(std::u16string_view texto);
-// The text up to and including its last line break; "" when it has none.
+// `texto` up to and including its last line break; "" if it has none.
 std::u16string_view WholeLines(std::u16string_view texto);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Asking the system for the executable.
+// Reads the executable's path from /proc/self/exe.
 #include "ui/program_folder.h"
 
 #include <system_error>

@@ -1,11 +1,11 @@
 #pragma once
-// Where the game's files lie: beside the programs.
+// The folder of the game's files, which is the folder of the executable.
 #include <filesystem>
 
 namespace tasca {
 
-// The folder of the executable that runs, byte for byte, whatever its name is made of; `orden`, the
-// name it was called by, serves where the system does not tell.
+// The folder of the running executable, byte for byte, with symbolic links resolved. Falls back to
+// the folder part of `orden` (argv[0]) if the system does not report the executable.
 std::filesystem::path ProgramFolder(const char* orden);
 
 }  // namespace tasca

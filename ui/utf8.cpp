@@ -1,4 +1,4 @@
-// Conversion with utfcpp, which never lets an invalid sequence through.
+// Conversion with utfcpp, after invalid input has been replaced.
 #include "ui/utf8.h"
 
 #include <utf8.h>
@@ -10,8 +10,8 @@ namespace {
 
 constexpr char32_t Sustituto = 0xFFFD;
 
-bool IsHighHalf(char16_t letra) { return letra >= 0xD800 && letra <= 0xDBFF; }
-bool IsLowHalf(char16_t letra) { return letra >= 0xDC00 && letra <= 0xDFFF; }
+bool IsHighSurrogate(char16_t letra) { return letra >= 0xD800 && letra <= 0xDBFF; }
+bool IsLowSurrogate(char16_t letra) { return letra >= 0xDC00 && letra <= 0xDFFF; }
 
 }  // namespace
 
@@ -19,10 +19,11 @@ std::string ToUtf8(std::u16string_view texto) {
   std::string bytes;
   for (std::size_t i = 0; i < texto.size(); ++i) {
     char32_t letra = texto[i];
-    const bool esPar = IsHighHalf(texto[i]) && i + 1 < texto.size() && IsLowHalf(texto[i + 1]);
+    const bool esPar =
+        IsHighSurrogate(texto[i]) && i + 1 < texto.size() && IsLowSurrogate(texto[i + 1]);
     if (esPar) {
       letra = 0x10000U + ((letra - 0xD800U) << 10U) + (texto[++i] - 0xDC00U);
-    } else if (IsHighHalf(texto[i]) || IsLowHalf(texto[i])) {
+    } else if (IsHighSurrogate(texto[i]) || IsLowSurrogate(texto[i])) {
       letra = Sustituto;
     }
     utf8::append(letra, std::back_inserter(bytes));

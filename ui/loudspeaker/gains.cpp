@@ -1,4 +1,4 @@
-// Decibels to factors.
+// Conversion from decibels to linear factors.
 #include "ui/loudspeaker/gains.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ constexpr int Extremo = 10000;
 
 double Factor(int centesimas) { return std::pow(10.0, centesimas / 2000.0); }
 
-// The side away from which the balance has moved by `paso`.
+// The gain of a channel from which the balance has moved away by `paso` hundredths of a decibel.
 double Weakened(double factor, int paso) {
   if (paso <= 0) return factor;
   return paso >= Extremo ? 0 : factor * Factor(-paso);

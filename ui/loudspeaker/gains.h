@@ -1,22 +1,22 @@
 #pragma once
-// How loud a sound is on either side, from the media player's two settings.
+// Left and right gain of a sound, from the media player's balance and volume.
 #include <cstdint>
 #include <span>
 
 namespace tasca {
 
-// Factors for the samples of the two sides.
+// Linear factors for the samples of the two channels: 1 leaves them, 0 silences them.
 struct Gains {
   double Izquierda = 1;
   double Derecha = 1;
 };
 
-// `volumen` in hundredths of a decibel, 0 the loudest: the factor is 10^(volumen/2000). `balance`
-// from -10000 (left) to 10000 (right) weakens the other side by as many hundredths of a decibel, at
-// the ends to silence. What lies outside counts as the nearest end.
+// `volumen` is in hundredths of a decibel, -10000 to 0; the factor is 10^(volumen/2000). `balance`
+// is -10000 (left) to 10000 (right): it attenuates the opposite channel by that many hundredths of
+// a decibel, and silences it at either end. Values out of range are clamped.
 Gains GainsFor(int balance, int volumen);
 
-// Applies them to pairs of samples, the left one first.
+// Multiplies interleaved stereo samples, left first, in place.
 void Scale(std::span<std::int16_t> muestras, const Gains& factores);
 
 }  // namespace tasca

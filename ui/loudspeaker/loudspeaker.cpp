@@ -1,4 +1,4 @@
-// Playing through SDL_mixer.
+// Playback through SDL_mixer.
 #include "ui/loudspeaker/loudspeaker.h"
 
 #include <SDL.h>
@@ -13,8 +13,8 @@ constexpr int Frecuencia = 44100;
 constexpr int Lados = 2;
 constexpr int Canal = 0;
 
-// A file of the game, and nothing that could be read for ever. What file_size gives for that is
-// each system's own.
+// Whether it is a regular file of a plausible size. Checks the type first: devices and pipes have
+// no end, and file_size() of them is implementation-defined.
 bool MayHoldSound(const std::filesystem::path& archivo) {
   constexpr std::uintmax_t maximo = 16'000'000;
   std::error_code error;
@@ -23,7 +23,7 @@ bool MayHoldSound(const std::filesystem::path& archivo) {
   return !error && bytes > 0 && bytes <= maximo;
 }
 
-// The device takes this format and no other, so that the samples of every file come as pairs.
+// The device is opened with this format only, so every chunk holds interleaved 16-bit stereo.
 std::span<std::int16_t> Samples(const Mix_Chunk& sonido) {
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): SDL hands out bytes.
   return {reinterpret_cast<std::int16_t*>(sonido.abuf), sonido.alen / sizeof(std::int16_t)};

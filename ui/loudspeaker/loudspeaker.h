@@ -1,6 +1,6 @@
 #pragma once
-// The loudspeaker, over SDL_mixer: one sound at a time. The device is opened for the first sound
-// and stays open until it is closed; where there is none, nothing is heard.
+// Plays one sound at a time through SDL_mixer. The first sound opens the audio device, which stays
+// open until Close. Without a device every sound fails at once.
 #include <SDL_mixer.h>
 
 #include <chrono>
@@ -18,11 +18,14 @@ class Loudspeaker {
   Loudspeaker& operator=(const Loudspeaker&) = delete;
   ~Loudspeaker() { Close(); }
 
-  // Plays a WAV or MP3 file `veces` times in place of what is playing. False when nothing is heard:
-  // no times, no such file, one that holds no sound, or no device.
+  // Stops the current sound and plays a WAV or MP3 file `veces` times. Returns false if nothing is
+  // played: `veces` is not positive, the file is missing, too large or no sound, or there is no
+  // device.
   bool Play(const std::filesystem::path& archivo, int veces, const Gains& factores);
-  // Whether the last sound still plays. A device that has taken no samples for long is closed.
+  // Whether the last sound is still playing. Closes the device if it takes longer than the sound's
+  // duration plus three seconds, because it has stopped consuming samples then.
   bool Playing();
+  // Stops the sound and closes the device. The next Play opens it again.
   void Close();
 
  private:
@@ -35,7 +38,7 @@ class Loudspeaker {
 
   bool abierto_ = false;
   std::unique_ptr<Mix_Chunk, FreeChunk> sonido_;
-  std::chrono::steady_clock::time_point limite_;
+  std::chrono::steady_clock::time_point limite_;  // when the sound should have ended
 };
 
 }  // namespace tasca

@@ -1,5 +1,5 @@
-// tasca-sound: plays what the game orders at its standard input, and says there when a sound has
-// ended. The game starts it and lets it go; it ends by itself when the game is gone.
+// tasca-sound: plays sounds for the game. Its standard input is a socket: orders arrive there and
+// the ends of sounds are reported there. It exits when the game closes the connection.
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
-#include "ui/options.h"
 #include "ui/loudspeaker/loudspeaker.h"
 #include "ui/loudspeaker/order.h"
+#include "ui/options.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ void Say(std::string_view paquete) {
   ::send(STDIN_FILENO, paquete.data(), paquete.size(), MSG_NOSIGNAL);
 }
 
-// Nothing once the game is gone.
+// Nothing once the game has closed the connection.
 std::optional<std::string> Receive() {
   std::array<char, 8192> paquete{};
   const ssize_t bytes = ::recv(STDIN_FILENO, paquete.data(), paquete.size(), 0);
@@ -26,7 +26,7 @@ std::optional<std::string> Receive() {
   return std::string{paquete.data(), static_cast<std::size_t>(bytes)};
 }
 
-// A sound system that does not answer ends this program, and with it the sound it was to play.
+// Watchdog: SIGALRM ends the program if a call into the sound system hangs for ten seconds.
 class Patience {
  public:
   Patience() { ::alarm(10); }
@@ -37,7 +37,7 @@ class Patience {
 
 class Player {
  public:
-  // One order or one wait; false when the game is gone.
+  // Handles one order or one timeout. False once the game has closed the connection.
   bool Step() {
     pollfd entrada{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
     const int sucesos = ::poll(&entrada, 1, Wait());
@@ -52,6 +52,7 @@ class Player {
   }
 
  private:
+  // The poll timeout in milliseconds.
   int Wait() const {
     constexpr int comprobacion = 10;
     constexpr int ocio = 5000;
@@ -78,6 +79,7 @@ class Player {
     if (!sonando_) Say(std::to_string(numero_));
   }
 
+  // Closes the device after five seconds without a sound: an open device uses processor time.
   void Rest() {
     altavoz_.Close();
     descansando_ = true;

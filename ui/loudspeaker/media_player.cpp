@@ -26,8 +26,8 @@ void CloseIfOpen(int& descriptor) {
   descriptor = -1;
 }
 
-// Starts the program with `extremo` as its standard input; 0 when it cannot be started. What the
-// system's sound libraries have to say is not for the player's terminal.
+// Starts the program with `extremo` as its standard input. Returns 0 on failure. Its output goes to
+// /dev/null, because the sound libraries print diagnostics.
 pid_t Spawn(const std::filesystem::path& programa, int extremo) {
   posix_spawn_file_actions_t acciones;
   ::posix_spawn_file_actions_init(&acciones);
@@ -87,7 +87,7 @@ bool MediaPlayer::TakeEnd() {
   return hubo && !pendiente_;
 }
 
-// Nothing at all is the end of the connection.
+// An empty packet means that the connection has been closed.
 void MediaPlayer::Hear(std::string_view paquete) {
   if (paquete.empty() || paquete == std::to_string(numero_)) pendiente_ = false;
   if (paquete.empty() || (paquete == SonidoOcioso && !pendiente_)) Disconnect();
@@ -100,7 +100,7 @@ bool MediaPlayer::Start(const std::filesystem::path& programa) {
   return proceso_ != 0;
 }
 
-// With its other end closed, the connection has its own end to report.
+// A socket whose other end is closed becomes readable with an end of file.
 void MediaPlayer::EndSoon() { ::close(Connect()); }
 
 int MediaPlayer::Connect() {
@@ -113,7 +113,7 @@ int MediaPlayer::Connect() {
   return extremos[1];
 }
 
-// Killed rather than asked: a sound system that hangs must not hold up the game.
+// Uses SIGKILL, because waiting for a program whose sound system hangs would block the game.
 void MediaPlayer::Disconnect() {
   CloseIfOpen(conexion_);
   const pid_t proceso = std::exchange(proceso_, 0);

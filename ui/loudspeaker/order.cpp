@@ -1,4 +1,4 @@
-// Orders as text.
+// Formatting and parsing of orders.
 #include "ui/loudspeaker/order.h"
 
 #include <charconv>
@@ -7,7 +7,7 @@
 namespace tasca {
 namespace {
 
-// Takes a number and the blank after it off the front; false when they are not there.
+// Removes a number and the following blank from the front. False if there is none.
 template <class Number>
 bool TakeNumber(std::string_view& texto, Number& numero) {
   const auto leido = std::from_chars(texto.data(), texto.data() + texto.size(), numero);

@@ -1,5 +1,5 @@
 #pragma once
-// What the game says to tasca-sound, and what it hears back, one packet each.
+// The protocol between the game and tasca-sound: one packet a message.
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,21 +9,21 @@
 
 namespace tasca {
 
-// Plays a file in place of what is playing; no times only stops. The answer, once it has ended or
-// could not be played, is the number of the order as text.
+// Stops the current sound and plays a file; with Ajustes.Veces 0 it only stops. tasca-sound answers
+// with Numero as decimal text when the sound has ended or could not be played.
 struct SoundOrder {
   int Numero = 0;
   MediaPlayerSettings Ajustes;
   std::filesystem::path Archivo;
 };
 
-// Said by tasca-sound when it has been quiet for a while and the device is closed: it may be let
-// go.
+// Sent by tasca-sound when it has closed the device after some seconds without a sound. The game
+// may end it then.
 inline constexpr std::string_view SonidoOcioso = "idle";
 
-// "12 1 300 -500 /folder/file": number, times, balance, volume, file.
+// Formats an order as "12 1 300 -500 /folder/file": number, times, balance, volume, path.
 std::string ToPacket(const SoundOrder& orden);
-// Nothing when the packet is none of these.
+// Parses an order. Nothing if the packet has another format.
 std::optional<SoundOrder> FromPacket(std::string_view paquete);
 
 }  // namespace tasca

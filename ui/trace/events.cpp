@@ -1,4 +1,4 @@
-// Writing the lines. Fields stand in a fixed order, so that two traces can be compared as text.
+// Formatting of events. The order of fields is fixed, so that traces can be compared as text.
 #include "ui/trace/events.h"
 
 #include <nlohmann/json.hpp>

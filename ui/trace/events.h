@@ -1,5 +1,5 @@
 #pragma once
-// The lines that a trace writes: one JSON object each, in UTF-8, flushed at once.
+// The output of a trace: one JSON object a line, in UTF-8, flushed after each line.
 #include <nlohmann/json_fwd.hpp>
 #include <ostream>
 #include <stdexcept>
@@ -10,29 +10,31 @@
 
 namespace tasca {
 
-// The output takes no more lines.
+// Writing to the output has failed.
 class OutputError : public std::runtime_error {
  public:
   OutputError() : std::runtime_error{"the output cannot be written"} {}
 };
 
-// All of these throw OutputError. A question carries the texts of the main window as they stand.
+// Writes one event a call (docs/trace-protocol.md). Every operation throws OutputError if the line
+// cannot be written. Question events include the current Text1, Text2 and Text3.
 class Events {
  public:
   explicit Events(std::ostream& lines) : lines_{lines} {}
 
+  // A question to the player.
   void MsgBox(const Table& t, std::u16string_view texto);
   void YesNoBox(const Table& t, const YesNoQuestion& pregunta);
   void InputBox(const Table& t, const InputQuestion& pregunta);
   void ShowDialog(const Table& t, const Dialog& dialogo);
 
-  // The media player opens a file, or stops, with the settings that it has now.
+  // The media player opens a file, or stops; with its current settings.
   void Sound(const Table& t, std::u16string_view archivo);
   void SoundStop(const Table& t);
 
-  // All of the table, and how far the generator has gone.
+  // All fields of the table, and the number of draws since the last seeding.
   void State(const Table& t, const Rnd& rnd);
-  // The game is over: "quit", "players" or "error" with what the player is told.
+  // The game has ended. `reason` is "quit", "players" or "error"; `texto` is the error's message.
   void End(std::string_view reason, std::u16string_view texto = {});
 
  private:

@@ -1,4 +1,4 @@
-// Parsing and checking, strictly: a whole number is not 1.0, a truth value not 1.
+// Strict parsing: 1.0 is not accepted as an integer, nor 1 as a boolean.
 #include "ui/trace/input.h"
 
 #include <algorithm>
@@ -17,7 +17,6 @@ void Input::Reject(std::string_view why) const {
   throw InputError{"line " + std::to_string(line_) + ": " + std::string{why}};
 }
 
-// The next line's object; false at the end of the input.
 bool Input::Next(json& object) {
   std::string text;
   ++line_;

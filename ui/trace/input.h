@@ -1,5 +1,5 @@
 #pragma once
-// The lines that a trace reads: each is parsed and checked against what the game waits for.
+// The input of a trace: parses each line and checks that it is of the kind expected next.
 #include <array>
 #include <istream>
 #include <nlohmann/json_fwd.hpp>
@@ -13,19 +13,19 @@
 
 namespace tasca {
 
-// A line that does not fit what is waited for. what() starts with its number.
+// An invalid or unexpected line. what() starts with "line N: ".
 class InputError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// The start-up dialog's fields; one that the line leaves out is not to be touched.
+// Fields of the start-up dialog. An absent field leaves its control unchanged.
 struct StartLine {
   std::optional<TimeOfDay> Clock;
   std::optional<std::u16string> Name;
-  std::array<int, 3> Combos{};
+  std::array<int, 3> Combos{};  // list positions (0..), not checked against the lists yet
   std::optional<std::array<bool, 2>> Checks;
-  std::optional<int> Option;
+  std::optional<int> Option;  // 0 or 1
 };
 
 struct KeyLine {
@@ -37,7 +37,7 @@ struct SoundLine {
   Integer PlayState;
 };
 
-// A line of the main loop: one of the two.
+// A line read while the game waits for a key: exactly one of the two is set.
 struct MoveLine {
   std::optional<KeyLine> Key;
   std::optional<SoundLine> Sound;
@@ -47,23 +47,27 @@ class Input {
  public:
   explicit Input(std::istream& lines) : lines_{lines} {}
 
-  // What the dialog and the main loop wait for; nothing at the end of the input. Throw InputError.
-  // Only the first start line has a clock, and must have one.
+  // Reads the next line for the start-up dialog. With `withClock` the clock is mandatory, otherwise
+  // it is ignored. Nothing at the end of the input. Throws InputError.
   std::optional<StartLine> NextStart(bool withClock);
+  // Reads the next key or sound line. Nothing at the end of the input. Throws InputError.
   std::optional<MoveLine> NextMove();
 
-  // The answer to an open question; the end of the input is an error too. Throw InputError.
+  // These read the answer to an open question. They throw InputError, also at the end of the input.
   bool AnswerYesNo();
   std::u16string AnswerText();  // "" when cancelled
+  // The index (0 to 3) of a button that `dialogo` offers.
   int AnswerDialog(const Dialog& dialogo);
 
-  // Throws InputError for the line last read.
+  // Throws InputError with the number of the last line read.
   [[noreturn]] void Reject(std::string_view why) const;
 
  private:
+  // Reads the next line's object. False at the end of the input.
   bool Next(nlohmann::json& object);
   nlohmann::json Answer();
 
+  // Type and range checks; `name` names the field in the message of the InputError that they throw.
   int Whole(const nlohmann::json& value, std::string_view name, int least, int greatest) const;
   Integer Whole16(const nlohmann::json& value, std::string_view name) const;
   bool Truth(const nlohmann::json& value, std::string_view name) const;

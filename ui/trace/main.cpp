@@ -1,4 +1,4 @@
-// tasca-trace FOLDER: the game over standard input and output, one JSON object a line.
+// tasca-trace FOLDER: plays the game over standard input and output, one JSON object a line.
 #include <exception>
 #include <iostream>
 

@@ -1,4 +1,4 @@
-// The loop of a traced game. No rule of the game stands here.
+// The main loop of a traced game.
 #include "ui/trace/session.h"
 
 #include <memory>
@@ -14,7 +14,7 @@ namespace {
 constexpr int ExitNormal = 0;
 constexpr int ExitFaultyLine = 2;
 
-// All positions are looked at before the first is chosen: a faulty line changes nothing.
+// Checks all positions before any is applied, so that a rejected line changes nothing.
 void CheckPositions(const DlgInicio& d, const StartLine& line, const Input& input) {
   for (const int position : line.Combos) {
     if (position >= static_cast<int>(d.Combo1.List.size())) {
@@ -35,7 +35,7 @@ void FillIn(DlgInicio& d, const StartLine& line) {
   if (line.Name) d.Text2 = *line.Name;
 }
 
-// The start-up dialog, until it is accepted; false when the game or the input ends before.
+// Runs the start-up dialog until it is accepted. False if the game or the input ends before.
 bool StartUp(Session& session, Input& input, TracePort& port) {
   std::optional<StartLine> line = input.NextStart(true);
   if (!line) return false;
@@ -57,7 +57,7 @@ Situacion Move(Session& session, const MoveLine& line) {
   return session.Tecla(code, line.Key->Shift);
 }
 
-// Until the input ends, or the game.
+// Plays until the game or the input ends.
 void Play(Session& session, Input& input, Events& events) {
   events.State(session.Mesa(), session.Generador());
   Situacion situation = Situacion::EnLaMesa;
@@ -70,7 +70,7 @@ void Play(Session& session, Input& input, Events& events) {
   if (situation == Situacion::OtrosJugadores) events.End("players");
 }
 
-// Tells how the game has ended, if it has, and gives the exit status.
+// Writes the end event if the game has ended. Returns the exit status.
 int Finish(const Session& session, Events& events) {
   if (!session.HaAcabado()) return ExitNormal;
   const Desenlace& ending = session.Final();

@@ -1,4 +1,4 @@
-// Asking by an event, answered by the next line.
+// Each question is an event whose answer is the next input line.
 #include "ui/trace/trace_port.h"
 
 #include "table/dialog.h"
