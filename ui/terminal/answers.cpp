@@ -1,4 +1,4 @@
-// Comparing what was typed with what was offered.
+// Comparison of typed answers with the options offered.
 #include "ui/terminal/answers.h"
 
 #include <algorithm>
@@ -23,8 +23,8 @@ char16_t FoldLetter(char16_t letra) {
   return i == std::u16string_view::npos ? letra : Sencillas[i];
 }
 
-// Accents that are typed as characters of their own.
-bool IsLooseAccent(char16_t letra) { return letra >= u'\u0300' && letra <= u'\u036F'; }
+// Some input methods send decomposed letters.
+bool IsCombiningAccent(char16_t letra) { return letra >= u'\u0300' && letra <= u'\u036F'; }
 
 bool AWordStarts(std::u16string_view texto, std::u16string_view comienzo) {
   return texto.starts_with(comienzo) || Contains(texto, Join(u" ", comienzo));
@@ -40,7 +40,7 @@ std::vector<Option> Those(const std::vector<Option>& opciones, const Criterio& c
   return elegidas;
 }
 
-// Narrows them down to the one with which all the others begin, if there is one.
+// The numbers of the options, or of the one whose name is the beginning of all the others.
 std::vector<int> Numbers(const std::vector<Option>& opciones) {
   std::vector<int> numeros;
   for (const Option& opcion : opciones) {
@@ -58,7 +58,7 @@ std::vector<int> Numbers(const std::vector<Option>& opciones) {
 std::u16string Fold(std::u16string_view texto) {
   std::u16string plegado;
   for (const char16_t letra : Trim(texto)) {
-    if (!IsLooseAccent(letra)) plegado += FoldLetter(letra);
+    if (!IsCombiningAccent(letra)) plegado += FoldLetter(letra);
   }
   return plegado;
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Understanding what a player types: capitals, accents and the end of a word do not matter.
+// Matching of typed answers: ignores case and accents, and accepts the beginning of a word.
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,21 +7,23 @@
 
 namespace tasca {
 
-// One of several answers: its number and its name.
+// A possible answer to a question: the number to type, or the name.
 struct Option {
   int Numero = 0;
   std::u16string Texto;
 };
 
-// Small letters without accents, and no blanks around them.
+// Converts to lower case and strips accents and surrounding blanks. Covers the letters of
+// Windows-1252 and combining accents.
 std::u16string Fold(std::u16string_view texto);
 
-// "s", "sí", "y", "yes", "n", "no".
+// True for "s", "sí", "y" and "yes", false for "n" and "no", nothing for anything else.
 std::optional<bool> ReadYesNo(std::u16string_view respuesta);
 
-// The numbers of the options that may be meant: the one with that number or that whole name; or
-// else those whose name starts so, or else those of which a word starts so. Of "Envido" and "Envido
-// Más", which start alike, the short one is meant. Nothing typed means none.
+// The numbers of the options that match `respuesta`. The first of these criteria that matches
+// decides: the number, the whole name, the beginning of the name, the beginning of a word of it. If
+// the name of one match is the beginning of all the others ("Envido", "Envido Más"), only that one
+// is returned. An empty answer matches nothing.
 std::vector<int> FindOptions(const std::vector<Option>& opciones, std::u16string_view respuesta);
 
 }  // namespace tasca

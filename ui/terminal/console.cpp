@@ -1,4 +1,4 @@
-// Lines out and in.
+// Writing and reading of lines.
 #include "ui/terminal/console.h"
 
 #include <istream>

@@ -1,5 +1,5 @@
 #pragma once
-// The player's end of the line: whole lines out, one line in at a time.
+// Line-based input and output of the terminal.
 #include <cstddef>
 #include <functional>
 #include <iosfwd>
@@ -9,49 +9,50 @@
 
 namespace tasca {
 
-// Where a session is played. With `Echoes` the terminal itself shows what is typed, its Enter
-// included; without (a pipe, a file) the program ends the line of the prompt. `Keyboard` is the
-// descriptor behind `In` of a player who can hear this machine's loudspeaker; without, the game is
-// silent. `Width` gives how many characters a line of `Out` takes at the moment: longer ones are
-// broken between words. Lines stay whole where it gives 0, and without it.
+// The streams of a session, all UTF-8.
 struct TerminalStreams {
   std::istream& In;
   std::ostream& Out;
   std::ostream& Err;
+  // Whether the terminal echoes the input. Without echo (a pipe, a file) the program ends the line
+  // of the prompt itself.
   bool Echoes = false;
+  // The descriptor behind `In`, to be polled while sounds play; -1 plays without sound.
   int Keyboard = -1;
+  // The current width of `Out` in characters: longer lines are broken between words. Absent or 0
+  // for unlimited.
   std::function<std::size_t()> Width = {};
 };
 
-// Why a player who no longer sees the table cannot play on.
+// The message of the RunTimeError when the output cannot be written.
 inline constexpr std::u16string_view SalidaRota = u"No se puede escribir en la salida.";
 
 class Console {
  public:
   explicit Console(TerminalStreams flujos) : flujos_{std::move(flujos)} {}
 
-  // Writes the text as lines of its own.
+  // Starts a new line, writes the text and ends the line. An empty text writes an empty line.
   void Line(std::u16string_view texto);
-  // Writes the text on a new line and leaves the cursor behind it.
+  // Starts a new line and writes the text, leaving the cursor after it.
   void Prompt(std::u16string_view texto);
-  // Ends a line that a prompt has left open.
+  // Ends the current line if it is not empty.
   void EndLine();
-  // Tells on standard error why the program ends.
+  // Writes the message to Err as a line, after flushing Out.
   void Error(std::u16string_view mensaje);
 
-  // From now on `espera` runs before each line is read; it returns once there is one.
+  // Sets a function that runs before each line is read and returns when input is available.
   void WaitWith(std::function<void()> espera) { espera_ = std::move(espera); }
 
-  // The next line typed, without its line end. Throws LeaveProgram at the end of the input, and
-  // RunTimeError when what was written has not arrived.
+  // Flushes the output and reads a line, without its line end. Throws LeaveProgram at the end of
+  // the input and RunTimeError if the output cannot be written.
   std::u16string ReadLine();
-  // Sends on what has been written; false when that fails.
+  // False if the output cannot be written.
   bool Flush();
 
  private:
   TerminalStreams flujos_;
   std::function<void()> espera_;
-  bool lineaAbierta_ = false;
+  bool lineaAbierta_ = false;  // the cursor is not at the start of a line
 };
 
 }  // namespace tasca

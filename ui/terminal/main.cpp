@@ -1,4 +1,4 @@
-// The program tasca-terminal.
+// tasca-terminal: the game at a text terminal.
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -15,14 +15,15 @@ bool IsSet(const char* variable) {
   return std::getenv(variable) != nullptr;  // NOLINT(concurrency-mt-unsafe): there is one thread
 }
 
-// Who plays from another machine would not hear this one's loudspeaker.
+// The descriptor to poll while sounds play, or -1 for no sound: over SSH the player would not hear
+// this machine's loudspeaker.
 int Keyboard() {
   const bool delante = ::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0;
   const bool lejos = IsSet("SSH_CONNECTION") || IsSet("SSH_TTY");
   return delante && !lejos ? STDIN_FILENO : -1;
 }
 
-// Of the terminal on which the game is shown, whose size can change at any time; 0 elsewhere.
+// The current width of the terminal, 0 if the output is no terminal. It can change at any time.
 std::size_t Width() {
   constexpr std::size_t corriente = 80;
   if (::isatty(STDOUT_FILENO) == 0) return 0;

@@ -1,4 +1,4 @@
-// Comparing the transcript with what was last printed.
+// Comparison of the transcript with the one last printed.
 #include "ui/terminal/new_text.h"
 
 #include <string>

@@ -1,17 +1,18 @@
 #pragma once
-// What of the transcript the player has not read yet.
+// Finds the part of the transcript that the terminal has not printed yet.
 #include <string_view>
 
 namespace tasca {
 
 struct NewText {
   std::u16string_view Texto;
-  bool Replaces = false;  // what was there before has gone
+  bool Replaces = false;  // the transcript does not continue the one printed before
 };
 
-// The part of `ahora` that is new to a player who has read `antes`: what has been appended, also
-// when the answer to a bet has meanwhile taken prompts out of the middle; all of it when the text
-// is another one. A line break is no news where the terminal has already ended the line.
+// The part of `ahora` that follows `antes`, the transcript last printed. The answer to a bet
+// removes "continuar" prompts from the middle of the transcript; the rest still counts as printed.
+// If `ahora` does not continue `antes` all of it is new. Skips the line break that the terminal has
+// already made after a prompt.
 NewText NewPart(std::u16string_view antes, std::u16string_view ahora);
 
 }  // namespace tasca

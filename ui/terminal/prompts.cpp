@@ -1,4 +1,4 @@
-// Asking until the answer fits.
+// Each question is repeated until its answer is valid.
 #include "ui/terminal/prompts.h"
 
 #include "base/text.h"

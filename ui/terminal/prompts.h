@@ -1,6 +1,6 @@
 #pragma once
-// Questions as prompts, their default in brackets. An answer that does not fit is explained, and
-// the question is put again. All of these throw LeaveProgram at the end of the input.
+// Questions as prompts, with the default answer in brackets. An invalid answer is explained and the
+// question is repeated.
 #include <functional>
 #include <string>
 #include <string_view>
@@ -14,24 +14,27 @@ namespace tasca {
 // A line typed at a prompt.
 struct TypedLine {
   std::u16string_view Texto;
-  std::u16string_view SeContesta;  // a sentence: what the question wants
-  bool EsOpcion = false;           // it means at least one of the options to choose from
+  std::u16string_view SeContesta;  // a sentence that explains which answers are valid
+  bool EsOpcion = false;           // it matches at least one of the options
 };
 
+// An empty line gives the default answer. Every question throws LeaveProgram at the end of the
+// input and RunTimeError if the output cannot be written.
 class Prompts {
  public:
-  // `orden` is given every line typed and says whether it was a command, such as "?", and no
-  // answer.
+  // Receives every line typed. Returns true if the line was a command, such as "?", that has been
+  // carried out: the question is then repeated. May throw LeaveProgram.
   using Command = std::function<bool(const TypedLine&)>;
   Prompts(Console& consola, Command orden) : consola_{consola}, orden_{std::move(orden)} {}
 
   bool YesNo(std::u16string_view pregunta, bool porDefecto) const;
-  // The number of the option chosen. `ofrece` stands in brackets, for `porDefecto`.
+  // Returns the number of the chosen option. `ofrece` is the text in brackets, which names
+  // `porDefecto`.
   int Choose(std::u16string_view pregunta, const std::vector<Option>& opciones,
              std::u16string_view ofrece, int porDefecto) const;
-  // Any text; nothing typed leaves `porDefecto`.
+  // Returns the line typed, trimmed.
   std::u16string Text(std::u16string_view pregunta, std::u16string_view porDefecto) const;
-  // The same for a question that can be cancelled, with "-": the answer is then "".
+  // As Text; "-" cancels the question and returns "".
   std::u16string TextOrCancel(std::u16string_view pregunta, std::u16string_view porDefecto) const;
 
  private:

@@ -1,4 +1,4 @@
-// Printing what has changed.
+// Printing of the texts that have changed.
 #include "ui/terminal/screen.h"
 
 #include "base/text.h"
@@ -18,10 +18,11 @@ void Screen::Show(const Table& t) {
   const NewText nuevo = NewPart(text2_, t.Text2);
   const std::u16string_view lineas = WholeLines(nuevo.Texto);
   const std::u16string_view aviso = nuevo.Texto.substr(lineas.size());
-  // A hand that the transcript has just told is not told twice.
+  // Omits a hand that the new lines of the transcript contain.
   const bool cambiaMano = t.Text1 != text1_ && !Contains(nuevo.Texto, t.Text1);
   const std::u16string_view mano = cambiaMano ? std::u16string_view{t.Text1} : u"";
-  // The count lays the hands open before it speaks of them; an órdago, after it has been accepted.
+  // The count replaces the transcript and shows the hands first. An accepted órdago shows them
+  // after the lines that it appends.
   PrintIfAny(consola_, nuevo.Replaces ? mano : lineas);
   PrintIfAny(consola_, nuevo.Replaces ? lineas : mano);
   if (t.Text3 != text3_) PrintIfAny(consola_, t.Text3);

@@ -1,5 +1,5 @@
 #pragma once
-// The main window as lines: the transcript as it grows, the hand and the score when they change.
+// Prints the main window's texts as lines: transcript, hand and score.
 #include <string>
 
 #include "table/table.h"
@@ -11,15 +11,16 @@ class Screen {
  public:
   explicit Screen(Console& consola) : consola_{consola} {}
 
-  // Prints what has changed since the last time. Of the transcript's last line the cursor stays
-  // behind, so that its prompt is what the player reads last.
+  // Prints what has changed since the last call: new lines of the transcript, hand, score. The
+  // unfinished last line of the transcript, its prompt, comes last.
   void Show(const Table& t);
 
-  // Prints the hand and the score again.
+  // Prints the last hand and score again.
   void Repeat();
 
  private:
   Console& consola_;
+  // As last printed.
   std::u16string text1_;
   std::u16string text2_;
   std::u16string text3_;

@@ -1,4 +1,4 @@
-// The start-up dialog's controls, one prompt each.
+// One prompt for each control of the start-up dialog.
 #include "ui/terminal/startup_prompts.h"
 
 #include "base/errors.h"
@@ -38,7 +38,7 @@ void PrintStories(const DlgInicio& d, Console& consola) {
   }
 }
 
-// What may be typed at every prompt instead of an answer.
+// The commands that every prompt accepts instead of an answer.
 Prompts::Command Commands(const DlgInicio& d, Console& consola) {
   return [&d, &consola](const TypedLine& linea) {
     const std::u16string orden = Fold(linea.Texto);
@@ -51,7 +51,7 @@ Prompts::Command Commands(const DlgInicio& d, Console& consola) {
   };
 }
 
-// Nothing typed leaves the list alone; a choice shows the character's story.
+// An empty answer keeps the list's choice. A new choice prints the character's story.
 void AskCombo(DlgInicio& d, Console& consola, const Prompts& preguntas,
               std::u16string_view etiqueta, const ComboBox& combo, ComboClick click) {
   const std::vector<Option> opciones = Entries(combo);
@@ -73,7 +73,7 @@ void AskNarration(DlgInicio& d, Console& consola, const Prompts& preguntas) {
   consola.Line(Join(u"Así se contará: ", d.Text3));
 }
 
-// Why a name cannot be kept, as a sentence for the player; "" when it can.
+// The reason why a name is refused, as a sentence for the player; "" if it is accepted.
 std::u16string_view ReparoAlNombre(std::u16string_view nombre) {
   if (nombre.size() > AnchoNombre) return NombreDemasiadoLargo;
   if (Contains(nombre, u"\uFFFD")) {
@@ -82,7 +82,7 @@ std::u16string_view ReparoAlNombre(std::u16string_view nombre) {
   return ReparoAlTexto(nombre, static_cast<int>(nombre.size()), AnchoNombre);
 }
 
-// What the settings file already holds stays when it is left alone, whatever it is.
+// A name read from the settings file is accepted unchanged, even if it is invalid as input.
 void AskName(DlgInicio& d, Console& consola, const Prompts& preguntas) {
   for (;;) {
     const std::u16string nombre = preguntas.Text(u"Su nombre:", d.Text2);

@@ -5,8 +5,8 @@
 
 namespace tasca {
 
-// Asks for the name, the companions and the way of narrating until the match starts or the player
-// leaves. The session has its start-up dialog open.
+// Asks for the name, the companions and the narration until the match starts or the player leaves.
+// Requires a session whose start-up dialog is open. Returns how the game stands then.
 Situacion AskStartup(Session& sesion, Console& consola);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// The loop: the start-up choices, then one key after the other.
+// The main loop: the start-up prompts, then one key after the other.
 #include "ui/terminal/terminal.h"
 
 #include <memory>
@@ -34,7 +34,7 @@ void SwitchSound(Console& consola, MediaPlayer* mp1) {
   consola.Line(mp1->IsOn() ? u"Con sonido." : u"Sin sonido.");
 }
 
-// Where a session is played.
+// A session and the devices on which it is played.
 struct Place {
   Session& Sesion;
   Console& Consola;
@@ -42,7 +42,7 @@ struct Place {
   MediaPlayer* Mp1;
 };
 
-// What is not for the rules.
+// Commands that are no keys of the game.
 void Obey(const Place& lugar, std::u16string_view orden) {
   if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla);
   if (orden == u"sonido") return SwitchSound(lugar.Consola, lugar.Mp1);
@@ -50,7 +50,7 @@ void Obey(const Place& lugar, std::u16string_view orden) {
       u"Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.");
 }
 
-// Shows the table, and does what the player types while the game waits for a key.
+// Shows the table, reads a line and carries it out. Requires a game that waits for a key.
 Situacion AttendLine(const Place& lugar) {
   std::u16string orden;
   const Situacion situacion = lugar.Sesion.Atender([&] {
@@ -66,7 +66,7 @@ Situacion AttendLine(const Place& lugar) {
   return situacion;
 }
 
-// From the start-up choices to the end of the match.
+// From the start-up prompts to the end of the match.
 Situacion PlayMatch(const Place& lugar) {
   Situacion situacion = lugar.Sesion.AbrirInicio();
   lugar.Pantalla.Show(lugar.Sesion.Mesa());
@@ -79,7 +79,7 @@ Situacion PlayMatch(const Place& lugar) {
   return situacion;
 }
 
-// Shows what the player has not seen yet, and gives the exit status.
+// Prints the remaining texts or the error. Returns the exit status.
 int Finish(const Place& lugar) {
   lugar.Pantalla.Show(lugar.Sesion.Mesa());
   lugar.Consola.EndLine();

@@ -7,8 +7,8 @@
 
 namespace tasca {
 
-// Plays with the files of `carpeta` until the player leaves, by an answer or by the end of the
-// input: 0. A run-time error is told on standard error: 1.
+// Plays with the files of `carpeta` until the player leaves or the input ends. Returns the exit
+// status: 0, or 1 after a run-time error, which is reported on flujos.Err.
 int RunTerminal(const std::filesystem::path& carpeta, const TerminalStreams& flujos,
                 Clock reloj = LocalTime);
 

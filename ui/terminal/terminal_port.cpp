@@ -1,4 +1,4 @@
-// Boxes and the bidding dialog as prompts.
+// Message boxes and the bidding dialog as prompts.
 #include "ui/terminal/terminal_port.h"
 
 #include <algorithm>
@@ -41,7 +41,7 @@ TimeOfDay LocalTime() {
   ::tzset();
   std::tm local{};
   ::localtime_r(&ahora, &local);
-  constexpr int UltimoSegundo = 59;  // a leap second counts as the one before
+  constexpr int UltimoSegundo = 59;  // tm_sec is 60 in a leap second
   return {.Hora = local.tm_hour,
           .Minuto = local.tm_min,
           .Segundo = std::min(local.tm_sec, UltimoSegundo)};
@@ -61,7 +61,7 @@ bool TerminalPort::Obey(const TypedLine& linea) {
     Help(linea.SeContesta);
     return true;
   }
-  // In the answer to a bet it is the initial of "Quiero".
+  // In the answer to a bet "q" is short for "Quiero".
   if (orden != u"q" || linea.EsOpcion) return false;
   consola_.Line(Join(linea.SeContesta, u" Para abandonar la mano con q, conteste antes."));
   return true;

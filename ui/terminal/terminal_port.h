@@ -1,5 +1,5 @@
 #pragma once
-// The rules' questions, put at the terminal.
+// The port of the terminal: the rules' questions as prompts.
 #include "table/port.h"
 #include "ui/loudspeaker/media_player.h"
 #include "ui/terminal/prompts.h"
@@ -8,28 +8,32 @@
 namespace tasca {
 
 using Clock = TimeOfDay (*)();
-// The local time of day.
+// The time of day in the local time zone.
 TimeOfDay LocalTime();
 
-// Before every question it shows what is new at the table. Instead of an answer "?" helps and
-// "salir" throws LeaveProgram; "q" has to wait for the answer, and is told so.
+// Prints what is new at the table before every question. Every question also accepts "?" for help
+// and "salir", which throws LeaveProgram. "q" is refused with an explanation: the question must be
+// answered first.
 class TerminalPort : public Port {
  public:
-  // Without a media player the sounds are not heard.
+  // Without a media player sounds are ignored.
   TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1 = nullptr);
 
+  // The media player, or nullptr without sound.
   MediaPlayer* Mp1() const { return mp1_; }
 
+  // Each question throws LeaveProgram at the end of the input.
   void MsgBox(const Table& t, std::u16string_view texto) override;
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
   std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
+  // Does not wait for the end of the sound.
   void OpenSound(const Table& t, std::u16string_view archivo) override;
   void StopSound(const Table& t) override;
   TimeOfDay Now() override { return reloj_(); }
 
  private:
-  // The commands that hold in the middle of a question; false for any other line.
+  // Carries out a command of the class comment. False if the line is an answer.
   bool Obey(const TypedLine& linea);
   void Help(std::u16string_view seContesta);
 

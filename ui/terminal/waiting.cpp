@@ -1,4 +1,4 @@
-// Waiting for two things at once.
+// Polls the keyboard and the media player.
 #include "ui/terminal/waiting.h"
 
 #include <poll.h>

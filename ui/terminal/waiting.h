@@ -1,13 +1,13 @@
 #pragma once
-// What happens while the program waits for the player's next line: sounds end, and others follow.
+// Waits for input while sounds play.
 #include <functional>
 
 #include "ui/loudspeaker/media_player.h"
 
 namespace tasca {
 
-// Waits until there is something to read at the descriptor `teclado`, or its end. Meanwhile
-// `alTerminar` is called for every sound that ends.
+// Blocks until the descriptor `teclado` has input or an end of file. Calls `alTerminar` for every
+// sound that ends meanwhile. Returns early only if polling fails.
 void WaitForLine(int teclado, MediaPlayer& mp1, const std::function<void()>& alTerminar);
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// Filling lines word by word.
+// Word wrap of UTF-8 text.
 #include "ui/terminal/wrap.h"
 
 #include <algorithm>
@@ -6,14 +6,14 @@
 namespace tasca {
 namespace {
 
-// Each byte but those that go on with a character begins one.
+// Counts code points: every byte that is no UTF-8 continuation byte.
 std::size_t Characters(std::string_view texto) {
   return static_cast<std::size_t>(std::count_if(texto.begin(), texto.end(), [](char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
   }));
 }
 
-// Takes the first `fin` bytes, or all of them, from the front of the text.
+// Removes the first `fin` bytes (npos for all) from the front of the text and returns them.
 std::string_view TakeUntil(std::string_view& texto, std::size_t fin) {
   const std::string_view parte = texto.substr(0, fin);
   texto.remove_prefix(parte.size());

@@ -1,14 +1,14 @@
 #pragma once
-// Breaking long lines between words.
+// Word wrap.
 #include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace tasca {
 
-// The UTF-8 text with a line feed in place of the blanks at which a line of it would grow longer
-// than `ancho` characters; 0 leaves all lines whole. Its own line breaks and the blanks within a
-// line stay. A word that is longer than a line is not broken.
+// Breaks the lines of a UTF-8 text between words so that they have at most `ancho` characters; 0
+// for no limit. The blanks at a break are dropped, all others are kept. A word longer than `ancho`
+// is not broken.
 std::string Wrap(std::string_view texto, std::size_t ancho);
 
 }  // namespace tasca
