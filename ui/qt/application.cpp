@@ -1,4 +1,4 @@
-// Setting up the toolkit, and catching what the rules throw.
+// The toolkit's settings, and the exceptions of the rules.
 #include "ui/qt/application.h"
 
 #include <QLibraryInfo>
@@ -24,7 +24,8 @@ QString PorQueNoHayVentanas() {
          ToDisplay(FromInput(elegida));
 }
 
-// Without a screen the toolkit would abort with a page of its own advice.
+// Message handler during start-up: replaces the fatal error about a missing display by one line and
+// drops the toolkit's other messages.
 void AlArrancar(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QString& /*mensaje*/) {
   if (tipo != QtFatalMsg) return;
   const QString linea =
@@ -33,13 +34,13 @@ void AlArrancar(QtMsgType tipo, const QMessageLogContext& /*lugar*/, const QStri
   std::_Exit(EXIT_FAILURE);
 }
 
-// From here until the application stands, the toolkit's own messages are not for the player.
+// Installs the handler before QApplication is constructed, which reports the missing display.
 int& Quietly(int& argc) {
   qInstallMessageHandler(AlArrancar);
   return argc;
 }
 
-// A very tall screen that is not scaled shows the system's letters too small for a whole evening.
+// On a very tall screen without scaling the system's font is too small to read comfortably.
 void EnlargeOnTallScreens() {
   constexpr double altoCorriente = 1200;
   const double alto = QGuiApplication::primaryScreen()->availableSize().height();
@@ -51,13 +52,13 @@ void EnlargeOnTallScreens() {
 
 Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), argv} {
   qInstallMessageHandler(nullptr);
-  // Without the translations the toolkit's own menus are English, and the game plays on.
+  // Only the toolkit's own menus need the translations: without them they are in English.
   if (castellano_.load(QStringLiteral("qtbase_es"),
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&castellano_);
   }
   QApplication::setQuitOnLastWindowClosed(false);
-  // The program waits for minutes at a time; a steady cursor lets the machine sleep meanwhile.
+  // A blinking cursor would wake the processor while the program waits for a key.
   QGuiApplication::styleHints()->setCursorFlashTime(0);
   EnlargeOnTallScreens();
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& gestor) {

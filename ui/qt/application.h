@@ -1,6 +1,6 @@
 #pragma once
-// What the programs with windows share: the toolkit set up for a long, quiet evening, and the two
-// ways in which a rule ends the program. No exception passes through the event loop.
+// Shared by the game's and the editor's programs: the toolkit's settings, the event loop, and the
+// conversion of exceptions into exit statuses. No exception passes through the event loop.
 #include <QApplication>
 #include <QTranslator>
 #include <functional>
@@ -13,11 +13,12 @@ namespace tasca {
 
 class Application : public QApplication {
  public:
-  // Without a screen it ends the program, with status 1 and a line on standard error.
+  // Removes the toolkit's own options from the arguments. Without a display it ends the program
+  // with status 1 and a line on standard error.
   Application(int& argc, char** argv);
 
-  // Runs `abrir` from the event loop, and the loop to its end; the exit status. The end of the
-  // desktop's session is passed on to `fin`.
+  // Runs the event loop, which calls `abrir` first. Returns the exit status. Passes the end of the
+  // desktop session on to `fin`.
   int Run(const std::function<void()>& abrir, SessionEnd fin);
 
  protected:
@@ -28,13 +29,14 @@ class Application : public QApplication {
   SessionEnd fin_;
 };
 
-// The end of the program: its exit status, and the message that is still to be shown, or "".
+// How the program ends.
 struct Ending {
-  int Estado;
-  std::u16string Mensaje;
+  int Estado;              // exit status
+  std::u16string Mensaje;  // the error that has not been shown yet, or ""
 };
 
-// Runs something of the rules; the ending that it has asked for, if any.
+// Runs `paso` and catches what it throws. Returns the ending that the exception asks for, or
+// nothing if it throws none: LeaveProgram ends with 0, any other exception with 1.
 std::optional<Ending> EndingOf(const std::function<void()>& paso);
 
 }  // namespace tasca

@@ -16,8 +16,9 @@
 namespace tasca {
 namespace {
 
-// The toolkit takes Esc and the close box for "No"; here they answer nothing. It also waits a tenth
-// of a second after a button's letter, in which an Enter would still give the other answer.
+// QMessageBox takes Esc and the close box for "No"; here they do nothing. It also presses a button
+// 100 ms after its letter, and Enter in between presses the default button; here the letter acts at
+// once.
 class YesNoMessageBox : public QMessageBox {
  public:
   using QMessageBox::QMessageBox;
@@ -41,8 +42,8 @@ QString TituloDe(std::u16string_view titulo) {
   return ToDisplay(titulo.empty() ? TituloAplicacion : titulo);
 }
 
-// A question may stand in the title alone: the box is as wide as the title needs with the window's
-// own buttons beside it.
+// Makes the box wide enough for its title and the window's buttons. Some questions have no text but
+// their title.
 QSpacerItem* RoomForTitle(const QDialog& caja) {
   const int letra = caja.fontMetrics().averageCharWidth();
   const int ancho = caja.fontMetrics().horizontalAdvance(caja.windowTitle()) + 20 * letra;
@@ -55,7 +56,7 @@ void LeaveRoomForTitle(QMessageBox& caja) {
   rejilla->addItem(RoomForTitle(caja), rejilla->rowCount(), 0, 1, rejilla->columnCount());
 }
 
-// A click or a screen reader's look at each control would go to a text that is not there.
+// Keeps the focus and screen readers off an empty text.
 void SkipEmptyText(const QMessageBox& caja) {
   if (!caja.text().isEmpty()) return;
   auto* const etiqueta = caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));

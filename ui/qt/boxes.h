@@ -1,6 +1,6 @@
 #pragma once
-// The toolkit's own boxes, with the game's texts and Spanish buttons. Each blocks until it is
-// answered.
+// Message, question and input boxes with Spanish buttons. Each blocks until it is answered. An
+// empty title shows the application's title. All texts are plain text.
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -12,13 +12,14 @@ namespace tasca {
 
 // A box with "Aceptar".
 void ShowMessage(QWidget* padre, std::u16string_view texto);
-// The same, with the icon of an error: the last thing that the player sees.
+// As ShowMessage, with the error icon.
 void ShowError(QWidget* padre, std::u16string_view texto);
-// Answered by "Sí" or "No" alone. Nothing when the program is ended from outside meanwhile.
+// True for "Sí", false for "No". Esc and the close box do nothing. Nothing if the program is ended
+// meanwhile.
 std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta);
-// Answered by "Aceptar" or "Cancelar"; true for "Aceptar".
+// True for "Aceptar", false for "Cancelar" or if the box is closed.
 bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view titulo);
-// The text typed; "" when cancelled.
+// Asks for a line of text. Returns "" if cancelled.
 std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,
                        std::u16string_view porDefecto);
 

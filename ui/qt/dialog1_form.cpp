@@ -19,7 +19,8 @@
 namespace tasca {
 namespace {
 
-// A list in which nothing is selected until the user selects something, also once it has the focus.
+// A list without a current entry until the user selects one. QListWidget makes the first entry
+// current when it gets the focus.
 class SelectionList : public QListWidget {
  public:
   using QListWidget::QListWidget;
@@ -29,7 +30,7 @@ class SelectionList : public QListWidget {
     QListWidget::focusInEvent(suceso);
     if (selectedItems().isEmpty()) selectionModel()->clearCurrentIndex();
   }
-  // From nowhere the toolkit goes to the first entry, whatever the key.
+  // Without a current entry QListWidget goes to the first one for every key; End goes to the last.
   QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers con) override {
     const bool alFinal = accion == MoveEnd && !currentIndex().isValid();
     return alFinal ? model()->index(count() - 1, 0) : QListWidget::moveCursor(accion, con);
@@ -55,12 +56,12 @@ std::array<QPushButton*, N> NewButtons(QWidget* padre, const QString& nombre,
   for (std::size_t i = 0; i < N; ++i) {
     botones.at(i) = Named(new QPushButton{QString::fromUtf16(rotulos.at(i)), padre},
                           nombre + QString::number(i));
-    botones.at(i)->setAutoDefault(true);  // Enter presses it too
+    botones.at(i)->setAutoDefault(true);  // Enter presses it when it has the focus.
   }
   return botones;
 }
 
-// A caption whose access key leads to its control, and which a screen reader calls it by.
+// A label whose access key moves the focus to `control`. It is also the control's accessible name.
 QLabel* NewLabel(QWidget* control, const char* nombre, const char16_t* rotulo) {
   control->setAccessibleName(QString::fromUtf16(rotulo).remove(QChar{u'&'}));
   auto* const etiqueta = Named(new QLabel{QString::fromUtf16(rotulo), control->parentWidget()},
@@ -69,7 +70,7 @@ QLabel* NewLabel(QWidget* control, const char* nombre, const char16_t* rotulo) {
   return etiqueta;
 }
 
-// A screen reader tells of a phrase that is not there.
+// Screen readers announce an empty phrase as "(vacío)".
 void ShowEntry(QListWidgetItem& entrada, const QString& texto) {
   if (entrada.text() != texto) entrada.setText(texto);
   const bool vacia = texto.trimmed().isEmpty();
@@ -149,10 +150,10 @@ void Dialog1Form::Connect() {
   list3_->installEventFilter(this);
 }
 
-// A click in the empty part of a list would leave it without a selection; the state keeps it.
+// A click in the empty part of a list clears its selection; the timer restores it from the state.
 void Dialog1Form::ConnectLists() {
   devolucion_.setSingleShot(true);
-  connect(&devolucion_, &QTimer::timeout, this, [this] { GiveSelectionsBack(); });
+  connect(&devolucion_, &QTimer::timeout, this, [this] { RestoreSelections(); });
   const auto alElegir = [this](QListWidget* lista, const ListBox& estado,
                                const std::function<void(int)>& clic) {
     const auto elegida = [this, lista, &estado, clic] {
@@ -173,9 +174,8 @@ void Dialog1Form::ConnectLists() {
   alElegir(list3_, estado_.List3, [this](int posicion) { List3_Click(estado_, posicion); });
 }
 
-// The toolkit selects an entry once more before its event is over, and makes it the current one:
-// what the state has not followed is put back after that.
-void Dialog1Form::GiveSelectionsBack() {
+// Deferred by the timer, because QListWidget sets the selection again after the signal.
+void Dialog1Form::RestoreSelections() {
   ShowSelection(list1_, estado_.List1);
   ShowSelection(list2_, estado_.List2);
   ShowSelection(list3_, estado_.List3);
@@ -201,7 +201,7 @@ bool Dialog1Form::eventFilter(QObject* objeto, QEvent* suceso) {
   return true;
 }
 
-// Enter in a box of one row stores nothing: the player has to press a button.
+// Enter in a text box of one row does not store the text; the status line says which button does.
 void Dialog1Form::keyPressEvent(QKeyEvent* suceso) {
   const bool esEnter = TeclaDe(*suceso).KeyCode == TeclaEnter;
   if (!esEnter || qobject_cast<QPlainTextEdit*>(focusWidget()) == nullptr) {

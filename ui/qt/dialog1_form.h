@@ -1,5 +1,6 @@
 #pragma once
-// The character editor's window.
+// The character editor's window. Shows the state of the editor's logic (characters/editor.h) and
+// passes the events on to it.
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -18,16 +19,17 @@ namespace tasca {
 class Dialog1Form : public QWidget {
  public:
   struct Events {
-    // Runs an event of the editor's logic, and ends the program when it says so.
+    // Runs a function of the editor's logic and handles its exceptions.
     std::function<void(const std::function<void()>&)> Run;
+    // The window is asked to close. It stays open unless the receiver ends the program.
     std::function<void()> Closed;
   };
 
-  // Edits the characters of `t`, asking through `port`.
+  // Edits the characters of `t` and asks through `port`. Both must outlive the window.
   Dialog1Form(Table& t, EditorPort& port, Events sucesos);
 
   Dialog1& State() { return estado_; }
-  // Copies the state to the controls, all of it.
+  // Copies the whole state to the controls.
   void ShowState();
 
  protected:
@@ -36,6 +38,7 @@ class Dialog1Form : public QWidget {
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
+  // A text box of up to `maximo` characters that reports refusals in the status line.
   GuardedText* NewText(const char* nombre, int maximo, int filas);
   void Connect();
   void ConnectLists();
@@ -45,16 +48,16 @@ class Dialog1Form : public QWidget {
   QLayout* BuildPhrases();
   QLayout* BuildButtons();
   void SetTabs();
-  // Selects the state's entry again once the event that chose another is over.
-  void GiveSelectionsBack();
-  // Runs an event of the logic on the texts as they have been typed, and shows what came of it.
+  // Selects the state's entries in the lists again.
+  void RestoreSelections();
+  // Copies the typed texts to the state, runs an event of the logic and shows the new state.
   void Do(const std::function<void()>& suceso);
 
   Table& t_;
   EditorPort& port_;
   Events sucesos_;
   Dialog1 estado_;
-  QTimer devolucion_;  // runs while the lists are about to get their selections back
+  QTimer devolucion_;  // calls RestoreSelections once the current event has been handled
   StatusLine* estadoTexto_;
   QListWidget* list1_;
   QListWidget* list2_;

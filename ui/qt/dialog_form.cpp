@@ -11,14 +11,15 @@
 namespace tasca {
 namespace {
 
-// The drawing of the form, in units of a fifteenth of a pixel at 96 dpi.
+// The form's layout in twips: 15 are a pixel at 96 dpi.
 constexpr QSize Superficie{4410, 2130};
 constexpr QSize Boton{1500, 500};
 constexpr std::array<QPoint, 4> Esquinas{QPoint{500, 500}, QPoint{2500, 500}, QPoint{500, 1500},
                                          QPoint{2500, 1500}};
 constexpr double Unidad = 1.0 / 15;
 
-// The button beside or above, in two rows of two.
+// The index of the button next to `indice` in the direction of an arrow key. The buttons form two
+// rows of two.
 std::optional<int> Vecino(int indice, int tecla) {
   if (tecla == Qt::Key_Left || tecla == Qt::Key_Right) return indice ^ 1;
   if (tecla == Qt::Key_Up || tecla == Qt::Key_Down) return indice ^ 2;
@@ -52,7 +53,8 @@ void DialogForm::BuildButton(int indice) {
   command1_.at(static_cast<std::size_t>(indice)) = nuevo;
 }
 
-// Drawn for a small font; a larger one makes the whole form larger, so that every caption fits.
+// The layout is made for a font of 13 pixels. A larger font scales the whole form, so that every
+// caption fits.
 void DialogForm::Place() {
   constexpr double letraDelDibujo = 13;
   double escala = std::max(Unidad, Unidad * fontMetrics().height() / letraDelDibujo);

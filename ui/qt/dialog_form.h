@@ -1,5 +1,5 @@
 #pragma once
-// The bidding dialog's window: modal, of fixed size, and answered only by its buttons.
+// The bidding dialog's window: modal, of fixed size, answered only by its buttons.
 #include <QDialog>
 #include <QPushButton>
 #include <array>
@@ -10,10 +10,10 @@ namespace tasca {
 
 class DialogForm : public QDialog {
  public:
-  // Shows `dialogo` as it has been prepared, and passes the presses on to it.
+  // Shows the prepared `dialogo` and passes pressed buttons on to it. `dialogo` must outlive it.
   DialogForm(QWidget* padre, Dialog& dialogo);
 
-  // Its close box and Esc do nothing.
+  // Esc and the close box do nothing.
   void reject() override {}
 
  protected:
@@ -22,7 +22,9 @@ class DialogForm : public QDialog {
 
  private:
   void BuildButton(int indice);
+  // Sets the size of the window and of its buttons from the font.
   void Place();
+  // Moves the focus from button `desde` by an arrow key. False if `tecla` is no arrow key.
   bool MoveFocus(int desde, int tecla);
 
   Dialog& dialogo_;

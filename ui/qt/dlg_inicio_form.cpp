@@ -21,7 +21,7 @@ QLabel* Texto(QWidget* padre) {
   return texto;
 }
 
-// A text of the table's on a sheet of its own, with room for `lineas` lines.
+// A text in a sunken frame with room for `lineas` lines.
 QLabel* Hoja(QWidget* padre, int lineas) {
   auto* const hoja = Texto(padre);
   hoja->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -34,7 +34,8 @@ QLabel* Hoja(QWidget* padre, int lineas) {
   return hoja;
 }
 
-// A word too wide for `hoja` at its narrowest may be broken after any character.
+// Inserts zero-width spaces into words wider than the minimum width of `hoja`, so that they can be
+// broken after any character.
 QString Breakable(const QString& texto, const QLabel& hoja) {
   const QChar permisoDeCorte{0x200B};
   const int sitio = hoja.minimumWidth() - 2 * (hoja.margin() + hoja.frameWidth());
@@ -134,7 +135,8 @@ void DlgInicioForm::Connect() {
   connect(cbCancel_, &QPushButton::clicked, this, [this] { sucesos_.Left(); });
 }
 
-// What does not fit is cut off what is pasted: the line of status stays until there is room again.
+// QLineEdit truncates a pasted text that is too long. The message about that stays until the name
+// is shorter than the maximum again.
 void DlgInicioForm::ConnectName() {
   connect(text2_, &QLineEdit::textChanged, this, [this](const QString& texto) {
     estado_.Text2 = text2_->Text();

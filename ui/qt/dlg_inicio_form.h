@@ -1,5 +1,6 @@
 #pragma once
-// The start-up dialog's window.
+// The start-up dialog's window. Shows the state of the dialog's logic (startup/dlg_inicio.h) and
+// passes the events on to it.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -19,25 +20,28 @@ namespace tasca {
 class DlgInicioForm : public QDialog {
  public:
   struct Events {
-    // Runs an event of the dialog's logic, and ends the program when it says so.
+    // Runs a function of the dialog's logic and handles its exceptions.
     std::function<void(const std::function<void()>&)> Run;
+    // "Aceptar".
     std::function<void()> CbOK_Click;
     // "Salir del juego", the close box or Esc.
     std::function<void()> Left;
   };
 
-  // Shows `estado`, which has to outlive it.
+  // Edits `estado`, which must outlive the window.
   DlgInicioForm(DlgInicio& estado, Events sucesos);
 
-  // Copies the state of the dialog's logic to the controls, all of it.
+  // Copies the whole state to the controls.
   void ShowState();
 
+  // Esc and the close box leave the program.
   void reject() override { sucesos_.Left(); }
 
  private:
   void NameControls();
   void Connect();
   void ConnectName();
+  // Beeps and shows the reason in the status line.
   void RefuseName(std::u16string_view reparo);
   void BuildLayout();
   QLayout* BuildChoices();
@@ -46,7 +50,7 @@ class DlgInicioForm : public QDialog {
 
   Events sucesos_;
   DlgInicio& estado_;
-  // Tab goes through the controls in this order.
+  // The declaration order is the tab order.
   QLabel* text1_;
   NameEdit* text2_;
   StatusLine* estadoTexto_;
@@ -57,7 +61,7 @@ class DlgInicioForm : public QDialog {
   std::array<QRadioButton*, 2> option1_;
   QPushButton* cbOK_;
   QPushButton* cbCancel_;
-  // The Enter that asked for other companions may still be held.
+  // The Enter that asked for other companions may still be held down.
   RepeatGuard repeticiones_{*this};
 };
 

@@ -1,5 +1,5 @@
 #pragma once
-// The character editor as a program: its window, its boxes, and the end of both.
+// The character editor's program: opens its window, shows its boxes and ends it.
 #include <filesystem>
 #include <memory>
 
@@ -10,10 +10,11 @@
 
 namespace tasca {
 
-// The windows' answer to what the editor asks.
+// The editor's port with Qt boxes.
 class QtEditorPort : public EditorPort {
  public:
-  // The window that the boxes belong to from now on; it shows its state before each of them.
+  // Sets the parent of the boxes; required before the first one. Every box first calls its
+  // ShowState.
   void SetWindow(Dialog1Form* ventana) { ventana_ = ventana; }
 
   void MsgBox(std::u16string_view texto) override;
@@ -28,24 +29,26 @@ class QtEditorPort : public EditorPort {
 
 class EditorProgram {
  public:
-  // `carpeta` is where the character file lies.
+  // `carpeta` is the folder of the character file.
   explicit EditorProgram(std::filesystem::path carpeta);
 
-  // Opens the window. Wants to be called from the event loop, which ends with the exit status when
-  // the window is closed.
+  // Opens the window. Must be called from the event loop. Closing the window ends the loop with the
+  // exit status.
   void Open();
-  // The session's end asks about unsaved changes, as closing the window does; when it comes, the
-  // program ends at once, with status 0.
+  // The end of the desktop session asks about unsaved changes, as closing the window does, and then
+  // ends the program with status 0.
   SessionEnd AtSessionEnd();
 
  private:
+  // Runs `suceso`. If it throws, shows the error and ends the program.
   void Run(const std::function<void()>& suceso);
-  // The window is to be closed: what is not on the disk yet is not thrown away without asking. What
-  // was only typed into the text boxes, and not made a character's, is.
+  // Ends the program, after asking if there are unsaved changes. Texts that have been typed but not
+  // stored in a character are dropped without asking.
   void Close();
   bool HasUnsaved();
   // Asks whether to leave without saving.
   bool MayLoseChanges();
+  // Ends the event loop. Later calls have no effect.
   void Exit(int estado);
 
   Table t_;

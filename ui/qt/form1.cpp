@@ -24,7 +24,7 @@ QLabel* Etiqueta(const QString& texto, QWidget* de) {
   return etiqueta;
 }
 
-// Keys with which the player reads or copies in a read-only box, and moves on to another.
+// Keys that scroll, select or copy in a read-only box, or move the focus.
 bool EsTeclaDeLectura(const QKeyEvent& suceso) {
   switch (suceso.key()) {
     case Qt::Key_Up:
@@ -48,7 +48,7 @@ bool EsTeclaDeLectura(const QKeyEvent& suceso) {
   }
 }
 
-// Replaces what was copied last; false when the rules have not touched the text since.
+// Stores `texto` in `copiado`. False if it was there already.
 bool Renovar(std::u16string& copiado, const std::u16string& texto) {
   if (copiado == texto) return false;
   copiado = texto;
@@ -126,8 +126,8 @@ void Form1::ShowTexts(const Form1State& estado) {
 
 void Form1::FocusInput() { text1_->setFocus(); }
 
-// Form_KeyDown: a key that no box of the form has used belongs to the input line. Ctrl on its way
-// to Ctrl+C does not count, nor an arrow at the end of a text.
+// Form_KeyDown: a key that no control has handled moves the focus to the input line. Reading keys
+// are excluded: the Ctrl of Ctrl+C, or an arrow at the end of a text, must not move it.
 void Form1::keyPressEvent(QKeyEvent* suceso) {
   suceso->accept();
   if (!EsTeclaDeLectura(*suceso)) text1_->setFocus();
@@ -138,7 +138,7 @@ void Form1::closeEvent(QCloseEvent* suceso) {
   sucesos_.Closed();
 }
 
-// Typing anywhere lands in the input line.
+// Passes keys typed in the read-only boxes on to the input line.
 bool Form1::eventFilter(QObject* objeto, QEvent* suceso) {
   if (suceso->type() != QEvent::KeyPress) return QWidget::eventFilter(objeto, suceso);
   const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso);
@@ -148,7 +148,7 @@ bool Form1::eventFilter(QObject* objeto, QEvent* suceso) {
   return true;
 }
 
-// What is said at the table is read from further away than a form's captions.
+// The game's texts get a larger font than labels and menus.
 void Form1::EnlargeTexts() {
   QFont fuente = Scaled(QApplication::font(), 1.3);
   text1_->setFont(fuente);
@@ -168,7 +168,7 @@ bool Form1::KeyInText1(const QKeyEvent& suceso) {
   }
   const Tecla tecla = TeclaDe(suceso);
   const bool juega = tecla.KeyCode == TeclaEnter || tecla.KeyCode == TeclaQ;
-  if (juega && suceso.isAutoRepeat()) return true;  // One key press is one step.
+  if (juega && suceso.isAutoRepeat()) return true;  // A held key takes one step only.
   Integer codigo = tecla.KeyCode;
   sucesos_.Text1_KeyDown(codigo, tecla.Shift);
   return codigo == 0;

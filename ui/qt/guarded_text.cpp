@@ -1,4 +1,4 @@
-// The three ways into a text box: keys, input methods, and the clipboard or the mouse.
+// Filters insertions by keys, by input methods, and by paste or drop.
 #include "ui/qt/guarded_text.h"
 
 #include <QKeyEvent>
@@ -24,19 +24,19 @@ GuardedText::GuardedText(QWidget* padre, int maximo, int filas, Refusal alRechaz
 }
 
 QString GuardedText::Typed() const {
-  // toPlainText() would make a blank of every no-break space.
+  // toPlainText() would replace every no-break space by a blank.
   return document()->toRawText().replace(QChar::ParagraphSeparator, QChar{u'\n'});
 }
 
-// What only stands for a character of a damaged file would be wrong once it is edited.
+// Drops the U+FFFD that ToDisplay shows for invalid characters: they could not be told apart.
 std::u16string GuardedText::Text() const {
   QString texto = Typed();
   if (texto == ToDisplay(mostrado_)) return mostrado_;
   return texto.remove(QChar{u'\n'}).remove(QChar::ReplacementCharacter).toStdU16String();
 }
 
-// A text never filled, nothing but NULs, is no text: it must not get into the file by another's
-// name or story.
+// A fixed-width text that was never set holds only NULs. It is shown as "", so that the NULs are
+// not stored with another text of the character.
 void GuardedText::ShowText(std::u16string_view texto) {
   if (texto.find_first_not_of(u'\0') == std::u16string_view::npos) texto = {};
   if (texto == Text()) return;
@@ -57,32 +57,32 @@ void GuardedText::keyPressEvent(QKeyEvent* suceso) {
   const bool esEnter = suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter;
   if (esEnter && filas_ == 1) return suceso->ignore();
   const QString tecleado = esEnter ? QStringLiteral("\n") : suceso->text();
-  // The one control character that the toolkit takes as text, from Ctrl+Alt+I or Alt+Tab.
+  // QPlainTextEdit would insert the tab of Ctrl+Alt+I or Alt+Tab.
   if (tecleado.contains(QChar{u'\t'})) return suceso->ignore();
   const bool escribe = esEnter || (!tecleado.isEmpty() && !IsControl(tecleado.front().unicode()));
   if (!escribe || Accepts(tecleado)) QPlainTextEdit::keyPressEvent(suceso);
 }
 
-// A refused text still ends the composing that led to it. Composing takes the selection away: it
-// comes back unless something is written in its place.
+// Refusing the commit string still ends the composition. A composition removes the selected text,
+// which is restored if nothing is committed.
 void GuardedText::inputMethodEvent(QInputMethodEvent* suceso) {
   const bool componia = componiendo_;
-  if (!componia) antes_ = Now();
+  if (!componia) antes_ = TakeSnapshot();
   const bool escribe = !suceso->commitString().isEmpty();
   const bool rechazado = escribe && !Accepts(suceso->commitString());
   QInputMethodEvent nada;
   QPlainTextEdit::inputMethodEvent(rechazado ? &nada : suceso);
   componiendo_ = !rechazado && !suceso->preeditString().isEmpty();
   const bool escrito = escribe && !rechazado;
-  if (escrito) antes_ = Now();
-  if (componia && !componiendo_ && !escrito) GoBack();
+  if (escrito) antes_ = TakeSnapshot();
+  if (componia && !componiendo_ && !escrito) Restore();
 }
 
-GuardedText::Stand GuardedText::Now() const {
+GuardedText::Snapshot GuardedText::TakeSnapshot() const {
   return {.Texto = Typed(), .Ancla = textCursor().anchor(), .Cursor = textCursor().position()};
 }
 
-void GuardedText::GoBack() {
+void GuardedText::Restore() {
   QTextCursor cursor{document()};
   if (Typed() != antes_.Texto) {
     cursor.select(QTextCursor::Document);
@@ -93,12 +93,13 @@ void GuardedText::GoBack() {
   setTextCursor(cursor);
 }
 
-// What holds no text, as an empty clipboard does, would crash the toolkit.
+// QPlainTextEdit crashes on MIME data without text, such as an empty clipboard.
 void GuardedText::insertFromMimeData(const QMimeData* datos) {
   if (datos->hasText() && Accepts(datos->text())) QPlainTextEdit::insertFromMimeData(datos);
 }
 
-// A click sets the cursor after the focus has come, and would undo the selection.
+// A click sets the cursor after focusInEvent, which clears the selection: it is selected later
+// then.
 void GuardedText::focusInEvent(QFocusEvent* suceso) {
   QPlainTextEdit::focusInEvent(suceso);
   if (suceso->reason() == Qt::PopupFocusReason || suceso->reason() == Qt::ActiveWindowFocusReason) {

@@ -1,6 +1,6 @@
 #pragma once
-// A text box of the editor: what the character file could not hold can be neither typed nor pasted
-// into it. What is refused is refused whole, with a beep and the reason.
+// A text box of the editor that accepts only what the character file can hold, whether typed,
+// pasted or composed by an input method. An insertion is accepted or refused as a whole.
 #include <QPlainTextEdit>
 #include <functional>
 #include <string>
@@ -10,14 +10,14 @@ namespace tasca {
 
 class GuardedText : public QPlainTextEdit {
  public:
-  // Told why something has been refused; "" once something has been accepted.
+  // Called for every insertion, with the reason of a refusal or "" if it is accepted.
   using Refusal = std::function<void(std::u16string_view)>;
 
-  // Takes up to `maximo` characters and shows `filas` rows.
+  // Accepts up to `maximo` characters and shows `filas` rows.
   GuardedText(QWidget* padre, int maximo, int filas, Refusal alRechazar);
 
-  // A text that is shown and left alone comes back as it was, with whatever a damaged file has put
-  // into it; once it is edited, it is without that. A text never filled comes back as "".
+  // The text. If the user has not edited it, exactly the one given to ShowText, including invalid
+  // characters of a damaged file; otherwise without those. A text of NULs only gives "".
   std::u16string Text() const;
   void ShowText(std::u16string_view texto);
 
@@ -29,23 +29,25 @@ class GuardedText : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* suceso) override;
 
  private:
-  struct Stand {
+  struct Snapshot {
     QString Texto;
     int Ancla = 0;
     int Cursor = 0;
   };
 
+  // Whether `insertado` may replace the selection. Calls alRechazar_.
   bool Accepts(const QString& insertado);
   QString Typed() const;
-  Stand Now() const;
-  void GoBack();
+  Snapshot TakeSnapshot() const;
+  // Restores text and selection from antes_.
+  void Restore();
 
   int maximo_;
   int filas_;
   Refusal alRechazar_;
-  std::u16string mostrado_;
-  Stand antes_;  // of the composing
-  bool componiendo_ = false;
+  std::u16string mostrado_;   // by ShowText
+  Snapshot antes_;            // before the composition
+  bool componiendo_ = false;  // an input method has a preedit text
 };
 
 }  // namespace tasca

@@ -27,7 +27,7 @@ void InputLine::keyPressEvent(QKeyEvent* suceso) {
   if (!alPulsar_(*suceso)) QPlainTextEdit::keyPressEvent(suceso);
 }
 
-// What holds no text, as an empty clipboard does, would crash the toolkit.
+// QPlainTextEdit crashes on MIME data without text, such as an empty clipboard.
 void InputLine::insertFromMimeData(const QMimeData* datos) {
   if (datos->hasText()) QPlainTextEdit::insertFromMimeData(datos);
 }
@@ -42,8 +42,8 @@ void InputLine::changeEvent(QEvent* suceso) {
   if (suceso->type() == QEvent::FontChange) FitHeight();
 }
 
-// Never more than half the window: the transcript has to stay readable. The box scrolls already
-// when not a single pixel is left over.
+// Limits the height to half the window, so that the transcript stays readable. The extra pixel
+// keeps QPlainTextEdit from scrolling when the text fits exactly.
 void InputLine::FitHeight() {
   double texto = document()->documentMargin();
   for (QTextBlock linea = document()->begin(); linea.isValid(); linea = linea.next()) {

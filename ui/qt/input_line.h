@@ -1,6 +1,6 @@
 #pragma once
-// The input line of the table: it shows the hand, takes the keys that drive the game, and grows
-// when it has several lines to show.
+// The input line Text1: shows the hand, receives the keys of the game, and grows with the number of
+// lines shown.
 #include <QPlainTextEdit>
 #include <functional>
 
@@ -8,12 +8,12 @@ namespace tasca {
 
 class InputLine : public QPlainTextEdit {
  public:
-  // Asked first about every key; true when it has been used up.
+  // Receives every key first. Returns true if it has handled the key.
   using KeyHandler = std::function<bool(const QKeyEvent&)>;
 
   InputLine(QWidget* padre, KeyHandler alPulsar);
 
-  // Replaces what stands there, what was typed included. The same text keeps its cursor.
+  // Replaces the text, including what was typed. Keeps the cursor if the text is the same.
   void ShowText(const QString& texto);
 
  protected:
@@ -23,6 +23,7 @@ class InputLine : public QPlainTextEdit {
   void changeEvent(QEvent* suceso) override;
 
  private:
+  // Sets the height to that of the text, up to half of the window's.
   void FitHeight();
 
   KeyHandler alPulsar_;

@@ -8,11 +8,11 @@ namespace {
 
 constexpr int TeclaSinSignificado = 255;
 
-// The key of the upper row, not that of the keypad.
+// The 0 key of the upper row; that of the keypad does not count.
 bool EsTecla0(const QKeyEvent& suceso) {
   if (suceso.modifiers().testFlag(Qt::KeypadModifier)) return false;
   if (suceso.key() == Qt::Key_0) return true;
-  constexpr quint32 lugarDelCero = 19;  // under X11 and Wayland
+  constexpr quint32 lugarDelCero = 19;  // the X11 key code, also under Wayland
   return suceso.nativeScanCode() == lugarDelCero;
 }
 

@@ -1,17 +1,17 @@
 #pragma once
-// Keys as the rules count them.
+// Translation of Qt key events into the key codes of the rules.
 #include <QKeyEvent>
 
 namespace tasca {
 
 struct Tecla {
   int KeyCode = 0;
-  int Shift = 0;  // 1 Shift, 2 Ctrl, 4 Alt, added up
+  int Shift = 0;  // sum of 1 for Shift, 2 for Ctrl, 4 for Alt
 };
 
-// Enter of either keyboard half, Q, F2, and the 0 key by its place as well as by its sign: with
-// Ctrl and Shift it arrives as "=" from a Spanish keyboard and as ")" from an American one. Any
-// other key has a code that means nothing to the rules.
+// Translates Enter (of the keypad too), Q, F2 and 0. The 0 key is also recognised by its scan code:
+// with Ctrl+Shift it arrives as "=" from a Spanish keyboard and as ")" from a US one. Any other key
+// gets a code that the rules ignore.
 Tecla TeclaDe(const QKeyEvent& suceso);
 
 }  // namespace tasca

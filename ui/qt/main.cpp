@@ -18,7 +18,7 @@ constexpr tasca::ProgramOptions Programa{
 int main(int argc, char** argv) {
   if (const auto estado = tasca::AnswerOptions(Programa, argc, argv)) return *estado;
   tasca::Application aplicacion{argc, argv};
-  // The toolkit has taken its own options out.
+  // Application has removed the toolkit's own options.
   if (const auto estado = tasca::RefuseOptions(Programa, argc, argv)) return *estado;
   tasca::Program programa{tasca::ProgramFolder(argv[0])};
   return aplicacion.Run([&programa] { programa.OpenDlgInicio(); }, programa.AtSessionEnd());

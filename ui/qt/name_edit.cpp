@@ -1,4 +1,4 @@
-// The name: what it takes, and what it gives back.
+// Validation of the player's name.
 #include "ui/qt/name_edit.h"
 
 #include <QFocusEvent>
@@ -14,7 +14,7 @@
 
 namespace tasca {
 
-// The toolkit undoes what this finds wrong, and emits inputRejected right after.
+// QLineEdit undoes an edit that this finds invalid, and then emits inputRejected.
 class NameEdit::Checker : public QValidator {
  public:
   explicit Checker(const NameEdit* de) : de_{*de} {}
@@ -24,7 +24,8 @@ class NameEdit::Checker : public QValidator {
     return reparo_.empty() ? Acceptable : Invalid;
   }
 
-  // Why the name was refused; forgets it. Without a reason it was too long.
+  // Returns and clears the reason of the last refusal. inputRejected without one means that
+  // QLineEdit has truncated a name that was too long.
   std::u16string_view TakeReparo() {
     const std::u16string_view reparo = std::exchange(reparo_, {});
     return reparo.empty() ? NombreDemasiadoLargo : reparo;
@@ -57,7 +58,7 @@ void NameEdit::ShowText(std::u16string_view nombre) {
   setText(visible);
 }
 
-// What the file has put there may stay.
+// Characters of the shown name are accepted even if they are invalid: they come from the file.
 std::u16string_view NameEdit::ReparoA(const QString& nombre) const {
   const QString propio = ToDisplay(mostrado_);
   for (const QChar letra : nombre) {
@@ -68,34 +69,35 @@ std::u16string_view NameEdit::ReparoA(const QString& nombre) const {
   return {};
 }
 
-NameEdit::Stand NameEdit::Now() const {
+NameEdit::Snapshot NameEdit::TakeSnapshot() const {
   return {.Texto = text(),
           .Cursor = cursorPosition(),
           .Desde = selectionStart(),
           .Largo = selectionLength()};
 }
 
-void NameEdit::GoBack() {
+void NameEdit::Restore() {
   setText(antes_.Texto);
   setCursorPosition(antes_.Cursor);
   if (antes_.Desde >= 0) setSelection(antes_.Desde, antes_.Largo);
 }
 
-// Composing takes the selection away: it comes back unless something is written in its place.
+// A composition removes the selected text, which is restored if nothing is committed.
 void NameEdit::inputMethodEvent(QInputMethodEvent* suceso) {
   const bool componia = componiendo_;
-  if (!componia) antes_ = Now();
+  if (!componia) antes_ = TakeSnapshot();
   const std::u16string_view reparo = ReparoA(suceso->commitString());
   QInputMethodEvent nada;
   QLineEdit::inputMethodEvent(reparo.empty() ? suceso : &nada);
   componiendo_ = reparo.empty() && !suceso->preeditString().isEmpty();
   const bool escrito = reparo.empty() && !suceso->commitString().isEmpty();
-  if (escrito) antes_ = Now();
-  if (componia && !componiendo_ && !escrito) GoBack();
+  if (escrito) antes_ = TakeSnapshot();
+  if (componia && !componiendo_ && !escrito) Restore();
   if (!reparo.empty()) alRechazar_(reparo);
 }
 
-// A click sets the cursor after the focus has come, and would undo the selection.
+// A click sets the cursor after focusInEvent, which clears the selection: it is selected later
+// then.
 void NameEdit::focusInEvent(QFocusEvent* suceso) {
   QLineEdit::focusInEvent(suceso);
   const bool porClic = suceso->reason() == Qt::MouseFocusReason;

@@ -1,6 +1,6 @@
 #pragma once
-// The box of the player's name in the start-up dialog: what the settings file could not hold can be
-// neither typed, pasted nor composed into it.
+// The player's name in the start-up dialog: a text box that accepts only what the settings file can
+// hold, whether typed, pasted or composed by an input method.
 #include <QLineEdit>
 #include <functional>
 #include <string>
@@ -10,16 +10,16 @@ namespace tasca {
 
 class NameEdit : public QLineEdit {
  public:
-  // Told why something has been refused.
+  // Called with the reason when an insertion has been refused or truncated.
   using Refusal = std::function<void(std::u16string_view)>;
 
-  // Takes up to AnchoNombre characters; what is too long is cut.
+  // Accepts up to AnchoNombre characters; a longer insertion is truncated.
   NameEdit(QWidget* padre, Refusal alRechazar);
 
-  // A name that is shown and left alone comes back as it was; once it is edited, it is without what
-  // only stood for an odd character.
+  // The name. If the user has not edited it, exactly the one given to ShowText; otherwise without
+  // the U+FFFD that were shown for invalid characters.
   std::u16string Text() const;
-  // A name longer than AnchoNombre can only be shortened then.
+  // A name longer than AnchoNombre is shown whole; the user can only shorten it.
   void ShowText(std::u16string_view nombre);
 
  protected:
@@ -29,22 +29,24 @@ class NameEdit : public QLineEdit {
 
  private:
   class Checker;
-  struct Stand {
+  struct Snapshot {
     QString Texto;
     int Cursor = 0;
-    int Desde = -1;  // of the selection; -1 for none
-    int Largo = 0;
+    int Desde = -1;  // start of the selection, -1 for none
+    int Largo = 0;   // length of the selection
   };
 
+  // The reason why `nombre` is refused, or "".
   std::u16string_view ReparoA(const QString& nombre) const;
-  Stand Now() const;
-  void GoBack();
+  Snapshot TakeSnapshot() const;
+  // Restores text and selection from antes_.
+  void Restore();
 
   Refusal alRechazar_;
   Checker* validador_;
-  std::u16string mostrado_;
-  Stand antes_;  // of the composing
-  bool componiendo_ = false;
+  std::u16string mostrado_;   // by ShowText
+  Snapshot antes_;            // before the composition
+  bool componiendo_ = false;  // an input method has a preedit text
 };
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// A prompt, a guarded text box, its line of status, and two buttons.
+// A label, a guarded text box with its status line, and two buttons.
 #include "ui/qt/phrase_box.h"
 
 #include <QApplication>
@@ -22,7 +22,8 @@ std::u16string AskPhrase(QWidget* padre, std::u16string_view texto, std::u16stri
   auto* const etiqueta = new QLabel{ToLabel(texto), &caja};
   etiqueta->setTextFormat(Qt::PlainText);
   auto* const estado = new StatusLine{&caja};
-  estado->setMinimumHeight(2 * estado->fontMetrics().lineSpacing());  // the longest reason
+  // The longest reason takes two lines.
+  estado->setMinimumHeight(2 * estado->fontMetrics().lineSpacing());
   const auto alRechazar = [estado](std::u16string_view reparo) {
     estado->ShowText(reparo);
     if (!reparo.empty()) QApplication::beep();

@@ -1,4 +1,4 @@
-// The windows' comings and goings.
+// Opening and closing of the windows.
 #include "ui/qt/program.h"
 
 #include <QCoreApplication>
@@ -38,13 +38,13 @@ SessionEnd Program::AtSessionEnd() {
   return {.MayCome = [](const auto&) { return true; }, .Comes = [this] { Exit(0); }};
 }
 
-// The dialog is still in the middle of its button's click: it is deleted once that is over.
+// Called by the dialog's button, so the dialog must not be deleted before its event has ended.
 void Program::CbOK_Click() {
   Situacion situacion{};
   if (!Run([&] { return situacion = sesion_.Aceptar(); })) return;
   if (situacion == Situacion::EnInicio) return dlgInicio_->ShowState();
   OpenForm1();
-  dlgInicio_->setEnabled(false);  // A second Enter may be on its way to it.
+  dlgInicio_->setEnabled(false);  // A second Enter may be queued for it.
   dlgInicio_->hide();
   dlgInicio_.release()->deleteLater();
 }
@@ -82,8 +82,8 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
   cambio_.start();
 }
 
-// Comes between two keys or while a box is open, in the middle of a step then: the rules change
-// nothing but the sound's own fields.
+// May be called while a box is open, in the middle of a step. FinDeSonido changes only the fields
+// of the sound.
 void Program::AttendSound() {
   constexpr int parado = 0;
   if (port_.Mp1().TakeEnd()) Run([this] { return sesion_.FinDeSonido(parado); });

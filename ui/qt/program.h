@@ -1,6 +1,6 @@
 #pragma once
-// The program with windows: the start-up dialog, then the main window, and back when the player
-// wants other companions.
+// The game's program with windows: the start-up dialog, then the main window, and the dialog again
+// when the player wants other companions.
 #include <QSocketNotifier>
 #include <QTimer>
 #include <filesystem>
@@ -18,13 +18,13 @@ namespace tasca {
 
 class Program {
  public:
-  // `carpeta` is where the game's files lie.
+  // `carpeta` is the folder of the game's files.
   explicit Program(std::filesystem::path carpeta);
 
-  // Opens the start-up dialog, in place of the main window if there is one. Wants to be called from
-  // the event loop, which it ends with the exit status when the program is over.
+  // Opens the start-up dialog and closes the main window if there is one. Must be called from the
+  // event loop. The end of the game ends the loop with the exit status.
   void OpenDlgInicio();
-  // Nothing would be lost with the session: the program ends at once, with status 0.
+  // The end of the desktop session ends the program at once with status 0; nothing needs saving.
   SessionEnd AtSessionEnd();
 
  private:
@@ -32,7 +32,8 @@ class Program {
   void OpenForm1();
   void KeyDown(Integer& KeyCode, Integer Shift);
   void AttendSound();
-  // Does something of the session; false when it has ended the program.
+  // Runs an operation of the session. If the game has ended, shows the error, ends the program and
+  // returns false.
   bool Run(const std::function<Situacion()>& paso);
   void ShowEnding(const Ending& fin);
   void Exit(int estado);
@@ -41,7 +42,7 @@ class Program {
   Session sesion_;
   std::unique_ptr<DlgInicioForm> dlgInicio_;
   std::unique_ptr<Form1> form1_;
-  QTimer cambio_;  // the change of windows, right after the key that asked for it
+  QTimer cambio_;  // opens the start-up dialog once the key event has been handled
   QSocketNotifier avisoSonido_{port_.Mp1().Descriptor(), QSocketNotifier::Read};
   bool enPaso_ = false;
   bool terminando_ = false;

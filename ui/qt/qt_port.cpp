@@ -1,4 +1,4 @@
-// Questions as modal boxes, the clock, the sounds.
+// Questions as modal boxes, the clock and the sounds.
 #include "ui/qt/qt_port.h"
 
 #include <QTime>
@@ -22,7 +22,7 @@ void QtPort::SetMainWindow(Form1* form1) {
   form1_ = form1;
 }
 
-// The player has to see what the question is about.
+// The player must see the current texts to answer a question.
 void QtPort::ShowTexts(const Table& t) {
   if (form1_ != nullptr) form1_->ShowTexts(t);
 }

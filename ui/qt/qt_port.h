@@ -1,25 +1,27 @@
 #pragma once
-// The windows' answer to what the rules ask.
+// The port of the windows: the rules' questions as modal boxes.
 #include <QWidget>
 
 #include "table/port.h"
-#include "ui/qt/form1.h"
 #include "ui/loudspeaker/media_player.h"
+#include "ui/qt/form1.h"
 
 namespace tasca {
 
 class QtPort : public Port {
  public:
-  // The window that the boxes belong to from now on; none before the first one. With the main
-  // window goes what it was playing.
+  // These set the parent of the boxes, which is none at first. Each box first refreshes the texts
+  // of the main window. SetStartWindow stops the sound that is playing.
   void SetStartWindow(QWidget* dlgInicio);
   void SetMainWindow(Form1* form1);
 
+  // The parent of the boxes, or nullptr.
   QWidget* Window() const { return ventana_; }
   MediaPlayer& Mp1() { return mp1_; }
 
+  // Every box blocks in a nested event loop until it is answered.
   void MsgBox(const Table& t, std::u16string_view texto) override;
-  // These two throw LeaveProgram when the program is ended while they wait.
+  // These two throw LeaveProgram if the program is ended while they wait.
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
   std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override;

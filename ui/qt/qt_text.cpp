@@ -30,7 +30,8 @@ std::u16string FromInput(const QString& texto) {
   std::u16string tecleado = texto.toStdU16String();
   for (char16_t& letra : tecleado) {
     const bool separador = letra == QChar::LineSeparator || letra == QChar::ParagraphSeparator;
-    const bool indefinida = letra >= 0x80;  // five codes of the code page stay as they are
+    // The five codes that Windows-1252 leaves undefined are valid in the files.
+    const bool indefinida = letra >= 0x80;
     if (separador || (IsControl(letra) && !indefinida)) letra = u' ';
   }
   return tecleado;

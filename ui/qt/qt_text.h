@@ -1,5 +1,5 @@
 #pragma once
-// The game's text as the windows show it, and what the player types as the game takes it.
+// Conversion between the game's text and Qt strings.
 #include <QFont>
 #include <QString>
 #include <string>
@@ -10,18 +10,18 @@ namespace tasca {
 // The title of every window and box that has none of its own.
 inline constexpr std::u16string_view TituloAplicacion = u"La tasca del tío Zarandel";
 
-// Line breaks of any kind become one; control characters, which only a damaged file can hold,
-// become U+FFFD, and the NULs of a text never filled are dropped.
+// CR LF, CR and LF become LF. NULs, the padding of unset texts, are dropped. Other control
+// characters except the tab become U+FFFD; only a damaged file contains them.
 QString ToDisplay(std::u16string_view texto);
 
-// The same for a label that takes "&" as the mark of an access key.
+// As ToDisplay, with "&" doubled, for widgets that take it as the mark of an access key.
 QString ToLabel(std::u16string_view texto);
 
-// What was typed or pasted into a line of one row: line breaks and control characters become
-// blanks, or a pasted name could tear the settings file apart.
+// For single-line input. Line breaks and control characters become blanks: in a pasted name they
+// would corrupt the settings file.
 std::u16string FromInput(const QString& texto);
 
-// `fuente` in another size, whether it is measured in points or in pixels.
+// `fuente` with its size, in points or in pixels, multiplied by `factor`.
 QFont Scaled(QFont fuente, double factor);
 
 }  // namespace tasca

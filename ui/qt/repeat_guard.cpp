@@ -1,4 +1,4 @@
-// The filter of repeated keys.
+// The filter of auto-repeated keys.
 #include "ui/qt/repeat_guard.h"
 
 #include <QCoreApplication>
@@ -30,7 +30,7 @@ bool SeEscribeEn(const QObject* control) {
          qobject_cast<const QPlainTextEdit*>(control) != nullptr;
 }
 
-// Alt alone is on its way to an access key.
+// Whether a key can press a button or close the box. Alt with a letter is an access key.
 bool Contesta(const QKeyEvent& suceso, const QObject* control) {
   if (suceso.key() == Qt::Key_Return || suceso.key() == Qt::Key_Enter) return true;
   if (suceso.key() == Qt::Key_Escape || suceso.modifiers() == Qt::AltModifier) return true;
@@ -43,7 +43,7 @@ RepeatGuard::RepeatGuard(const QWidget& ventana) : ventana_{ventana} {
   QCoreApplication::instance()->installEventFilter(this);
 }
 
-// An accepted ShortcutOverride keeps the key from its shortcut: it comes as a KeyPress then.
+// Accepting ShortcutOverride suppresses the shortcut; the key then arrives as a KeyPress.
 bool RepeatGuard::eventFilter(QObject* objeto, QEvent* suceso) {
   const bool esTecla =
       suceso->type() == QEvent::KeyPress || suceso->type() == QEvent::ShortcutOverride;

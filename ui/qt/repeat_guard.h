@@ -1,11 +1,11 @@
 #pragma once
-// Keys that are held down: their repeats answer nothing.
+// Ignores the auto-repeat of keys that answer a box.
 #include <QWidget>
 
 namespace tasca {
 
-// While it lives, the repeats of a held key press no button in `ventana` and answer nothing there.
-// They still move the focus or a selection, and write and delete in a text box.
+// An event filter of the application for as long as it exists. In `ventana` the repeats of a held
+// key press no button. They still move the focus or a selection, and edit text boxes.
 class RepeatGuard : public QObject {
  public:
   explicit RepeatGuard(const QWidget& ventana);

@@ -1,4 +1,4 @@
-// Running a modal box.
+// The key filter of a modal box.
 #include "ui/qt/run_box.h"
 
 #include <QCoreApplication>
@@ -9,7 +9,7 @@
 namespace tasca {
 namespace {
 
-// Sees every event of the application while the box is open.
+// Filters every event of the application while the box is open.
 class KeyGuard : public QObject {
  public:
   KeyGuard(QDialog& caja, QWidget* inicial) : caja_{caja}, inicial_{inicial} {

@@ -1,14 +1,13 @@
 #pragma once
-// Running a modal box so that every key finds it whole.
+// Runs a modal box that ignores keys typed before it is ready.
 #include <QDialog>
 
 namespace tasca {
 
-// Shows `caja` until it is answered, with the focus at `inicial`, and gives its result. Keys reach
-// the box only from the moment when `inicial` has the focus of the active window until the answer:
-// a key that comes before would be taken by another control, one that comes after would answer
-// again. An early key moves the focus to `inicial`, so that the next one counts. A key that is held
-// down answers once at most, and not at all when it was held before.
+// Shows `caja` with the focus on `inicial`, blocks until it is answered and returns its result.
+// Keys are ignored until `inicial` has the focus in the active window, because another control
+// would handle them, and after the answer, because they would answer twice. An early key requests
+// the focus for `inicial`. The auto-repeat of a held key never answers.
 int RunBox(QDialog& caja, QWidget* inicial);
 
 }  // namespace tasca

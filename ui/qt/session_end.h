@@ -1,18 +1,18 @@
 #pragma once
-// The end of the desktop's session, as the programs are told of it.
+// How a program reacts to the end of the desktop session.
 #include <functional>
 
 namespace tasca {
 
 struct SessionEnd {
-  // The session is about to end; false keeps it going. The player may be asked only after
-  // `dejanPreguntar` has said so.
+  // Called before the session ends. Returning false cancels its end. The player may be asked only
+  // if `dejanPreguntar` returns true.
   std::function<bool(const std::function<bool()>& dejanPreguntar)> MayCome;
-  // The session ends: the program has to end too, also while a box is open.
+  // Called when the session ends. Must end the program, even while a box is open.
   std::function<void()> Comes;
 };
 
-// Answers a session manager, such as QSessionManager, that announces the end of its session.
+// Asks `fin` and answers the session manager. Manager is QSessionManager except in tests.
 template <class Manager>
 void AnswerSessionManager(Manager& gestor, const SessionEnd& fin) {
   const bool sigue = !fin.MayCome([&gestor] { return gestor.allowsInteraction(); });

@@ -1,4 +1,4 @@
-// The line of status.
+// The status line.
 #include "ui/qt/status_line.h"
 
 #include <QAccessible>

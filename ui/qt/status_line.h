@@ -1,5 +1,5 @@
 #pragma once
-// A line that tells the user why something has been refused; a screen reader reads it at once.
+// A label for the reason why an input has been refused.
 #include <QLabel>
 #include <string_view>
 
@@ -9,6 +9,7 @@ class StatusLine : public QLabel {
  public:
   explicit StatusLine(QWidget* padre);
 
+  // Replaces the text. A text other than "" is announced by screen readers at once.
   void ShowText(std::u16string_view texto);
 };
 

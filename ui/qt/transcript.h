@@ -1,5 +1,5 @@
 #pragma once
-// The transcript of the table: what has been said and done, read-only, always showing its end.
+// The transcript Text2: a read-only text box that shows its end.
 #include <QPlainTextEdit>
 
 namespace tasca {
@@ -8,16 +8,17 @@ class Transcript : public QPlainTextEdit {
  public:
   explicit Transcript(QWidget* padre);
 
-  // Changes only what differs from what is shown, so that a screen reader reads what is new, and
-  // scrolls to the end.
+  // Replaces the text from the first difference on, so that screen readers announce only what is
+  // new. Scrolls to the end.
   void ShowText(const QString& texto);
-  // Moves the view by whole pages, backwards with -1.
+  // Scrolls one page forwards (1) or backwards (-1).
   void ScrollPages(int paginas);
 
  protected:
   void resizeEvent(QResizeEvent* suceso) override;
 
  private:
+  // Also called after a resize, which would leave the view in the middle.
   void ScrollToEnd();
 };
 
