@@ -1,4 +1,4 @@
-// What a hand costs: the two shuffles against a plain loop, and a whole hand from deal to count.
+// Benchmarks of a hand: the two shuffles, a plain loop of the same draws, and a whole hand.
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -17,11 +17,11 @@ namespace {
 
 constexpr std::uint32_t Semilla = 2024;
 
-// The human passes, wants no mus, and keeps all cards.
+// The human passes, refuses mus and keeps all cards.
 class PassingPort : public Port {
  public:
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
-  // No mus; another match, with the same players.
+  // Answers no to mus, and to other players after a match; yes to the rest.
   bool YesNoBox(const Table& /*t*/, Pregunta sobre, const YesNoQuestion& pregunta) override {
     if (sobre == Pregunta::Mus || sobre == Pregunta::CambiarJugadores) return false;
     return sobre == Pregunta::OtraPartida || pregunta.PorDefecto;

@@ -1,4 +1,4 @@
-// Reading the cast.
+// The parser of the cast's source.
 #include "tools/cast/cast_source.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ class Lector {
   }
 
  private:
-  // Some editors mark a UTF-8 text with a sign at its start that nobody sees.
+  // Strips the byte-order mark that some editors write.
   static std::u16string SinMarca(const std::u16string& linea) {
     return ReplaceAll(linea, u"\uFEFF", u"");
   }
@@ -78,7 +78,8 @@ class Lector {
   Table& t_;
   LineReader archivo_;
   int personaje_ = 0;
-  Array<int, 1, static_cast<int>(EtiquetasMensaje.size())> frases_;  // of this character
+  // The number of phrases of the current character, by category.
+  Array<int, 1, static_cast<int>(EtiquetasMensaje.size())> frases_;
 };
 
 }  // namespace

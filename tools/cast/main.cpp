@@ -1,4 +1,4 @@
-// tasca-cast SOURCE TARGET: writes a character file from the cast as people write it.
+// tasca-cast SOURCE TARGET: compiles the cast's source into a character file.
 #include <exception>
 #include <iostream>
 #include <memory>

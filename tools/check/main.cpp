@@ -1,5 +1,5 @@
-// tasca-check FILE: prints every fault of a character file. Ends with 0 when there is none, with 1
-// when there are, with 2 when the file cannot be read.
+// tasca-check FILE: prints every fault of a character file. Exit status: 0 without faults, 1 with
+// faults, 2 if the file cannot be read.
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -28,7 +28,7 @@ constexpr ProgramOptions Programa{
         "ninguna, con 1 si las hay y con 2 si el archivo no se puede leer.\n",
     .TakesArguments = true};
 
-// One line, whatever stands in the text: no line break of the file's, or of its name's, either.
+// Prints exactly one line: line breaks in the text or in the file's name are replaced.
 void PrintLine(std::ostream& salida, std::u16string_view texto) {
   salida << PlainLine(texto) << '\n';
 }

@@ -1,4 +1,4 @@
-// Claps, one person after the other.
+// The applause: sums the claps of each person.
 #include "tools/synth/applause.h"
 
 #include <algorithm>
@@ -7,16 +7,16 @@ namespace tasca::synth {
 namespace {
 
 struct Person {
-  double Desde;  // seconds
+  double Desde;  // seconds, as Hasta
   double Hasta;
-  double Pausa;    // from clap to clap
-  double Hercios;  // of the hollow between the hands
+  double Pausa;    // seconds from clap to clap
+  double Hercios;  // resonance of the hollow between the hands
   double Caida;
   double Fuerza;
-  double Agudos;  // what the distance leaves of the treble
+  double Agudos;  // cutoff of the low-pass filter that stands for the distance
 };
 
-// Whoever sits further away is softer and duller.
+// A random person. Greater distance lowers the volume and the treble.
 Person Somebody(Rnd& rnd) {
   const double lejos = Between(rnd, 0, 1);
   return {.Desde = Between(rnd, 0.02, 0.55),
@@ -28,7 +28,7 @@ Person Somebody(Rnd& rnd) {
           .Agudos = 12000 - 7000 * lejos};
 }
 
-// The palms meet with a snap, and the air between them sounds for a moment.
+// A short noise burst of the palms plus the resonance of the air between them.
 Clip Clap(Rnd& rnd, const Person& quien) {
   const double hueco = quien.Hercios * Between(rnd, 0.93, 1.07);
   Clip palmas = Noise(10 * quien.Caida, rnd);
@@ -42,7 +42,7 @@ Clip Clap(Rnd& rnd, const Person& quien) {
   return palmas;
 }
 
-// Sets in and slackens over a clap or two, and never quite keeps time.
+// Adds all claps of a person, with irregular pauses and a softer start and end.
 void AddPerson(Clip& onto, const Person& quien, Rnd& rnd) {
   double pausa = quien.Pausa;
   for (double cuando = quien.Desde; cuando < quien.Hasta;) {

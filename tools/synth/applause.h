@@ -1,10 +1,10 @@
 #pragma once
-// A dozen people in a tavern who clap, each with hands, pace and distance of their own.
+// The applause of a dozen people in a tavern. Pitch, tempo and distance differ for each.
 #include "tools/synth/clip.h"
 
 namespace tasca::synth {
 
-// 3.6 s. They begin one after the other, and stop one after the other.
+// 3.6 seconds. The people start and stop at different moments.
 Clip Applause();
 
 }  // namespace tasca::synth

@@ -1,4 +1,4 @@
-// Clicks, knocks and hisses.
+// Synthesis of the cards' sounds.
 #include "tools/synth/cards.h"
 
 #include <array>
@@ -9,7 +9,7 @@ namespace {
 
 constexpr int CartasDeUnaMitad = 20;
 
-// The edge of a card that springs against another.
+// The edge of a card against another.
 Clip Click(Rnd& rnd, double hercios, double caida) {
   Clip click = Noise(8 * caida, rnd);
   BandPass(click, hercios, 0.7);
@@ -18,7 +18,7 @@ Clip Click(Rnd& rnd, double hercios, double caida) {
   return click;
 }
 
-// Card over card, or over cloth.
+// A card that slides over another or over cloth.
 Clip Hiss(Rnd& rnd, double segundos, double hercios) {
   Clip roce = Noise(segundos, rnd);
   BandPass(roce, hercios, 0.9);
@@ -26,7 +26,7 @@ Clip Hiss(Rnd& rnd, double segundos, double hercios) {
   return roce;
 }
 
-// The wood under a blow: a few modes of the table top, soon gone.
+// Adds the damped resonance modes of the table top.
 void AddKnock(Clip& onto, double cuando, double fuerza, double afinado) {
   struct Mode {
     double Hercios, Caida, Fuerza;
@@ -41,7 +41,7 @@ void AddKnock(Clip& onto, double cuando, double fuerza, double afinado) {
   }
 }
 
-// A card flat on the table: the slap of its face, the air pressed out under it, the wood.
+// A card that lands flat on the table: its slap, the air pressed out under it, and the knock.
 void AddSlap(Clip& onto, double cuando, double fuerza, Rnd& rnd) {
   const double afinado = Between(rnd, 0.92, 1.08);
   Add(onto, cuando, Click(rnd, 4200 * afinado, 0.0028), 1.5 * fuerza);
@@ -50,7 +50,7 @@ void AddSlap(Clip& onto, double cuando, double fuerza, Rnd& rnd) {
   AddKnock(onto, cuando, 0.16 * fuerza, afinado);
 }
 
-// The two halves run off the thumbs, ever faster, a card of one and a card of the other.
+// The cards of the two halves fall in turn, at an increasing rate.
 void AddRiffle(Clip& onto, double desde, double dura, Rnd& rnd) {
   for (int carta = 0; carta < 2 * CartasDeUnaMitad; ++carta) {
     const double parte = static_cast<double>(carta) / (2 * CartasDeUnaMitad - 1);
@@ -64,8 +64,8 @@ void AddRiffle(Clip& onto, double desde, double dura, Rnd& rnd) {
   }
 }
 
-// The arched pack falls together: so many cards at once that they flutter, and deeper as the packet
-// that still moves grows thinner and slower.
+// The arched pack collapses: clicks so dense that they flutter, of decreasing rate and pitch as
+// fewer cards are left.
 void AddBridge(Clip& onto, double desde, double dura, Rnd& rnd) {
   for (int carta = 0; carta < 2 * CartasDeUnaMitad; ++carta) {
     const double parte = static_cast<double>(carta) / (2 * CartasDeUnaMitad - 1);
@@ -78,7 +78,7 @@ void AddBridge(Clip& onto, double desde, double dura, Rnd& rnd) {
   Add(onto, desde, Hiss(rnd, dura, 2600), 0.10);
 }
 
-// The edge of the whole pack on the table.
+// The edge of the whole pack tapped on the table.
 void AddTap(Clip& onto, double cuando, double fuerza, Rnd& rnd) {
   Add(onto, cuando, Click(rnd, 1500, 0.0050), 0.9 * fuerza);
   Add(onto, cuando + 0.003, Click(rnd, 2600, 0.0030), 0.4 * fuerza);

@@ -1,16 +1,15 @@
 #pragma once
-// The sounds of cards. A card that strikes something gives a click of a few thousandths of a
-// second, bright and without pitch; the table under it a low dull knock; a card drawn over others
-// hisses.
+// The sounds of cards, from three elements: a click (bright noise of a few milliseconds, a card
+// that strikes something), a knock (low resonances of the table) and a hiss (a card that slides).
 #include "tools/synth/clip.h"
 
 namespace tasca::synth {
 
-// A riffle, the bridge, and the pack squared on the table: 2.2 s.
+// 2.2 seconds: a riffle shuffle, the bridge, and the pack tapped on the table.
 Clip Shuffle();
-// Sixteen cards to four places: 2.5 s.
+// 2.5 seconds: sixteen cards dealt to four places.
 Clip Deal();
-// One card thrown on a wooden table: 0.24 s.
+// 0.24 seconds: one card thrown on a wooden table.
 Clip OneCard();
 
 }  // namespace tasca::synth

@@ -1,4 +1,4 @@
-// The making of samples.
+// Synthesis and processing of clips.
 #include "tools/synth/clip.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ std::size_t Count(double segundos) {
   return static_cast<std::size_t>(std::lround(segundos * Frecuencia));
 }
 
-// A second-order filter: y = b0 x + b1 x' + b2 x'' - a1 y' - a2 y''.
+// A biquad filter: y = b0 x + b1 x' + b2 x'' - a1 y' - a2 y'', coefficients divided by a0.
 struct Biquad {
   double b0, b1, b2, a0, a1, a2;
 
@@ -33,7 +33,7 @@ struct Biquad {
   }
 };
 
-// The two figures that the filters of a frequency and a quality are made of.
+// The intermediate values from which the coefficients for a frequency and a Q are computed.
 struct Pole {
   Pole(double hercios, double calidad)
       : Coseno{std::cos(2 * std::numbers::pi * hercios / Frecuencia)},
@@ -45,7 +45,7 @@ struct Pole {
 
 constexpr double SinResonancia = std::numbers::sqrt2 / 2;
 
-// One echo that returns again and again, a little duller each time.
+// Comb filter with a low-pass in its feedback.
 void AddComb(Clip& onto, const Clip& seco, double periodo, double vuelta) {
   const std::size_t atras = Count(periodo);
   constexpr double apagado = 0.45;
@@ -58,7 +58,7 @@ void AddComb(Clip& onto, const Clip& seco, double periodo, double vuelta) {
   for (std::size_t i = 0; i < eco.size(); ++i) onto[i] += eco[i];
 }
 
-// Spreads echoes in time without colouring them.
+// All-pass filter: increases the density of echoes.
 void Diffuse(Clip& clip, double periodo) {
   const std::size_t atras = Count(periodo);
   constexpr double g = 0.6;
@@ -70,6 +70,7 @@ void Diffuse(Clip& clip, double periodo) {
   }
 }
 
+// The RMS of the loudest tenth of a second.
 double LoudestTenth(const Clip& clip) {
   const std::size_t ancho = std::min(Count(0.1), clip.size());
   double suma = 0;
@@ -82,8 +83,8 @@ double LoudestTenth(const Clip& clip) {
   return std::sqrt(mayor / static_cast<double>(Count(0.1)));
 }
 
-// Straight up to the knee, then ever flatter, below the peak allowed.
-double RoundedOff(double muestra) {
+// Soft clipping: linear up to the knee, then approaching the maximum.
+double SoftClipped(double muestra) {
   constexpr double rodilla = 0.5;
   constexpr double techo = 0.8;
   const double alto = std::abs(muestra);
@@ -184,7 +185,7 @@ void PutInRoom(Clip& clip, double caida, double fuerza) {
 }
 
 void Finish(Clip& clip) {
-  constexpr double fuerte = 0.1;  // 20 dB below the highest sample there can be
+  constexpr double fuerte = 0.1;  // -20 dB relative to full scale
   HighPass(clip, 60);
   const double factor = fuerte / LoudestTenth(clip);
   const std::size_t entrada = Count(0.001);
@@ -193,7 +194,7 @@ void Finish(Clip& clip) {
     const auto desdeElFinal = static_cast<double>(clip.size() - 1 - i);
     const double borde = std::min({1.0, static_cast<double>(i) / static_cast<double>(entrada),
                                    desdeElFinal / static_cast<double>(salida)});
-    clip[i] = borde * RoundedOff(factor * clip[i]);
+    clip[i] = borde * SoftClipped(factor * clip[i]);
   }
 }
 

@@ -1,43 +1,47 @@
 #pragma once
-// Sounds as rows of samples, and what they are made of: noise, ringing bodies, filters, a room.
+// Mono audio clips and the means of their synthesis: noise, resonances, filters, envelopes, reverb.
 #include <vector>
 
 #include "base/rnd.h"
 
 namespace tasca::synth {
 
-inline constexpr double Frecuencia = 44100;  // samples a second
+inline constexpr double Frecuencia = 44100;  // sample rate in hertz
 
-// One side, samples around 0, any loudness until it is finished.
+// Mono samples. The amplitude is arbitrary until Finish, which normalises it.
 using Clip = std::vector<double>;
 
+// A clip of zeros.
 Clip Silence(double segundos);
+// White noise. Draws once for every sample.
 Clip Noise(double segundos, Rnd& rnd);
-// A body struck at the start: a sine of `hercios` that has fallen to a third after `caida` seconds.
+// A damped sine of `hercios` with the time constant `caida` in seconds (decay to 1/e).
 Clip Ring(double hercios, double caida);
 
-// A uniform draw between the two.
+// A uniform draw in [desde, hasta).
 double Between(Rnd& rnd, double desde, double hasta);
 
-// Adds `parte` from the moment `cuando` on; what stands out at the end is cut off.
+// Mixes `parte`, multiplied by `fuerza`, into `onto` from `cuando` seconds on. Truncates it at the
+// end of `onto`.
 void Add(Clip& onto, double cuando, const Clip& parte, double fuerza);
 
-// Second-order filters; `calidad` is the centre over the width of the band.
+// Second-order filters. `calidad` is the Q factor: centre frequency over bandwidth.
 void BandPass(Clip& clip, double hercios, double calidad);
 void LowPass(Clip& clip, double hercios);
 void HighPass(Clip& clip, double hercios);
 
-// Rises in a straight line for `subida` seconds, then falls to a third every `caida` seconds.
+// Envelope: a linear attack of `subida` seconds, then an exponential decay with the time constant
+// `caida` in seconds.
 void Strike(Clip& clip, double subida, double caida);
-// Swells and dies away like half a wave over the whole length.
+// Envelope: a squared half sine over the whole length.
 void Swell(Clip& clip);
 
-// What a tavern adds: the first echoes of table, walls and ceiling, and a short dull tail that
-// falls by 60 dB in `caida` seconds. `fuerza` is that of the tail.
+// Adds the reverb of a tavern: early reflections, and a dull tail that falls by 60 dB in `caida`
+// seconds. `fuerza` is the level of the tail.
 void PutInRoom(Clip& clip, double caida, double fuerza);
 
-// Makes the loudest tenth of a second as loud as in every other clip, rounds off peaks, and lets
-// both ends come out of silence.
+// Normalises the loudness of the loudest tenth of a second, limits peaks softly, and fades both
+// ends.
 void Finish(Clip& clip);
 
 }  // namespace tasca::synth

@@ -1,4 +1,4 @@
-// The two file formats.
+// WAV and MP3 encoding.
 #include "tools/synth/files.h"
 
 #include <lame/lame.h>
@@ -24,7 +24,7 @@ Samples Rounded(const Clip& clip) {
   return muestras;
 }
 
-// Numbers in these files stand with their lowest byte first.
+// Appends a number in little-endian order.
 void AddNumber(std::string& bytes, std::uint32_t numero, int cuantos) {
   for (int i = 0; i < cuantos; ++i) bytes += static_cast<char>(numero >> (8 * i) & 0xFFU);
 }
@@ -55,9 +55,9 @@ std::string ToWav(const Clip& clip) {
   std::string bytes = "RIFF";
   AddNumber(bytes, cabecera + largo, 4);
   bytes += "WAVEfmt ";
-  AddNumber(bytes, 16, 4);  // length of what describes the format
-  AddNumber(bytes, 1, 2);   // plain samples
-  AddNumber(bytes, 1, 2);   // one side
+  AddNumber(bytes, 16, 4);  // size of the format chunk
+  AddNumber(bytes, 1, 2);   // PCM
+  AddNumber(bytes, 1, 2);   // channels
   AddNumber(bytes, hercios, 4);
   AddNumber(bytes, 2 * hercios, 4);  // bytes a second
   AddNumber(bytes, 2, 2);            // bytes a sample
@@ -80,7 +80,7 @@ std::string ToMp3(const Clip& clip) {
   if (cuerpo < 0) throw std::runtime_error{"the MP3 encoder failed"};
   const int final = lame_encode_flush(codificador.get(), bytes.data() + cuerpo, hueco - cuerpo);
   std::string archivo{bytes.begin(), bytes.begin() + cuerpo + final};
-  // The first frame holds no sound: it tells players how much silence encoding has added.
+  // The LAME tag replaces the first frame. Players read the encoder's padding from it.
   std::vector<unsigned char> etiqueta(archivo.size());
   const std::size_t largo =
       lame_get_lametag_frame(codificador.get(), etiqueta.data(), etiqueta.size());

@@ -1,4 +1,4 @@
-// make-sounds: writes the four sounds of the game into a folder, always the same.
+// make-sounds: writes the four sounds of the game into a folder. Its output is reproducible.
 #include <exception>
 #include <filesystem>
 #include <fstream>
