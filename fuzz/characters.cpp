@@ -1,5 +1,5 @@
-// The bytes as a character file, to each of its three readers: the game, the editor, and the
-// start-up dialog, which is then accepted with three companions drawn at random.
+// Fuzzes the three readers of the character file: the game, the editor and the start-up dialog. The
+// dialog is then accepted with three companions drawn at random.
 #include "base/errors.h"
 #include "characters/character_file.h"
 #include "fuzz/support/answers.h"
@@ -11,7 +11,7 @@
 namespace tasca::fuzz {
 namespace {
 
-// A file that cannot be read to its end is a fine outcome.
+// A RunTimeError is a valid outcome.
 template <class Reader>
 void Try(const Reader& reader) {
   try {
@@ -21,7 +21,7 @@ void Try(const Reader& reader) {
   }
 }
 
-void LookAtTheSeats(const Table& t) {
+void CheckSeats(const Table& t) {
   const auto& characters = t.PersonajeAsiento;
   for (int seat = 2; seat <= 4; ++seat) {
     const int character = characters[seat - 1];
@@ -32,21 +32,21 @@ void LookAtTheSeats(const Table& t) {
           "nobody sits at two seats");
 }
 
-void TryTheDialog(Table& t) {
+void TryDialog(Table& t) {
   DlgInicio d;
   Rnd rnd;
   FixedAnswers port;
   Game g{t, rnd, port};
   Form_Load(d, g);
   Require(CbOK_Click(d, g), "the dialog accepts a draw of three companions");
-  LookAtTheSeats(t);
+  CheckSeats(t);
 }
 
 }  // namespace
 
 void Run(std::string_view input) {
   static const Folder folder;
-  static Table t;  // only written: what an earlier run has left in it is never looked at
+  static Table t;  // Fields left by an earlier run are not read.
   t.Carpeta = folder.Path();
   folder.Write("Jugadores.dat", input);
   Try([] { LeerPersonajes(t); });
@@ -54,7 +54,7 @@ void Run(std::string_view input) {
     const int count = LeerPersonajesSinMayusculas(t);
     Require(count >= 0 && count <= MaximoPersonajes, "no more than a hundred characters");
   });
-  Try([] { TryTheDialog(t); });
+  Try([] { TryDialog(t); });
 }
 
 }  // namespace tasca::fuzz

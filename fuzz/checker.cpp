@@ -1,5 +1,5 @@
-// The bytes as a character file that is looked over: the checker must say where each of the three
-// readers stops, and how many players there are to choose from.
+// Fuzzes the checker of character files: it must report the line where each of the three readers
+// stops, and the number of players on offer.
 #include "characters/character_file.h"
 #include "characters/check.h"
 #include "fuzz/support/answers.h"
@@ -16,7 +16,7 @@ using test::DiceEn;
 using test::DondeDice;
 using test::DondeSeDetiene;
 
-void LookAtTheDialog(Table& t, const Revision& revision) {
+void CheckDialog(Table& t, const Revision& revision) {
   DlgInicio d;
   Rnd rnd;
   FixedAnswers port;
@@ -32,7 +32,7 @@ void LookAtTheDialog(Table& t, const Revision& revision) {
 
 void Run(std::string_view input) {
   static const Folder folder;
-  static Table t;  // only written: what an earlier run has left in it is never looked at
+  static Table t;  // Fields left by an earlier run are not read.
   t.Carpeta = folder.Path();
   folder.Write("Jugadores.dat", input);
   const Revision revision = RevisarPersonajes(ArchivoPersonajes(t));
@@ -41,7 +41,7 @@ void Run(std::string_view input) {
   Require(
       DondeDice(revision, u"el editor") == DondeSeDetiene([] { LeerPersonajesSinMayusculas(t); }),
       "the checker stops where the editor stops");
-  LookAtTheDialog(t, revision);
+  CheckDialog(t, revision);
 }
 
 }  // namespace tasca::fuzz

@@ -1,5 +1,5 @@
-// The bytes as the choices of a player who may do anything, in a game of the rules alone: whatever
-// is done, the table stays in order, and every game ends well or in the error that was asked for.
+// Fuzzes whole games of the rules, without a face: the bytes are the player's choices. The table's
+// invariants must hold, and no game may throw except the error that the plan provokes.
 #include <array>
 #include <memory>
 
@@ -23,7 +23,8 @@ namespace {
 
 using test::Provocation;
 
-// How the game is to go, out of one byte. Most games are short: what a long one costs is shuffling.
+// The settings of a game, from one byte. Most games have one hand: in longer ones the shuffles take
+// most of the time.
 struct Plan {
   Provocation Provoked;
   int Hands;
@@ -37,7 +38,7 @@ Plan PlanOf(int byte) {
   return plan;
 }
 
-// The world of a game in which the choices answer.
+// A port whose answers come from the choices.
 class Answers : public Port {
  public:
   explicit Answers(test::RandomChoices& choices) : choices_{choices} {}
@@ -67,7 +68,7 @@ class Answers : public Port {
   TimeOfDay clock_;
 };
 
-// Through the start-up dialog to the table.
+// Accepts the start-up dialog and opens the main window.
 void Start(Game& g, const test::StartChoice& start) {
   DlgInicio d;
   Form_Load(d, g);
@@ -87,7 +88,8 @@ void Move(Game& g, const test::MoveChoice& move) {
   Text1_KeyDown(g, code, move.Shift);
 }
 
-// The table in its folder. It is too big to be made for every game.
+// A blank table with its folder set. Reuses one object: constructing a Table for every game is
+// slow.
 Table& NewTable(const Folder& folder) {
   static const auto blank = std::make_unique<const Table>();
   static const auto t = std::make_unique<Table>();
@@ -96,8 +98,8 @@ Table& NewTable(const Folder& folder) {
   return *t;
 }
 
-// Plays until the hands are played, the player leaves, or the bytes end and no question is open.
-// Looks at the table whenever it waits for a key.
+// Plays until the hands are played, the player leaves, or the bytes end while no question is open.
+// Checks the table whenever it waits for a key.
 void Play(Game& g, test::RandomChoices& choices, Answers& answers, const Bytes& bytes, int hands) {
   test::Watch watch;
   const test::StartChoice start = choices.Start();

@@ -1,5 +1,6 @@
-// The bytes as a character file that is read, written, read and written: both writings are the same
-// and say the same as the first reading. The game reads what was written as the editor does.
+// Fuzzes the round trip of the character file: read, write, read, write. Both written files must be
+// equal and preserve the characters read first. The game must read the written file as the editor
+// does.
 #include <algorithm>
 #include <optional>
 #include <vector>
@@ -13,14 +14,14 @@
 namespace tasca::fuzz {
 namespace {
 
-// A table and how many of its characters may be something else than blank.
+// A table, and the number of its characters that may not be blank.
 struct Reader {
   Table t;
   int used = 0;
 };
 
-// Kept: three characters of a propensity are read and at least three digits written, after the
-// sign; so a negative one loses digits whenever it is read again.
+// Kept: a propensity is written with its sign and at least three digits, but only three characters
+// of it are read, so that a negative one loses a digit at every reading.
 void LeaveOutNegatives(Table& t, int count) {
   for (int number = 1; number <= count; ++number) {
     Integer& ordaguero = t.Personajes[number].Ordaguero;
@@ -28,7 +29,7 @@ void LeaveOutNegatives(Table& t, int count) {
   }
 }
 
-// The phrases of one kind that can be said and written, in their order.
+// The phrases of a category that are not blank and contain no NUL, in order.
 std::vector<std::u16string_view> PhrasesOf(const Table& t, int number, int category) {
   std::vector<std::u16string_view> phrases;
   for (const auto& phrase : t.Mensajes[number][category]) {
@@ -50,8 +51,8 @@ void CompareCharacter(const Table& t, const Table& again, int number) {
   }
 }
 
-// Making all hundred blank again would take half of the time.
-void Forget(Reader& reader) {
+// Blanks the characters in use. Blanking all hundred would take half of the running time.
+void Reset(Reader& reader) {
   static const Module1State nobody;
   for (int number = 1; number <= reader.used; ++number) {
     reader.t.Personajes[number] = nobody.Personajes[number];
@@ -60,7 +61,7 @@ void Forget(Reader& reader) {
 }
 
 int Read(Reader& reader, const Folder& folder, std::string_view bytes) {
-  Forget(reader);
+  Reset(reader);
   // Every character starts with a marker.
   const auto marks = static_cast<int>(std::count(bytes.begin(), bytes.end(), '>'));
   reader.used = std::min(marks, MaximoPersonajes);
@@ -69,7 +70,7 @@ int Read(Reader& reader, const Folder& folder, std::string_view bytes) {
   return LeerPersonajesSinMayusculas(reader.t);
 }
 
-// Nothing for a file that cannot be read to its end.
+// Nothing if reading throws RunTimeError.
 std::optional<int> TryToRead(Reader& reader, const Folder& folder, std::string_view bytes) {
   try {
     return Read(reader, folder, bytes);
@@ -91,8 +92,8 @@ void Run(std::string_view input) {
   Require(Read(second, folder, written) == *count, "as many characters come back");
   for (int number = 1; number <= *count; ++number) CompareCharacter(first.t, second.t, number);
   Require(TextoPersonajes(second.t, *count) == written, "the second writing is the first");
-  // The game, which knows fewer tags than the editor, knows all that are written.
-  Forget(second);
+  // The game matches fewer spellings of the tags than the editor, but all that are written.
+  Reset(second);
   LeerPersonajes(second.t);
   Require(TextoPersonajes(second.t, *count) == written,
           "the game reads what the editor has written");

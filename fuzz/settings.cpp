@@ -1,5 +1,5 @@
-// The bytes as a name, up to the first line end, and as the settings file after it: read for the
-// match and for the name, then saved with the name.
+// Fuzzes the settings file: the first line of the bytes is a name, the rest the file. The file is
+// read for the match and for the name, then saved with the name.
 #include "startup/settings.h"
 
 #include <vector>
@@ -15,9 +15,9 @@
 namespace tasca::fuzz {
 namespace {
 
-constexpr std::size_t Parameters = 3;  // lines; the name comes after them
+constexpr std::size_t Parameters = 3;  // lines before that of the name
 
-// Every line with its end.
+// The lines, including their line ends.
 std::vector<std::string_view> LinesOf(std::string_view bytes) {
   std::vector<std::string_view> lines;
   while (!bytes.empty()) {
@@ -28,7 +28,7 @@ std::vector<std::string_view> LinesOf(std::string_view bytes) {
   return lines;
 }
 
-// Whether an operation runs to its end.
+// Whether an operation returns without a RunTimeError.
 template <class Operation>
 bool Ends(const Operation& operation) {
   try {
@@ -39,7 +39,7 @@ bool Ends(const Operation& operation) {
   }
 }
 
-void LookAtTheMatch(Table& t, std::size_t lines) {
+void CheckMatch(Table& t, std::size_t lines) {
   t.PiedrasJuego = 35;
   t.JuegosVaca = 3;
   t.VacasPartida = 3;
@@ -75,7 +75,7 @@ void Run(std::string_view input) {
   const std::vector<std::string_view> lines = LinesOf(bytes.Rest());
   const bool hasName = lines.size() > Parameters;
 
-  LookAtTheMatch(t, lines.size());
+  CheckMatch(t, lines.size());
   Require(Ends([&] { LeerIni(t); }) == hasName, "four lines are enough for the name");
   Require(Ends([&] { GuardarIni(t, name); }) == hasName, "four lines are enough to save it");
   if (!hasName) return Require(folder.Read("mus.ini") == bytes.Rest(), "the file is left alone");

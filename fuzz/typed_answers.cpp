@@ -1,5 +1,5 @@
-// What a player types: numbers, cards to throw away, amounts to bet. The first byte chooses the
-// mano and the button pressed in every dialog, the second how the rest is made into text.
+// Fuzzes typed answers: numbers, cards to discard, amounts to bet. The first byte selects the mano
+// and the button pressed in every dialog, the second the encoding of the rest.
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -20,7 +20,7 @@
 namespace tasca::fuzz {
 namespace {
 
-// Nothing when the number does not fit.
+// Nothing if the number overflows.
 std::optional<int> Rounded(double number) {
   try {
     return CInt(number);
@@ -29,7 +29,7 @@ std::optional<int> Rounded(double number) {
   }
 }
 
-void LookAtTheNumber(const std::u16string& text) {
+void CheckNumber(const std::u16string& text) {
   constexpr std::size_t Digits = 9;
   const double number = LeadingNumber(text);
   Require(std::isfinite(number), "a number is finite");
@@ -45,7 +45,7 @@ void LookAtTheNumber(const std::u16string& text) {
   if (rounded) Require(LeadingNumber(ToText(*rounded)) == *rounded, "a number comes back");
 }
 
-void LookAtThePropensity(const std::u16string& text) {
+void CheckPropensity(const std::u16string& text) {
   try {
     ValorOrdaguero(text);
   } catch (const RunTimeError&) {
@@ -71,7 +71,7 @@ void RequireWholeHands(const Table& t) {
   }
 }
 
-void ThrowAway(Game& g, std::u16string_view text) {
+void Discard(Game& g, std::u16string_view text) {
   g.t.Text2.clear();
   Descartar(g);
   RequireWholeHands(g.t);
@@ -81,15 +81,15 @@ void ThrowAway(Game& g, std::u16string_view text) {
           "the player changes the cards that have been named");
 }
 
-// A pass for every line of the text, and as many as run the deck out.
-void ThrowAwayAgainAndAgain(Game& g, FixedAnswers& port, const std::u16string& text) {
+// Eight discards, one for each line of the text: enough to exhaust the deck.
+void DiscardRepeatedly(Game& g, FixedAnswers& port, const std::u16string& text) {
   constexpr int Passes = 8;
   std::u16string_view rest = text;
   for (int pass = 0; pass < Passes; ++pass) {
     const std::u16string_view line = Before(rest, u'\n');
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
     port.Text = line;
-    ThrowAway(g, line);
+    Discard(g, line);
   }
   port.Text = text;
 }
@@ -101,7 +101,7 @@ void Bet(Game& g, void (*open)(Game&), void (*answer)(Game&)) {
     if (g.t.SeguirLance != 0) answer(g);
     Require(g.t.SeguirLance == 0, "an answer settles the bet");
   } catch (const RunTimeError&) {
-    // An amount that overflows: alone, or with what stood before.
+    // The amount overflows, alone or added to the bet before it.
     g.t.SeguirLance = 0;
   }
 }
@@ -121,11 +121,11 @@ void Run(std::string_view input) {
   port.Button = bytes.Below(4);
   OrdenarDesde(t, port.Button + 1);
   const std::u16string text = TextOf(bytes);
-  LookAtTheNumber(text);
-  LookAtThePropensity(text);
+  CheckNumber(text);
+  CheckPropensity(text);
   Rnd rnd;
   Game g{t, rnd, port};
-  ThrowAwayAgainAndAgain(g, port, text);
+  DiscardRepeatedly(g, port, text);
   Bet(g, LanceGrande, EnviteGrande);
   Bet(g, LancePunto, EnvitePunto);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// A player whose answers are fixed before the questions come.
+// A port with fixed answers.
 #include <algorithm>
 #include <string>
 
@@ -8,10 +8,11 @@
 
 namespace tasca::fuzz {
 
+// Answers yes to every Yes/No box and ignores sounds.
 class FixedAnswers : public Port {
  public:
-  std::u16string Text;  // for every input box
-  int Button = 0;       // for the bidding dialog, when it offers that one; else the last it offers
+  std::u16string Text;  // answer to every input box
+  int Button = 0;       // pressed in the bidding dialog if visible, otherwise button 1
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
   bool YesNoBox(const Table& /*t*/, Pregunta /*sobre*/,

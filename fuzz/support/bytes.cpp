@@ -1,4 +1,4 @@
-// Taking bytes.
+// Consumption of the fuzzer's bytes.
 #include "fuzz/support/bytes.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #pragma once
-// The fuzzer's bytes, taken from the front.
+// Consumes the fuzzer's bytes from the front.
 #include <string>
 #include <string_view>
 
@@ -12,9 +12,10 @@ class Bytes {
   bool Empty() const { return rest_.empty(); }
   std::string_view Rest() const { return rest_; }
 
-  // A whole number from 0 to n - 1, of one byte or of two for n above 256; 0 when none are left.
+  // An integer from 0 to n - 1. Consumes one byte, or two if n is above 256. Missing bytes count as
+  // 0.
   int Below(int n);
-  // The bytes up to a line feed, which is taken too.
+  // The bytes up to a line feed. Consumes the line feed too.
   std::string_view Line();
 
  private:
@@ -23,7 +24,7 @@ class Bytes {
   std::string_view rest_;
 };
 
-// Two bytes a character: any text at all, halves of pairs included.
+// Decodes UTF-16LE without validation: the text may contain unpaired surrogates.
 std::u16string AnyText(std::string_view bytes);
 
 }  // namespace tasca::fuzz

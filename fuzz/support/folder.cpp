@@ -1,4 +1,5 @@
-// Making the folder and its files, with as few system calls as a run can do with.
+// The temporary folder and its files. Each run rewrites the same file, which takes few system
+// calls.
 #include "fuzz/support/folder.h"
 
 #include <cstdlib>

@@ -1,12 +1,13 @@
 #pragma once
-// A folder of this process for the files that the game reads, made where TMPDIR says and removed at
-// the end.
+// A temporary folder for the files that the game reads.
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace tasca::fuzz {
 
+// Creates a folder below TMPDIR and removes it with its files at the end. Every operation ends the
+// program if it fails.
 class Folder {
  public:
   Folder();
@@ -16,7 +17,7 @@ class Folder {
 
   const std::filesystem::path& Path() const { return path_; }
 
-  // Writes a file of the folder, byte for byte; reads one whole.
+  // Writes or reads a whole file of the folder.
   void Write(std::string_view name, std::string_view bytes) const;
   std::string Read(std::string_view name) const;
 

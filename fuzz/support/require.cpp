@@ -1,4 +1,4 @@
-// Ending the program in a way that the fuzzer takes for a crash.
+// Aborts, which the fuzzer reports as a crash.
 #include "fuzz/support/require.h"
 
 #include <cstdlib>

@@ -1,10 +1,10 @@
 #pragma once
-// What a target demands of the game.
+// The assertion of the fuzzing targets.
 #include <string_view>
 
 namespace tasca::fuzz {
 
-// Tells `what` and ends the program when something does not hold: the input is a finding.
+// Prints `what` and aborts if `holds` is false, so that the fuzzer reports the input as a finding.
 void Require(bool holds, std::string_view what);
 
 }  // namespace tasca::fuzz

@@ -1,10 +1,10 @@
 #pragma once
-// What every target defines: one run, with the bytes that the fuzzer has thought of. A run must not
-// depend on the runs before it.
+// The function that every fuzzing target defines.
 #include <string_view>
 
 namespace tasca::fuzz {
 
+// Runs the target once with the fuzzer's bytes. Must not depend on earlier runs.
 void Run(std::string_view input);
 
 }  // namespace tasca::fuzz
