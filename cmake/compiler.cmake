@@ -1,34 +1,34 @@
-# Flags that every target of ours is built with.
+# Compiler and linker flags of all targets.
 add_compile_options(-Wall -Wextra -Wconversion -Wshadow -Wpedantic -Werror)
 
-# Draws are single-precision arithmetic, each operation rounded on its own.
+# No fused multiply-add: arithmetic on draws must give the same result on every machine.
 add_compile_options(-ffp-contract=off)
 
-# Array and container bounds of the standard library are checked in every build; it costs nothing here.
+# Bounds checks of the standard library's containers in every build. Their cost is not measurable
+# here.
 add_compile_definitions(_GLIBCXX_ASSERTIONS)
 
-# What players run: a fault of memory ends the program instead of being used against them. The
-# sanitizers look for the same faults themselves, and coverage wants the plain code.
+# Hardening against memory errors, in the builds without sanitizers or coverage.
 if(NOT TASCA_SANITIZE AND NOT TASCA_COVERAGE AND NOT TASCA_FUZZ)
   set(TASCA_HARDENED ON)
   include(CheckCXXCompilerFlag)
   include(CheckPIESupported)
   check_pie_supported()
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-  # Keeps functions of the same source inlinable in position-independent code.
+  # -fno-semantic-interposition keeps functions inlinable in position-independent code.
   add_compile_options(-fno-semantic-interposition -fstack-protector-strong)
   add_link_options(-Wl,-z,relro -Wl,-z,now)
-  check_cxx_compiler_flag(-fcf-protection TASCA_HAS_CF_PROTECTION)  # x86 alone has it
+  check_cxx_compiler_flag(-fcf-protection TASCA_HAS_CF_PROTECTION)  # x86 only
   if(TASCA_HAS_CF_PROTECTION)
     add_compile_options(-fcf-protection)
   endif()
-  # Wants an optimised build.
+  # _FORTIFY_SOURCE requires optimisation.
   add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=3>)
 endif()
 
 if(TASCA_SANITIZE)
   set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
-  # Only clang sees a value that does not survive a conversion, such as a wrapped 16-bit number.
+  # Only clang detects implicit conversions that change a value, such as a truncation to 16 bits.
   if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
     list(APPEND sanitizers -fsanitize=implicit-conversion
       -fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/cmake/system_headers.ignore)
@@ -38,13 +38,13 @@ if(TASCA_SANITIZE)
 endif()
 
 if(TASCA_COVERAGE)
-  # Several tests at once count into the same files.
+  # Atomic, because several tests run at once and share the counters' files.
   add_compile_options(--coverage -fprofile-update=atomic)
   add_link_options(--coverage)
 endif()
 
-# The fuzzer sees which way our code takes; every fault that a sanitizer knows ends the run. To see what
-# is compared with what would cost a third of the speed, and the words of the files are given to it.
+# Coverage-guided fuzzing; any finding of a sanitizer ends the run. Comparison tracing would cost a
+# third of the speed; the dictionary fuzz/words replaces it.
 if(TASCA_FUZZ)
   add_compile_options(
     -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow,implicit-conversion
@@ -55,5 +55,5 @@ if(TASCA_FUZZ)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# All programs in one folder: it is the program's folder, where the game's files lie.
+# All programs in one folder, beside the game's files.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)

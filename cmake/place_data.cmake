@@ -1,9 +1,9 @@
-# Puts the game's files beside the programs. What the player has changed there (the characters, by
-# the editor; the name, in "mus.ini") is left as it is: it differs from what was put there last, of
-# which PLACED keeps a copy.
-# cmake -DFROM=<data> -DTO=<the programs' folder> -DPLACED=<a folder of its own> -P place_data.cmake
+# Copies the game's files beside the programs, except those that the player has changed there (the
+# characters, with the editor; the name, in "mus.ini"). A file counts as changed if it differs from
+# the copy that PLACED keeps of the file last copied.
+# cmake -DFROM=<data> -DTO=<programs' folder> -DPLACED=<folder of the copies> -P place_data.cmake
 
-# Sets `same` to whether both files exist and hold the same.
+# Sets `same` to whether both files exist and have the same content.
 function(compare_files one other same)
   execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${one} ${other}
     RESULT_VARIABLE result OUTPUT_QUIET ERROR_QUIET)

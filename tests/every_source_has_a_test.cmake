@@ -1,4 +1,4 @@
-# Fails when a source of the rules has no test file of its own.
+# Fails if a source of the rules has no test file.
 # cmake -DROOT=<the project's folder> -P every_source_has_a_test.cmake
 set(folders base cards characters count lances match mus scene score sound startup
   table)
