@@ -2,10 +2,6 @@
 // the old file.
 #include "base/replace_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <optional>
 #include <string>
@@ -30,19 +26,19 @@ std::optional<fs::path> TrueFile(const fs::path& archivo) {
   return std::nullopt;
 }
 
-std::optional<struct stat> StatusOf(const fs::path& archivo) {
-  struct stat datos {};
-  if (::stat(archivo.c_str(), &datos) == 0) return datos;
-  CheckWritten(errno == ENOENT, archivo);
-  return std::nullopt;
+// The existing file; nothing if there is none. Throws WriteError on any other failure.
+std::optional<FileStatus> Existing(const fs::path& archivo) {
+  std::optional<FileStatus> datos = StatusOf(archivo);
+  CheckWritten(datos || errno == ENOENT, archivo);
+  return datos;
 }
 
 }  // namespace
 
 void ReplaceFile(const fs::path& archivo, std::string_view contenido) {
   const fs::path destino = TrueFile(archivo).value_or(archivo);
-  const std::optional<struct stat> anterior = StatusOf(destino);
-  CheckWritten(::access(destino.c_str(), W_OK) == 0 || errno == ENOENT, archivo);
+  const std::optional<FileStatus> anterior = Existing(destino);
+  CheckWritten(MayWrite(destino) || errno == ENOENT, archivo);
   TemporaryFile nuevo{destino};
   nuevo.Write(contenido, anterior);
   nuevo.TakeItsPlace();
@@ -55,8 +51,8 @@ void BackUpFile(const fs::path& archivo, const fs::path& copia) {
   const bool esArchivo = fs::is_regular_file(*origen, error);
   if (!esArchivo) throw WriteError{archivo, error ? error.value() : EISDIR};
   if (origen == TrueFile(copia)) throw WriteError{copia, ELOOP};
-  const Descriptor abierto{*origen, O_RDONLY};
-  const std::optional<struct stat> datos = abierto.Status();
+  const Descriptor abierto{*origen, OpenMode::Read};
+  const std::optional<FileStatus> datos = abierto.Status();
   const std::optional<std::string> contenido = abierto.Read();
   if (!datos || !contenido)
     throw WriteError{copia, Join(u"no se puede leer ", PathText(archivo), u".")};

@@ -1,9 +1,6 @@
 // Creates, locks and renames a temporary file, and removes the leftovers of killed saves.
 #include "base/temporary_file.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <utility>
@@ -27,14 +24,14 @@ bool IsTemporaryOf(const std::string& destino, const std::string& nombre) {
 }
 
 // Between open() and flock() the file may have been renamed and the name given to another file:
-// compares the inodes before unlinking. O_NONBLOCK: opening a FIFO must not block.
+// compares the inodes before unlinking.
 void RemoveIfLeftover(const fs::path& ruta) {
-  const Descriptor archivo{ruta, O_RDONLY | O_NOFOLLOW | O_NONBLOCK};
+  const Descriptor archivo{ruta, OpenMode::ReadItself};
   if (!archivo.IsOpen() || !archivo.Lock()) return;
-  const std::optional<struct stat> abierto = archivo.Status();
-  struct stat deEseNombre {};
-  if (!abierto || ::lstat(ruta.c_str(), &deEseNombre) != 0) return;
-  if (abierto->st_ino == deEseNombre.st_ino && S_ISREG(abierto->st_mode)) ::unlink(ruta.c_str());
+  const std::optional<FileStatus> abierto = archivo.Status();
+  if (!abierto) return;
+  const std::optional<FileStatus> deEseNombre = StatusOfLink(ruta);
+  if (deEseNombre && abierto->Inode == deEseNombre->Inode && abierto->IsRegular) Unlink(ruta);
 }
 
 fs::path FolderOf(const fs::path& archivo) {
@@ -63,13 +60,13 @@ TemporaryFile::TemporaryFile(fs::path destino) : destino_{std::move(destino)} {
 }
 
 TemporaryFile::~TemporaryFile() {
-  if (!colocado_) ::unlink(ruta_.c_str());
+  if (!colocado_) Unlink(ruta_);
 }
 
 void TemporaryFile::Write(std::string_view contenido,
-                          const std::optional<struct stat>& anterior) const {
-  constexpr mode_t PermisosNormales = 0644;
-  const mode_t permisos = anterior ? anterior->st_mode & 07777U : PermisosNormales;
+                          const std::optional<FileStatus>& anterior) const {
+  constexpr unsigned PermisosNormales = 0644;
+  const unsigned permisos = anterior ? anterior->Permissions : PermisosNormales;
   CheckWritten((!anterior || GiveTo(*anterior)) && archivo_->SetPermissions(permisos) &&
                    archivo_->Write(contenido) && archivo_->Flush(),
                destino_);
@@ -81,25 +78,24 @@ void TemporaryFile::TakeItsPlace() {
     throw WriteError{destino_, errno};
   }
   colocado_ = true;
-  const Descriptor carpeta{FolderOf(destino_), O_RDONLY | O_DIRECTORY};
+  const Descriptor carpeta{FolderOf(destino_), OpenMode::Folder};
   CheckWritten(carpeta.IsOpen() && carpeta.Flush(), destino_);
 }
 
 // False if another save has locked or removed the new file as a leftover.
 bool TemporaryFile::IsMine() const {
   if (!archivo_->Lock() && errno == EWOULDBLOCK) return false;
-  const std::optional<struct stat> datos = archivo_->Status();
-  return !datos || datos->st_nlink > 0;
+  const std::optional<FileStatus> datos = archivo_->Status();
+  return !datos || datos->Links > 0;
 }
 
 // Restores the owner and group of the old file. Only root may change the owner; an ordinary user
 // gets EPERM. Then the user becomes the owner, and the group is kept if the user belongs to it. The
 // permissions are kept in every case.
-bool TemporaryFile::GiveTo(const struct stat& anterior) const {
-  constexpr auto ElMismo = static_cast<uid_t>(-1);
-  if (archivo_->SetOwner(anterior.st_uid, anterior.st_gid)) return true;
+bool TemporaryFile::GiveTo(const FileStatus& anterior) const {
+  if (archivo_->SetOwner(anterior.Owner, anterior.Group)) return true;
   if (errno != EPERM) return false;
-  return archivo_->SetOwner(ElMismo, anterior.st_gid) || errno == EPERM;
+  return archivo_->SetGroup(anterior.Group) || errno == EPERM;
 }
 
 }  // namespace tasca

@@ -10,8 +10,6 @@
 // Between creation and flock another save may take the new file for a leftover. A writer that fails
 // to get the lock, or whose file is already unlinked, creates another file.
 // On a file system without flock saves work, but leftovers stay.
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -34,14 +32,14 @@ class TemporaryFile {
   // Writes and flushes the file. It gets the permissions of the file described by `anterior`, and
   // its owner and group as far as the user may change them; without `anterior`, mode 0644. Throws
   // WriteError on failure.
-  void Write(std::string_view contenido, const std::optional<struct stat>& anterior) const;
+  void Write(std::string_view contenido, const std::optional<FileStatus>& anterior) const;
 
   // Renames the file over `destino` and flushes the folder. Throws WriteError on failure.
   void TakeItsPlace();
 
  private:
   bool IsMine() const;
-  bool GiveTo(const struct stat& anterior) const;
+  bool GiveTo(const FileStatus& anterior) const;
 
   std::filesystem::path destino_;
   std::string ruta_;

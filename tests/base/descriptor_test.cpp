@@ -1,10 +1,11 @@
 // Files as the system numbers them.
 #include "base/descriptor.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <optional>
 
 #include "tests/base/file_facts.h"
@@ -15,7 +16,7 @@ namespace {
 
 TEST(Descriptor, IsNotOpenWithoutAFile) {
   const TempFolder carpeta;
-  const Descriptor ninguno{carpeta.Path() / "f.txt", O_RDONLY};
+  const Descriptor ninguno{carpeta.Path() / "f.txt", OpenMode::Read};
   EXPECT_FALSE(ninguno.IsOpen());
   EXPECT_EQ(errno, ENOENT);
   EXPECT_FALSE(ninguno.Lock());
@@ -28,11 +29,10 @@ TEST(Descriptor, IsNotOpenWithoutAFile) {
 TEST(Descriptor, ReadsAndWrites) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
-  const Descriptor archivo{carpeta.Path() / "f.txt", O_RDWR};
+  const Descriptor archivo{carpeta.Path() / "f.txt", OpenMode::ReadWrite};
   EXPECT_EQ(archivo.Read(), "antes");
   EXPECT_TRUE(archivo.Write(", ahora") && archivo.Flush());
   EXPECT_EQ(carpeta.Read("f.txt"), "antes, ahora");
-  EXPECT_EQ(archivo.Status()->st_size, 12);
 }
 
 TEST(Descriptor, MakesNewFilesThatTheUserAloneMayRead) {
@@ -53,9 +53,9 @@ TEST(Descriptor, MakesNewFilesThatTheUserAloneMayRead) {
 TEST(Descriptor, HoldsALockUntilItIsClosed) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "");
-  const Descriptor otro{carpeta.Path() / "f.txt", O_RDONLY};
+  const Descriptor otro{carpeta.Path() / "f.txt", OpenMode::Read};
   {
-    const Descriptor uno{carpeta.Path() / "f.txt", O_RDONLY};
+    const Descriptor uno{carpeta.Path() / "f.txt", OpenMode::Read};
     EXPECT_TRUE(uno.Lock());
     EXPECT_FALSE(otro.Lock());
     EXPECT_EQ(errno, EWOULDBLOCK);
@@ -66,12 +66,73 @@ TEST(Descriptor, HoldsALockUntilItIsClosed) {
 TEST(Descriptor, SetsPermissionsAndOwner) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "");
-  const Descriptor archivo{carpeta.Path() / "f.txt", O_RDWR};
+  const Descriptor archivo{carpeta.Path() / "f.txt", OpenMode::ReadWrite};
   EXPECT_TRUE(archivo.SetPermissions(0604));
   EXPECT_EQ(PermissionsOf(carpeta.Path() / "f.txt"), 0604U);
   const Owner antes = OwnerOf(carpeta.Path() / "f.txt");
   EXPECT_TRUE(archivo.SetOwner(antes.User, antes.Group));
+  EXPECT_TRUE(archivo.SetGroup(antes.Group));
   EXPECT_EQ(OwnerOf(carpeta.Path() / "f.txt"), antes);
+  EXPECT_EQ(archivo.Status()->Permissions, 0604U);
+  EXPECT_EQ(archivo.Status()->Owner, antes.User);
+  EXPECT_EQ(archivo.Status()->Group, antes.Group);
+}
+
+TEST(Descriptor, ReadItselfTakesNoLinkAndDoesNotBlockOnAPipe) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  const std::filesystem::path enlace = carpeta.Path() / "enlace";
+  std::filesystem::create_symlink("f.txt", enlace);
+  const Descriptor deEnlace{enlace, OpenMode::ReadItself};
+  EXPECT_FALSE(deEnlace.IsOpen());
+  EXPECT_EQ(errno, ELOOP);
+  ASSERT_EQ(::mkfifo((carpeta.Path() / "tubo").c_str(), 0600), 0);
+  EXPECT_TRUE((Descriptor{carpeta.Path() / "tubo", OpenMode::ReadItself}.IsOpen()));
+}
+
+TEST(Descriptor, FolderTakesNoFile) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  EXPECT_TRUE((Descriptor{carpeta.Path(), OpenMode::Folder}.IsOpen()));
+  EXPECT_FALSE((Descriptor{carpeta.Path() / "f.txt", OpenMode::Folder}.IsOpen()));
+  EXPECT_EQ(errno, ENOTDIR);
+}
+
+TEST(Descriptor, CountsTheNamesOfItsFile) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  const std::filesystem::path uno = carpeta.Path() / "f.txt";
+  const std::filesystem::path otro = carpeta.Path() / "g.txt";
+  const Descriptor archivo{uno, OpenMode::Read};
+  EXPECT_EQ(archivo.Status()->Links, 1U);
+  std::filesystem::create_hard_link(uno, otro);
+  EXPECT_EQ(archivo.Status()->Links, 2U);
+  Unlink(uno);
+  Unlink(otro);
+  EXPECT_EQ(archivo.Status()->Links, 0U);
+  EXPECT_EQ(carpeta.Names().size(), 0U);
+}
+
+TEST(StatusOf, FollowsLinksAndStatusOfLinkDoesNot) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  const std::filesystem::path archivo = carpeta.Path() / "f.txt";
+  const std::filesystem::path enlace = carpeta.Path() / "enlace";
+  std::filesystem::create_symlink("f.txt", enlace);
+  EXPECT_EQ(tasca::StatusOf(enlace)->Inode, tasca::StatusOf(archivo)->Inode);
+  EXPECT_TRUE(tasca::StatusOf(enlace)->IsRegular);
+  EXPECT_NE(StatusOfLink(enlace)->Inode, tasca::StatusOf(archivo)->Inode);
+  EXPECT_FALSE(StatusOfLink(enlace)->IsRegular);
+  EXPECT_FALSE(tasca::StatusOf(carpeta.Path() / "ninguno"));
+  EXPECT_EQ(errno, ENOENT);
+}
+
+TEST(MayWrite, IsNoWhereNoFileIs) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  EXPECT_TRUE(MayWrite(carpeta.Path() / "f.txt"));
+  EXPECT_FALSE(MayWrite(carpeta.Path() / "g.txt"));
+  EXPECT_EQ(errno, ENOENT);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include "base/keys.h"
 #include "match/session.h"
 #include "ui/terminal/startup_prompts.h"
-#include "ui/terminal/waiting.h"
+#include "ui/terminal/tty.h"
 
 namespace tasca {
 namespace {

@@ -1,5 +1,5 @@
 // Waiting for the player and for sounds.
-#include "ui/terminal/waiting.h"
+#include "ui/terminal/tty.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
