@@ -1,4 +1,4 @@
-// Arrays that count from where the game counts.
+// Bounded arrays with a lower bound of their own.
 #include "base/array.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ TEST(Array, KeepsEachElementInItsPlace) {
   EXPECT_EQ(lances[5], 50);
 }
 
-TEST(Array, TakesANameForAnIndex) {
+TEST(Array, TakesAnEnumAsAnIndex) {
   enum class Lance { Pares = 3, Juego, Punto, Ninguno };
   Array<int, 3, 5> lances{30, 40, 50};
   EXPECT_EQ(lances[Lance::Juego], 40);
@@ -40,7 +40,7 @@ TEST(Array, IsFilledFromItsFirstIndex) {
   EXPECT_EQ(tres[3], 9);
 }
 
-TEST(Array, WalksItsElementsInOrder) {
+TEST(Array, IteratesInOrder) {
   Array<int, 0, 2> tres{7, 8, 9};
   int cifras = 0;
   for (int& n : tres) cifras = cifras * 10 + n++;
@@ -62,7 +62,7 @@ TEST(Array, RefusesAnIndexAboveItsLast) {
   EXPECT_THROW(asientos[5] = 1, RunTimeError);
 }
 
-TEST(Array, RefusesToBeReadOutsideItsBounds) {
+TEST(Array, RefusesReadsOutsideItsBounds) {
   const Array<int, 0, 1> parejas;
   EXPECT_THROW(static_cast<void>(parejas[-1]), RunTimeError);
   EXPECT_THROW(static_cast<void>(parejas[2]), RunTimeError);

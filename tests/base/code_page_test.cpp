@@ -73,7 +73,7 @@ TEST(Decode, ReadsSpanish) {
   EXPECT_EQ(Decode(""), u"");
 }
 
-TEST(Encode, GivesBackEveryByte) {
+TEST(Encode, RoundTripsEveryByte) {
   std::string todos;
   for (int byte = 0; byte <= 0xFF; ++byte) todos += static_cast<char>(byte);
   const std::u16string texto = Decode(todos);
@@ -89,17 +89,17 @@ TEST(Encode, KnowsTheCodesThatAreNotLatin1) {
 
 TEST(Encode, WritesAQuestionMarkForWhatTheCodePageLacks) {
   EXPECT_EQ(Encode(u"a\u0161\u03B1b"), "a\x9A?b");  // an alpha
-  EXPECT_EQ(Encode(u"\u0080\u0099"), "??");         // control codes whose bytes mean others
-  EXPECT_EQ(Encode(u"\U0001F0A1"), "??");           // two units
+  EXPECT_EQ(Encode(u"\u0080\u0099"), "??");         // C1 codes whose bytes are other characters
+  EXPECT_EQ(Encode(u"\U0001F0A1"), "??");           // a surrogate pair
   EXPECT_EQ(Encode(u"\u0100\uFFFF"), "??");
 }
 
-TEST(InCodePage, HasEveryCodeOfItsOwn) {
+TEST(InCodePage, HasTheCodesThatAreNotLatin1) {
   for (const Codigo& codigo : Propios) EXPECT_TRUE(InCodePage(codigo.Letra));
   for (const unsigned char byte : SinDefinir) EXPECT_TRUE(InCodePage(byte));
 }
 
-TEST(InCodePage, HasLatin1ButForItsControlCodes) {
+TEST(InCodePage, HasLatin1WithoutItsControlCodes) {
   for (const char16_t letra : {u'\0', u'\x7F', u'\u00A0', u'\u00FF'})
     EXPECT_TRUE(InCodePage(letra));
   for (const char16_t letra : {u'\u0080', u'\u009F'}) EXPECT_FALSE(InCodePage(letra));

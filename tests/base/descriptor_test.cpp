@@ -1,4 +1,4 @@
-// Files as the system numbers them.
+// File descriptors.
 #include "base/descriptor.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ TEST(Descriptor, ReadsAndWrites) {
   EXPECT_EQ(carpeta.Read("f.txt"), "antes, ahora");
 }
 
-TEST(Descriptor, MakesNewFilesThatTheUserAloneMayRead) {
+TEST(Descriptor, CreatesUniqueFilesWithMode0600) {
   const TempFolder carpeta;
   const std::string principio = (carpeta.Path() / "f.").string();
   std::string uno;

@@ -1,4 +1,4 @@
-// The tests' own generator of listed draws.
+// The test helper that returns listed draws.
 #include "tests/support/draw_list.h"
 
 #include <gtest/gtest-spi.h>
@@ -31,7 +31,7 @@ TEST(DrawList, FailsWhenTooManyAreDrawn) {
       "another number of draws");
 }
 
-TEST(DrawList, RefusesWhatIsNoDraw) {
+TEST(DrawList, RefusesAnInvalidDraw) {
   EXPECT_NONFATAL_FAILURE(
       {
         DrawList lista{0x1p-25F};

@@ -51,19 +51,19 @@ TEST(RunTimeError, NamesAFileWithAccents) {
   EXPECT_EQ(Utf8(error.Message()), "/tío/mus.ini: x. El programa va a terminar su ejecución.");
 }
 
-TEST(RunTimeError, ThatWasAlreadyShownKeepsItsMessageAsItIs) {
+TEST(RunTimeError, KeepsItsMessageIfAlreadyShown) {
   const RunTimeError error = RunTimeError::AlreadyShown(u"No se encuentra. Adiós.");
   EXPECT_EQ(Utf8(error.Message()), "No se encuentra. Adiós.");
   EXPECT_TRUE(error.Shown());
 }
 
-TEST(ThrowOverflow, TellsTheRange) {
+TEST(ThrowOverflow, NamesTheRange) {
   EXPECT_EQ(Utf8(Thrown(ThrowOverflow).Message()),
             "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
             "ejecución.");
 }
 
-TEST(ThrowIndexOutOfRange, TellsSo) {
+TEST(ThrowIndexOutOfRange, HasItsMessage) {
   EXPECT_EQ(Utf8(Thrown(ThrowIndexOutOfRange).Message()),
             "El índice está fuera del intervalo. El programa va a terminar su ejecución.");
 }

@@ -25,7 +25,7 @@ TEST(OrdenarPorCambios, SortsEveryOrderOfFourElements) {
 }
 
 TEST(OrdenarPorCambios, LeavesEqualElementsInTheirOrder) {
-  // Tens decide; the units tell equal ones apart.
+  // The tens are compared; the units identify equal elements.
   Fila fila{11, 21, 12, 22};
   OrdenarPorCambios(fila, [](int a, int b) { return a / 10 > b / 10; });
   EXPECT_EQ(fila, (Fila{21, 22, 11, 12}));

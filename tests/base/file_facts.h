@@ -1,5 +1,5 @@
 #pragma once
-// Whose a file is, and who may use it.
+// The owner and the permissions of files.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -7,12 +7,14 @@
 
 namespace tasca::test {
 
+// Fails the test if the file cannot be examined. Follows links.
 inline struct stat StatusOf(const std::filesystem::path& ruta) {
   struct stat datos {};
   EXPECT_EQ(::stat(ruta.c_str(), &datos), 0);
   return datos;
 }
 
+// The permission bits, with setuid, setgid and sticky.
 inline mode_t PermissionsOf(const std::filesystem::path& ruta) {
   return StatusOf(ruta).st_mode & 07777U;
 }

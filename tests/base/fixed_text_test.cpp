@@ -44,7 +44,7 @@ TEST(FixedText, PadsOverWhatItHeldBefore) {
   EXPECT_EQ(Utf8(campo.Full()), "as    ");
 }
 
-TEST(FixedText, OfTheEmptyTextIsBlank) {
+TEST(FixedText, IsBlankForAnEmptyText) {
   FixedText<3> campo;
   campo = u"";
   EXPECT_EQ(Utf8(campo.Full()), "   ");
@@ -65,7 +65,7 @@ TEST(FixedText, KeepsNulsThatWereAssigned) {
 
 TEST(FixedText, CountsUtf16Units) {
   FixedText<3> campo;
-  campo = u"a\U0001F0A1b";  // a card outside the first plane takes two units
+  campo = u"a\U0001F0A1b";  // a playing card: a surrogate pair
   EXPECT_EQ(campo.Full(), std::u16string_view(u"a\U0001F0A1"));
 }
 

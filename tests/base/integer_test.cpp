@@ -23,7 +23,7 @@ TEST(Integer, ComputesBeyondItsRangeAndChecksOnlyTheStore) {
   EXPECT_EQ(grande + grande - grande, 32767);
 }
 
-TEST(Integer, AddsUpToTheTop) {
+TEST(Integer, AddsUpToItsMaximum) {
   Integer n = 32766;
   n += 1;
   EXPECT_EQ(n, 32767);
@@ -31,7 +31,7 @@ TEST(Integer, AddsUpToTheTop) {
   EXPECT_EQ(n, 32767);
 }
 
-TEST(Integer, SubtractsDownToTheBottom) {
+TEST(Integer, SubtractsDownToItsMinimum) {
   Integer n = -32767;
   n -= 1;
   EXPECT_EQ(n, -32768);

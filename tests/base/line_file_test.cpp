@@ -51,8 +51,8 @@ TEST(FileExists, FollowsLinks) {
   EXPECT_FALSE(FileExists(carpeta.Path() / "a_nada"));
 }
 
-// A link to itself: the disk cannot say what there is.
-TEST(FileExists, TakesWhatCannotBeToldForAFile) {
+// The status of a link to itself is ELOOP.
+TEST(FileExists, IsTrueWhenItCannotBeDetermined) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "rueda";
   fs::create_symlink("rueda", ruta);
@@ -93,11 +93,11 @@ TEST(LineReader, KeepsNuls) {
   EXPECT_EQ(LinesOf(bytes), (Lineas{std::string{"a\0b", 3}, std::string{"\0", 1}}));
 }
 
-TEST(LineReader, ReadsTheCodePage) { EXPECT_EQ(LinesOf("t\xEDo \x80\r\n"), (Lineas{"tío €"})); }
+TEST(LineReader, DecodesWindows1252) { EXPECT_EQ(LinesOf("t\xEDo \x80\r\n"), (Lineas{"tío €"})); }
 
 TEST(LineReader, KeepsBlanks) { EXPECT_EQ(LinesOf("  a \t\r\n"), (Lineas{"  a \t"})); }
 
-// The stream reads blocks of some thousand bytes; a line, or its end, may lie across two.
+// A line or its end may span two blocks of the stream's buffer.
 TEST(LineReader, ReadsLinesThatEndAroundTheEndOfABlock) {
   constexpr std::size_t Bloque = 8192;
   for (std::size_t largo = Bloque - 8; largo <= Bloque + 8; ++largo) {
@@ -110,7 +110,7 @@ TEST(LineReader, ReadsLinesThatEndAroundTheEndOfABlock) {
   }
 }
 
-TEST(LineReader, GivesBytesWithTheirLineEnds) {
+TEST(LineReader, ReadsBytesWithTheirLineEnds) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "35\r\n\n\x80");
   LineReader archivo{carpeta.Path() / "f.txt"};
@@ -124,7 +124,7 @@ TEST(LineReader, GivesBytesWithTheirLineEnds) {
   EXPECT_FALSE(archivo.NextBytes(bytes));
 }
 
-TEST(LineReader, SaysWhatIsMissingAtTheEnd) {
+TEST(LineReader, ReportsWhatIsMissingAtTheEnd) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   carpeta.Write("f.txt", "uno\r\n");
@@ -134,7 +134,7 @@ TEST(LineReader, SaysWhatIsMissingAtTheEnd) {
             ruta.string() + ", línea 2: el archivo se acaba y falta la historia." + FinDelPrograma);
 }
 
-TEST(LineReader, SaysWhatBytesAreMissingAtTheEnd) {
+TEST(LineReader, ReportsWhichBytesAreMissingAtTheEnd) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   carpeta.Write("f.txt", "");
@@ -156,14 +156,14 @@ TEST(LineReader, NamesTheLineLastReadWhenItFails) {
             ruta.string() + ", línea 2: mal." + FinDelPrograma);
 }
 
-TEST(LineReader, SaysThatAFileIsMissing) {
+TEST(LineReader, ReportsAMissingFile) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "nada.txt";
   EXPECT_EQ(ErrorOf([&] { const LineReader archivo{ruta}; }),
             ruta.string() + ": no se encuentra el archivo." + FinDelPrograma);
 }
 
-TEST(LineReader, SaysThatADanglingLinkLeadsNowhere) {
+TEST(LineReader, ReportsADanglingLinkAsAMissingFile) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "enlace";
   fs::create_symlink("nada", ruta);
@@ -213,7 +213,7 @@ TEST(WithoutLineEnd, TakesOneLineEnd) {
   EXPECT_EQ(WithoutLineEnd(""), "");
 }
 
-TEST(LineReader, SaysThatAFileCannotBeRead) {
+TEST(LineReader, ReportsMissingReadPermission) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   carpeta.Write("f.txt", "uno");
@@ -223,8 +223,8 @@ TEST(LineReader, SaysThatAFileCannotBeRead) {
             ruta.string() + ": no se puede leer el archivo." + FinDelPrograma);
 }
 
-// Address 0 of this process can be opened and never read, like a disk that fails.
-TEST(LineReader, SaysWhereAFileCannotBeReadAnyFurther) {
+// /proc/self/mem can be opened, but reading address 0 fails with EIO, as on a defective disk.
+TEST(LineReader, ReportsTheLineOfAReadError) {
   LineReader archivo{"/proc/self/mem"};
   std::u16string linea;
   EXPECT_EQ(ErrorOf([&] { archivo.Next(linea); }),

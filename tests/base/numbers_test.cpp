@@ -1,4 +1,4 @@
-// Numbers that people type.
+// Numbers in text.
 #include "base/numbers.h"
 
 #include <gtest/gtest.h>
@@ -88,12 +88,12 @@ TEST(LeadingNumber, IsZeroWhenTooSmall) {
   ExpectNumbers({{u"0." + std::u16string(400, u'0') + u"1", 0}, {u"0e999", 0}});
 }
 
-TEST(LeadingNumber, WeighsLongZerosAgainstTheExponent) {
+TEST(LeadingNumber, CombinesManyZerosWithAnExponent) {
   ExpectNumbers(
       {{u"0." + std::u16string(400, u'0') + u"1e401", 1}, {std::u16string(400, u'0') + u"7", 7}});
 }
 
-// A place where two and a half is written 2,5 and a thousand 1.000.
+// A locale with a decimal comma and a point between thousands.
 class ComaDecimal : public std::numpunct<char> {
  protected:
   char do_decimal_point() const override { return ','; }
@@ -101,7 +101,7 @@ class ComaDecimal : public std::numpunct<char> {
   std::string do_grouping() const override { return "\3"; }
 };
 
-TEST(LeadingNumber, DoesNotAskTheLocale) {
+TEST(LeadingNumber, IgnoresTheLocale) {
   const std::locale antes =
       std::locale::global(std::locale{std::locale::classic(), new ComaDecimal});
   ExpectNumbers({{u"2.5", 2.5}, {u"1.000", 1}, {u"2,5", 2}});

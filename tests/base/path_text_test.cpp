@@ -1,4 +1,4 @@
-// Paths as the messages name them.
+// Paths as text for messages.
 #include "base/path_text.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 
 using test::Utf8;
 
-TEST(PathText, IsThePathAsItStands) {
+TEST(PathText, IsThePathUnchanged) {
   EXPECT_EQ(Utf8(PathText("/casa/el tío/mus.ini")), "/casa/el tío/mus.ini");
 }
 

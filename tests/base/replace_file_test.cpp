@@ -1,4 +1,4 @@
-// Replacing files whole, and the copy of what they were.
+// The atomic replacement of a file, and its backup copy.
 #include "base/replace_file.h"
 
 #include <gtest/gtest.h>
@@ -46,7 +46,7 @@ TEST(ReplaceFile, WritesAnEmptyFile) {
   EXPECT_EQ(carpeta.Read("f.txt"), "");
 }
 
-TEST(ReplaceFile, MakesAFileThatWasNotThere) {
+TEST(ReplaceFile, CreatesAMissingFile) {
   const TempFolder carpeta;
   ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
   EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
@@ -133,7 +133,7 @@ TEST(ReplaceFile, FailsWithoutAFolder) {
             SinEscribir(ruta, "no existe la carpeta."));
 }
 
-TEST(ReplaceFile, MakesAFileInTheFolderOneIsIn) {
+TEST(ReplaceFile, CreatesAFileInTheCurrentFolder) {
   const TempFolder carpeta;
   const fs::path antes = fs::current_path();
   fs::current_path(carpeta.Path());
@@ -142,7 +142,7 @@ TEST(ReplaceFile, MakesAFileInTheFolderOneIsIn) {
   EXPECT_EQ(carpeta.Read("f.txt"), "nuevo");
 }
 
-TEST(ReplaceFile, SaysThatALinkLeadsToItself) {
+TEST(ReplaceFile, ReportsALinkToItself) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   fs::create_symlink("f.txt", ruta);
@@ -150,7 +150,7 @@ TEST(ReplaceFile, SaysThatALinkLeadsToItself) {
             SinEscribir(ruta, "sus enlaces no llevan a un archivo propio."));
 }
 
-TEST(BackUpFile, KeepsWhatTheFileIsBeforeItIsReplaced) {
+TEST(BackUpFile, CopiesTheFileBeforeItIsReplaced) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   carpeta.Write("f.txt", "antes");
@@ -163,7 +163,7 @@ TEST(BackUpFile, KeepsWhatTheFileIsBeforeItIsReplaced) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
-TEST(BackUpFile, TakesThePlaceOfTheLastCopyWhateverItsPermissions) {
+TEST(BackUpFile, ReplacesTheLastCopyWhateverItsPermissions) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
   carpeta.Write("f.bak", "mucho antes");
@@ -173,8 +173,8 @@ TEST(BackUpFile, TakesThePlaceOfTheLastCopyWhateverItsPermissions) {
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
 }
 
-// So an older program's copy can be: a second name of the file itself.
-TEST(BackUpFile, PartsACopyThatIsTheFileItself) {
+// An older version of the program made the copy a hard link to the file.
+TEST(BackUpFile, BreaksAHardLinkToTheFile) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
   fs::create_hard_link(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
@@ -185,7 +185,7 @@ TEST(BackUpFile, PartsACopyThatIsTheFileItself) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
-TEST(BackUpFile, RemovesWhatKilledSavesHaveLeft) {
+TEST(BackUpFile, RemovesLeftoversOfKilledSaves) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
   carpeta.Write("f.bak.guardando-a1B2c3.tmp", "resto");
@@ -194,7 +194,7 @@ TEST(BackUpFile, RemovesWhatKilledSavesHaveLeft) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
-TEST(BackUpFile, IsNotDisturbedByAFolderBesideTheCopy) {
+TEST(BackUpFile, IgnoresAFolderBesideTheCopy) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
   fs::create_directory(carpeta.Path() / "f.bak.tmp");
@@ -203,7 +203,7 @@ TEST(BackUpFile, IsNotDisturbedByAFolderBesideTheCopy) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.bak.tmp", "f.txt"}));
 }
 
-// Longer than what is read at a time, with bytes that end no text.
+// Longer than the read buffer, with a NUL inside and no CR LF.
 TEST(BackUpFile, CopiesALongFileByteForByte) {
   const TempFolder carpeta;
   std::string largo(100000, 'x');
@@ -227,7 +227,7 @@ TEST(BackUpFile, KeepsThePermissionsAndTheOwner) {
   EXPECT_EQ(OwnerOf(carpeta.Path() / "f.bak"), OwnerOf(ruta));
 }
 
-TEST(BackUpFile, SaysThatTheFileCannotBeRead) {
+TEST(BackUpFile, ReportsMissingReadPermission) {
   const TempFolder carpeta;
   const fs::path ruta = carpeta.Path() / "f.txt";
   const fs::path copia = carpeta.Path() / "f.bak";
@@ -241,7 +241,7 @@ TEST(BackUpFile, SaysThatTheFileCannotBeRead) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.bak", "f.txt"}));
 }
 
-TEST(BackUpFile, CopiesTheFileThatALinkLeadsTo) {
+TEST(BackUpFile, CopiesTheTargetOfALink) {
   const TempFolder carpeta;
   fs::create_directory(carpeta.Path() / "dentro");
   carpeta.Write("dentro/f.txt", "antes");
@@ -252,7 +252,7 @@ TEST(BackUpFile, CopiesTheFileThatALinkLeadsTo) {
   EXPECT_EQ(carpeta.Read("f.bak"), "antes");
 }
 
-TEST(BackUpFile, LeavesTheLastCopyWhereThereIsNoFile) {
+TEST(BackUpFile, KeepsTheLastCopyIfThereIsNoFile) {
   const TempFolder carpeta;
   carpeta.Write("f.bak", "mucho antes");
   BackUpFile(carpeta.Path() / "f.txt", carpeta.Path() / "f.bak");
@@ -269,7 +269,7 @@ TEST(BackUpFile, RefusesAFolderInTheFilesPlace) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-// Else the new file would take the copy's place, and the old one would be lost.
+// Otherwise the new file would replace the copy, and the old content would be lost.
 TEST(BackUpFile, RefusesAFileThatIsALinkToItsCopy) {
   const TempFolder carpeta;
   carpeta.Write("f.bak", "antes");

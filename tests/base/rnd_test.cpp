@@ -12,7 +12,7 @@ constexpr std::uint32_t SemillaConocida = 5489;
 constexpr float Primera = 13668795.0F / 16777216.0F;
 constexpr float Diezmilesima = 16108046.0F / 16777216.0F;
 
-TEST(Rnd, GivesTheUpper24BitsOfTheTwister) {
+TEST(Rnd, GivesTheUpper24BitsOfTheMersenneTwister) {
   Rnd rnd;
   rnd.Seed(SemillaConocida);
   EXPECT_EQ(rnd(), Primera);
@@ -43,7 +43,7 @@ TEST(Rnd, GivesTheSameDrawsForTheSameSeed) {
   for (int i = 0; i < 1000; ++i) ASSERT_EQ(una(), otra());
 }
 
-TEST(Rnd, GivesOtherDrawsForAnotherSeed) {
+TEST(Rnd, GivesDifferentDrawsForAnotherSeed) {
   Rnd una;
   Rnd otra;
   una.Seed(777);
@@ -67,7 +67,7 @@ TEST(Rnd, CountsItsDrawsFromTheSeed) {
   EXPECT_EQ(rnd.Draws(), 1U);
 }
 
-TEST(Rnd, GoesOnFromAGivenTwister) {
+TEST(Rnd, ContinuesFromAGivenEngine) {
   std::mt19937 motor{SemillaConocida};
   motor.discard(9999);
   Rnd rnd{motor};

@@ -1,4 +1,4 @@
-// Temporary files: whose they become, and which leftovers are removed.
+// Temporary files: their owner, and the removal of leftovers.
 #include "base/temporary_file.h"
 
 #include <fcntl.h>
@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using Nombres = std::vector<std::string>;
 
-TEST(TemporaryFile, StandsBesideTheFileUntilItTakesItsPlace) {
+TEST(TemporaryFile, LeavesTheFileUntilItTakesItsPlace) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "antes");
   {
@@ -43,7 +43,7 @@ TEST(TemporaryFile, IsRemovedWhenItNeverTakesItsPlace) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-TEST(TemporaryFile, EveryOneHasANameOfItsOwn) {
+TEST(TemporaryFile, HasAUniqueName) {
   const TempFolder carpeta;
   TemporaryFile uno{carpeta.Path() / "f.txt"};
   TemporaryFile otro{carpeta.Path() / "f.txt"};
@@ -57,8 +57,8 @@ TEST(TemporaryFile, EveryOneHasANameOfItsOwn) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-// The folder is there: it is the file that is not.
-TEST(TemporaryFile, SaysThatItHasBeenRemoved) {
+// rename() gives ENOENT here too, but the folder exists.
+TEST(TemporaryFile, ReportsThatItHasBeenRemoved) {
   const TempFolder carpeta;
   TemporaryFile nuevo{carpeta.Path() / "f.txt"};
   for (const std::string& nombre : carpeta.Names()) fs::remove(carpeta.Path() / nombre);
@@ -77,7 +77,7 @@ TEST(Leftovers, OfTheSameFileAreRemoved) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-TEST(Leftovers, AreThoseOfDeadWriters) {
+TEST(Leftovers, OfARunningWriterAreKept) {
   const TempFolder carpeta;
   const std::string deOtro = "f.txt.guardando-a1B2c3.tmp";
   carpeta.Write(deOtro, "a medio escribir");
@@ -93,8 +93,8 @@ TEST(Leftovers, AreThoseOfDeadWriters) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-// Names that only look like a leftover's, and things of such a name that are no files.
-TEST(Leftovers, AreNoOtherFiles) {
+// Names that are similar to a leftover's, and entries with such a name that are not regular files.
+TEST(Leftovers, DoNotIncludeOtherNamesOrTypes) {
   const TempFolder carpeta;
   const Nombres ajenos{"f.txt.backup.tmp",
                        "f.txt.guardando-a1B2c.tmp",
@@ -113,7 +113,7 @@ TEST(Leftovers, AreNoOtherFiles) {
   for (const std::string& nombre : ajenos) EXPECT_EQ(carpeta.Read(nombre), "x");
 }
 
-TEST(Leftovers, AreRemovedInTheFolderOneIsIn) {
+TEST(Leftovers, AreRemovedInTheCurrentFolder) {
   const TempFolder carpeta;
   carpeta.Write("f.txt.guardando-a1B2c3.tmp", "x");
   const fs::path antes = fs::current_path();
@@ -123,7 +123,7 @@ TEST(Leftovers, AreRemovedInTheFolderOneIsIn) {
   EXPECT_EQ(carpeta.Names(), (Nombres{"f.txt"}));
 }
 
-// Root in a user's folder: the user must be able to go on.
+// Root saves in a user's folder; the user must keep access to the file.
 TEST(TemporaryFile, KeepsTheOwnerAndTheGroup) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root gives files away";
   const TempFolder carpeta;
@@ -137,7 +137,7 @@ TEST(TemporaryFile, KeepsTheOwnerAndTheGroup) {
   EXPECT_EQ(PermissionsOf(ruta), 0640U);
 }
 
-// Another's file that everybody may write, in a folder that everybody may write.
+// A world-writable file of another user in a world-writable folder.
 class FileOfAnother : public testing::Test {
  protected:
   void SetUp() override {
@@ -146,12 +146,13 @@ class FileOfAnother : public testing::Test {
     carpeta_.Write("dentro/f.txt", "antes");
     ASSERT_EQ(::chmod(ruta_.c_str(), 0666), 0);
   }
-  // As one whose new files have group 4321 in that folder, as folders with the setgid bit have it.
+  // Saves without root privileges.
   void SaveAsSomebodyElse() {
     const PlainUser usuario{carpeta_};
     ReplaceFile(ruta_, "nuevo");
     quien_ = ::geteuid();
   }
+  // Sets the setgid bit: new files in the folder get group 4321.
   void GiveFolderAGroup() const {
     const fs::path dentro = carpeta_.Path() / "dentro";
     ASSERT_EQ(::chown(dentro.c_str(), 0, 4321), 0);
@@ -163,7 +164,7 @@ class FileOfAnother : public testing::Test {
   uid_t quien_ = 0;
 };
 
-TEST_F(FileOfAnother, BecomesTheUsersAndKeepsTheGroupThatTheUserIsIn) {
+TEST_F(FileOfAnother, TakesTheUserAndKeepsAGroupOfTheUser) {
   GiveFolderAGroup();
   ASSERT_EQ(::chown(ruta_.c_str(), 1234, ::getegid()), 0);
   SaveAsSomebodyElse();

@@ -1,4 +1,4 @@
-// Small helpers on text.
+// Text helpers.
 #include "base/text.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ TEST(ReplaceAll, ReplacesEveryOccurrence) {
   EXPECT_EQ(ReplaceAll(u"", u"&", u"2"), u"");
 }
 
-TEST(ReplaceAll, DoesNotLookAgainAtWhatItHasPut) {
+TEST(ReplaceAll, DoesNotRescanItsReplacements) {
   EXPECT_EQ(ReplaceAll(u"a&b", u"&", u"&&"), u"a&&b");
   EXPECT_EQ(ReplaceAll(u"aab", u"ab", u"b"), u"ab");
 }
@@ -66,32 +66,32 @@ TEST(ToText, WritesPlainDigits) {
   EXPECT_EQ(ToText(-2147483647 - 1), u"-2147483648");
 }
 
-TEST(Join, PutsThePiecesTogetherAsTheyStand) {
+TEST(Join, ConcatenatesThePieces) {
   EXPECT_EQ(Join(u"La pareja ", 0, u"gana ", u" ", std::u16string{u"x"}), u"La pareja 0gana  x");
   EXPECT_EQ(Join(), u"");
   EXPECT_EQ(Join(-1, 2, CrLf), u"-12\r\n");
 }
 
-TEST(EqualExactly, TellsCapitalsFromSmallLetters) {
+TEST(EqualExactly, IsCaseSensitive) {
   EXPECT_TRUE(EqualExactly(u"QMus", u"QMus"));
   EXPECT_FALSE(EqualExactly(u"QMus", u"qMus"));
 }
 
-TEST(EqualIgnoringCase, TakesCapitalsAndSmallLettersAsOne) {
+TEST(EqualIgnoringCase, IgnoresAsciiCase) {
   EXPECT_TRUE(EqualIgnoringCase(u"QMus", u"qmUS"));
   EXPECT_TRUE(EqualIgnoringCase(u"AZaz", u"azAZ"));
   EXPECT_TRUE(EqualIgnoringCase(u"", u""));
 }
 
-TEST(EqualIgnoringCase, TellsAllElseApart) {
+TEST(EqualIgnoringCase, DistinguishesEverythingElse) {
   EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"QMu"));
   EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"QMus "));
   EXPECT_FALSE(EqualIgnoringCase(u"QMus", u"NMus"));
   EXPECT_FALSE(EqualIgnoringCase(u"@[", u"`{"));  // the neighbours of A and Z
-  EXPECT_FALSE(EqualIgnoringCase(u"Ñ", u"ñ"));    // no tag has one
+  EXPECT_FALSE(EqualIgnoringCase(u"Ñ", u"ñ"));    // ASCII letters only
 }
 
-TEST(IsControl, IsEveryCodeThatShowsNothing) {
+TEST(IsControl, IsTrueForC0DeleteAndC1) {
   for (const char16_t letra : {u'\0', u'\t', u'\r', u'\x1F', u'\x7F', u'\x80', u'\x9F'}) {
     EXPECT_TRUE(IsControl(letra)) << static_cast<int>(letra);
   }

@@ -1,4 +1,4 @@
-// UTF-8 told apart from ASCII and from other encodings.
+// The detection of UTF-8.
 #include "base/utf8_check.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What is said of a file that could not be written.
+// The messages about files that cannot be written.
 #include "base/write_error.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 namespace tasca::test {
 namespace {
 
-TEST(WriteError, CarriesTheReasonWithAndWithoutTheProgramsEnd) {
+TEST(WriteError, GivesTheReasonWithAndWithoutTheClosingSentence) {
   const WriteError error{"una/f.txt", u"el disco falla."};
   EXPECT_EQ(Utf8(error.Reason()), "el disco falla.");
   EXPECT_EQ(Utf8(error.Sentence()),
@@ -22,7 +22,7 @@ TEST(WriteError, CarriesTheReasonWithAndWithoutTheProgramsEnd) {
   EXPECT_FALSE(error.Shown());
 }
 
-TEST(WriteError, PutsTheSystemsReasonIntoWords) {
+TEST(WriteError, DescribesErrno) {
   struct Caso {
     int Error;
     std::string Motivo;
@@ -46,7 +46,7 @@ TEST(WriteError, PutsTheSystemsReasonIntoWords) {
   }
 }
 
-TEST(CheckWritten, ThrowsWhatTheSystemSays) {
+TEST(CheckWritten, ThrowsTheErrnoOfAFailedCall) {
   errno = EIO;
   EXPECT_EQ(ErrorOf([] { CheckWritten(true, "f.txt"); }), "");
   errno = EIO;

@@ -1,12 +1,11 @@
-// The tests run in the locale of their environment, as the windows do: where a number is written
-// with a comma, or an "i" has no "I", the rules must not notice.
+// Sets the locale of the environment, as Qt does. The rules must not depend on it.
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
 
-// A locale that was made for the tests and is not found would test nothing.
+// If LOCPATH is set but the locale is not found, the tests must not run silently in the C locale.
 const bool enSuSitio = [] {
   const bool puesto = std::setlocale(LC_ALL, "") != nullptr;  // NOLINT(concurrency-mt-unsafe)
   if (!puesto && std::getenv("LOCPATH") != nullptr) {         // NOLINT(concurrency-mt-unsafe)

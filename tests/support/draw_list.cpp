@@ -1,4 +1,4 @@
-// Building the state of a Mersenne Twister from the outputs that it is to give.
+// Builds the state of a Mersenne Twister from its next outputs.
 #include "tests/support/draw_list.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 constexpr float Pasos = 0x1p24F;
 constexpr int BitsPalabra = 32;
 
-// The word of the state that is tempered into `salida`: the tempering's four steps, undone in turn.
+// The word of the state that is tempered into `salida`. Inverts the four tempering steps.
 std::uint32_t Untemper(std::uint32_t salida) {
   std::uint32_t x = salida;
   x ^= x >> 18U;

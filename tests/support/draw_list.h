@@ -1,17 +1,18 @@
 #pragma once
-// A generator that gives exactly the listed draws.
+// A random generator that returns a fixed list of draws.
 #include <initializer_list>
 
 #include "base/rnd.h"
 
 namespace tasca::test {
 
-// The greatest draw below `limite` and the smallest draw not below it: both sides of a threshold.
+// The greatest draw below `limite`, and the smallest one at or above it: both sides of a threshold.
+// `limite` is in (0, 1].
 float DrawBelow(float limite);
 float DrawFrom(float limite);
 
-// A Rnd whose next draws are the listed ones (each in [0, 1) and a whole multiple of 2^-24, up to
-// 624 of them). It fails the test when it dies with another number of draws made.
+// A Rnd whose next draws are the listed ones: each in [0, 1) and a multiple of 2^-24, at most 624
+// of them. Its destructor fails the test if more or fewer draws were made.
 class DrawList {
  public:
   DrawList(std::initializer_list<float> sacadas);

@@ -1,4 +1,4 @@
-// Catching what a piece of the program throws.
+// Catches the run-time error of an operation.
 #include "tests/support/errors.h"
 
 #include "base/errors.h"

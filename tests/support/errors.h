@@ -1,14 +1,15 @@
 #pragma once
-// What a piece of the program says when it ends the program.
+// The messages of run-time errors.
 #include <functional>
 #include <string>
 
 namespace tasca::test {
 
-// The sentence that every such message ends with.
+// The last sentence of every such message, with the blank before it.
 inline constexpr auto FinDelPrograma = " El programa va a terminar su ejecución.";
 
-// The message of the RunTimeError that `hacer` throws; "" when it throws none.
+// Runs `hacer` and returns the message of the RunTimeError that it throws, or "" if it throws none.
+// Other exceptions pass through.
 std::string ErrorOf(const std::function<void()>& hacer);
 
 }  // namespace tasca::test

@@ -1,5 +1,5 @@
 #pragma once
-// A disk that is full.
+// Simulates a full disk.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -7,7 +7,8 @@
 
 namespace tasca::test {
 
-// No file may grow past `bytes` while it lives, as on a disk that is full.
+// During its lifetime no file of this process and its children can grow past `bytes`: write() fails
+// with EFBIG. SIGXFSZ is ignored meanwhile.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {

@@ -1,4 +1,4 @@
-// Changing the user and back.
+// Changes the user id and restores it.
 #include "tests/support/plain_user.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,11 @@
 #pragma once
-// A user whom permissions bind, also when the tests are run by root.
+// Runs a part of a test without root privileges.
 #include "tests/support/temp_folder.h"
 
 namespace tasca::test {
 
-// While it lives, the test works as that user, to whom the folder is handed over.
+// During its lifetime a test started by root has the user id of nobody, so that file permissions
+// apply. The folder and its entries are given to that user. Does nothing for other users.
 class PlainUser {
  public:
   explicit PlainUser(const TempFolder& carpeta);

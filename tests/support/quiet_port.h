@@ -1,5 +1,5 @@
 #pragma once
-// A port for what is not asked here: it answers No, types nothing, and counts its boxes.
+// A port for tests that are not about questions.
 #include "table/port.h"
 
 namespace tasca::test {

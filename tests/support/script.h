@@ -1,5 +1,5 @@
 #pragma once
-// The answers of a scripted port, taken one by one.
+// The answer queues of the scripted ports.
 #include <gtest/gtest.h>
 
 #include <deque>
@@ -8,7 +8,7 @@
 
 namespace tasca::test {
 
-// The next answer; where there is none, `siFalta` and a failed test.
+// Removes and returns the next answer. If there is none, fails the test and returns `siFalta`.
 template <class T>
 T Tomar(std::deque<T>& respuestas, T siFalta, const std::string& pregunta) {
   if (respuestas.empty()) {

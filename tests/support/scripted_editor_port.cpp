@@ -1,4 +1,4 @@
-// The scripted answers to the editor.
+// Answers the editor from the script.
 #include "tests/support/scripted_editor_port.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
-// The editor's port that answers from a script and writes down what was asked. A question that the
-// script does not foresee fails the test.
+// An editor port that answers from a script and records the questions. A question without a
+// scripted answer fails the test.
 #include <deque>
 #include <string>
 #include <vector>
@@ -14,15 +14,15 @@ class ScriptedEditorPort : public EditorPort {
   ScriptedEditorPort() = default;
   ScriptedEditorPort(const ScriptedEditorPort&) = delete;
   ScriptedEditorPort& operator=(const ScriptedEditorPort&) = delete;
-  // Fails the test when an answer was never asked for.
+  // Fails the test if a scripted answer was not used.
   ~ScriptedEditorPort() override;
 
-  // The answers, in the order in which each kind of question will be asked.
+  // Appends an answer: to an OK/Cancel box, to an input box. Each kind has a queue of its own.
   ScriptedEditorPort& Confirms(bool si);
   ScriptedEditorPort& Types(std::u16string_view texto);
 
-  // What was asked and told so far, one line each: "box: TEXT", "confirm[TITLE]: TEXT",
-  // "input[TITLE]: TEXT(default VALUE)", "beep". Reading them empties the list.
+  // Returns the events so far and empties the list, one line each: "box: TEXT",
+  // "confirm[TITLE]: TEXT", "input[TITLE]: TEXT(default VALUE)", "beep".
   std::vector<std::string> TakeEvents();
 
   void MsgBox(std::u16string_view texto) override;

@@ -1,4 +1,4 @@
-// The scripted answers.
+// Answers the rules from the script.
 #include "tests/support/scripted_port.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
-// A port that answers from a script and writes down what was asked. A question that the script does
-// not foresee fails the test.
+// A port that answers from a script and records the questions. A question without a scripted answer
+// fails the test.
 #include <deque>
 #include <string>
 #include <string_view>
@@ -16,25 +16,25 @@ class ScriptedPort : public Port {
   ScriptedPort() = default;
   ScriptedPort(const ScriptedPort&) = delete;
   ScriptedPort& operator=(const ScriptedPort&) = delete;
-  // Fails the test when an answer was never asked for.
+  // Fails the test if a scripted answer was not used.
   ~ScriptedPort() override;
 
-  // The answers, in the order in which each kind of question will be asked.
+  // Appends an answer: to a Yes/No box, to an input box, to the bidding dialog (button 0 to 3).
+  // Each kind has a queue of its own.
   ScriptedPort& Yes();
   ScriptedPort& No();
   ScriptedPort& Types(std::u16string_view texto);
   ScriptedPort& Presses(int boton);
 
-  // What was asked and told so far, one line each, in order; CR LF stands as "|":
+  // Returns the events so far and empties the list, one line each, with "|" for CR LF:
   //   "box: TEXT", "yesno[TITLE]: TEXT (icon, default yes)", "input[TITLE]: TEXT (default 2)",
   //   "dialog[CAPTION]: mode -1", "sound: FILE x1 balance 0 volume 0", "stop", "change players".
-  // Reading them empties the list.
   std::vector<std::string> TakeEvents();
 
-  // What the questions so far were about, the bidding dialog left out.
+  // The subjects of the Yes/No and input boxes so far.
   std::vector<Pregunta> Preguntas;
 
-  TimeOfDay Hora;
+  TimeOfDay Hora;  // what Now returns
 
   void MsgBox(const Table& t, std::u16string_view texto) override;
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;

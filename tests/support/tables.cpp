@@ -1,4 +1,4 @@
-// The test table and its hands.
+// Builds the test table and its hands.
 #include "tests/support/tables.h"
 
 #include <gtest/gtest.h>

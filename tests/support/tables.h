@@ -13,16 +13,16 @@ namespace tasca::test {
 // "Dora"); the human is "Ana". Every phrase of every character is its tag and its slot ("QMus1").
 Table MesaDePrueba();
 
-// Puts a hand into a seat, slots 1 to 4, the highest card first: "R R 3 5". Ranks: A 2 3 4 5 6 7 S
-// C R;
-// "-" is an empty slot. A rank takes its suits in turn from the oros on, so that no card lies twice
-// at the seat; seats may share cards.
+// Writes a hand into slots 1 to 4 of a seat, in the order given: "R R 3 5". Ranks: A 2 3 4 5 6 7 S
+// C R; "-" is an empty slot. Equal ranks get the suits oros, copas, espadas, bastos in turn, so
+// that a hand has no card twice; two seats may hold the same card. Fails the test for an invalid
+// hand.
 void DarMano(Table& t, Seat asiento, std::string_view cartas);
 
-// The number of a card: rank as above, suit 1..4.
+// The number 1 to 40 of a card: rank as above, suit 1 to 4.
 int NumeroDeCarta(char figura, int palo);
 
-// Text as UTF-8, for messages and comparisons that a person can read.
+// Converts UTF-16 to UTF-8 unit by unit, for readable comparisons. Surrogates are not combined.
 std::string Utf8(std::u16string_view texto);
 
 }  // namespace tasca::test

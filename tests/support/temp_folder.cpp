@@ -1,4 +1,4 @@
-// Making and removing the folder.
+// Creates and removes the folder.
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #pragma once
-// A folder of its own for a test's files, removed at its end.
+// A temporary folder.
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -7,6 +7,7 @@
 
 namespace tasca::test {
 
+// Creates a folder with a unique name. The destructor removes it with all its contents.
 class TempFolder {
  public:
   TempFolder();
@@ -16,10 +17,11 @@ class TempFolder {
 
   const std::filesystem::path& Path() const { return ruta_; }
 
-  // Writes a file of the folder, byte for byte; reads one whole.
+  // Writes or reads a whole file, byte for byte. `nombre` is relative to the folder. Fails the test
+  // on an error.
   void Write(const std::string& nombre, std::string_view bytes) const;
   std::string Read(const std::string& nombre) const;
-  // The names of all that lies in the folder, sorted.
+  // The names of the folder's entries, sorted.
   std::vector<std::string> Names() const;
 
  private:

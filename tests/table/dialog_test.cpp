@@ -28,7 +28,7 @@ std::string Rotulo(const Dialog& dialogo, int indice) {
 bool Ofrecido(const DialogButton& boton) { return boton.Visible && boton.Enabled; }
 bool Retirado(const DialogButton& boton) { return !boton.Visible && !boton.Enabled; }
 
-// "Paso" and the button beside it are always there; the two raises are offered or withdrawn.
+// Buttons 0 and 1 are always offered. The two raises are offered only if `ofrecidas`.
 void EsperarSubidas(const Dialog& dialogo, bool ofrecidas) {
   EXPECT_TRUE(Ofrecido(dialogo.Command1[0]) && Ofrecido(dialogo.Command1[1]));
   for (const int indice : {2, 3}) {
@@ -37,7 +37,7 @@ void EsperarSubidas(const Dialog& dialogo, bool ofrecidas) {
   }
 }
 
-TEST(Dialog, IsDesignedWithFourButtonsAndACaptionThatNobodySees) {
+TEST(Dialog, StartsHiddenWithFourButtonsAndAPlaceholderCaption) {
   const Dialog dialogo;
   EXPECT_EQ(Utf8(dialogo.Caption), "Dialog Caption");
   EXPECT_EQ(Rotulo(dialogo, 0), "Paso");
@@ -110,7 +110,7 @@ TEST(Form_Activate, LeavesTheCaptionAsItStandsInAnyOtherMode) {
   }
 }
 
-TEST(Form_Activate, TouchesNeitherModoNorResultadoNorTheCaption) {
+TEST(Form_Activate, KeepsModoResultadoAndTheCaption) {
   Dialog dialogo;
   dialogo.Caption = u"La grande";
   dialogo.Modo = ModoDialogo::RespuestaOrdago;

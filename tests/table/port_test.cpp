@@ -1,4 +1,4 @@
-// What a port itself remembers.
+// The state of a port.
 #include "table/port.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace tasca::test {
 namespace {
 
-TEST(Port, RemembersTheWishForOtherCompanionsOnce) {
+TEST(Port, RemembersARequestToChangePlayersOnce) {
   QuietPort port;
   EXPECT_FALSE(port.TakeChangePlayers());
   port.ChangePlayers();

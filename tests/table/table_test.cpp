@@ -63,7 +63,7 @@ TEST(Table, KeepsScoresIn16Bits) {
   EXPECT_THROW(t.Piedras[1] += 1, RunTimeError);
 }
 
-TEST(Table, BuildsTheWindowsHalfAnewByOneAssignment) {
+TEST(Table, ResetsForm1ByOneAssignment) {
   Table t = MesaDePrueba();
   const Module1State programa = static_cast<const Module1State&>(t);
   t.Fase = Fase::RespuestaPares;
@@ -81,7 +81,7 @@ TEST(Table, CanBeCompared) {
   EXPECT_NE(una, otra);
 }
 
-TEST(Table, NamesReadBackPaddedToTheirField) {
+TEST(Table, PadsNamesToTheirField) {
   const Table t = MesaDePrueba();
   EXPECT_EQ(t.Personajes[3].Nombre.Full(), u"Berta" + std::u16string(95, u' '));
   EXPECT_EQ(t.Cartas[10].Figura.Full(), u"Rey       ");
@@ -109,7 +109,7 @@ TEST(PersonajeDe, FindsWhoSitsAtASeat) {
   EXPECT_EQ(PersonajeDe(t, 4).Nombre.Trimmed(), u"Dora");
 }
 
-TEST(PersonajeDe, RefusesASeatThatIsNone) {
+TEST(PersonajeDe, RefusesAnInvalidSeat) {
   const Table t = MesaDePrueba();
   EXPECT_THROW(PersonajeDe(t, 0), RunTimeError);
   EXPECT_THROW(PersonajeDe(t, 5), RunTimeError);
