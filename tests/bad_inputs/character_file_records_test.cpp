@@ -19,7 +19,7 @@ Outcomes OnlyTheDialogReads(const std::string& mensaje, int ofrecidos) {
   return {"offers " + std::to_string(ofrecidos), mensaje, mensaje, mensaje};
 }
 
-// Nobody but the players "Nombre 1", "Nombre 2", ...
+// A file with the players "Nombre 1", "Nombre 2", ... and no default sets.
 std::string PlayersOnly(int cuantos) {
   Fichero fichero;
   fichero.Lineas.clear();
@@ -34,7 +34,7 @@ std::string UpTo(int ultimo) {
   return fichero.Bytes();
 }
 
-// The same player so many times.
+// The record of one player, repeated.
 std::string Again(int veces) {
   Fichero uno;
   uno.Lineas.clear();
@@ -44,14 +44,14 @@ std::string Again(int veces) {
   return bytes;
 }
 
-// Records of four lines that the dialog does not offer.
+// Records that the dialog does not offer, four lines each.
 std::string Hidden(int cuantos) {
   std::string bytes;
   for (int i = 1; i <= cuantos; ++i) bytes += "Datos>\r\nDefault\r\n050\r\nHistoria\r\n";
   return bytes;
 }
 
-// The last of five records ends after so many of its 32 lines; it begins at line 129.
+// Files whose fifth record ends after 1 to 32 of its 32 lines. It starts at line 129.
 std::vector<BadFile> CutRecords() {
   const std::array<std::string, 3> faltas{"el nombre", "el valor de ordaguero", "la historia"};
   std::vector<BadFile> casos;
@@ -75,8 +75,7 @@ const std::string NoSeat =
 
 std::string NoRoom(int linea) { return AtLine(linea, "hay más de 100 personajes."); }
 
-// The first line of a 101st record: after a hundred of 32 lines, and after fifty of them and fifty
-// of four.
+// The first line of a 101st record: after 100 records of 32 lines, and after 50 of 32 and 50 of 4.
 const std::string NoRoomForAll = NoRoom(100 * 32 + 1);
 const std::string NoRoomForTheHidden = NoRoom(50 * 32 + 50 * 4 + 1);
 
@@ -100,8 +99,8 @@ std::vector<BadFile> Counts() {
   };
 }
 
-// Number 3 has its name at line 66, its ordaguero at 67, its story at 68, QMus> and a phrase at 69
-// and 70.
+// Character 3 has its name at line 66, its ordaguero at 67, its story at 68, QMus> at 69 and a
+// phrase at 70.
 std::vector<BadFile> OddLines() {
   const auto antes = [](const std::string& linea) {
     return Fichero{}.Insertar(1, {linea}).Bytes();
@@ -133,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(Cut, BadRecords, testing::ValuesIn(CutRecords()), ByNam
 INSTANTIATE_TEST_SUITE_P(Counts, BadRecords, testing::ValuesIn(Counts()), ByName);
 INSTANTIATE_TEST_SUITE_P(OddLines, BadRecords, testing::ValuesIn(OddLines()), ByName);
 
-TEST(BadRecords, FortyThousandOfThem) {
+TEST(BadRecords, EndAtTheSameLimitsInAFileOfFortyThousand) {
   EXPECT_EQ(OutcomesOf(UpTo(50) + Again(39'950)),
             (Outcomes{NoSeat, NoRoomForAll, NoRoomForAll, NoSeat}));
   EXPECT_EQ(OutcomesOf(UpTo(50) + Hidden(39'950)), OnlyTheDialogReads(NoRoomForTheHidden, 48));
@@ -158,7 +157,7 @@ TEST(BadRecords, Kept_AFourthPhraseTakesTheThirdsPlaceForTheGameAndTheEditor) {
 struct BadOrdaguero {
   std::string Name;
   std::string Linea;
-  int Valor;  // by its first three characters
+  int Valor;  // of its first three characters
 };
 
 void PrintTo(const BadOrdaguero& caso, std::ostream* salida) { *salida << caso.Name; }
@@ -174,7 +173,7 @@ TEST_P(Ordaguero, IsReadByTheEditorToo) {
   EXPECT_EQ(t->Personajes[3].Ordaguero, GetParam().Valor);
 }
 
-// All three players have it, so every computer seat does.
+// All three players have the value, so that every computer seat has it.
 TEST_P(Ordaguero, IsReadByItsFirstThreeCharactersAndTheGamePlays) {
   const std::string& linea = GetParam().Linea;
   const TempFolder carpeta;

@@ -1,4 +1,4 @@
-// Character files whose lines are not what they should be: their ends, their letters, their length.
+// Character files with faulty lines: line ends, encodings and lengths.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ std::string PhraseFirstAt(int linea) {
          ": hay una frase antes del primer personaje.";
 }
 
-// Two default sets and three players, each line with the next of these ends.
+// The valid file, its lines ended by `finales` in turn.
 std::string Ended(const Textos& finales) {
   std::string bytes;
   std::size_t linea = 0;
@@ -37,19 +37,19 @@ std::string With(int linea, const std::string& texto) {
   return Fichero{}.Cambiar(linea, texto).Bytes();
 }
 
-// NULs cannot stand in a literal that is taken for a C string.
+// Joins two texts with a NUL.
 std::string Nul(const std::string& antes, const std::string& despues) {
   return antes + '\0' + despues;
 }
 
-// With its byte-order mark.
+// The valid file in UTF-16 LE with its BOM.
 std::string Utf16() {
   std::string bytes{"\xFF\xFE"};
   for (const char letra : Fichero{}.Bytes()) bytes += Nul({letra}, "");
   return bytes;
 }
 
-// Number 3 has its name at line 66, its story at 68, and QMus> with a phrase at 69 and 70.
+// The lines of character 3.
 constexpr int Nombre = 66;
 constexpr int Ordaguero = 67;
 constexpr int Historia = 68;
@@ -60,7 +60,7 @@ Outcomes CutAfterFirstLine() {
   return AllEndWith("Jugadores.dat, línea 2: el archivo se acaba y falta el nombre del personaje.");
 }
 
-// A record marker that only looks like one: the record's lines become phrases of the one before.
+// Without a valid record marker the record's lines become phrases of the previous character.
 Outcomes OnePlayerLess() { return {"offers 2", "reads", "reads 4", TooFewPlayers}; }
 
 std::vector<BadFile> LineEnds() {
@@ -113,11 +113,11 @@ TEST_P(BadCharacterFile, HasItsOutcome) {
 INSTANTIATE_TEST_SUITE_P(LineEnds, BadCharacterFile, testing::ValuesIn(LineEnds()), ByName);
 INSTANTIATE_TEST_SUITE_P(Letters, BadCharacterFile, testing::ValuesIn(Letters()), ByName);
 
-// What stands in a phrase's place is what the players say: here it is the only one they have.
+// A line that replaces every phrase of the file.
 struct OnlyPhrase {
   std::string Name;
   std::string Linea;
-  std::string Dicho;  // as the trace writes it
+  std::string Dicho;  // in the trace's JSON
 };
 
 void PrintTo(const OnlyPhrase& caso, std::ostream* salida) { *salida << caso.Name; }
@@ -157,8 +157,7 @@ INSTANTIATE_TEST_SUITE_P(Phrases, BadPhrase, testing::ValuesIn(BadPhrases()),
                            return caso.param.Name;
                          });
 
-// Only the refusal of mus, which every hand hears, has the long phrase: all of them would be 70
-// MiB.
+// Only the phrase for refusing mus, said in every hand, is long: all phrases would be 70 MiB.
 TEST(BadPhrase, OfAMebibyteIsCutWhenItIsSaid) {
   constexpr int LineasRegistro = 32;
   constexpr int FraseNMus = 8;
@@ -174,7 +173,7 @@ TEST(BadPhrase, OfAMebibyteIsCutWhenItIsSaid) {
   EXPECT_EQ(partida.Lines.find(std::string(101, 'x')), std::string::npos);
 }
 
-// A line of the longest length there may be, its end included, and one byte more.
+// A line of the maximum length, its line end included.
 struct LongLine {
   std::string Name;
   int Linea;
@@ -201,11 +200,11 @@ INSTANTIATE_TEST_SUITE_P(
                     LongLine{"Phrase", Frase, ""}),
     [](const testing::TestParamInfo<LongLine>& caso) { return caso.param.Name; });
 
-// Lines around the widths of the tables: a name and a phrase keep 100 characters, a story 200; the
-// lists of the dialog show the whole name.
+// Lengths around the widths: names and phrases keep 100 characters, stories 200. The dialog's lists
+// show the whole name.
 class LineOfLength : public testing::TestWithParam<std::size_t> {};
 
-// Name, story, marker and first phrase of number 3.
+// A file with this line as the name, the story, a marker and the first phrase of character 3.
 std::string AllOf(const std::string& larga) {
   return Fichero{}
       .Cambiar(Nombre, larga)

@@ -1,5 +1,4 @@
-// Lines of a gibibyte, in files that take no room on the disk. What the game needs of memory does
-// not grow with them.
+// Lines of one gibibyte, in sparse files. The memory use of the game must not grow with them.
 #include <gtest/gtest.h>
 
 #include "tests/bad_inputs/outcomes.h"
@@ -12,18 +11,18 @@ namespace fs = std::filesystem;
 
 constexpr std::uintmax_t Gibibyte = std::uintmax_t{1} << 30U;
 
-// What a table, a whole hand and the longest allowed line take, generously.
+// A generous limit for a table, a whole hand and a line of the maximum length.
 constexpr int MebibytesEnough = 48;
 
-// The file goes on with a gibibyte of NULs, in the line where it ended.
+// Extends the last line of the file by a gibibyte of NULs.
 void Stretch(const fs::path& archivo) {
   fs::resize_file(archivo, fs::file_size(archivo) + Gibibyte);
 }
 
-// What is measured is memory that is used, and only what is new.
-TEST(MemoryGrownBy, SeesWhatIsTaken) {
+// Memory taken before the call must not be measured.
+TEST(MemoryGrownBy, MeasuresNewlyUsedMemory) {
   constexpr std::size_t Tomados = 100;
-  static const char* volatile visto = nullptr;  // what is looked at cannot be left out
+  static const char* volatile visto = nullptr;  // keeps the compiler from removing the strings
   const auto tomar = [] {
     const std::string tomado(Tomados << 20U, 'x');
     visto = tomado.data();
@@ -37,7 +36,7 @@ TEST(MemoryGrownBy, SeesWhatIsTaken) {
 
 struct HugeLine {
   std::string Name;
-  int Linea;  // of the character file; the lines before it are good
+  int Linea;  // of the character file; the lines before it are valid
 };
 
 void PrintTo(const HugeLine& caso, std::ostream* salida) { *salida << caso.Name; }

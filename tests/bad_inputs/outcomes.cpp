@@ -1,4 +1,4 @@
-// Reading, playing, and noting how it ended.
+// Runs the readers and the program, and collects their results.
 #include "tests/bad_inputs/outcomes.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::ordered_json;
 
-// A message as the tests state it. It must end with the sentence that the program ends.
+// Removes the folder's name and FinDelPrograma. Fails the test if the latter is missing.
 std::string WithoutFolder(std::string mensaje, const fs::path& carpeta) {
   const std::string_view final{FinDelPrograma};
   EXPECT_TRUE(mensaje.ends_with(final)) << mensaje;
@@ -32,7 +32,7 @@ std::string WithoutFolder(std::string mensaje, const fs::path& carpeta) {
   return mensaje.starts_with(principio) ? mensaje.substr(principio.size()) : mensaje;
 }
 
-// What an operation on a table of that folder says, or how it ends.
+// The result of an operation on a table of that folder, or its error.
 std::string OutcomeOf(const fs::path& carpeta, const std::function<std::string(Table&)>& leer) {
   const auto t = std::make_unique<Table>();
   t->Carpeta = carpeta;
@@ -55,8 +55,8 @@ std::string Answer(const ordered_json& pregunta) {
   return pregunta["event"] == "inputbox" ? R"({"text": "2"})" : R"({"button": "no"})";
 }
 
-// The next line of a player who bets whenever he may, until the hand is over. Notes the first
-// state.
+// The next input line of a player who always bets; nothing once the hand is over. Stores the first
+// state in `primero`.
 std::optional<std::string> NextLine(const TraceEvents& sucesos, ordered_json& primero) {
   if (sucesos.empty()) return R"({"start": {"clock": [0, 0, 0], "combos": [0, 0, 0]}})";
   const ordered_json& ultimo = sucesos.back();
@@ -111,7 +111,7 @@ int MemoryGrownBy(const std::function<void()>& hacer) {
   };
   const pid_t hijo = ::fork();
   if (hijo == 0) {
-    const auto medir = [&]() noexcept {  // what is thrown must not come back into the tests
+    const auto medir = [&]() noexcept {  // an exception must not return into the test runner
       const long antes = maximo();
       hacer();
       return static_cast<int>(std::min(maximo() - antes, 255L));

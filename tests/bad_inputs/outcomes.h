@@ -1,6 +1,6 @@
 #pragma once
-// What comes of a program folder that is not as it should be: either the game plays, or it ends
-// with one message. Every test states which.
+// Runs the readers and the whole program on a faulty program folder. Each either succeeds or ends
+// with one message; every test states which.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -13,8 +13,8 @@
 
 namespace tasca::test {
 
-// The outcomes. An error's is its message without the program's folder before and without the
-// sentence that says that the program ends: "Jugadores.dat, línea 4: ...".
+// One outcome for each reader and for the program. An error is given by its message without the
+// folder's name and without FinDelPrograma: "Jugadores.dat, línea 4: ...".
 struct Outcomes {
   std::string Dialog;   // the start-up dialog's reader: "offers N", or an error
   std::string Game;     // the main window's: "reads", or an error
@@ -26,50 +26,50 @@ struct Outcomes {
 
 std::ostream& operator<<(std::ostream& salida, const Outcomes& outcomes);
 
+// Runs everything on this folder. The program may write its settings file.
 Outcomes OutcomesIn(const std::filesystem::path& carpeta);
 
-// The whole program alone: the dialog with "Aleatorio" everywhere, then a hand to its end in which
-// everybody bets.
+// The result of the whole program: the dialog with "Aleatorio" in all lists, then one hand in which
+// the human bets in every lance.
 struct Played {
   std::string Outcome;
-  nlohmann::ordered_json State;  // the first one; null when the table never opened
-  std::string Lines;             // all that the trace wrote
+  nlohmann::ordered_json State;  // the first state; null if the table never opened
+  std::string Lines;             // the whole output of the trace
 };
 Played Play(const std::filesystem::path& carpeta);
 
-// The outcomes of a character file alone in a folder.
+// The outcomes for a folder that holds only a character file with this content.
 Outcomes OutcomesOf(const std::string& archivo);
 
-// By how many MiB the memory in use at its peak grows while `hacer` runs, in a process of its own:
-// what is expected in there is not told.
+// Runs `hacer` in a child process and returns the growth of its peak resident memory in MiB, at
+// most 255. Failed expectations inside `hacer` are not reported.
 int MemoryGrownBy(const std::function<void()>& hacer);
 
-// What several outcomes have in common.
+// The message for a file that offers fewer than three characters.
 inline constexpr auto TooFewPlayers =
     R"(No hay bastantes personajes en "Jugadores.dat" para elegir al azar: hacen falta tres.)";
 
-// All four of a file that cannot be used at all.
+// The outcomes of a file that stops everything with the same message.
 inline Outcomes AllEndWith(const std::string& mensaje) {
   return {mensaje, mensaje, mensaje, mensaje};
 }
 
-// A file that all read and that seats three.
+// The outcomes of a file that everything reads and that offers at least three characters.
 inline Outcomes AllPlay(int ofrecidos, int personajes) {
   return {"offers " + std::to_string(ofrecidos), "reads", "reads " + std::to_string(personajes),
           "plays"};
 }
 
-// One named input of a table of them.
+// A test case: a character file and its outcomes.
 struct BadFile {
-  std::string Name;  // letters and digits
+  std::string Name;  // letters and digits: part of the test's name
   std::string Bytes;
   Outcomes Expected;
 };
 
 inline void PrintTo(const BadFile& archivo, std::ostream* salida) { *salida << archivo.Name; }
 
-inline constexpr auto ByName = [](const testing::TestParamInfo<BadFile>& archivo) {
-  return archivo.param.Name;
-};
+// The name of a test case, for INSTANTIATE_TEST_SUITE_P.
+inline constexpr auto ByName = [](const auto& caso) { return caso.param.Name; };
 
 }  // namespace tasca::test

@@ -1,5 +1,5 @@
-// What may lie in a file's place: a folder, a pipe, a link that leads nowhere, a file that nobody
-// may read.
+// Something other than a readable file in a file's place: a folder, a pipe, a dangling link, a file
+// without read permission.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr auto Missing = "No se encuentra el archivo con los datos de los personajes.";
 
-// A folder with a good character file and good settings, one of which a test replaces.
+// A folder with a valid character file and valid settings.
 struct Place {
   TempFolder Carpeta;
 
@@ -23,6 +23,7 @@ struct Place {
     Carpeta.Write("Jugadores.dat", Fichero{}.Bytes());
     Carpeta.Write("mus.ini", "7\r\n2\r\n1\r\nAna> x\r\n");
   }
+  // Removes the file and returns its path.
   fs::path Vacant(const std::string& nombre) const {
     fs::remove(Carpeta.Path() / nombre);
     return Carpeta.Path() / nombre;
@@ -31,14 +32,14 @@ struct Place {
   std::string Program() const { return Play(Carpeta.Path()).Outcome; }
 };
 
-TEST(InTheCharacterFilesPlace, NothingIsToldInTheGamesOwnWords) {
+TEST(InTheCharacterFilesPlace, AMissingFileHasItsOwnMessage) {
   const Place lugar;
   lugar.Vacant("Jugadores.dat");
   const std::string noEsta = "Jugadores.dat: no se encuentra el archivo.";
   EXPECT_EQ(lugar.All(), (Outcomes{Missing, noEsta, noEsta, Missing}));
 }
 
-TEST(InTheCharacterFilesPlace, ADanglingLinkIsNothing) {
+TEST(InTheCharacterFilesPlace, ADanglingLinkIsAMissingFile) {
   const Place lugar;
   fs::create_symlink("nada", lugar.Vacant("Jugadores.dat"));
   const std::string noEsta = "Jugadores.dat: no se encuentra el archivo.";
@@ -58,25 +59,25 @@ TEST(InTheCharacterFilesPlace, ALinkToAGoodFileIsRead) {
   EXPECT_EQ(lugar.All(), AllPlay(3, 5));
 }
 
-TEST(InTheCharacterFilesPlace, AFolderIsNoFile) {
+TEST(InTheCharacterFilesPlace, AFolderIsRefused) {
   const Place lugar;
   fs::create_directory(lugar.Vacant("Jugadores.dat"));
   EXPECT_EQ(lugar.All(), AllEndWith("Jugadores.dat: no es un archivo."));
 }
 
-TEST(InTheCharacterFilesPlace, APipeIsNotWaitedFor) {
+TEST(InTheCharacterFilesPlace, APipeIsRefusedWithoutWaiting) {
   const Place lugar;
   ASSERT_EQ(::mkfifo(lugar.Vacant("Jugadores.dat").c_str(), 0600), 0);
   EXPECT_EQ(lugar.All(), AllEndWith("Jugadores.dat: no es un archivo."));
 }
 
-TEST(InTheCharacterFilesPlace, AnEndlessDeviceIsNotRead) {
+TEST(InTheCharacterFilesPlace, ADeviceIsRefused) {
   const Place lugar;
   fs::create_symlink("/dev/zero", lugar.Vacant("Jugadores.dat"));
   EXPECT_EQ(lugar.All(), AllEndWith("Jugadores.dat: no es un archivo."));
 }
 
-TEST(InTheCharacterFilesPlace, AFileThatMayNotBeReadSaysSo) {
+TEST(InTheCharacterFilesPlace, AFileWithoutReadPermissionIsReported) {
   const Place lugar;
   fs::permissions(lugar.Carpeta.Path() / "Jugadores.dat", fs::perms::none);
   const PlainUser usuario{lugar.Carpeta};
@@ -91,7 +92,7 @@ void ExpectDefaults(const Place& lugar) {
   EXPECT_EQ(partida.State["VacasPartida"], 3);
 }
 
-// The game plays on its good files, tells that the name is not kept, and leaves the file alone.
+// The game plays, reports that the name could not be saved, and does not change the settings.
 void ExpectPlaysWithANotice(const Place& lugar, const std::string& motivo) {
   const std::string antes = lugar.Carpeta.Read("mus.ini");
   const Played partida = Play(lugar.Carpeta.Path());
@@ -104,7 +105,7 @@ void ExpectPlaysWithANotice(const Place& lugar, const std::string& motivo) {
   EXPECT_EQ(lugar.Carpeta.Names(), (Textos{"Jugadores.dat", "mus.ini"}));
 }
 
-TEST(InTheSettingsPlace, NothingAndADanglingLinkLeaveTheDefaults) {
+TEST(InTheSettingsPlace, AMissingFileOrADanglingLinkLeavesTheDefaults) {
   const Place sinNada;
   sinNada.Vacant("mus.ini");
   ExpectDefaults(sinNada);
@@ -121,34 +122,34 @@ TEST(InTheSettingsPlace, ALinkToItselfCannotBeRead) {
   EXPECT_EQ(lugar.Program(), "mus.ini: no se puede leer el archivo.");
 }
 
-TEST(InTheSettingsPlace, AFolderIsNoFile) {
+TEST(InTheSettingsPlace, AFolderIsRefused) {
   const Place lugar;
   fs::create_directory(lugar.Vacant("mus.ini"));
   EXPECT_EQ(lugar.Program(), "mus.ini: no es un archivo.");
 }
 
-TEST(InTheSettingsPlace, APipeIsNotWaitedFor) {
+TEST(InTheSettingsPlace, APipeIsRefusedWithoutWaiting) {
   const Place lugar;
   ASSERT_EQ(::mkfifo(lugar.Vacant("mus.ini").c_str(), 0600), 0);
   EXPECT_EQ(lugar.Program(), "mus.ini: no es un archivo.");
 }
 
-TEST(InTheSettingsPlace, AFileThatMayNotBeReadSaysSo) {
+TEST(InTheSettingsPlace, AFileWithoutReadPermissionIsReported) {
   const Place lugar;
   fs::permissions(lugar.Carpeta.Path() / "mus.ini", fs::perms::none);
   const PlainUser usuario{lugar.Carpeta};
   EXPECT_EQ(lugar.Program(), "mus.ini: no se puede leer el archivo.");
 }
 
-// What is only written when the name is saved does not keep anybody from playing.
-TEST(InTheSettingsPlace, AFileThatMayNotBeWrittenIsPlayedWith) {
+// A settings file that can only be read does not prevent the game.
+TEST(InTheSettingsPlace, AReadOnlyFileLetsTheGamePlay) {
   const Place lugar;
   fs::permissions(lugar.Carpeta.Path() / "mus.ini", fs::perms{0444});
   const PlainUser usuario{lugar.Carpeta};
   ExpectPlaysWithANotice(lugar, "no hay permiso para escribir.");
 }
 
-TEST(InTheSettingsPlace, AFolderThatMayNotBeWrittenIsPlayedIn) {
+TEST(InTheSettingsPlace, AReadOnlyFolderLetsTheGamePlay) {
   const Place lugar;
   const PlainUser usuario{lugar.Carpeta};
   fs::permissions(lugar.Carpeta.Path(), fs::perms{0555});
@@ -156,8 +157,7 @@ TEST(InTheSettingsPlace, AFolderThatMayNotBeWrittenIsPlayedIn) {
   fs::permissions(lugar.Carpeta.Path(), fs::perms{0755});
 }
 
-// A full disk: no file may grow past its first bytes.
-TEST(InTheSettingsPlace, AFullDiskIsPlayedOn) {
+TEST(InTheSettingsPlace, AFullDiskLetsTheGamePlay) {
   const Place lugar;
   const FullDisk lleno{10};
   ExpectPlaysWithANotice(lugar, "no queda sitio en el disco.");

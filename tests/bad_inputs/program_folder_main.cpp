@@ -1,4 +1,4 @@
-// Prints the folder in which it lies.
+// Prints its program folder.
 #include <iostream>
 
 #include "ui/program_folder.h"

@@ -1,4 +1,4 @@
-// Program folders with blanks, signs and accents in their names, and with names that are not UTF-8.
+// Program folders whose names have blanks, signs, accents or bytes that are not UTF-8.
 #include "ui/program_folder.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 struct FolderName {
   std::string Name;
   std::string Bytes;
-  std::string Shown;  // as messages write it
+  std::string Shown;  // in messages
 };
 
 void PrintTo(const FolderName& caso, std::ostream* salida) { *salida << caso.Name; }
@@ -54,7 +54,7 @@ TEST_P(ProgramFolderNamed, IsWrittenInMessages) {
       Utf8(error.Message()).starts_with(Parent().Path().string() + "/" + GetParam().Shown + ": "));
 }
 
-// A program that says where it lies, from there.
+// Starts a copy of program-folder there, from another current folder.
 TEST_P(ProgramFolderNamed, IsFoundByTheProgramsThatLieInIt) {
   const fs::path carpeta = Make();
   fs::copy(TASCA_PROGRAM_FOLDER, carpeta / "dondeEstoy");

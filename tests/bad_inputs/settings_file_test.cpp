@@ -1,4 +1,4 @@
-// Settings files that are too short, too long, or hold something else.
+// Settings files that are too short, too long or have invalid contents.
 #include <gtest/gtest.h>
 
 #include "tests/bad_inputs/outcomes.h"
@@ -15,8 +15,8 @@ struct BadSettings {
   std::string Name;
   std::string Bytes;
   std::string Outcome;
-  std::vector<int> Partida;  // stones, juegos, vacas; none when the table never opens
-  std::string After;         // what the file holds then
+  std::vector<int> Partida;  // stones, juegos, vacas; empty if the table never opens
+  std::string After;         // the file's content afterwards
 };
 
 void PrintTo(const BadSettings& caso, std::ostream* salida) { *salida << caso.Name; }
@@ -27,13 +27,13 @@ BadSettings CutBefore(const std::string& nombre, int linea, const std::string& b
   return {nombre, bytes, mensaje, {}, bytes};
 }
 
-// Three lines that leave the defaults, whatever they hold.
+// Three invalid lines, for which the default parameters are used.
 BadSettings Defaults(const std::string& nombre, const std::string& lineas) {
   return {
       nombre, lineas + "Ana>\r\n", "plays", {35, 3, 3}, lineas + "Ana" + LastPlayer + "Ana>\r\n"};
 }
 
-// A fourth line, which proposes this name.
+// A fourth line, and the name that the dialog proposes for it.
 BadSettings Fourth(const std::string& nombre, const std::string& linea,
                    const std::string& jugador) {
   const std::string principio = "7\r\n2\r\n1\r\n";
@@ -47,7 +47,7 @@ BadSettings Fourth(const std::string& nombre, const std::string& linea,
 std::vector<BadSettings> Cases() {
   const std::string tres = "7\r\n2\r\n1\r\n";
   const std::string guardado = tres + "Ana" + LastPlayer + "Ana> x\r\n";
-  // A number ends at a NUL; behind one there is none.
+  // A NUL ends a number. A line that begins with one has no number.
   const std::string nulos = "7"s + "\0"s + "5\r\n" + "\0"s + "2\r\n1" + "\0"s + "\r\n";
   return {
       CutBefore("NoLine", 1, ""),

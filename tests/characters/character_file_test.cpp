@@ -13,7 +13,7 @@
 namespace tasca::test {
 namespace {
 
-// A table without characters, and a folder with a character file.
+// An empty table and a folder for a character file.
 struct Lectura {
   TempFolder carpeta;
   Table t;
@@ -25,7 +25,7 @@ struct Lectura {
     LeerPersonajes(t);
   }
 
-  // The message that ends the program, after the folder's name; "" when there is none.
+  // The error message without the folder's name; "" if there is no error.
   std::string Fallo() {
     try {
       LeerPersonajes(t);
@@ -86,7 +86,7 @@ TEST(LeerPersonajes, ReadsARecord) {
   EXPECT_TRUE(l.NuncaLlenada(1, 14, 1));
 }
 
-TEST(LeerPersonajes, KnowsTheFourteenMarkers) {
+TEST(LeerPersonajes, RecognisesTheFourteenMarkers) {
   const std::array<std::string, 14> marcas{"QMus", "NMus", "TPar", "NPar", "TJue", "NJue", "Paso",
                                            "Envi", "EnvM", "Orda", "NQui", "SQui", "Vict", "Derr"};
   std::string archivo = RegistroLeido("Berta");
@@ -198,7 +198,7 @@ TEST(LeerPersonajes, ReadsABlankLineAsABlankPhrase) {
   EXPECT_EQ(l.Frase(1, 1, 3), "mus");
 }
 
-TEST(LeerPersonajes, StartsWithTheFirstPhraseAfterEveryMarker) {
+TEST(LeerPersonajes, RestartsThePhrasesAtEveryMarker) {
   Lectura l;
   l.Leer(RegistroLeido("Berta") + "QMus>\r\nuno\r\ndos\r\nNMus>\r\ntres\r\nQMus>\r\ncuatro\r\n");
   EXPECT_EQ(l.Frase(1, 1, 1), "cuatro");
@@ -206,7 +206,7 @@ TEST(LeerPersonajes, StartsWithTheFirstPhraseAfterEveryMarker) {
   EXPECT_EQ(l.Frase(1, 2, 1), "tres");
 }
 
-TEST(LeerPersonajes, KnowsAMarkerByItsTextBeforeTheFirstSign) {
+TEST(LeerPersonajes, RecognisesAMarkerByItsTextBeforeTheFirstSign) {
   Lectura l;
   l.Leer("Datos>comentario\r\nBerta\r\n050\r\nhistoria\r\n" +
          std::string{"NMus>>\r\nuno\r\nPaso>Envi>\r\ndos\r\n"});
@@ -219,12 +219,12 @@ TEST(LeerPersonajes, KnowsAMarkerByItsTextBeforeTheFirstSign) {
 TEST(LeerPersonajes, TakesALineWithTheSignAnywhereForAMarker) {
   Lectura l;
   l.Leer(RegistroLeido("Berta") + "NMus>\r\nuno\r\ndos\r\nno > esto\r\ntres\r\nhola>\r\n>\r\n");
-  EXPECT_EQ(l.Frase(1, 2, 1), "tres");  // the marker started the phrases anew
+  EXPECT_EQ(l.Frase(1, 2, 1), "tres");  // after the marker the slots start again at 1
   EXPECT_EQ(l.Frase(1, 2, 2), "dos");
   EXPECT_TRUE(l.NuncaLlenada(1, 2, 3));
 }
 
-TEST(LeerPersonajes, LetsUnknownMarkersOnlyStartThePhrasesAnew) {
+TEST(LeerPersonajes, RestartsThePhrasesAtAnUnknownMarker) {
   for (const std::string marca : {"Otra", " NMus", "NMus ", "nmus", "NMUS", "xPaso", "", "Dato"}) {
     Lectura l;
     l.Leer(RegistroLeido("Berta") + "TPar>\r\nuno\r\ndos\r\n" + marca + ">\r\ntres\r\n");
@@ -234,7 +234,7 @@ TEST(LeerPersonajes, LetsUnknownMarkersOnlyStartThePhrasesAnew) {
   }
 }
 
-// The editor's reader takes no notice of case; this one does.
+// The editor's reader ignores case; this one does not.
 TEST(LeerPersonajes, Kept_LowerCaseMarkersAreUnknown) {
   Lectura l;
   l.Leer(RegistroLeido("Berta") + "qmus>\r\nuno\r\nnmus>\r\ndos\r\ntres\r\nenvi>\r\ncuatro\r\n" +

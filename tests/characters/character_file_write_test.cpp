@@ -1,4 +1,4 @@
-// Writing the character file, and reading it back as the editor does.
+// Writing the character file, and reading it back with the editor's reader.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -15,7 +15,7 @@ namespace {
 
 using Archivos = std::vector<std::string>;
 
-// A phrase as it stands in the file: a hundred characters and the line end.
+// A phrase as written: padded to 100 characters, with the line end.
 std::string Frase(const std::string& frase) {
   return frase + std::string(100 - frase.size(), ' ') + "\r\n";
 }
@@ -110,14 +110,14 @@ struct Carpeta {
   Carpeta() { t.Carpeta = carpeta.Path(); }
 };
 
-TEST(EscribirPersonajes, MakesTheFileAndNoCopyWhereThereWasNone) {
+TEST(EscribirPersonajes, CreatesTheFileWithoutACopy) {
   const Carpeta c;
   EscribirPersonajes(c.t, 1);
   EXPECT_EQ(c.carpeta.Read("Jugadores.dat"), RegistroEscrito("Berta", "050", "Cose."));
   EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.dat"}));
 }
 
-TEST(EscribirPersonajes, KeepsTheLastFileAndNoneBeforeIt) {
+TEST(EscribirPersonajes, KeepsOneBackupCopy) {
   const Carpeta c;
   c.carpeta.Write("Jugadores.dat", "uno");
   EscribirPersonajes(c.t, 1);
@@ -128,7 +128,7 @@ TEST(EscribirPersonajes, KeepsTheLastFileAndNoneBeforeIt) {
   EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.bak", "Jugadores.dat"}));
 }
 
-TEST(EscribirPersonajes, IsNotDisturbedByAFolderBesideTheCopy) {
+TEST(EscribirPersonajes, IgnoresAFolderBesideTheCopy) {
   const Carpeta c;
   c.carpeta.Write("Jugadores.dat", "uno");
   std::filesystem::create_directory(c.carpeta.Path() / "Jugadores.bak.tmp");
@@ -137,7 +137,7 @@ TEST(EscribirPersonajes, IsNotDisturbedByAFolderBesideTheCopy) {
   EXPECT_EQ(c.carpeta.Read("Jugadores.bak"), "uno");
 }
 
-TEST(EscribirPersonajes, LeavesTheFileWhenNoCopyCanBeMade) {
+TEST(EscribirPersonajes, KeepsTheFileWhenTheBackupFails) {
   const Carpeta c;
   c.carpeta.Write("Jugadores.dat", "uno");
   std::filesystem::create_directory(c.carpeta.Path() / "Jugadores.bak");
@@ -158,12 +158,12 @@ TEST(LeerPersonajesSinMayusculas, ReadsBackWhatWasWritten) {
   Table leida;
   leida.Carpeta = c.t.Carpeta;
   EXPECT_EQ(LeerPersonajesSinMayusculas(leida), 2);
-  c.t.Mensajes[1][14][1] = u"adiós";  // it moved up: the slots before it were empty
+  c.t.Mensajes[1][14][1] = u"adiós";  // it is now in slot 1: the empty slots were not written
   c.t.Mensajes[1][14][3] = FixedText<AnchoFrase>{};
   EXPECT_EQ(leida, c.t);
 }
 
-// The sign takes one of the three places that are read.
+// Three characters are read, and the sign is one of them.
 TEST(LeerPersonajesSinMayusculas, Kept_ANegativeOrdagueroLosesADigitWheneverItIsReadBack) {
   Carpeta c;
   c.t.Personajes[1].Ordaguero = -57;
@@ -174,7 +174,7 @@ TEST(LeerPersonajesSinMayusculas, Kept_ANegativeOrdagueroLosesADigitWheneverItIs
   }
 }
 
-TEST(LeerPersonajesSinMayusculas, Kept_TakesTagsInAnyCase) {
+TEST(LeerPersonajesSinMayusculas, Kept_IgnoresTheCaseOfTags) {
   Carpeta c;
   c.carpeta.Write("Jugadores.dat",
                   "DATOS>\r\nDora\r\n040\r\nCanta.\r\nqmus>\r\nmus\r\ndERR>\r\nadios\r\n"

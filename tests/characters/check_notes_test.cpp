@@ -1,4 +1,4 @@
-// Bringing together what the readers come upon.
+// Merging the faults that several readers find.
 #include "characters/check_notes.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace tasca::test {
 namespace {
 
-TEST(NombreLectores, NamesThem) {
+TEST(NombreLectores, ListsTheReaders) {
   EXPECT_EQ(Utf8(NombreLectores(LectorJuego)), "el juego");
   EXPECT_EQ(Utf8(NombreLectores(LectorEditor)), "el editor");
   EXPECT_EQ(Utf8(NombreLectores(LectorInicio)), "el diálogo de inicio");
@@ -21,7 +21,7 @@ TEST(Cita, QuotesUpToFortyCharacters) {
   EXPECT_EQ(Utf8(Cita(std::u16string(41, u'x'))), '"' + std::string(40, 'x') + "…\"");
 }
 
-TEST(CuadernoFaltas, MakesOneFaultOfWhatSeveralReadersComeUpon) {
+TEST(CuadernoFaltas, MergesEqualFaultsOfSeveralReaders) {
   CuadernoFaltas cuaderno;
   cuaderno.Linea = 7;
   cuaderno.Anotar(LectorJuego, u"está mal");

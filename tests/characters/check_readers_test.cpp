@@ -1,5 +1,5 @@
-// The checker against the readers themselves, over files of lines drawn at random: where a reader
-// stops the program, the checker has a fault that says so, and no fault says so of a line before.
+// Compares the checker with the readers on random files: the first line at which the checker
+// reports a stop is the line at which the reader stops.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -18,7 +18,7 @@ const Textos Piezas{"Datos>",   "Datos>",  "Datos>",    "Datos>",      "datos>",
                     "x Datos>", "QMus>",   "qmus>",     "QMus>Datos>", "Otra>",  "Berta",
                     "Default",  "Default", "Default x", "050",         "",       "frase"};
 
-// A lead of good records, so that the limits of 50 and 100 come into play, and then anything.
+// Up to 100 valid records, so that the limits of 50 and 100 are reached, then random lines.
 std::string FicheroAlAzar(std::mt19937& azar) {
   const auto hasta = [&azar](std::size_t limite) { return azar() % limite; };
   std::string bytes;
@@ -30,7 +30,7 @@ std::string FicheroAlAzar(std::mt19937& azar) {
   return bytes;
 }
 
-// A thousand files, of which neither few nor most stop the reader.
+// Tries a thousand files. Between 100 and 900 of them must stop the reader.
 void CompararDondeSeDetiene(std::u16string_view lector, const std::function<void(Table&)>& leer) {
   std::mt19937 azar{1};
   int detenidos = 0;

@@ -1,4 +1,4 @@
-// Every fault of a character file, on both sides of every limit.
+// The checker: every fault, on both sides of every limit.
 #include "characters/check.h"
 
 #include <gtest/gtest.h>
@@ -40,13 +40,13 @@ TEST(RevisarPersonajes, TakesEitherLineEndAndALastLineWithoutOne) {
   EXPECT_EQ(Faltas(bytes), SinFaltas);
 }
 
-// The encoding.
+// Encoding.
 
 const std::string EnUtf8 =
     "el archivo parece guardado en UTF-8, y así sus acentos se ven mal: guárdelo en Windows-1252 "
     "(ANSI).";
 
-TEST(RevisarPersonajes, FindsAFileSavedAsUtf8AtItsFirstLineOfSeveralBytes) {
+TEST(RevisarPersonajes, FindsUtf8AtItsFirstMultiByteLine) {
   const Fichero fichero = Fichero{}.Cambiar(68, "Bailó.").Cambiar(70, "¡mus!").Cambiar(72, "no");
   EXPECT_EQ(Faltas(fichero), (Textos{"68: " + EnUtf8}));
 }
@@ -56,8 +56,8 @@ TEST(RevisarPersonajes, FindsAByteOrderMark) {
   EXPECT_EQ(std::count(faltas.begin(), faltas.end(), "1: " + EnUtf8), 1);
 }
 
-// "Ã©" is two bytes of Windows-1252 that are one character of UTF-8.
-TEST(RevisarPersonajes, TakesWindows1252ForWhatItIs) {
+// The Windows-1252 bytes of "Ã©" are also a valid UTF-8 sequence.
+TEST(RevisarPersonajes, AcceptsWindows1252) {
   EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "Bail\xF3.")), SinFaltas);
   EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "\xC3\xA9.").Cambiar(159, "Bail\xF3.")), SinFaltas);
   EXPECT_EQ(Faltas(Fichero{}.Cambiar(68, "Bail\xF3.").Cambiar(70, "\xC3\xA9.")), SinFaltas);
@@ -69,7 +69,7 @@ TEST(RevisarPersonajes, FindsUtf8InALastLineWithoutAnEnd) {
   EXPECT_EQ(Faltas(bytes), (Textos{"160: " + EnUtf8}));
 }
 
-// What would stop the program.
+// Faults that stop the program.
 
 TEST(RevisarPersonajes, FindsPhrasesBeforeTheFirstRecord) {
   const std::string falta =
@@ -94,7 +94,7 @@ TEST(RevisarPersonajes, FindsARecordCutShort) {
   EXPECT_EQ(cortado(4), SinFaltas);
 }
 
-TEST(RevisarPersonajes, FindsACutThatOnlyTheDialogComesUpon) {
+TEST(RevisarPersonajes, FindsACutRecordThatOnlyTheDialogReads) {
   EXPECT_EQ(Faltas(Fichero{}.Insertar(161, {"Mis Datos>"})),
             (Textos{"161: la marca \"Mis Datos\" es desconocida.",
                     "161: esta línea empieza un personaje solo para el diálogo de inicio.",
@@ -102,7 +102,7 @@ TEST(RevisarPersonajes, FindsACutThatOnlyTheDialogComesUpon) {
                     "el programa (solo para el diálogo de inicio)."}));
 }
 
-// Characters 6 to `hasta` have no phrases, and names that are not offered.
+// Adds characters 6 to `hasta`, without phrases and with names that are not offered.
 Fichero ConPersonajes(int hasta) {
   Fichero fichero;
   for (int i = 6; i <= hasta; ++i) {
@@ -114,7 +114,7 @@ Fichero ConPersonajes(int hasta) {
 
 TEST(RevisarPersonajes, FindsTheCharacterAfterTheHundredth) {
   EXPECT_EQ(Faltas(ConPersonajes(100)), SinFaltas);
-  // 160 lines of five characters, then four of each.
+  // The first five characters have 160 lines, each further one four.
   const Textos falta{"541: hay más de 100 personajes, y aquí se detiene el programa."};
   EXPECT_EQ(Faltas(ConPersonajes(101)), falta);
   EXPECT_EQ(Faltas(ConPersonajes(103)), falta);
@@ -127,7 +127,7 @@ TEST(RevisarPersonajes, FindsEveryOfferedCharacterAfterTheFiftieth) {
            " se ofrece, y solo los 50 primeros pueden sentarse a la mesa, y aquí se detiene el "
            "programa (solo para el diálogo de inicio).";
   };
-  // Character 50 has its lines from 337 on, number 51 from 341 on.
+  // Character 50 starts at line 337, character 51 at line 341.
   EXPECT_EQ(Faltas(ConPersonajes(52).Cambiar(338, "Berta")), SinFaltas);
   EXPECT_EQ(Faltas(ConPersonajes(52).Cambiar(342, "Berta")), (Textos{falta(344, 51)}));
   EXPECT_EQ(Faltas(ConPersonajes(52).Cambiar(342, "Berta").Cambiar(346, "Dora")),
@@ -141,10 +141,10 @@ TEST(RevisarPersonajes, EndsAtALineThatIsTooLong) {
             (Textos{"68: la línea es demasiado larga, y aquí se detiene el programa."}));
 }
 
-// What would be lost or misread.
+// Faults that lose or change text.
 
 TEST(RevisarPersonajes, FindsUnknownMarkers) {
-  // An empty kind of phrase takes no room from another.
+  // The marker has no phrases, so that there is no second fault.
   EXPECT_EQ(Faltas(Fichero{}.Insertar(97, {"Otra>"})),
             (Textos{"97: la marca \"Otra\" es desconocida."}));
   EXPECT_EQ(Faltas(Fichero{}.Insertar(97, {" Derr >"})),
@@ -175,7 +175,7 @@ TEST(RevisarPersonajes, FindsMarkersInTheWrongCase) {
 }
 
 TEST(RevisarPersonajes, ComparesOnlyTheLettersOfAscii) {
-  // 0xD3 and 0xF3 are the two cases of the accented o.
+  // 0xD3 and 0xF3 are Ó and ó.
   EXPECT_EQ(
       Faltas(Fichero{}.Insertar(97, {"\xD3rda>", "0rda>"})),
       (Textos{"97: la marca \"Órda\" es desconocida.", "98: la marca \"0rda\" es desconocida."}));
@@ -197,7 +197,7 @@ TEST(RevisarPersonajes, FindsLinesThatOnlyTheDialogTakesForARecord) {
       Faltas(Fichero{}.Insertar(161, {"QMus>Datos>", "a", "b", "c"})),
       (Textos{"161: lo que sigue a la marca en su línea se pierde.", "161" + soloInicio,
               "162: ya hay una frase 1 de \"QMus\": esta toma su sitio y aquella se pierde."}));
-  // The dialog does not read on in a record of default phrases.
+  // The dialog reads a default record only as far as its name.
   EXPECT_EQ(Faltas(Fichero{}.Cambiar(36, "Datos>")),
             (Textos{"36: la historia lleva el signo \">\", que es solo de las marcas.",
                     "36" + soloInicio}));
@@ -303,7 +303,7 @@ TEST(RevisarPersonajes, FindsTheSignOfMarkersInNamesAndStories) {
                     "68: la historia lleva el signo \">\", que es solo de las marcas."}));
 }
 
-// What would be shown wrongly.
+// Faults in what is shown.
 
 TEST(RevisarPersonajes, FindsAmpersandsWhereNoAmountComes) {
   EXPECT_EQ(Faltas(Fichero{}.Cambiar(86, "Envido &").Cambiar(22, "que envida &")), SinFaltas);
@@ -357,7 +357,7 @@ TEST(RevisarPersonajes, FindsDefaultSetsThatWouldBeOffered) {
             SinFaltas);
 }
 
-TEST(RevisarPersonajes, FindsDefaultSetsThatAreNotThere) {
+TEST(RevisarPersonajes, FindsMissingDefaultSets) {
   const std::string sonCero = "0: los jugadores que se ofrecen son 0, y hacen falta 3.";
   const std::string falta = ", el de las frases de quien no tiene otras.";
   EXPECT_EQ(Faltas(Fichero{}.Cortar(32)), (Textos{"0: falta el personaje 2" + falta, sonCero}));
@@ -386,9 +386,9 @@ TEST(RevisarPersonajes, ListsTheFaultsByLine) {
               "0: los jugadores que se ofrecen son 2, y hacen falta 3."}));
 }
 
-// What cannot be read at all.
+// Files that cannot be read.
 
-TEST(RevisarPersonajes, ThrowsForAFileThatIsNotThereAndForAFolder) {
+TEST(RevisarPersonajes, ThrowsForAMissingFileAndForAFolder) {
   const TempFolder carpeta;
   EXPECT_THROW(RevisarPersonajes(carpeta.Path() / "nada.dat"), RunTimeError);
   EXPECT_THROW(RevisarPersonajes(carpeta.Path()), RunTimeError);
@@ -398,7 +398,7 @@ TEST(RevisarPersonajes, ThrowsForAFileThatCannotBeReadToItsEnd) {
   EXPECT_THROW(RevisarPersonajes("/proc/self/mem"), RunTimeError);
 }
 
-TEST(RevisarPersonajes, LeavesAFileAtThatWhenItsFaultsNeverEnd) {
+TEST(RevisarPersonajes, StopsAfterTooManyFaults) {
   const Revision revision = Revisar(std::string(1'000'000, '\n'));
   ASSERT_FALSE(revision.Faltas.empty());
   EXPECT_LE(revision.Faltas.size(), 200'001U);

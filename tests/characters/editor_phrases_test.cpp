@@ -1,4 +1,4 @@
-// The character editor, its phrases.
+// The character editor: phrases.
 #include <gtest/gtest.h>
 
 #include "tests/characters/taller.h"
@@ -7,14 +7,14 @@
 namespace tasca::test {
 namespace {
 
-// Character 2, kind 9, phrase 3.
+// Selects character 2, kind 9, phrase 3.
 void ElegirFrase(Taller& e) {
   List1_Click(e.d, e.t, e.port, 1);
   List2_Click(e.d, e.t, 8);
   List3_Click(e.d, 2);
 }
 
-TEST(ModificarMensaje, AsksWithThePhraseThatStandsThere) {
+TEST(ModificarMensaje, AsksWithTheCurrentPhraseAsTheDefault) {
   Taller e{2};
   ElegirFrase(e);
   e.port.Types(u"  van & más  ");
@@ -25,7 +25,7 @@ TEST(ModificarMensaje, AsksWithThePhraseThatStandsThere) {
   EXPECT_EQ(Utf8(e.t.Mensajes[2][9][3].Full()).substr(0, 12), "van & más  ");
 }
 
-TEST(ModificarMensaje, AsksWithNothingForAPhraseThatWasNeverFilled) {
+TEST(ModificarMensaje, AsksWithAnEmptyDefaultForAPhraseNeverFilled) {
   Taller e{2};
   ElegirFrase(e);
   e.t.Mensajes[2][9][3] = FixedText<AnchoFrase>{};
@@ -35,7 +35,7 @@ TEST(ModificarMensaje, AsksWithNothingForAPhraseThatWasNeverFilled) {
             (Textos{"input[Mensaje envido & más]: Nuevo mensaje: (default )"}));
 }
 
-TEST(ModificarMensaje, CutsTheAnswerAndTrimsItThen) {
+TEST(ModificarMensaje, CutsTheAnswerThenTrimsIt) {
   Taller e{2};
   ElegirFrase(e);
   e.port.Types(std::u16string(99, u'a') + u"bc").Types(std::u16string(100, u' ') + u"x");
@@ -59,7 +59,7 @@ TEST(ModificarMensaje, Kept_CancellingClearsThePhrase) {
 }
 
 TEST(ModificarMensaje, EndsTheProgramWithoutASelection) {
-  Taller sinPersonaje{1};  // its phrases are shown, but it is not selected
+  Taller sinPersonaje{1};  // character 1 is shown but not selected
   EXPECT_EQ(ErrorOf([&] { Command2_Click(sinPersonaje.d, sinPersonaje.t, sinPersonaje.port, 0); }),
             IndiceFuera);
   Taller sinFrase{1};

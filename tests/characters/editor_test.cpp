@@ -1,4 +1,4 @@
-// The character editor: the characters, and the file.
+// The character editor: characters, loading and saving.
 #include "characters/editor.h"
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ TEST(CargarPersonajes, ListsTheCharactersAndShowsTheFirstWithoutSelectingIt) {
   EXPECT_EQ(e.d.NumPersonajes, 2);
 }
 
-TEST(CargarPersonajes, TellsHowManyThereAre) {
+TEST(CargarPersonajes, TellsTheNumberOfCharacters) {
   Taller e;
   e.Llenar(1);
   EscribirPersonajes(e.t, 1);
@@ -160,7 +160,7 @@ TEST(List1_Click, Kept_ListsThePhrasesWithTheirPadding) {
             (Textos{Rellena("1-1-1"), Rellena("1-1-2"), std::string(100, '\0')}));
 }
 
-TEST(List1_Click, RefusesAPositionThatIsNotThere) {
+TEST(List1_Click, RefusesAnInvalidPosition) {
   Taller e{1};
   EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, e.port, 1); }), IndiceFuera);
   EXPECT_EQ(ErrorOf([&] { List1_Click(e.d, e.t, e.port, -1); }), IndiceFuera);

@@ -1,4 +1,5 @@
-// The character editor's three text boxes: what is refused, and what is asked before it is lost.
+// The character editor's three text boxes: refused values, and the question before changes are
+// lost.
 #include <gtest/gtest.h>
 
 #include "characters/editor.h"
@@ -59,7 +60,7 @@ Textos PreguntaPor(const std::string& nombre) {
           " han cambiado. ¿Aplicarlos? Si pulsa Cancelar, se pierde lo escrito."};
 }
 
-// One text that is typed anew, and what the character's data are then.
+// A text box, the text typed into it, and the character's data afterwards.
 struct TextoNuevo {
   std::u16string Dialog1::*Caja;
   std::u16string Escrito;
@@ -113,7 +114,7 @@ TEST(List1_Click, KeepsTextsThatCannotBeStoredAndTheSelection) {
   EXPECT_EQ(Campos(e.d), (Textos{"Lola", "-10", "H1"}));
 }
 
-TEST(List1_Click, AsksNothingAboutTextsThatWouldBeStoredAsTheyWere) {
+TEST(List1_Click, AsksNothingAboutTextsThatChangeNothing) {
   Taller e{2};
   List1_Click(e.d, e.t, e.port, 0);
   e.d.Text1 = u" P1  ";
@@ -127,7 +128,7 @@ TEST(List1_Click, AsksNothingAboutACharacterNeverFilled) {
   Taller e{2};
   CargarPersonajes(e.d, e.t, e.port);
   List1_Click(e.d, e.t, e.port, 2);  // stands for character 3
-  e.d.Text1.clear();                 // as a text box leaves it
+  e.d.Text1.clear();                 // a text box drops the NULs
   e.d.Text3.clear();
   e.port.TakeEvents();
   List1_Click(e.d, e.t, e.port, 0);
@@ -191,7 +192,7 @@ TEST(List1_Click, AsksAboutANewCharacterByItsName) {
   EXPECT_EQ(e.Datos(3), (Textos{"Pepe", "10", "Canta."}));
 }
 
-TEST(List1_Click, AsksNothingOfWhatDeletingAndLoadingReplace) {
+TEST(List1_Click, AsksNothingAboutTextsReplacedByDeletingOrLoading) {
   Taller e{3};
   List1_Click(e.d, e.t, e.port, 1);
   e.d.Text1 = u"Lola";

@@ -1,5 +1,5 @@
 #pragma once
-// A character file without a fault, and the ways to spoil it.
+// A valid character file, and functions that put faults into it.
 #include <string>
 #include <vector>
 
@@ -22,7 +22,7 @@ struct Fichero {
     for (int i = 1; i <= 5; ++i) Anadir(i <= 2 ? "Default " : "Nombre ", i);
   }
 
-  // One more character at the end, complete.
+  // Appends a complete character.
   Fichero& Anadir(const std::string& nombre, int numero) {
     const Textos marcas{"QMus", "NMus", "TPar", "NPar", "TJue", "NJue", "Paso",
                         "Envi", "EnvM", "Orda", "NQui", "SQui", "Vict", "Derr"};
@@ -37,7 +37,7 @@ struct Fichero {
     return *this;
   }
 
-  // Line `numero`, counted from 1, gets another text; new lines come before it; it goes.
+  // Replaces line `numero` (from 1), inserts lines before it, removes it.
   Fichero& Cambiar(int numero, const std::string& texto) {
     Lineas.at(static_cast<std::size_t>(numero - 1)) = texto;
     return *this;
@@ -50,12 +50,13 @@ struct Fichero {
     Lineas.erase(Lineas.begin() + numero - 1);
     return *this;
   }
-  // Only the first lines stay.
+  // Keeps the first `cuantas` lines only.
   Fichero& Cortar(int cuantas) {
     Lineas.resize(static_cast<std::size_t>(cuantas));
     return *this;
   }
 
+  // The file's content, each line with CR LF.
   std::string Bytes() const {
     std::string bytes;
     for (const std::string& linea : Lineas) bytes += linea + "\r\n";
@@ -63,13 +64,14 @@ struct Fichero {
   }
 };
 
+// Runs the checker on a file with this content.
 inline Revision Revisar(const std::string& bytes) {
   const TempFolder carpeta;
   carpeta.Write("Jugadores.dat", bytes);
   return RevisarPersonajes(carpeta.Path() / "Jugadores.dat");
 }
 
-// The faults as "LINE: TEXT"; those of the whole file have line 0.
+// The checker's faults as "LINE: TEXT". Faults of the whole file have line 0.
 inline Textos Faltas(const std::string& bytes) {
   Textos faltas;
   for (const Falta& falta : Revisar(bytes).Faltas) {

@@ -1,7 +1,7 @@
 #pragma once
-// Where a reader of the character file stops the program: by its own message, and by what the
-// checker says of it. A reader is named as the checker does: "el juego", "el editor", "el diálogo
-// de inicio".
+// The line of the character file at which a reader ends the program, from the reader's own message
+// and from the checker's faults. `lector` is the checker's name of a reader: "el juego", "el
+// editor", "el diálogo de inicio".
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -13,7 +13,7 @@
 
 namespace tasca::test {
 
-// The line at which a reader ends the program, from its message.
+// The line that a reader's message names; nothing if it names none.
 inline std::optional<int> LineaDe(const RunTimeError& error) {
   constexpr std::u16string_view Marca = u", línea ";
   constexpr std::size_t Cifras = 9;
@@ -23,6 +23,7 @@ inline std::optional<int> LineaDe(const RunTimeError& error) {
   return LeadingWhole(mensaje.substr(en + Marca.size(), Cifras));
 }
 
+// Runs a reader and returns the line of its error; nothing if it throws none.
 template <class Leer>
 std::optional<int> DondeSeDetiene(const Leer& leer) {
   try {
@@ -33,6 +34,7 @@ std::optional<int> DondeSeDetiene(const Leer& leer) {
   }
 }
 
+// Whether the fault says that it stops the reader.
 inline bool Detiene(const Falta& falta, std::u16string_view lector) {
   const std::u16string_view texto = falta.Texto;
   if (!Contains(texto, u"y aquí se detiene el programa")) return false;
@@ -40,7 +42,7 @@ inline bool Detiene(const Falta& falta, std::u16string_view lector) {
   return solo == std::u16string_view::npos || Contains(texto.substr(solo), lector);
 }
 
-// The first line at which the checker has the reader stop.
+// The line of the first fault that stops the reader; nothing if there is none.
 inline std::optional<int> DondeDice(const Revision& revision, std::u16string_view lector) {
   const auto primera =
       std::find_if(revision.Faltas.begin(), revision.Faltas.end(),
@@ -48,7 +50,7 @@ inline std::optional<int> DondeDice(const Revision& revision, std::u16string_vie
   return primera == revision.Faltas.end() ? std::nullopt : std::optional{primera->Linea};
 }
 
-// Whether the checker has the reader stop at that line, perhaps not for the first time.
+// Whether any fault of that line stops the reader.
 inline bool DiceEn(const Revision& revision, int linea, std::u16string_view lector) {
   return std::any_of(revision.Faltas.begin(), revision.Faltas.end(),
                      [linea, lector](const Falta& falta) {

@@ -1,4 +1,4 @@
-// What each line of a character file is to each of its readers.
+// How each reader classifies the lines of a character file.
 #include "characters/record_lines.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ std::string Word(const LineasPersonajes& lineas, ClaseLinea clase) {
   return "?";
 }
 
-// The lines in the reader's words, one after the other.
+// The classes of the lines, separated by ", ".
 std::string Read(LectorPersonajes lector, const Renglones& archivo) {
   LineasPersonajes lineas{lector};
   std::string todas;
@@ -64,7 +64,7 @@ TEST(LineasPersonajes, GivesTheStartUpDialogNamesAndStoriesAlone) {
             "personaje 1, nombre, ordaguero, historia, ajena, ajena, ajena");
 }
 
-TEST(LineasPersonajes, LetsTheStartUpDialogLeaveARecordOfDefaultPhrases) {
+TEST(LineasPersonajes, EndsADefaultRecordAtItsNameForTheStartUpDialog) {
   EXPECT_EQ(
       Read(LectorPersonajes::Inicio, {u"Datos>", u"el Default de todos", u"Datos>", u"Berta"}),
       "personaje 1, ajena, personaje 2, nombre");
@@ -77,12 +77,12 @@ TEST(LineasPersonajes, LetsTheStartUpDialogFindTheMarkerAnywhereInALine) {
   EXPECT_EQ(Read(LectorPersonajes::Juego, {u"aquí hay Datos> de uno"}), "desconocida");
 }
 
-TEST(LineasPersonajes, TakesEveryLineOfAHeadForWhatComesNext) {
+TEST(LineasPersonajes, TakesHeadLinesByPositionWhateverTheyHold) {
   EXPECT_EQ(Read(LectorPersonajes::Juego, {u"Datos>", u"Datos>", u"QMus>", u"a>b", u"c"}),
             "personaje 1, nombre, ordaguero, historia, frase 1.1.1");
 }
 
-TEST(LineasPersonajes, Kept_KnowsOtherCapitalsForTheEditorAlone) {
+TEST(LineasPersonajes, Kept_IgnoresCaseForTheEditorAlone) {
   const Renglones archivo{u"datos>", u"Berta", u"040", u"", u"PASO>"};
   EXPECT_EQ(Read(LectorPersonajes::Editor, archivo),
             "personaje 1, nombre, ordaguero, historia, categoria 7");
@@ -95,7 +95,7 @@ TEST(LineasPersonajes, Kept_PutsAFourthPhraseInThePlaceOfTheThird) {
             "categoria 1, frase 0.1.1, frase 0.1.2, frase 0.1.3, frase 0.1.3, frase 0.1.3");
 }
 
-TEST(LineasPersonajes, StartsThePhrasesAnewAtAnyMarker) {
+TEST(LineasPersonajes, RestartsThePhrasesAtAnyMarker) {
   EXPECT_EQ(Read(LectorPersonajes::Juego, {u"Derr>", u"a", u"nada>", u"b"}),
             "categoria 14, frase 0.14.1, desconocida, frase 0.14.1");
 }
@@ -105,7 +105,7 @@ TEST(LineasPersonajes, Kept_KeepsTheKindOfPhraseOverANewRecord) {
             "categoria 10, personaje 1, nombre, ordaguero, historia, frase 1.10.1");
 }
 
-TEST(LineasPersonajes, TellsWhichLineOfAHeadIsStillMissing) {
+TEST(LineasPersonajes, TellsTheNextMissingLineOfAHead) {
   LineasPersonajes lineas{LectorPersonajes::Juego};
   EXPECT_EQ(lineas.CabeceraPendiente(), std::nullopt);
   lineas.Leer(u"Datos>");

@@ -1,4 +1,4 @@
-// The files that come with the game: what the rules do with a phrase decides what it may be.
+// The data files of the game: format, widths, and the wording of the phrases.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -36,7 +36,7 @@ std::string BytesDe(const std::string& nombre) {
   return {std::istreambuf_iterator<char>{flujo}, {}};
 }
 
-// The pieces between CR LF; what follows the last CR LF is the last piece.
+// Splits at CR LF. The last element is what follows the last CR LF.
 Textos Lineas(const std::string& bytes) {
   Textos lineas;
   std::size_t desde = 0;
@@ -48,8 +48,7 @@ Textos Lineas(const std::string& bytes) {
   return lineas;
 }
 
-// A character's lines as they stand in the file: the record, then a marker and 3 phrases for every
-// kind.
+// The lines of a character: its record, then for each kind a marker and three phrases.
 enum class Clase { Datos, Nombre, Ordaguero, Historia, Marca, Frase };
 constexpr std::size_t LineasPorPersonaje = 4 + 14 * 4;
 
@@ -58,7 +57,7 @@ Clase ClaseDe(std::size_t posicion) {
   return posicion % 4 == 0 ? Clase::Marca : Clase::Frase;
 }
 
-// The lines of the character file that break a rule.
+// The lines of the character file for which `falla` is true, with their numbers.
 Textos LineasQue(const std::function<bool(Clase, const std::string&)>& falla) {
   Textos lineas = Lineas(BytesDe("Jugadores.dat"));
   lineas.pop_back();
@@ -110,7 +109,7 @@ std::vector<FraseLeida> Frases() {
   return frases;
 }
 
-// The phrases, as the game reads them, that break a rule.
+// The phrases, as the game reads them, for which `falla` is true.
 Textos FrasesQue(const std::function<bool(const FraseLeida&)>& falla) {
   Textos malas;
   for (const FraseLeida& frase : Frases()) {
@@ -129,7 +128,7 @@ TEST(ShippedFile, EndsEveryLineInCrLf) {
   EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r') + 1, lineas);
 }
 
-TEST(ShippedFile, HoldsNoByteThatShowsNoCharacter) {
+TEST(ShippedFile, HasNoControlOrUndefinedBytes) {
   EXPECT_EQ(LineasQue([](Clase, const std::string& linea) {
               return std::any_of(linea.begin(), linea.end(), [](char letra) {
                 constexpr std::string_view SinLetra{"\x7F\x81\x8D\x8F\x90\x9D\xA0\xAD"};
@@ -151,7 +150,7 @@ TEST(ShippedFile, HasTheSameMarkersInOrderForEveryCharacter) {
             Ninguno);
 }
 
-TEST(ShippedFile, KeepsTheMarkOfAMarkerOutOfAllElse) {
+TEST(ShippedFile, HasTheMarkerSignInMarkersAlone) {
   EXPECT_EQ(LineasQue([](Clase clase, const std::string& linea) {
               const bool esMarca = clase == Clase::Datos || clase == Clase::Marca;
               return !esMarca && linea.find('>') != std::string::npos;
@@ -159,7 +158,7 @@ TEST(ShippedFile, KeepsTheMarkOfAMarkerOutOfAllElse) {
             Ninguno);
 }
 
-TEST(ShippedFile, WritesEveryPhraseInAHundredBytesAndTheRestTrimmed) {
+TEST(ShippedFile, PadsPhrasesTo100BytesAndTrimsOtherLines) {
   EXPECT_EQ(LineasQue([](Clase clase, const std::string& linea) {
               if (linea.empty() || linea.front() == ' ') return true;
               return clase == Clase::Frase ? linea.size() != 100 : linea.back() == ' ';
@@ -203,7 +202,7 @@ TEST(ShippedFile, HasAnAmpersandWhereAnAmountComesAndNowhereElse) {
             Ninguno);
 }
 
-TEST(ShippedFile, OpensWhatItClosesInExclamationsQuestionsAndQuotes) {
+TEST(ShippedFile, BalancesExclamationQuestionAndQuotationMarks) {
   EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               const auto cuenta = [&frase](char16_t letra) {
                 return std::count(frase.Texto.begin(), frase.Texto.end(), letra);
@@ -214,7 +213,7 @@ TEST(ShippedFile, OpensWhatItClosesInExclamationsQuestionsAndQuotes) {
             Ninguno);
 }
 
-TEST(ShippedFile, NeverSaysTheSameTwice) {
+TEST(ShippedFile, HasNoPhraseTwice) {
   std::set<std::u16string> dichas;
   EXPECT_EQ(
       FrasesQue([&dichas](const FraseLeida& frase) { return !dichas.insert(frase.Texto).second; }),
@@ -229,8 +228,8 @@ TEST(ShippedFile, StartsEachPhraseOfTheIndirectSetAndNoOtherWithQue) {
             Ninguno);
 }
 
-// "Envido, que ...", "No hay mus, primo, que ...": what nobody at a real table says all evening.
-TEST(ShippedFile, ExplainsTheKeyWordByQueInFewerThanOneOfEightPhrases) {
+// "Envido, que ...", "No hay mus, primo, que ...": at a real table this is rare.
+TEST(ShippedFile, FollowsTheKeyWordByQueInFewerThanOneOfEightPhrases) {
   const std::regex formula{
       "(mus|pares|juego|sí|no|aso|nvido|nvido &|rdago|uiero),( [^,:;.!?]+,)? (¡)?que "};
   const auto deJugador = [](const FraseLeida& frase) { return frase.Personaje > 2; };
@@ -242,7 +241,7 @@ TEST(ShippedFile, ExplainsTheKeyWordByQueInFewerThanOneOfEightPhrases) {
   EXPECT_LT(explicadas.size() * 8, todas) << testing::PrintToString(explicadas);
 }
 
-TEST(ShippedFile, LetsNoOneRefuseMusInWordsThatOpenAsAYes) {
+TEST(ShippedFile, HasNoRefusalOfMusThatBeginsLikeAnAcceptance) {
   EXPECT_EQ(FrasesQue([](const FraseLeida& frase) {
               return frase.Categoria == MessageCategory::NMus &&
                      (frase.Texto.starts_with(u"Mus,") || frase.Texto.starts_with(u"Mus no"));
@@ -250,7 +249,7 @@ TEST(ShippedFile, LetsNoOneRefuseMusInWordsThatOpenAsAYes) {
             Ninguno);
 }
 
-TEST(ShippedFile, LetsPacaSayHalfOfHerPhrasesWithoutShouting) {
+TEST(ShippedFile, HasExclamationsInAtMostHalfOfPacasPhrases) {
   const std::vector<std::u16string> nombres = NombresLeidos();
   const auto paca = std::find(nombres.begin(), nombres.end(), u"Paca la pescadera");
   ASSERT_NE(paca, nombres.end());
@@ -293,7 +292,7 @@ TEST(ShippedFile, HasTwoNamesThatTheCountContractsToDel) {
     });
   };
   EXPECT_GE(empiezan(u"el "), 2);
-  // Any other name with these letters would be glued to its "d" too.
+  // A name such as "elena" would become "delena".
   EXPECT_EQ(empiezan(u"el"), empiezan(u"el "));
 }
 
@@ -315,7 +314,7 @@ TEST(ShippedFile, OffersAllOtherCharactersWithTheirStories) {
   EXPECT_EQ(sinHistoria, 0);
 }
 
-TEST(ShippedFile, LetsTheBoticariaDeclareHerParesAsThePreviewDoes) {
+TEST(ShippedFile, GivesTheBoticariaTheParesPhraseOfThePreview) {
   const std::vector<std::u16string> nombres = NombresLeidos();
   const auto boticaria = std::find(nombres.begin(), nombres.end(), u"La boticaria");
   ASSERT_NE(boticaria, nombres.end());
@@ -333,7 +332,7 @@ struct FraseDicha {
 
 class ShippedDefaults : public testing::TestWithParam<FraseDicha> {};
 
-// What the human says, in either style.
+// The human's line in both styles.
 TEST_P(ShippedDefaults, GiveTheHumanAPlainLine) {
   const auto dice = [](bool directo) {
     Table t = MesaConDatos();
@@ -364,7 +363,7 @@ INSTANTIATE_TEST_SUITE_P(
         FraseDicha{MessageCategory::NQui, SinCantidad, "No quiero", "que no quiere"},
         FraseDicha{MessageCategory::SQui, SinCantidad, "Quiero", "que quiere"}));
 
-TEST(ShippedFile, SetsTheUsualMatch) {
+TEST(ShippedFile, SetsTheDefaultMatchParameters) {
   Table t;
   t.Carpeta = CarpetaDatos();
   LeerParametrosPartida(t);
@@ -373,7 +372,7 @@ TEST(ShippedFile, SetsTheUsualMatch) {
   EXPECT_EQ(t.VacasPartida, 3);
 }
 
-TEST(ShippedFile, NamesNobodyYetInTheSettings) {
+TEST(ShippedFile, HasTheDefaultPlayerNameInTheSettings) {
   const Textos lineas = Lineas(BytesDe("mus.ini"));
   ASSERT_EQ(lineas.size(), 5U);
   EXPECT_EQ(Utf8(Decode(lineas[3])), "Jugador 1> Nombre del último jugador");

@@ -15,19 +15,19 @@ namespace {
 
 using enum MessageCategory;
 
-// A table at which the transcript is still empty; see MesaDePrueba for who sits there.
+// The table of MesaDePrueba, with an empty transcript.
 struct Mesa {
   Table t = MesaDePrueba();
 
   FixedText<AnchoFrase>& Frase(int personaje, MessageCategory categoria, int hueco) {
     return t.Mensajes[personaje][categoria][hueco];
   }
-  // The first phrase of the seat's character.
+  // Sets the first phrase of the seat's character.
   void Dira(Seat asiento, MessageCategory categoria, std::u16string_view frase) {
     Frase(t.PersonajeAsiento[asiento - 1], categoria, 1) = frase;
   }
 
-  // The line that is appended, while the generator gives just these draws.
+  // Speaks with exactly these draws and returns the appended line.
   std::string Dice(std::initializer_list<float> sacadas, Seat asiento, MessageCategory categoria,
                    int cantidad = SinCantidad) {
     t.Text2.clear();
@@ -35,11 +35,11 @@ struct Mesa {
     DiceJugador(t, lista, asiento, categoria, cantidad);
     return Utf8(t.Text2);
   }
-  // The human's line; the human never draws.
+  // The human's line, spoken without draws.
   std::string DiceHumano(MessageCategory categoria, int cantidad = SinCantidad) {
     return Dice({}, 1, categoria, cantidad);
   }
-  // A computer seat's line with its first phrase.
+  // A computer seat's line, with its first phrase.
   std::string DicePrimera(Seat asiento, MessageCategory categoria, int cantidad = SinCantidad) {
     return Dice({0.0F, 0.0F}, asiento, categoria, cantidad);
   }
@@ -55,7 +55,7 @@ TEST(DiceJugador, AppendsALineToTheTranscript) {
   EXPECT_EQ(Utf8(m.t.Text2), "La grande\r\nJugador 2: Paso1\r\nAna: Envi1\r\nJugador 3: NQui1\r\n");
 }
 
-TEST(DiceJugador, NotesWhoSaidWhatAsItIsShownWithoutTheSpeaker) {
+TEST(DiceJugador, RecordsSeatCategoryAmountAndPhrase) {
   Mesa m;
   m.Dira(3, EnvM, u"  van & más ");
   DrawList sacadas{0, 0, 0, 0};
@@ -67,7 +67,7 @@ TEST(DiceJugador, NotesWhoSaidWhatAsItIsShownWithoutTheSpeaker) {
   EXPECT_EQ(m.t.Dichos, esperados);
 }
 
-TEST(DiceJugador, NotesTheHumansPhraseWithItsAmount) {
+TEST(DiceJugador, RecordsTheHumansPhraseWithItsAmount) {
   Mesa m;
   m.t.NombreJugador = u"A&B";
   m.Frase(2, EnvM, 1) = u"Envido & más";
@@ -77,7 +77,7 @@ TEST(DiceJugador, NotesTheHumansPhraseWithItsAmount) {
             (Dicho{.Asiento = 1, .Categoria = EnvM, .Cantidad = 4, .Frase = u"Envido 4 más"}));
 }
 
-TEST(DiceJugador, NotesNothingWhenThereIsNothingToSay) {
+TEST(DiceJugador, RecordsNothingForABlankPhrase) {
   Mesa m;
   m.Dira(3, Paso, u"");
   EXPECT_THROW(m.DicePrimera(3, Paso), RunTimeError);
@@ -105,7 +105,7 @@ TEST(DiceJugador, LetsTheHumanSpeakTheDefaultPhraseOfTheStyle) {
   EXPECT_EQ(m.DiceHumano(QMus), "Ana dice Mus\r\n");
 }
 
-TEST(DiceJugador, LetsTheHumanSpeakAlikeWhateverTheBoxesSay) {
+TEST(DiceJugador, LetsTheHumanSpeakAlikeUnderAllOptions) {
   for (const bool directo : {true, false}) {
     for (const bool nombres : {true, false}) {
       for (const bool expresiones : {true, false}) {
@@ -274,7 +274,7 @@ TEST(DiceJugador, PutsTheAmountIntoADefaultPhraseToo) {
   EXPECT_EQ(m.DicePrimera(3, EnvM, 4), "Jugador 3: 4 más\r\n");
 }
 
-// The message of the error that ends the program, after which nothing has been said.
+// The message of the error that seat `asiento` causes by passing. Nothing may have been said.
 std::string Fallo(Mesa& m, std::initializer_list<float> sacadas, Seat asiento) {
   try {
     return "no error but " + m.Dice(sacadas, asiento, Paso);
@@ -304,7 +304,7 @@ TEST(DiceJugador, Kept_ComputerSeatsWithoutTheirOwnPhrasesEndTheProgram) {
   }
 }
 
-TEST(DiceJugador, EndsTheProgramForASeatThatIsNotThere) {
+TEST(DiceJugador, EndsTheProgramForAnInvalidSeat) {
   for (const bool nombres : {true, false}) {
     for (const bool expresiones : {true, false}) {
       Mesa m;

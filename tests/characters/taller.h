@@ -1,5 +1,5 @@
 #pragma once
-// The editor at work in a folder of its own.
+// The character editor with its table, its port and a temporary folder.
 #include <string>
 #include <vector>
 
@@ -14,17 +14,17 @@ namespace tasca::test {
 
 using Textos = std::vector<std::string>;
 
-// What the program ends with when nothing is selected, or there is no such place.
+// The message of an index outside the bounds: nothing is selected, or there is no such entry.
 inline constexpr auto IndiceFuera =
     "El índice está fuera del intervalo. El programa va a terminar su ejecución.";
 
-// What it ends with when a number does not fit.
+// The message of an overflow of a 16-bit Integer.
 inline constexpr auto Desbordamiento =
     "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
     "ejecución.";
 
-// The editor over a folder of its own. Character n is "Pn", Ordaguero 10 x n, story "Hn", and its
-// phrases are "n-category-slot".
+// Saves and loads `personajes` characters; with 0 the folder stays empty. Character n is named
+// "Pn", has Ordaguero 10 n and the story "Hn", and its phrases are "n-category-slot".
 struct Taller {
   TempFolder carpeta;
   Table t;
@@ -53,12 +53,12 @@ struct Taller {
   }
 
   std::string Nombre(int n) const { return Utf8(t.Personajes[n].Nombre.Trimmed()); }
-  // Name, Ordaguero and story.
+  // The name, the Ordaguero and the story.
   Textos Datos(int n) const {
     const Personaje& personaje = t.Personajes[n];
     return {Nombre(n), Utf8(ToText(personaje.Ordaguero)), Utf8(personaje.Historia.Trimmed())};
   }
-  // All 42 phrases, and those of Llenar.
+  // All 42 phrases of character n, now and as Llenar writes them.
   Textos FrasesDe(int n) const {
     Textos frases;
     for (int i = 0; i < 14 * 3; ++i) frases.push_back(Frase(n, i / 3 + 1, i % 3 + 1));
@@ -79,19 +79,19 @@ struct Taller {
   }
 };
 
-// What a list shows.
+// The entries of a list.
 inline Textos Entradas(const ListBox& lista) {
   Textos entradas;
   for (const std::u16string& entrada : lista.List) entradas.push_back(Utf8(entrada));
   return entradas;
 }
 
-// The three text boxes.
+// The contents of the three text boxes.
 inline Textos Campos(const Dialog1& d) { return {Utf8(d.Text1), Utf8(d.Text2), Utf8(d.Text3)}; }
 
-// A phrase in its full width.
+// A phrase padded to its field.
 inline std::string Rellena(const std::string& frase) {
-  return frase + std::string(100 - frase.size(), ' ');
+  return frase + std::string(AnchoFrase - frase.size(), ' ');
 }
 
 }  // namespace tasca::test

@@ -1,4 +1,4 @@
-// Reading the cast as people write it.
+// Reading the source text of the cast.
 #include "tools/cast/cast_source.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ struct Reparto {
     carpeta.Write("reparto.txt", texto);
     cuantos = LeerReparto(t, carpeta.Path() / "reparto.txt");
   }
-  // The message for a text with a fault, after the file's name.
+  // The error message for this text, without the file's name and without FinDelPrograma.
   std::string Fallo(std::string_view texto) {
     const std::string mensaje = ErrorOf([&] { Leer(texto); });
     const std::string ruta = (carpeta.Path() / "reparto.txt").string();
@@ -51,13 +51,13 @@ TEST(LeerReparto, ReadsCharactersInTheirOrder) {
   EXPECT_EQ(r.Frase(2, 1, 1), "Mus");
 }
 
-TEST(LeerReparto, ReadsAnEmptyTextAsNobody) {
+TEST(LeerReparto, ReadsAnEmptyTextAsNoCharacters) {
   Reparto r;
   r.Leer("\n# nadie\n");
   EXPECT_EQ(r.cuantos, 0);
 }
 
-TEST(LeerReparto, PassesOverTheMarkAtTheStartOfAText) {
+TEST(LeerReparto, StripsTheByteOrderMark) {
   Reparto r;
   r.Leer("\xEF\xBB\xBF# el reparto\nNombre: Lola\n");
   EXPECT_EQ(r.cuantos, 1);
@@ -87,7 +87,7 @@ TEST(LeerReparto, TakesOrdagueroOfUpToThreeDigits) {
   }
 }
 
-TEST(LeerReparto, HoldsEveryTextToItsWidth) {
+TEST(LeerReparto, LimitsEveryTextToItsWidth) {
   const std::vector<std::pair<std::string, std::size_t>> anchos{
       {"Nombre", 100}, {"Historia", 200}, {"QMus", 100}};
   for (const auto& [clave, ancho] : anchos) {
