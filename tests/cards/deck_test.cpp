@@ -23,7 +23,7 @@ using Mazo = Array<Integer, 1, 40>;
 
 constexpr std::string_view Recoger = "box: Necesario recoger y barajar cartas descartadas";
 
-// A table whose deck is 1 to 40 in order, and a port.
+// A table whose deck is 1 to 40 in order. No draws are expected.
 struct MesaConBaraja {
   Table t = MesaDePrueba();
   DrawList rnd;
@@ -56,7 +56,7 @@ constexpr std::array<Rango, 10> Rangos{{{"As        ", 1, 1, 1},
 constexpr std::array<std::string_view, 4> Palos{"oros      ", "copas     ", "espadas   ",
                                                 "bastos    "};
 
-// A card in one line, its fields with their padding.
+// The fields of a card in one line, with their padding.
 std::string LineOf(const Card& carta) {
   return std::to_string(carta.Numero) + " " + Utf8(carta.Figura.Full()) + Utf8(carta.Palo.Full()) +
          std::to_string(carta.ValorGrande) + " " + std::to_string(carta.ValorPares) + " " +
@@ -98,8 +98,8 @@ TEST(CrearBaraja, PutsBothPilesBackToTheirStart) {
   EXPECT_EQ(t.DescarteSiguiente, 1);
 }
 
-// The shuffle once more, in plain arrays: two positions by two draws, 20,000 times, after one draw
-// that goes nowhere.
+// A second implementation of the shuffle: one draw that is not used, then 20,000 swaps of two drawn
+// positions.
 std::array<int, 41> ShuffledByHand(std::array<int, 41> mazo, std::mt19937& motor, int n) {
   const auto sacar = [&motor] { return static_cast<float>(motor() >> 8U) / 16777216.0F; };
   sacar();
@@ -139,7 +139,7 @@ TEST(CrearBaraja, ShufflesAnOrderedDeckOnce) {
   }
 }
 
-TEST(Barajar, GoesOnFromTheDeckAsItLies) {
+TEST(Barajar, StartsFromTheCurrentOrderOfTheDeck) {
   Table t;
   Rnd rnd;
   rnd.Seed(5);
@@ -172,8 +172,8 @@ TEST(Barajar, KeepsEveryCard) {
   for (int i = 1; i <= 40; ++i) EXPECT_EQ(mazo[i], i);
 }
 
-TEST(Barajar, Kept_DrawsOnceForNothingFirst) {
-  // With one card nothing can change places, but the draws are made.
+TEST(Barajar, Kept_DiscardsItsFirstDraw) {
+  // One card cannot be swapped, but the draws are made.
   MesaConBaraja sala;
   Rnd rnd;
   rnd.Seed(11);
@@ -181,7 +181,7 @@ TEST(Barajar, Kept_DrawsOnceForNothingFirst) {
   EXPECT_EQ(rnd.Draws(), 1U + 2U * 20000U);
 }
 
-TEST(Barajar, RecursWithTheSameSeed) {
+TEST(Barajar, GivesTheSameDeckForTheSameSeed) {
   Table una;
   Table otra;
   Rnd rnd;
@@ -193,7 +193,7 @@ TEST(Barajar, RecursWithTheSameSeed) {
 }
 
 TEST(Repartir, FillsTheSlotsFromTheLastToTheFirst) {
-  // 4, 14, 24, 34 are the four Cuatros: equal cards stay where they were dealt.
+  // 4, 14, 24, 34 are the four Cuatros: the sort does not move equal cards.
   MesaConBaraja sala;
   sala.t.Baraja[1] = 4;
   sala.t.Baraja[2] = 14;
@@ -277,8 +277,8 @@ TEST(Repartir, SaysNothingBeforeTheFortiethCard) {
   EXPECT_EQ(sala.port.TakeEvents(), Sucesos{});
 }
 
-TEST(Repartir, Kept_GoesOnWithTheFirstCardOfTheDeckAsItLies) {
-  // Position 1 holds the last discard of the pile; nothing is shuffled.
+TEST(Repartir, Kept_RestartsAtTheFirstCardWithoutShuffling) {
+  // Position 1 holds a discard.
   MesaConBaraja sala;
   sala.t.Baraja[39] = 39;  // Caballo
   sala.t.Baraja[40] = 38;  // Sota
@@ -293,7 +293,7 @@ TEST(Repartir, Kept_GoesOnWithTheFirstCardOfTheDeckAsItLies) {
   EXPECT_EQ(sala.port.TakeEvents(), Sucesos{std::string{Recoger}});
 }
 
-TEST(Repartir, ToldOncePerTurnOfTheDeck) {
+TEST(Repartir, TellsOncePerTurnOfTheDeck) {
   MesaConBaraja sala;
   for (int i = 0; i < 21; ++i) Repartir(sala.g, 1, 4);
   EXPECT_EQ(sala.port.TakeEvents(), (Sucesos{std::string{Recoger}, std::string{Recoger}}));

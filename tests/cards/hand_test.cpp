@@ -36,7 +36,7 @@ TEST(EmpezarMano, PassesTheManoToTheNextSeat) {
   EXPECT_EQ(sala.t.OrdenAsiento, (Orden{1, 2, 3, 4}));
 }
 
-TEST(EmpezarMano, ForgetsTheHandBefore) {
+TEST(EmpezarMano, ResetsTheRecordsOfTheLastHand) {
   Sala sala;
   Table& t = sala.t;
   t.Fase = Fase::Cuenta;
@@ -54,7 +54,7 @@ TEST(EmpezarMano, ForgetsTheHandBefore) {
   EXPECT_EQ(t.Declaracion[NumeroLance::Juego], -2);
 }
 
-TEST(EmpezarMano, Kept_LeavesThePuntoOfTheHandBefore) {
+TEST(EmpezarMano, Kept_KeepsThePuntoRecordsOfTheLastHand) {
   Sala sala;
   sala.t.Apuesta[NumeroLance::Punto] = -2;
   sala.t.Declaracion[NumeroLance::Punto] = 1;
@@ -86,7 +86,7 @@ TEST(EmpezarMano, DealsFourCardsToEachSeatInTurnFromTheTop) {
   sala.t.CartaSiguiente = 30;
   sala.t.DescarteSiguiente = 9;
   EmpezarMano(sala.g);
-  // The same draws on another table: a fresh deck, shuffled twice.
+  // Repeats the draws on another table: a new deck, shuffled twice.
   Sala otra;
   CrearBaraja(otra.t, otra.rnd);
   Barajar(otra.t, otra.rnd, 40);
@@ -111,7 +111,7 @@ TEST(EmpezarMano, SoundsTheDeal) {
   EXPECT_EQ(sala.t.SonidoActual, -2);
 }
 
-// The texts while the deal begins to sound.
+// Stores the texts at the start of a sound.
 class PuertoQueLee : public ScriptedPort {
  public:
   std::u16string Textos = u"nada ha sonado";

@@ -1,4 +1,4 @@
-// Hands as the player reads them.
+// Hands as text.
 #include "cards/hand_text.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace tasca::test {
 namespace {
 
-// Four hands: a whole one with every suit, the others of Reyes, Ases and a hand with empty slots.
+// Seat 1 holds a card of every suit, seat 2 four Reyes, seat 3 four Ases, seat 4 two empty slots.
 Table MesaConManos() {
   Table t = MesaDePrueba();
   t.Manos[1] = {10, 19, 24, 31};
@@ -83,7 +83,7 @@ TEST(MostrarManos, LaysOpenTheCardsThatItShowsOfAll) {
   MostrarManos(t, TodosLosAsientos);
   EXPECT_EQ(t.CartasVistas, t.Manos);
   t.Manos[2][1] = 40;
-  EXPECT_NE(t.CartasVistas, t.Manos) << "a card that came later does not lie open";
+  EXPECT_NE(t.CartasVistas, t.Manos) << "a card dealt later is not visible";
 }
 
 TEST(MostrarManos, OfTheHumanAloneTurnsTheOthersDownAgain) {

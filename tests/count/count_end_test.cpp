@@ -1,4 +1,4 @@
-// How a juego ends in the middle of the count, and the vaca and the match with it.
+// The end of a juego during the count, and of the vaca and the match.
 #include <gtest/gtest.h>
 
 #include "base/errors.h"
@@ -11,8 +11,8 @@ namespace {
 using Parejas = Array<Integer, 0, 1>;
 using Sucesos = std::vector<std::string>;
 
-// Every lance is en paso and pareja 1's: grande, pequeña, a par of seat 1 and, with juego, the 32
-// points of seat 3.
+// Every lance is en paso, and pareja 1 wins it: grande, pequeña, the par of seat 1 and, if
+// `conJuego`, the 32 points of seat 3.
 struct TodoNuestro : Recuento {
   explicit TodoNuestro(bool conJuego) {
     DarMano(t, 1, "7 6 4 4");
@@ -89,7 +89,7 @@ TEST(ContarMano, TellsTheOpponentsJuegoWithTheirStonesFirst) {
   EXPECT_EQ(mano.t.Juegos, (Parejas{1, 0}));
 }
 
-// The pareja that is behind may hold the better cards in every lance to come.
+// The other pareja may have better cards in all later lances.
 TEST(ContarMano, Kept_TheRestOfTheHandIsLostOnceTheJuegoIsWon) {
   Recuento mano;
   DarMano(mano.t, 1, "R 6 5 4");
@@ -101,7 +101,7 @@ TEST(ContarMano, Kept_TheRestOfTheHandIsLostOnceTheJuegoIsWon) {
   EXPECT_EQ(mano.t.Piedras, (Parejas{0, 0}));
 }
 
-TEST(ContarMano, Kept_LooksOnlyAtThePareja_ThatHasJustTakenStones) {
+TEST(ContarMano, Kept_LooksOnlyAtTheParejaThatHasJustTakenStones) {
   TodoNuestro mano{true};
   mano.t.Piedras = {60, 0};
   EXPECT_TRUE(mano.Contar().ends_with(Tanteo(5, 60)));
@@ -134,7 +134,7 @@ TEST(ContarMano, LooksForAVacaAlsoAtItsOrdinaryEnd) {
   EXPECT_EQ(Utf8(mano.t.Text3), "Piedras: 3 / 5;    juegos: 0 / 0;    Vacas: 0 / 1");
 }
 
-// The vaca and the match are pareja 1's once it takes the grande.
+// Pareja 1 wins the vaca and the match with the grande.
 struct UltimaVaca : TodoNuestro {
   UltimaVaca() : TodoNuestro{false} {
     t.Piedras = {0, 35};
@@ -143,7 +143,7 @@ struct UltimaVaca : TodoNuestro {
   }
 };
 
-TEST(ContarMano, EndsTheProgramWhenThePlayerHasHadEnough) {
+TEST(ContarMano, EndsTheProgramWhenThePlayerWantsNoOtherMatch) {
   UltimaVaca mano;
   mano.port.No();
   EXPECT_THROW(mano.Contar(), LeaveProgram);
@@ -163,7 +163,7 @@ TEST(ContarMano, RunsToItsEndWhenOtherPlayersAreWanted) {
   EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
 }
 
-// The next match's first hand has been dealt inside the count; the next Enter deals another.
+// The count deals the first hand of the next match; the next Enter deals again.
 TEST(ContarMano, Kept_TheFirstHandOfTheNextMatchIsDealtAgain) {
   UltimaVaca mano;
   mano.port.Yes().No();

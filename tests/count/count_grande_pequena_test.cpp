@@ -94,12 +94,12 @@ TEST(ContarPequena, IsWonApartFromTheGrande) {
                 TrasLaPequena + Tanteo(3, 2));
 }
 
-// A refused bet can carry the opponents past the target before the count. Their juego has to wait:
-// a lance that was settled in the bidding looks at nobody's stones.
+// A refused bet can take the opponents past the target before the count. A settled lance does not
+// check for the end of the juego, so that theirs does not end here.
 TEST(ContarGrande, Kept_ARefusedBetEndsNoJuegoForThePequenaComesFirst) {
   Recuento mano;
   mano.t.Piedras = {36, 35};
-  mano.t.Apuesta[NumeroLance::Pequena] = 0;  // seat 1, the mano, takes it
+  mano.t.Apuesta[NumeroLance::Pequena] = 0;  // the mano, seat 1, wins it
   EXPECT_EQ(mano.Contar(),
             "la grande ya estaba contada \r\nLa pareja 1 se saca  una de la pequeña en paso\r\n");
   EXPECT_EQ(mano.port.TakeEvents(),

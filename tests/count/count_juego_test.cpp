@@ -9,7 +9,7 @@ namespace {
 
 const std::string SinJuego = "7 6 5 4";
 
-// Somebody has juego; the pares of these hands were settled and are nobody's.
+// The given hands with juego played. The pares are settled for nobody.
 struct RecuentoJuego : Recuento {
   RecuentoJuego(const std::array<std::string, 4>& manos, int apuesta) {
     for (Seat asiento = 1; asiento <= 4; ++asiento) {
@@ -109,7 +109,7 @@ TEST(ContarJuego, WritesNoHeadingForATakerWithoutJuego) {
   }
 }
 
-TEST(ContarJuego, TellsOfAPossibleErrorWhenItIsSettledForNobody) {
+TEST(ContarJuego, ReportsAPossibleErrorWhenItIsSettledForNobody) {
   RecuentoJuego mano{{"R C 7 4", "R C 7 4", "R C 7 4", "R C 7 4"}, ApuestaPagada};
   mano.t.Piedras = {35, 40};
   mano.t.Declaracion[NumeroLance::Juego] = SinDeclaracion;
@@ -118,7 +118,7 @@ TEST(ContarJuego, TellsOfAPossibleErrorWhenItIsSettledForNobody) {
   EXPECT_EQ(mano.t.Fase, Fase::EmpezarMano);
 }
 
-TEST(ContarJuego, NeedsNoPossibleErrorWhenItsTakerIsKnown) {
+TEST(ContarJuego, ReportsNoPossibleErrorWhenTheTakerIsKnown) {
   RecuentoJuego mano{{"R C 7 4", SinJuego, SinJuego, SinJuego}, ApuestaPagada};
   mano.t.Declaracion[NumeroLance::Juego] = 1;
   mano.Contar();

@@ -1,4 +1,4 @@
-// How the count names a seat after "de".
+// The name of a seat after "de" in the count.
 #include <gtest/gtest.h>
 
 #include "count/count.h"
@@ -7,7 +7,7 @@
 namespace tasca::test {
 namespace {
 
-// One seat alone has a par, and names are used.
+// Only one seat has a par. Names are used.
 struct RecuentoPar : Recuento {
   explicit RecuentoPar(Seat asiento) {
     DarMano(t, asiento, "7 7 5 4");
@@ -17,7 +17,7 @@ struct RecuentoPar : Recuento {
                  " se saca  una del par ";
   }
 
-  // How the line names the seat, "de" included.
+  // The seat's name in the line of the pares, from "de" on.
   std::string Nombrado() {
     const std::string texto = Contar();
     EXPECT_TRUE(texto.starts_with(principio_)) << texto;
@@ -51,7 +51,7 @@ TEST(ContarMano, NamesTheHuman) {
       {u"Jugadora", "del Jugadora"},
       {u"ugado", "de ugado"},
       {u"el Rubio", "de el Rubio"},  // no "del" for the human
-      {u" Ana ", "de  Ana "},        // as it is
+      {u" Ana ", "de  Ana "},        // not trimmed
   };
   for (const Caso& caso : casos) {
     RecuentoPar mano{1};
@@ -95,7 +95,7 @@ TEST(ContarMano, ContractsDeEl) {
   }
 }
 
-// Only the two letters count, not the word.
+// The first two letters are tested, not the word.
 TEST(ContarMano, Kept_ContractsNamesThatOnlyBeginWithEl) {
   RecuentoPar mano{2};
   mano.t.Personajes[3].Nombre = u"elena";

@@ -9,7 +9,7 @@ namespace {
 
 const std::string SinPares = "7 6 5 4";
 
-// What the count writes about pares, and the stones that it leaves.
+// The line of the pares and the stones after the count.
 struct CasoPares {
   std::array<std::string, 4> Manos;
   int Apuesta;
@@ -18,6 +18,7 @@ struct CasoPares {
   int Contrarias;
 };
 
+// `declaracion` is the pareja recorded as the winner of a refused bet.
 void Probar(const CasoPares& caso, int declaracion = SinDeclaracion) {
   Recuento mano;
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
@@ -117,7 +118,7 @@ TEST(ContarPares, LeavesOnlyALineBreakWhenNobodyDeclaredAny) {
           .Contrarias = 0});
 }
 
-// The bidding never leaves such a record; the count goes on all the same.
+// The bidding never leaves such a record; the count must continue nevertheless.
 TEST(ContarPares, SaysThatNobodyHasAnyWhenTheRecordDoesNot) {
   Recuento mano;
   mano.t.Piedras = {40, 40};
@@ -128,7 +129,7 @@ TEST(ContarPares, SaysThatNobodyHasAnyWhenTheRecordDoesNot) {
   EXPECT_EQ(mano.port.TakeEvents(), std::vector<std::string>{});
 }
 
-TEST(ContarPares, LetsAnOldPuntoPassAfterNoParejaAtAll) {
+TEST(ContarPares, PaysNoOldPuntoWhenNoParejaWasCounted) {
   Recuento mano;
   mano.t.Apuesta[NumeroLance::Pares] = 0;
   mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
@@ -137,7 +138,7 @@ TEST(ContarPares, LetsAnOldPuntoPassAfterNoParejaAtAll) {
                                "Ninguna de las dos parejas tiene pares\r\n\r\n" + Tanteo(0, 0));
 }
 
-// Nobody is noted as the taker of refused pares: they go to the pareja counted before.
+// The winner of refused pares is not recorded: they are paid to the pareja counted last.
 TEST(ContarPares, Kept_ARefusedBetPaysThePareja0WhenNothingWasCountedBefore) {
   Probar({.Manos = {"R R 5 4", "7 7 5 4", SinPares, SinPares},
           .Apuesta = ApuestaPagada,
@@ -210,8 +211,8 @@ TEST(ContarPares, TakesNoticeOfANotedTakerOnlyAfterARefusedBet) {
          1);
 }
 
-// The opponents are past the target by a refused bet. The look at the stones after the pares is
-// made for the pareja of the lance before, even when no pares were paid.
+// The opponents are past the target by a refused bet. After the pares the stones of the pareja
+// counted last are checked, even if no pares were paid.
 TEST(ContarPares, Kept_SettledParesEndTheJuegoOfTheParejaCountedBefore) {
   Recuento mano;
   mano.t.Piedras = {36, 2};

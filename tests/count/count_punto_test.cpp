@@ -1,4 +1,4 @@
-// The count of the punto, and what it remembers from hand to hand.
+// The count of the punto, and the records that it keeps from hand to hand.
 #include <gtest/gtest.h>
 
 #include "count/count.h"
@@ -11,7 +11,7 @@ TEST(ContarPunto, GivesTheStonesOfAnAcceptedBet) {
   Recuento mano;
   DarMano(mano.t, 4, "7 7 5 4");  // 23 points
   mano.t.Apuesta[NumeroLance::Pares] = ApuestaPagada;
-  mano.t.Declaracion[NumeroLance::Pares] = 1;  // so that the pares of seat 4 are not paid
+  mano.t.Declaracion[NumeroLance::Pares] = 1;  // the pares of seat 4 are not paid
   mano.t.Apuesta[NumeroLance::Punto] = 6;
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 1 se saca \r\n"
@@ -49,13 +49,13 @@ TEST(ContarPunto, GivesNoStoneEnPasoWhileItHasNeverBeenBet) {
   EXPECT_EQ(mano.Contar(), Antes + "El Punto ya estaba contado \r\n" + Tanteo(0, 0));
 }
 
-// Nobody resets the punto's records, so a punto en paso is paid like the last one that was bet.
+// The punto's records are not reset: a punto en paso is paid like the last punto that was bet.
 TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastAcceptedBet) {
   Recuento mano;
   mano.t.Apuesta[NumeroLance::Punto] = 4;
   mano.Contar();
-  DarMano(mano.t, 2, "7 7 6 4");               // 24 points: now the opponents have the best punto
-  mano.t.Declaracion[NumeroLance::Pares] = 1;  // so that their pares are not paid
+  DarMano(mano.t, 2, "7 7 6 4");               // 24 points: the opponents have the best punto
+  mano.t.Declaracion[NumeroLance::Pares] = 1;  // their pares are not paid
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas +
                                "La pareja 1 se saca \r\n"
                                "La pareja 0 se saca  las 4 envidadas a Punto \r\n" +
@@ -75,8 +75,8 @@ TEST(ContarPunto, Kept_APuntoEnPasoIsPaidLikeTheLastRefusedBet) {
                                Tanteo(2, 0));
 }
 
-// An accepted órdago leaves -1 behind; the pareja is that of the last refused punto, or the
-// opponents' when none was ever refused.
+// An accepted órdago leaves -1. The pareja is that of the last refused punto, or pareja 0 if none
+// was refused.
 TEST(ContarPunto, Kept_APuntoEnPasoAfterAnAcceptedOrdagoGivesOneStone) {
   Recuento mano;
   mano.t.Apuesta[NumeroLance::Punto] = EnviteOrdago;
@@ -106,7 +106,7 @@ TEST(ContarPunto, CanEndTheJuegoByItsOneStone) {
 
 TEST(ContarPunto, EndsNoJuegoWhenItIsSettledForNobody) {
   Recuento mano;
-  mano.t.Piedras = {35, 36};  // the pareja counted before is 0
+  mano.t.Piedras = {35, 36};  // the pareja counted last is 0
   mano.t.Apuesta[NumeroLance::Punto] = ApuestaPagada;
   mano.t.Declaracion[NumeroLance::Punto] = SinDeclaracion;
   EXPECT_EQ(mano.Contar(), Antes + Tanteo(36, 35));

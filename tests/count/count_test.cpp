@@ -1,4 +1,4 @@
-// The count as a whole: its order, its transcript, and what it leaves behind.
+// The whole count: its order, its transcript and the state after it.
 #include "count/count.h"
 
 #include <gtest/gtest.h>
@@ -67,7 +67,7 @@ TEST(ContarMano, AddsToTheStonesOfEarlierHands) {
       u"El tanteo actual es de 24 a 12. \r\nPulse enter para empezar una nueva mano"));
 }
 
-TEST(ContarMano, ForgetsTheTranscriptOfTheLances) {
+TEST(ContarMano, ReplacesTheTranscriptOfTheLances) {
   Recuento mano;
   mano.t.Text2 = u"envite querido\r\nPulse enter para contar";
   EXPECT_EQ(mano.Contar(), GrandeYPequenaPagadas + "\r\n" + PuntoYaContado + Tanteo(0, 0));

@@ -1,5 +1,5 @@
 #pragma once
-// A hand that is ready to be counted, for the tests of the count.
+// A hand before its count, for the tests of the count.
 #include <string>
 
 #include "base/rnd.h"
@@ -10,9 +10,9 @@
 
 namespace tasca::test {
 
-// Four hands "7 6 5 4" (no pares, 22 points), seat 1 the mano, nobody named. Grande and pequeña
-// were refused and paid, nobody has pares or juego, and the punto has never been bet: nothing is
-// left to count. A test changes what it is about.
+// All seats hold "7 6 5 4" (no pares, 22 points), seat 1 is mano, names are not used. Grande,
+// pequeña and pares are settled and the punto was never bet, so that nothing is left to count. A
+// test changes what it needs.
 struct Recuento {
   Table t = MesaDePrueba();
   ScriptedPort port;
@@ -22,7 +22,7 @@ struct Recuento {
     t.SeJuegaPunto = true;
   }
 
-  // Counts the hand, without a single draw, and gives the transcript.
+  // Counts the hand, without a draw, and returns the transcript.
   std::string Contar() {
     DrawList ninguna{};
     Game g{t, ninguna.Get(), port};
@@ -31,15 +31,16 @@ struct Recuento {
   }
 };
 
+// The lines of settled lances.
 inline const std::string GrandeYPequenaPagadas =
     "la grande ya estaba contada \r\nla pequeña ya estaba contada \r\n";
 
-// What stands before the lance in which a hand without pares ends.
+// The transcript before juego or punto, in a hand without pares.
 inline const std::string Antes = GrandeYPequenaPagadas + "\r\n";
 
 inline const std::string PuntoYaContado = "El Punto ya estaba contado \r\n";
 
-// The last two lines of a count that ends no juego; the human's pareja first.
+// The last two lines of a count that ends no juego. The human's pareja comes first.
 inline std::string Tanteo(int nuestras, int contrarias) {
   return "\r\nEl tanteo actual es de " + std::to_string(nuestras) + " a " +
          std::to_string(contrarias) + ". \r\nPulse enter para empezar una nueva mano";

@@ -1,4 +1,4 @@
-// The answer step, until the bet is settled: who answers, and what each answer does.
+// The answer step until the bet is settled: who answers, and the effect of each answer.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -14,8 +14,8 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-// A grande. Against a bet of stones a computer seat with two Reyes accepts without a draw; without
-// Reyes it makes one: ordaguero 0 refuses at every draw, 100 raises at 0.
+// The answers to a bet at the grande. A computer seat with two Reyes accepts without a draw;
+// without Reyes it draws once: with ordaguero 0 it always refuses, with 100 it raises at 0.
 struct ResponderLance : testing::Test {
   Mesa m;
 
@@ -87,7 +87,7 @@ TEST_F(ResponderLance, TheHumanAccepts) {
   EXPECT_EQ(m.t.ParejaEnvite, 0);
 }
 
-// The partner would accept, but the bet is now the human's pareja's.
+// The partner would accept, but after the raise the other pareja answers.
 TEST_F(ResponderLance, TheHumanRaisesAndTheOtherParejaIsAskedFromTheFirstPosition) {
   m.Hablan({4, 1, 2, 3});
   m.Envidan(0, 2);
@@ -174,7 +174,7 @@ TEST_F(ResponderLance, AcceptedStonesBeyondSixteenBitsEndTheProgram) {
   EXPECT_THROW(Responden(), RunTimeError);
 }
 
-TEST_F(ResponderLance, TheHumanGoesForItAll) {
+TEST_F(ResponderLance, TheHumanRaisesWithAnOrdago) {
   m.t.Apuesta[NumeroLance::Grande] = 4;
   m.Envidan(0, 3);
   m.port.Presses(3);
@@ -220,7 +220,7 @@ TEST_F(ResponderLance, TheRaiseOfAComputerSeatIsTwoToFive) {
   }
 }
 
-// Seat 4 speaks last and raises; the asking goes back to the first position.
+// Seat 4 speaks last and raises; the round starts again at the first position.
 TEST_F(ResponderLance, ARaiseFromTheLastPositionStartsTheRoundAgain) {
   m.Envidan(1, 2);
   m.t.OrdagueroAsiento[4] = 100;
@@ -251,7 +251,7 @@ TEST_F(ResponderLance, BothSidesRaiseInTurnUntilOneAccepts) {
   EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 2 + 2 + 4 + 5);
 }
 
-TEST_F(ResponderLance, AComputerSeatGoesForItAll) {
+TEST_F(ResponderLance, AComputerSeatRaisesWithAnOrdago) {
   m.Envidan(1, 2);
   m.t.Apuesta[NumeroLance::Grande] = 1;
   m.t.Piedras[1] = 34;

@@ -1,4 +1,4 @@
-// The answer step, once the bet is settled: what a refusal pays and what an accepted órdago wins.
+// The end of the answer step: the payment of a refused bet, and the accepted órdago.
 #include <gtest/gtest.h>
 
 #include "cards/hand_text.h"
@@ -14,13 +14,13 @@ namespace {
 using Sucesos = std::vector<std::string>;
 using PorPareja = Array<Integer, 0, 1>;
 
-// The opponents' bet at the grande, which the human refuses and so does seat 3.
+// The opponents bet at the grande; the human and seat 3 refuse.
 struct BetRefused : testing::Test {
   Mesa m;
 
   BetRefused() { m.t.Fase = Fase::RespuestaGrande; }
 
-  // What the line says after the two refusals.
+  // Runs the step and returns the transcript after the two refusals.
   std::string Rehusan(int apuesta, int enLaMesa) {
     m.t.Apuesta[NumeroLance::Grande] = apuesta;
     m.Envidan(0, enLaMesa);
@@ -94,7 +94,7 @@ TEST_F(BetRefused, Kept_NamesTheParejasByTheirNumbers) {
   EXPECT_TRUE(otra.Texto().ends_with("la pareja 1 se saca 1 piedra\r\nPulse enter para continuar"));
 }
 
-// The opponents' bet of two, raised by three and refused, is the raiser's.
+// The opponents bet two, the human raises by three, and they refuse: the human's pareja gets two.
 TEST_F(BetRefused, PaysTheRaiserTheBetThatItSaw) {
   m.Envidan(0, 2);
   m.port.Presses(2).Types(u"3");
@@ -108,7 +108,7 @@ TEST_F(BetRefused, PaysTheRaiserTheBetThatItSaw) {
             "Pulse enter para continuar");
 }
 
-// The record of the punto lives on from hand to hand.
+// The record of the punto is kept from hand to hand.
 struct PuntoCarriedOver : testing::Test {
   Mesa m;
 
@@ -215,8 +215,8 @@ TEST_F(OrdagoAccepted, ReplacesTheStonesThatWereSeenBefore) {
   EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], -1);
 }
 
-// Seat 2 refuses, its partner accepts.
-TEST_F(OrdagoAccepted, NeedsOneOfTheTwoOnly) {
+// Seat 2 refuses and its partner accepts.
+TEST_F(OrdagoAccepted, NeedsOnePartnerOnly) {
   DarMano(m.t, 4, "R R R 4");
   m.Envidan(1, -1);
   m.Juega(EnviteGrande, {/*2*/ 0, 0, /*4*/ 0, 0});
@@ -233,7 +233,7 @@ TEST_F(OrdagoAccepted, RewritesTheScoreboard) {
   EXPECT_EQ(Utf8(m.t.Text3), "Piedras: 0 / 0;    juegos: 1 / 0;    Vacas: 0 / 0");
 }
 
-TEST_F(OrdagoAccepted, AtThePuntoTellsOfAJuegoThatCannotBe) {
+TEST_F(OrdagoAccepted, AtThePuntoReportsAHandWithJuego) {
   m.t.Fase = Fase::RespuestaPunto;
   DarMano(m.t, 3, "R R R A");
   m.Envidan(0, -1);

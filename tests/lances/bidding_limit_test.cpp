@@ -1,5 +1,4 @@
-// The end of the raising: stones beyond a whole juego decide nothing, so a computer seat accepts
-// where it would go on.
+// The limit of raises: a computer seat accepts instead of raising a bet beyond a whole juego.
 #include <gtest/gtest.h>
 
 #include "lances/grande.h"
@@ -9,7 +8,8 @@
 namespace tasca::test {
 namespace {
 
-// A grande in which nobody has Reyes. Ordaguero 100 raises at the draw 0, ordaguero 0 refuses.
+// A bet at the grande; nobody has Reyes. At draw 0 a seat with ordaguero 100 raises, with 0 it
+// refuses.
 struct RaiseBeyondTheJuego : testing::Test {
   Mesa m;
 
@@ -38,7 +38,7 @@ TEST_F(RaiseBeyondTheJuego, AComputerSeatStillRaisesUpToTheJuego) {
   EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 37);
 }
 
-TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitIsThePiedrasJuegoOfTheMatch) {
+TEST_F(RaiseBeyondTheJuego, Kept_LimitIsThePiedrasJuegoOfTheMatch) {
   m.t.OrdagueroAsiento[2] = 100;
   m.t.PiedrasJuego = 8;
   m.t.Apuesta[NumeroLance::Grande] = 4;
@@ -47,7 +47,7 @@ TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitIsThePiedrasJuegoOfTheMatch) {
   EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 9);
 }
 
-TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesOrdagoAndNoQuieroAlone) {
+TEST_F(RaiseBeyondTheJuego, Kept_LimitLeavesOrdagoAndNoQuieroAlone) {
   m.t.Apuesta[NumeroLance::Grande] = 40;
   m.Envidan(1, 2);
   Responden({/*seat 2*/ 0, 0, 0, /*seat 4*/ 0, 0, 0});
@@ -62,7 +62,7 @@ TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesOrdagoAndNoQuieroAlone) {
   EXPECT_TRUE(otra.Texto().starts_with("Jugador 2: Orda1\r\nAna: NQui1\r\n"));
 }
 
-TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesTheHumansRaiseAlone) {
+TEST_F(RaiseBeyondTheJuego, Kept_LimitLeavesTheHumansRaiseAlone) {
   m.t.Apuesta[NumeroLance::Grande] = 40;
   m.Envidan(0, 2);
   DarMano(m.t, 2, "R R 5 4");
@@ -71,9 +71,9 @@ TEST_F(RaiseBeyondTheJuego, Kept_ThatLimitLeavesTheHumansRaiseAlone) {
   EXPECT_EQ(m.t.Apuesta[NumeroLance::Grande], 52);
 }
 
-// Two seats with the best of pares would raise each other without end. Every raise here is 5
-// stones: 2, 7, 12, 17, 22, 27, 32, and the 37 are accepted.
-TEST_F(RaiseBeyondTheJuego, Kept_TwoStrongHandsComeToAnEnd) {
+// Without the limit two seats with the best pares would raise for ever. Each raise is 5 stones: 2,
+// 7, 12, 17, 22, 27, 32; the 37 are accepted.
+TEST_F(RaiseBeyondTheJuego, Kept_LimitEndsTheRaisingOfTwoStrongHands) {
   m.t.OrdenPares = {0, 2, 1, 0};
   DarMano(m.t, 2, "R R R R");
   DarMano(m.t, 3, "R R R R");

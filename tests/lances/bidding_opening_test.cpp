@@ -1,4 +1,4 @@
-// The opening step: the seats speak from the mano until somebody bets.
+// The opening step: the seats speak from the mano on until one bets.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -15,7 +15,7 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-// A pequeña. A seat with no As passes at every draw, with four it goes from paso to órdago.
+// The opening of the pequeña. A seat without Ases always passes; with four its draw decides.
 struct AbrirLance : testing::Test {
   Mesa m;
 
@@ -118,8 +118,8 @@ struct CasoCantidad {
   int piedras;
 };
 
-// Five times the draw, to the nearest whole number and to the even one from a half, and 2. The
-// halves are reached at the draws where single precision rounds to them.
+// 5 r rounded half to even, plus 2. The limits are the draws at which the single-precision product
+// rounds to a half.
 TEST_F(AbrirLance, TheAmountOfAComputerSeatIsTwoToSeven) {
   const std::array<CasoCantidad, 14> casos{{{0, 2},
                                             {DrawBelow(0.1F), 2},
@@ -145,7 +145,7 @@ TEST_F(AbrirLance, TheAmountOfAComputerSeatIsTwoToSeven) {
   }
 }
 
-TEST_F(AbrirLance, AComputerSeatGoesForItAll) {
+TEST_F(AbrirLance, AComputerSeatBetsAnOrdago) {
   m.Hablan({4, 1, 2, 3});
   m.t.ParejaEnvite = 1;
   DarMano(m.t, 4, "A A 2 2");
@@ -188,7 +188,7 @@ TEST_F(AbrirLance, TheHumanBetsATypedAmount) {
   EXPECT_EQ(m.t.Fase, Fase::RespuestaPequena);
 }
 
-TEST_F(AbrirLance, TheHumanGoesForItAll) {
+TEST_F(AbrirLance, TheHumanBetsAnOrdago) {
   m.port.Presses(3);
   Abren();
   EXPECT_EQ(m.Texto(), "Pequeña \r\nAna: Orda1\r\n");
@@ -263,7 +263,7 @@ TEST_F(AbrirLance, AnAmountBeyondSixteenBitsEndsTheProgramAlsoBelowTheFloor) {
   }
 }
 
-// Seats 2 and 3 would both bet; neither has pares.
+// Only seat 4 has pares.
 TEST_F(AbrirLance, SkipsTheSeatsThatMayNotSpeak) {
   m.t.Fase = Fase::Pares;
   m.t.ParejaCortaMus = 1;

@@ -1,5 +1,5 @@
-// What differs from lance to lance in the betting: every text, the phases and what a settled bet
-// leaves behind.
+// What differs between the lances in the betting: the texts, the phases and the records of a
+// settled bet.
 #include "lances/bidding.h"
 
 #include <gtest/gtest.h>
@@ -25,18 +25,18 @@ struct Caso {
   const Lance& (*datos)();
   NumeroLance numero;
   Fase fase;           // of the opening
-  Fase faseRespuesta;  // once somebody has bet
-  Fase faseSiguiente;  // once the lance is over
+  Fase faseRespuesta;  // after a bet
+  Fase faseSiguiente;  // after the lance
 
-  const char* mano;      // all seats have it: it speaks, and no computer seat accepts with it
-  const char* manoGana;  // beats it in this lance
+  const char* mano;      // of all seats: may speak; no computer seat accepts with it
+  const char* manoGana;  // beats `mano` in this lance
   void (*todosPasan)(Mesa&);
 
-  const char* enPaso;  // the whole transcripts, after "antes" and a line break
+  const char* enPaso;  // whole transcripts that start from "antes" and a line break
   const char* abierto;
   const char* aviso;
   const char* avisoTrasOrdago;
-  const char* preguntaApertura;  // what the human is asked
+  const char* preguntaApertura;  // the questions to the human
   const char* cantidadApertura;
   const char* preguntaRespuesta;
   const char* cantidadAlSubir;
@@ -223,7 +223,7 @@ const std::array<Caso, 5> Casos{{
      .declara = true},
 }};
 
-// The human is mano; every computer seat refuses a bet with one draw and speaks with two.
+// The human is mano. Every computer seat refuses a bet with one draw and speaks with two.
 struct CadaLance : testing::TestWithParam<Caso> {
   Mesa m;
   const Caso& caso = GetParam();
@@ -257,7 +257,7 @@ TEST_P(CadaLance, WritesThatItStaysEnPaso) {
   EXPECT_EQ(Utf8(m.t.Text3), "");
 }
 
-TEST_P(CadaLance, AsksTheHumanInItsOwnWordsWhenItOpens) {
+TEST_P(CadaLance, AsksTheHumanWithItsTextsInTheOpening) {
   m.port.Presses(2).Types(u"4");
   m.Juega(caso.abrir);
   EXPECT_EQ(m.Texto(), caso.abierto);
@@ -266,7 +266,7 @@ TEST_P(CadaLance, AsksTheHumanInItsOwnWordsWhenItOpens) {
   EXPECT_EQ(m.t.Fase, caso.faseRespuesta);
 }
 
-TEST_P(CadaLance, ForgetsAStandingBetOnlyFromParesOn) {
+TEST_P(CadaLance, ResetsAnOldBetOnlyFromParesOn) {
   m.t.SeguirLance = 3;
   if (caso.empiezaSinEnvite) m.port.Presses(1);
   m.Juega(caso.abrir);
@@ -275,7 +275,7 @@ TEST_P(CadaLance, ForgetsAStandingBetOnlyFromParesOn) {
   EXPECT_EQ(m.t.Fase, caso.faseRespuesta);
 }
 
-TEST_P(CadaLance, AsksTheHumanInItsOwnWordsWhenItAnswers) {
+TEST_P(CadaLance, AsksTheHumanWithItsTextsInTheAnswer) {
   PonerEnRespuesta(0, 2);
   m.port.Presses(2).Types(u"3");
   m.Juega(caso.responder, {/*2*/ 0, 0, 0, /*4*/ 0, 0, 0});
@@ -335,7 +335,7 @@ TEST_P(CadaLance, KeepsAnAcceptedBetForTheCount) {
   EXPECT_EQ(Utf8(m.t.Text3), "");
 }
 
-// Seat 2 has the better hand; the juego makes the vaca, whose box shows what stands in Text2.
+// Seat 2 has the better hand. The juego completes a vaca, whose box shows Text2 at that moment.
 TEST_P(CadaLance, AnAcceptedOrdagoGoesToTheBestHand) {
   PonerEnRespuesta(0, -1);
   DarMano(m.t, 2, caso.manoGana);
@@ -367,7 +367,7 @@ TEST_P(CadaLance, AnAcceptedOrdagoStartsAnotherHand) {
   EXPECT_EQ(m.t.Apuesta, apuesta);
 }
 
-// Rewriting the scoreboard twice looks like rewriting it once: the number stands in the lance.
+// A second refresh of the scoreboard has no visible effect, so that the lance's data is tested.
 TEST_P(CadaLance, Kept_OnlyTheGrandeRewritesTheScoreboardTwice) {
   EXPECT_EQ(caso.datos().RefrescosAlRehusar, caso.refrescos);
 }

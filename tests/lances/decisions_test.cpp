@@ -1,4 +1,4 @@
-// The judgements that several lances share, on both sides of every limit.
+// The decision rules that several lances share, on both sides of every limit.
 #include "lances/decisions.h"
 
 #include <gtest/gtest.h>
@@ -83,7 +83,7 @@ Decision Abre(int cartas, float sacada) {
   return AperturaPorCartas(rnd, cartas);
 }
 
-TEST(AperturaPorCartas, PassesWithNothingWhateverTheDraw) {
+TEST(AperturaPorCartas, PassesWithoutCardsWhateverTheDraw) {
   for (const int cartas : {-5, -3, -2, -1, 0}) {
     EXPECT_EQ(Abre(cartas, 0), Decision::Paso) << cartas;
     EXPECT_EQ(Abre(cartas, 0.5F), Decision::Paso) << cartas;
@@ -93,7 +93,7 @@ TEST(AperturaPorCartas, PassesWithNothingWhateverTheDraw) {
   EXPECT_EQ(Abre(-5, Maxima), Decision::Paso);
 }
 
-// Twice the greatest draw is 2 - 2^-23: still below 2.
+// Twice the greatest draw is 2 - 2^-23, which is below 2.
 TEST(AperturaPorCartas, PassesWithNoneEvenAtTheGreatestDraw) {
   EXPECT_EQ(Abre(0, Maxima), Decision::Paso);
 }
@@ -126,7 +126,7 @@ TEST(AperturaPorCartas, BetsMoreFromFiveOn) {
   EXPECT_EQ(Abre(6, 0.625F), Decision::EnvidoMas);
 }
 
-TEST(AperturaPorCartas, BetsEverythingFromFiveAndAHalfOn) {
+TEST(AperturaPorCartas, BetsAnOrdagoFromFiveAndAHalfOn) {
   EXPECT_EQ(Abre(5, DrawBelow(5.5F / 7.0F)), Decision::EnvidoMas);
   EXPECT_EQ(Abre(5, DrawFrom(5.5F / 7.0F)), Decision::Ordago);
   EXPECT_EQ(Abre(6, DrawBelow(0.6875F)), Decision::EnvidoMas);
@@ -134,14 +134,14 @@ TEST(AperturaPorCartas, BetsEverythingFromFiveAndAHalfOn) {
   EXPECT_EQ(Abre(6, Maxima), Decision::Ordago);
 }
 
-// 15379114 x 6 = 92274684 steps lies halfway between the two neighbours 92274680 and 92274688 =
-// 5.5 x 2^24 of single precision, and goes to the even one.
+// 15379114 x 6 = 92274684 is halfway between the floats 92274680 and 92274688 = 5.5 x 2^24, and is
+// rounded to the even one.
 TEST(AperturaPorCartas, MultipliesInSinglePrecision) {
   EXPECT_EQ(Abre(4, 15379113 * Minima), Decision::EnvidoMas);
   EXPECT_EQ(Abre(4, 15379114 * Minima), Decision::Ordago);
 }
 
-// A table where seat 2 answers a bet of two stones.
+// Seat 2 answers a bet of two stones.
 struct RespuestaPorCartas : testing::Test {
   Table t = MesaDePrueba();
 
@@ -188,14 +188,14 @@ TEST_F(RespuestaPorCartas, AnswersWithOrdagoByTheScore) {
   EXPECT_EQ(Responde(4), Decision::Quiero);
 }
 
-TEST_F(RespuestaPorCartas, ForgetsTheScoreAgainstAnOrdago) {
+TEST_F(RespuestaPorCartas, IgnoresTheScoreAgainstAnOrdago) {
   t.SeguirLance = -1;
   Marcan(t, 0, 34);
   EXPECT_EQ(Responde(2), Decision::NoQuiero);
   EXPECT_EQ(Responde(3), Decision::Quiero);
 }
 
-// Ordaguero 50: 12.5 - 100 r + 4 is above 0 below 0.165.
+// Ordaguero 50: 12.5 - 100 r + 4 is positive for r < 0.165.
 TEST_F(RespuestaPorCartas, Kept_RaisesOrRefusesWithPoorCards) {
   t.OrdagueroAsiento[2] = 50;
   EXPECT_EQ(Responde(1, {DrawBelow(0.165F)}), Decision::EnvidoMas);
@@ -204,7 +204,7 @@ TEST_F(RespuestaPorCartas, Kept_RaisesOrRefusesWithPoorCards) {
   EXPECT_EQ(Responde(0, {Maxima}), Decision::NoQuiero);
 }
 
-// Ordaguero 100: 25 - 100 r + 8. At 5536481 steps 100 r is 33 in single precision.
+// Ordaguero 100: 25 - 100 r + 8. For r = 5536481 / 2^24 the single-precision product 100 r is 33.
 TEST_F(RespuestaPorCartas, AddsEightHundredthsOfTheOrdagueroInSinglePrecision) {
   t.OrdagueroAsiento[2] = 100;
   EXPECT_EQ(Responde(1, {5536480 * Minima}), Decision::EnvidoMas);
@@ -222,7 +222,7 @@ TEST_F(RespuestaPorCartas, LooksAtTheOrdagueroOfItsOwnSeat) {
   EXPECT_EQ(Responde(1, {0}), Decision::NoQuiero);
 }
 
-// Ordaguero 100: 25 - 100 r is above 0 below a quarter.
+// Ordaguero 100: 25 - 100 r is positive for r < 0.25.
 TEST_F(RespuestaPorCartas, AnswersWithOrdagoWhenBehindOpponentsAlmostOut) {
   t.OrdagueroAsiento[2] = 100;
   Marcan(t, 26, 27);
@@ -253,7 +253,7 @@ TEST_F(RespuestaPorCartas, NeedsTheOpponentsToHaveMoreThanThreeQuarters) {
   EXPECT_EQ(Responde(1, {0}), Decision::Ordago);
 }
 
-// A table where seat 2 answers by strength: y = 2 r + fuerza.
+// Seat 2 answers by strength: y = 2 r + fuerza.
 struct RespuestaPorFuerza : testing::Test {
   Table t = MesaDePrueba();
 
@@ -272,8 +272,8 @@ TEST_F(RespuestaPorFuerza, AnswersWithOrdagoBelowOnePointThree) {
   EXPECT_EQ(Responde(1, DrawFrom(Limite)), Decision::EnvidoMas);
 }
 
-// From 2 on, single precision tells apart only every fourth of the steps of 2 r: the draw just
-// below a limit is already rounded up to it.
+// Above 2 the single-precision sum keeps only every second draw: the draw just below a limit is
+// rounded up to it.
 TEST_F(RespuestaPorFuerza, RaisesBelowTwoAndAHalf) {
   EXPECT_EQ(Responde(1, 0.75F - 2 * Minima), Decision::EnvidoMas);
   EXPECT_EQ(Responde(1, 0.75F - Minima), Decision::Quiero);
@@ -310,7 +310,7 @@ TEST_F(RespuestaPorFuerza, AnswersWithOrdagoByTheScoreWithoutADraw) {
   EXPECT_EQ(tasca::RespuestaPorFuerza(t, rnd, 2, 40), Decision::Ordago);
 }
 
-TEST_F(RespuestaPorFuerza, ForgetsTheScoreAgainstAnOrdago) {
+TEST_F(RespuestaPorFuerza, IgnoresTheScoreAgainstAnOrdago) {
   t.SeguirLance = -1;
   Marcan(t, 0, 34);
   EXPECT_EQ(Responde(4, 0), Decision::NoQuiero);

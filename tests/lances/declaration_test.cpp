@@ -37,7 +37,7 @@ TEST(PreguntarDeclaracion, CorrectsTheHumanWhoClaimsIt) {
             (Sucesos{"yesno[¿Tiene?]:  (icon, default no)", "box: En realidad no."}));
 }
 
-TEST(PreguntarDeclaracion, SaysWhatItIsAbout) {
+TEST(PreguntarDeclaracion, GivesTheSubjectOfTheQuestion) {
   Mesa m;
   m.port.Yes();
   DrawList rnd{};

@@ -1,4 +1,4 @@
-// Every hand of four cards that the deck can give: C(40, 4) = 91,390 of them.
+// All hands of four cards: C(40, 4) = 91,390.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -27,8 +27,8 @@ std::string Escrita(const Mano& mano) {
 
 constexpr int Partes = 4;
 
-// Calls `mirar` with the four card numbers, rising, of every hand of one part of them: by the
-// remainder of its lowest card. Gives how many there were.
+// Calls `mirar` with the ascending card numbers of every hand of one part, and returns their
+// number. A hand's part depends on its lowest card.
 template <class Mirar>
 int EnLasManosDe(int parte, Mirar mirar) {
   int cuantas = 0;
@@ -46,7 +46,7 @@ int EnLasManosDe(int parte, Mirar mirar) {
   return cuantas;
 }
 
-// In parts, so that none takes long in a build that is not optimized.
+// Split into parts, so that no test takes long in a build without optimisation.
 class ExhaustiveHands : public testing::TestWithParam<int> {};
 
 INSTANTIATE_TEST_SUITE_P(Parts, ExhaustiveHands, testing::Range(0, Partes));
@@ -57,14 +57,14 @@ TEST(ExhaustiveHandsParts, AreAllTheHandsTogether) {
   EXPECT_EQ(cuantas, TodasLasManos);
 }
 
-// A table with the real deck. Seats 2 to 4 hold "7 6 5 4": no pares and no juego.
+// A table with the deck. Seats 2 to 4 hold "7 6 5 4": no pares and no juego.
 struct MesaDeManos {
   std::unique_ptr<Table> T = std::make_unique<Table>(MesaDePrueba());
   Rnd Sacadas;
   QuietPort Puerto;
   Game G{*T, Sacadas, Puerto};
 
-  // Lays the cards on top of the deck and deals them to seat 1.
+  // Puts the cards on top of the deck and deals them to seat 1.
   void Dar(const Mano& cartas) {
     for (int i = 0; i < 4; ++i) T->Baraja[i + 1] = cartas.at(static_cast<std::size_t>(i));
     T->CartaSiguiente = 1;
@@ -76,9 +76,8 @@ struct MesaDeManos {
   }
 };
 
-// The hand as it must lie after the deal: the first card dealt comes into slot 4, the last one into
-// slot 1; then a card comes after all those of a higher value, and after those of its own value
-// that lay before it.
+// The expected hand after the deal: the first card dealt goes to slot 4 and the last to slot 1;
+// then a stable sort by descending value.
 Mano Ordenada(const Mano& dadas) {
   Mano huecos{};
   std::reverse_copy(dadas.begin(), dadas.end(), huecos.begin());
@@ -123,8 +122,8 @@ TEST_P(ExhaustiveHands, HaveTheirReyesAndAses) {
   EXPECT_EQ(fallos.Texto(), "");
 }
 
-// The values of all pairs of equal cards, the highest first: a value that n cards have stands there
-// once for every two of them.
+// The values of all pairs of equal cards, the highest first: n cards of a value give n (n - 1) / 2
+// entries.
 std::vector<int> ParejasDeCartas(const Cuentas& mano) {
   constexpr std::array<std::size_t, 5> parejas{0, 0, 1, 3, 6};
   std::vector<int> valores;
@@ -159,8 +158,7 @@ TEST_P(ExhaustiveHands, HaveTheirPointsOfJuegoAndPunto) {
   EXPECT_EQ(fallos.Texto(), "");
 }
 
-// The stones that the count gives to the hand alone, both its pares and its juego or only the
-// former.
+// The stones that the count pays for the pares and, if `conJuego`, the juego of seat 1.
 int PiedrasContadas(MesaDeManos& mesa, bool conJuego) {
   Table& t = *mesa.T;
   for (int lance = 1; lance <= 2; ++lance) t.Apuesta[lance] = ApuestaPagada;

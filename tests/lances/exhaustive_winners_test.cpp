@@ -1,5 +1,5 @@
-// Every two hands against each other, in all five lances and with each seat as the mano. Only the
-// values of the cards count: 330 hands of four cards out of eight values.
+// All pairs of hands, in all five lances and with each seat as mano. Hands with equal card values
+// are the same: 330 hands of four cards out of eight values.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,8 +25,8 @@ struct Patron {
   Cuentas Valores;
 };
 
-// A card of that value, every second time the Tres or the Dos where one counts the same. The hands
-// are only compared: a card may lie in several places.
+// A card of that value; in odd slots the Tres for a Rey and the Dos for an As. The hands are only
+// compared, so that a card may occur several times.
 int CartaDeValor(int valor, int hueco) {
   const bool segunda = hueco % 2 == 1;
   if (valor == 10 && segunda) return 3;
@@ -63,24 +63,24 @@ std::string Escrita(const Patron& patron) {
   return texto;
 }
 
-// Who is better by the pair's own values: 1 the first, -1 the second, 0 the one nearest the mano.
+// The result of hand i against hand j: 1 if i wins, -1 if j wins, 0 if the mano decides.
 using Resultados = std::vector<std::vector<int>>;
 
-// What a lance is for these tests.
+// A lance: the game's function and the second implementation.
 struct Comparacion {
   Pareja (*Gana)(Game& g);
   bool (*EsMejor)(const Cuentas& una, const Cuentas& otra);
-  std::array<int, 4> Peor;                   // the values of a hand that beats no other
-  bool (*Cuenta)(const Cuentas&) = nullptr;  // without such a hand nobody wins; all are, if null
+  std::array<int, 4> Peor;                   // the values of a hand that beats none
+  bool (*Cuenta)(const Cuentas&) = nullptr;  // hands that can win; null: all hands
 };
 
+// Two hands at two neighbouring seats.
 class Duelo {
  public:
   explicit Duelo(const Comparacion& comparacion)
       : comparacion_{comparacion}, peor_{PatronDe(comparacion.Peor)} {}
 
-  // The hands of two neighbours, of which the first sits at `primero`; the other two seats have the
-  // hand that cannot win.
+  // Gives `una` to seat `primero` and `otra` to the next. The other two seats get the worst hand.
   void Sentar(const Patron& una, const Patron& otra, Seat primero) {
     primero_ = primero;
     for (Seat asiento = 1; asiento <= 4; ++asiento) Poner(asiento, peor_);
@@ -88,14 +88,14 @@ class Duelo {
     Poner(Siguiente(primero), otra);
   }
 
-  // The pareja that the game says.
+  // The winner according to the game.
   Pareja Ganadora(Seat mano) {
     Seat asiento = mano;
     for (int i = 1; i <= 4; ++i, asiento = Siguiente(asiento)) t_->OrdenAsiento[i] = asiento;
     return comparacion_.Gana(g_);
   }
 
-  // The pareja of the first seat from the mano on that nobody is better than.
+  // The expected winner: the first seat from the mano on that no other seat beats; -1 for nobody.
   Pareja Debida(Seat mano) const {
     if (NadieCuenta()) return -1;
     Seat asiento = mano;
@@ -103,8 +103,8 @@ class Duelo {
     return ParejaDe(asiento);
   }
 
-  // What all four manos say together, as the first of the two hands sees it; each must also say
-  // what is due.
+  // The result of `una` against `otra` over all four manos. Records a fault for each unexpected
+  // winner.
   int Decidir(Fallos& fallos) {
     bool aVeces = false;
     bool aVecesLaOtra = false;
@@ -156,7 +156,7 @@ class Duelo {
   Seat primero_ = 1;
 };
 
-// All pairs; every pair of neighbouring seats has its turn.
+// The results of all pairs of hands. The pairs of seats take turns.
 Resultados TodosContraTodos(Duelo& duelo, Fallos& fallos) {
   const std::vector<Patron> patrones = Patrones();
   Resultados resultados(patrones.size(), std::vector<int>(patrones.size()));
@@ -169,9 +169,8 @@ Resultados TodosContraTodos(Duelo& duelo, Fallos& fallos) {
   return resultados;
 }
 
-// The game's own results are an order: each hand has a rank, the number of hands that it beats less
-// those that beat it, and of two hands the one with the higher rank wins, whichever stands first.
-// So no two hands beat each other, and no three in a circle.
+// Checks that the results are a strict weak order: with the wins minus the losses of each hand as
+// its rank, the hand of higher rank wins. So the results are antisymmetric and have no cycles.
 void ComprobarOrden(const Resultados& resultados, Fallos& fallos) {
   std::vector<int> rangos;
   for (const std::vector<int>& fila : resultados) {
@@ -216,8 +215,7 @@ TEST(ExhaustiveWinners, OfTheJuego) {
   Comprobar({[](Game& g) { return MejorJuego(g.t); }, MejorElJuego, {7, 6, 5, 4}});
 }
 
-// The hand that cannot win here is one with juego, which ranks below all puntos; it is told in a
-// box, and so is every other hand with juego.
+// The worst hand is one with juego. The game reports every hand with juego in a box.
 TEST(ExhaustiveWinners, OfThePunto) {
   int conJuego = 0;
   for (const Patron& patron : Patrones()) conJuego += Puntos(patron.Valores) >= 31 ? 1 : 0;

@@ -1,4 +1,4 @@
-// Grande: what the computer seats decide, and who has the best hand.
+// Grande: the decisions of the computer seats, and the best hand.
 #include "lances/grande.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace tasca::test {
 namespace {
 
-// A table where pareja 0 has refused the mus and nobody is near the juego.
+// Pareja 0 has refused the mus, and nobody is near the end of the juego.
 struct DecideGrande : testing::Test {
   Table t = MesaDePrueba();
 
@@ -37,7 +37,7 @@ TEST_F(DecideGrande, OpensWithOrdagoWhenRivalsAreNearAndAhead) {
   EXPECT_EQ(Abre(2, {0, 0.9F}), Decision::Paso);
 }
 
-// Two Reyes and no discards: k = 2 on the other side, 3 on the side that refused.
+// Two Reyes without discards: k = 2 for the other pareja, 3 for the one that refused.
 TEST_F(DecideGrande, CountsOneMoreForTheSideThatRefusedTheMus) {
   t.ParejaCortaMus = 1;
   DarMano(t, 2, "R R 5 4");
@@ -76,7 +76,7 @@ TEST_F(DecideGrande, CountsOneMoreForAnOrdagueroAbove74) {
   EXPECT_EQ(Abre(2, {DrawBelow(0.5F), 0}), Decision::Paso);
 }
 
-// Four Reyes that refused: k = 5; ordaguero 75: k = 6.
+// Four Reyes of the pareja that refused: k = 5; with ordaguero 75: k = 6.
 TEST_F(DecideGrande, GoesFromPasoToOrdagoAsTheDrawRises) {
   DarMano(t, 2, "R R 3 3");
   EXPECT_EQ(Abre(2, {DrawBelow(2.0F / 7.0F), 0.9F}), Decision::Paso);
@@ -113,7 +113,7 @@ TEST_F(DecideGrande, AlwaysPassesWithoutReyesAfterTwoDiscardPassesOfTheOthers) {
   }
 }
 
-// k = 5, so that x goes from 0 to 7.
+// k = 5, so that x is in [0, 7).
 TEST_F(DecideGrande, OpensWithOrdagoOnThreeReyesAndAnOrdaguero80) {
   DarMano(t, 2, "R R R 4");
   t.OrdagueroAsiento[2] = 80;
@@ -184,7 +184,7 @@ TEST_F(RespondeGrande, AnswersWithOrdagoOnPoorCardsWhenBehindOpponentsAlmostOut)
 struct GanaGrande : testing::Test {
   Table t = MesaDePrueba();
 
-  // Seats 1 and 2 have these hands, 3 and 4 the worst there is.
+  // Seats 1 and 2 have these hands, seats 3 and 4 the worst one.
   Pareja Gana(std::string_view humano, std::string_view contrario) {
     DarMano(t, 1, humano);
     DarMano(t, 2, contrario);
@@ -203,7 +203,7 @@ TEST_F(GanaGrande, ComparesCardByCardFromTheHighest) {
   EXPECT_EQ(Gana("7 6 5 4", "7 6 5 A"), 1);
 }
 
-TEST_F(GanaGrande, TakesATresForAReyAndADosForAnAs) {
+TEST_F(GanaGrande, CountsATresAsAReyAndADosAsAnAs) {
   t.OrdenAsiento = {2, 3, 4, 1};
   EXPECT_EQ(Gana("R R R A", "3 3 3 2"), 0);
   t.OrdenAsiento = {1, 2, 3, 4};

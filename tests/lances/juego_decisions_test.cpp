@@ -1,4 +1,4 @@
-// Juego: what the computer seats decide.
+// Juego: the decisions of the computer seats.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr float Alta = 0.99F;  // a draw that makes no condition true
 
-// A table where seat 2 speaks with some juego, early in the game.
+// Seat 2 opens with the given points, early in the game.
 struct DecideJuego : testing::Test {
   Table t = MesaDePrueba();
 
@@ -82,7 +82,7 @@ TEST_F(DecideJuego, ASecondSpeakerBetsUpTo38ByItsOrdaguero) {
   }
 }
 
-TEST_F(DecideJuego, TheRulesOfOneTurnDoNotHelpInTheOther) {
+TEST_F(DecideJuego, TheRulesOfOneTurnDoNotApplyInTheOther) {
   t.OrdagueroAsiento[2] = 100;
   EXPECT_EQ(Abre(31, 1, {Alta, Alta, Alta, 0, 0}), Decision::Paso);
   EXPECT_EQ(Abre(31, 2, {0, 0, 0, Alta, Alta}), Decision::Paso);
@@ -138,7 +138,7 @@ TEST_F(DecideJuego, DrawsNoMoreWhenItPasses) {
   EXPECT_EQ(Abre(33, 1, {0, 0, 0, 0, 0}), Decision::Paso);
 }
 
-// A table where seat 2 answers a bet of two stones: y = 2 r + turno x fuerza.
+// Seat 2 answers a bet of two stones: y = 2 r + turno x fuerza.
 struct RespondeJuego : testing::Test {
   Table t = MesaDePrueba();
 

@@ -1,4 +1,4 @@
-// Juego: who has it, who says so, and who has the best.
+// Juego: the declaration and the best hand.
 #include "lances/juego.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ TEST(TieneJuego, NeedsThirtyOnePoints) {
   EXPECT_FALSE(TieneJuego(t, 2));
 }
 
-// Seats 1 and 2 have these points, the others none; the human speaks first or last.
+// The winner if seats 1 and 2 have these points and the others no juego.
 Pareja Mejor(int humano, int contrario, const PorAsiento& orden) {
   Table t = MesaDePrueba();
   DarPuntos(t, 1, humano);
@@ -66,7 +66,7 @@ TEST(MejorJuego, FindsTheBestJuegoAtEverySeat) {
 
 TEST(MejorJuego, RanksMoreThanFortyAsNoJuego) { EXPECT_EQ(Mejor(33, 41, {2, 3, 4, 1}), 1); }
 
-// A table where the human (31) and seat 4 (34) have juego.
+// The human (31) and seat 4 (34) have juego.
 struct DeclaraJuego : testing::Test {
   Mesa m;
 
@@ -175,7 +175,7 @@ struct CasoTurnos {
   PorAsiento turnos;
 };
 
-// One more than the rivals with juego that have spoken before.
+// A seat's turn is one more than the number of rivals with juego that spoke before it.
 TEST_F(DeclaraJuego, Kept_CountsTheOtherParejaForEverySeatsTurn) {
   const std::vector<CasoTurnos> casos{
       {{1, 2, 3, 4}, {1, 2, 3, 4}, {1, 2, 2, 3}}, {{2, 3, 4, 1}, {1, 2, 3, 4}, {3, 1, 2, 2}},
@@ -208,8 +208,8 @@ TEST_F(DeclaraJuego, SpeaksInOrderWithTwoDrawsForEveryComputerSeat) {
             "Pulse enter para continuar");
 }
 
-// What the declaration leaves, the opening and the answer, one after the other.
-TEST(EnviteJuego, Kept_TakesThePromptOfTheDeclarationAwayButNotItsLine) {
+// Runs the declaration, the opening and the answer in turn.
+TEST(EnviteJuego, Kept_RemovesThePromptOfTheDeclarationButNotItsLine) {
   Mesa m;
   m.t.Fase = Fase::DeclaracionJuego;
   DarMano(m.t, 1, "R R R A");

@@ -1,4 +1,4 @@
-// Pares: what the computer seats decide.
+// Pares: the decisions of the computer seats.
 #include <gtest/gtest.h>
 
 #include "lances/pares.h"
@@ -7,7 +7,7 @@
 namespace tasca::test {
 namespace {
 
-// A table where seat 2 was the first to declare pares and its pareja refused the mus at once.
+// Seat 2 was the first to declare pares, and its pareja refused the first mus.
 struct DecidePares : testing::Test {
   Table t = MesaDePrueba();
 
@@ -82,7 +82,7 @@ TEST_F(DecidePares, LooksAtTheSecondCardForThatRey) {
   EXPECT_EQ(Abre("C C 5 4", {0, 0, 0}), Decision::Paso);
 }
 
-TEST_F(DecidePares, PassesOrGoesForItAllWithoutPares) {
+TEST_F(DecidePares, PassesOrBetsAnOrdagoWithoutPares) {
   EXPECT_EQ(Abre("7 6 5 4", {Maxima, 0, Maxima}), Decision::Paso);
   Marcan(t, 29, 29);
   EXPECT_EQ(Abre("7 6 5 4", {0.5F + Minima}), Decision::Ordago);
@@ -108,7 +108,7 @@ TEST_F(DecidePares, OnTheOtherSideOnlyTheScoreMakesAnOrdago) {
   EXPECT_EQ(Abre("R R R R", {Maxima}), Decision::Paso);
 }
 
-// A table where seat 2 answers a bet of two stones.
+// Seat 2 answers a bet of two stones.
 struct RespondePares : testing::Test {
   Table t = MesaDePrueba();
 
@@ -143,7 +143,7 @@ TEST_F(RespondePares, Kept_SaysNothingWhenRivalsAreNearAndNotAhead) {
   EXPECT_EQ(Responde("A A 5 4", 4, {0}), Decision::NoQuiero);
 }
 
-// A par of Reyes is 20 + 2 (3 - orden) + 20.
+// The strength of a par of Reyes is 20 + 2 (3 - orden) + 20.
 TEST_F(RespondePares, AcceptsFrom39OnWithoutDiscards) {
   EXPECT_EQ(Responde("R R 5 4", 4, {0}), Decision::NoQuiero);  // 38
   EXPECT_EQ(Responde("R R 5 4", 3, {0}), Decision::Quiero);    // 40
@@ -152,7 +152,7 @@ TEST_F(RespondePares, AcceptsFrom39OnWithoutDiscards) {
   EXPECT_EQ(Responde("R C S S", 1, {0}), Decision::Quiero);    // 40
 }
 
-// Medias of threes, were there any, are 40 + 2 (3 - orden) + 12.
+// The strength of medias of value 3, made up here, is 40 + 2 (3 - orden) + 12.
 TEST_F(RespondePares, AcceptsFrom52OnAfterOneDiscardPass) {
   t.RondasMus = 1;
   for (int palo = 1; palo <= 4; ++palo) t.Cartas[NumeroDeCarta('4', palo)].ValorPares = 3;
@@ -160,7 +160,7 @@ TEST_F(RespondePares, AcceptsFrom52OnAfterOneDiscardPass) {
   EXPECT_EQ(Responde("7 4 4 4", 3, {0}), Decision::Quiero);    // 52
 }
 
-// Medias of fours are 40 + 2 (3 - orden) + 16.
+// The strength of medias of Cuatros is 40 + 2 (3 - orden) + 16.
 TEST_F(RespondePares, AcceptsFrom59OnAfterMoreDiscardPasses) {
   for (const int rondas : {2, 3, 9}) {
     t.RondasMus = rondas;
@@ -181,7 +181,7 @@ TEST_F(RespondePares, RaisesAboveOneAndAHalfTimesTheThreshold) {
   EXPECT_EQ(Responde("4 4 A A", 3, {0}), Decision::EnvidoMas);  // 90
 }
 
-// 80 + 2 (3 - orden) + 2 x 4 + 2 x 1: both pairs count, and the second is not the first again.
+// The strength of Cuatros and Ases is 80 + 2 (3 - orden) + 2 x 4 + 2 x 1: both pairs count.
 TEST_F(RespondePares, WeighsBothPairsOfADuplex) {
   t.RondasMus = 2;
   EXPECT_EQ(Responde("5 5 A A", 4, {0}), Decision::EnvidoMas);  // 90

@@ -1,4 +1,4 @@
-// Pares: who has them, who says so, and who has the best.
+// Pares: the declaration and the best hand.
 #include "lances/pares.h"
 
 #include <gtest/gtest.h>
@@ -50,7 +50,7 @@ TEST(CartasIguales, GivesTheValueOfEveryTwoEqualCards) {
   }
 }
 
-// Seats 1 and 2 have these hands, the others none; the human speaks first.
+// The winner if seats 1 and 2 have these hands and the others no pares.
 Pareja Gana(std::string_view humano, std::string_view contrario, const PorAsiento& orden) {
   Table t = MesaDePrueba();
   DarMano(t, 1, humano);
@@ -120,7 +120,8 @@ TEST(GanaPares, IgnoresTheCardsBesideThePairs) {
   EXPECT_EQ(Gana("R R 5 4", "R 3 5 4", {2, 3, 4, 1}), 0);
 }
 
-// 900 + 90 + 9 + 0.9 + 0.09 + 0.009 is 999.999. A second pair of no value gives 1000 as well.
+// Four Caballos give 900 + 90 + 9 + 0.9 + 0.09 + 0.009 = 999.999, rounded to 1000. Reyes with a
+// second pair of value 0 give 1000 too.
 TEST(GanaPares, RoundsTheTieValueOfFourEqualCards) {
   Table t = MesaDePrueba();
   for (int palo = 1; palo <= 4; ++palo) t.Cartas[NumeroDeCarta('4', palo)].ValorPares = 0;
@@ -131,7 +132,7 @@ TEST(GanaPares, RoundsTheTieValueOfFourEqualCards) {
   EXPECT_EQ(GanaPares(t), 0);
 }
 
-// A table where the human (a par), seat 2 (none), seat 3 (none) and seat 4 (medias) declare.
+// The human has a par and seat 4 medias; seats 2 and 3 have no pares.
 struct DeclaraPares : testing::Test {
   Mesa m;
 

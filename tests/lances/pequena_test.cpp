@@ -1,4 +1,4 @@
-// Pequeña: what the computer seats decide, and who has the best hand.
+// Pequeña: the decisions of the computer seats, and the best hand.
 #include "lances/pequena.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ TEST_F(DecidePequena, NeedsAnAsForThatOrdago) {
   EXPECT_EQ(Abre(2, {Maxima}), Decision::Paso);
 }
 
-// Twice a draw never reaches 2: without an As a seat cannot even envidar.
+// Twice a draw is below 2, the limit of envido.
 TEST_F(DecidePequena, PassesWithoutAsesWhateverTheDraw) {
   EXPECT_EQ(Abre(2, {0}), Decision::Paso);
   EXPECT_EQ(Abre(2, {Maxima}), Decision::Paso);
@@ -73,7 +73,7 @@ TEST_F(DecidePequena, GoesFromPasoToOrdagoAsTheDrawRises) {
   EXPECT_EQ(Abre(2, {15379114 * Minima}), Decision::Ordago);  // 5.5 in single precision
 }
 
-TEST_F(DecidePequena, Kept_ForgetsTheMusAndTheOrdaguero) {
+TEST_F(DecidePequena, Kept_IgnoresTheMusAndTheOrdaguero) {
   DarMano(t, 2, "7 6 2 A");
   t.OrdagueroAsiento = {100, 100, 100, 100};
   t.RondasMus = 3;
@@ -150,7 +150,7 @@ TEST_F(RespondePequena, AnswersWithOrdagoOnPoorCardsWhenBehindOpponentsAlmostOut
 struct GanaPequena : testing::Test {
   Table t = MesaDePrueba();
 
-  // Seats 1 and 2 have these hands, 3 and 4 the worst there is.
+  // Seats 1 and 2 have these hands, seats 3 and 4 the worst one.
   Pareja Gana(std::string_view humano, std::string_view contrario) {
     DarMano(t, 1, humano);
     DarMano(t, 2, contrario);
@@ -169,7 +169,7 @@ TEST_F(GanaPequena, ComparesCardByCardFromTheLowest) {
   EXPECT_EQ(Gana("7 A A A", "6 A A A"), 0);
 }
 
-TEST_F(GanaPequena, TakesADosForAnAsAndATresForARey) {
+TEST_F(GanaPequena, CountsADosAsAnAsAndATresAsARey) {
   EXPECT_EQ(Gana("R R R 2", "R R R A"), 1);
   t.OrdenAsiento = {2, 3, 4, 1};
   EXPECT_EQ(Gana("R R R 2", "R R R A"), 0);

@@ -1,4 +1,4 @@
-// Punto: what the computer seats decide, and who has the best.
+// Punto: the decisions of the computer seats, and the best hand.
 #include "lances/punto.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +56,7 @@ TEST_F(MejorPunto, GivesEqualPuntosToTheSeatNearestTheMano) {
   EXPECT_EQ(Mejor(), 0);
 }
 
-TEST_F(MejorPunto, Kept_TellsInABoxOfASeatWithJuegoAndRanksItLowest) {
+TEST_F(MejorPunto, Kept_ReportsASeatWithJuegoInABoxAndRanksItLowest) {
   DarMano(m.t, 1, "R R R A");
   DarMano(m.t, 3, "R R R R");
   DarMano(m.t, 4, "7 A A A");
@@ -65,7 +65,7 @@ TEST_F(MejorPunto, Kept_TellsInABoxOfASeatWithJuegoAndRanksItLowest) {
             (Sucesos{"box: Error, sí ahbía juego ", "box: Error, sí ahbía juego "}));
 }
 
-// A table where seat 2 opens, early in the game.
+// Seat 2 opens, early in the game.
 struct DecidePunto : testing::Test {
   Table t = MesaDePrueba();
 
@@ -93,7 +93,7 @@ TEST_F(DecidePunto, OpensWithOrdagoOnAStrongPuntoWhenRivalsAreNearAndItsOwnSideI
   EXPECT_EQ(Abre(29, {0, Maxima, Maxima}), Decision::Envido);
 }
 
-TEST_F(DecidePunto, Kept_DoesNotThrowItAllAwayOnlyForBeingBehind) {
+TEST_F(DecidePunto, Kept_BetsNoOrdagoOnlyForBeingBehind) {
   Marcan(t, 0, 29);
   EXPECT_EQ(Abre(20, {0}), Decision::Paso);
 }
@@ -121,7 +121,7 @@ TEST_F(DecidePunto, BetsMoreOneTimeInFiveEarlyInTheGame) {
 }
 
 // Half of 35 is 17.5, of 36 exactly 18.
-TEST_F(DecidePunto, TakesTheGameForLateWhenAParejaIsAboveHalf) {
+TEST_F(DecidePunto, IsLateInTheGameWhenAParejaIsAboveHalf) {
   Marcan(t, 17, 17);
   EXPECT_EQ(Abre(30, {0, 0}), Decision::Envido);
   Marcan(t, 18, 17);
@@ -137,13 +137,13 @@ TEST_F(DecidePunto, TakesTheGameForLateWhenAParejaIsAboveHalf) {
   EXPECT_EQ(Abre(30, {0, 0}), Decision::Ordago);
 }
 
-TEST_F(DecidePunto, GoesForItAllOneTimeInTenLateInTheGame) {
+TEST_F(DecidePunto, BetsAnOrdagoOneTimeInTenLateInTheGame) {
   Marcan(t, 18, 18);
   EXPECT_EQ(Abre(30, {0, DrawBelow(0.1F)}), Decision::Ordago);
   EXPECT_EQ(Abre(30, {0, DrawFrom(0.1F), Maxima}), Decision::Envido);
 }
 
-TEST_F(DecidePunto, ElseBetsMoreOneTimeInFourLateInTheGame) {
+TEST_F(DecidePunto, OtherwiseBetsMoreOneTimeInFourLateInTheGame) {
   Marcan(t, 18, 18);
   EXPECT_EQ(Abre(30, {0, Maxima, DrawBelow(0.25F)}), Decision::EnvidoMas);
   EXPECT_EQ(Abre(30, {0, Maxima, 0.25F}), Decision::Envido);
@@ -155,7 +155,7 @@ TEST_F(DecidePunto, DrawsOnlyOnceWhenItPasses) {
   EXPECT_EQ(Abre(20, {0}), Decision::Paso);
 }
 
-// A table where a seat answers a bet of two stones: y = 2 r + place x (31 - points).
+// Seat 2 answers a bet of two stones: y = 2 r + posicion x (31 - puntos).
 struct RespondePunto : testing::Test {
   Table t = MesaDePrueba();
 
@@ -217,7 +217,7 @@ constexpr std::array<CasoRespuestaPunto, 11> CasosRespuestaPunto{{
     {27, Primero, 0, Decision::NoQuiero},
 }};
 
-TEST_F(RespondePunto, MultipliesTheDistanceByThePlace) {
+TEST_F(RespondePunto, MultipliesTheDistanceByThePosition) {
   for (const CasoRespuestaPunto& caso : CasosRespuestaPunto) {
     EXPECT_EQ(Responde(caso.puntos, caso.orden, {caso.sacada}), caso.decision)
         << caso.puntos << " with mano " << caso.orden[1] << ", draw " << caso.sacada;

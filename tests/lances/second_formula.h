@@ -1,7 +1,6 @@
 #pragma once
-// What hands are worth, worked out a second time and in another way: a hand is how many it has of
-// each value, and nothing is taken from the cards' records, their order in the hand or the game's
-// own comparisons.
+// A second implementation of the values and comparisons of hands. It counts the cards of each value
+// and uses neither the game's card records nor its comparisons nor the order of the cards.
 #include <array>
 #include <string>
 #include <tuple>
@@ -9,8 +8,8 @@
 
 namespace tasca::test {
 
-// How many cards of each value 1 to 10 there are. A Tres counts as a Rey and a Dos as an As, so the
-// values 2 and 3 have none, and eight values are left.
+// The number of cards of each value 1 to 10. A Tres counts as a Rey and a Dos as an As, so that the
+// values 2 and 3 do not occur.
 struct Cuentas {
   std::array<int, 11> De{};
 
@@ -20,7 +19,7 @@ struct Cuentas {
 
 inline constexpr std::array<int, 8> ValoresDistintos{1, 4, 5, 6, 7, 8, 9, 10};
 
-// The value of card 1 to 40: ten ranks a suit, the As first and the Rey last.
+// The value of card 1 to 40: ten ranks per suit, from the As to the Rey.
 inline int ValorDeCarta(int numero) {
   constexpr std::array<int, 10> delRey{10, 1, 1, 10, 4, 5, 6, 7, 8, 9};
   return delRey.at(static_cast<std::size_t>(numero % 10));
@@ -32,7 +31,7 @@ inline Cuentas CuentasDe(const std::array<int, 4>& cartas) {
   return cuentas;
 }
 
-// Figures count ten, the others their value.
+// The points for juego and punto: figures count ten, other cards their value.
 inline int Puntos(const Cuentas& mano) {
   const int figuras = mano[8] + mano[9] + mano[10];
   return mano[1] + 4 * mano[4] + 5 * mano[5] + 6 * mano[6] + 7 * mano[7] + 10 * figuras;
@@ -40,8 +39,8 @@ inline int Puntos(const Cuentas& mano) {
 
 enum class Clase { Nada, Par, Medias, Duplex };
 
-// The pares of a hand: their class, and the values of its pairs, the higher first. Four equal cards
-// are two pairs of them.
+// The pares of a hand: their class and the values of the pairs, the higher first. Four equal cards
+// are two pairs of the same value.
 struct Pares {
   Clase Que = Clase::Nada;
   int Alto = 0;
@@ -60,14 +59,14 @@ inline Pares ParesDe(const Cuentas& mano) {
   return pares;
 }
 
-// The stones that pares and juego earn by themselves.
+// The stones for having pares or juego, without any bet.
 inline int PiedrasDePares(const Cuentas& mano) { return static_cast<int>(ParesDe(mano).Que); }
 inline int PiedrasDeJuego(const Cuentas& mano) {
   if (Puntos(mano) < 31) return 0;
   return Puntos(mano) == 31 ? 3 : 2;
 }
 
-// Whether a hand is better than another.
+// Whether `una` beats `otra`, without the rule for ties.
 inline bool MejorGrande(const Cuentas& una, const Cuentas& otra) {
   int valor = 10;
   while (valor > 1 && una[valor] == otra[valor]) --valor;
@@ -84,7 +83,7 @@ inline bool MejoresPares(const Cuentas& una, const Cuentas& otra) {
   };
   return orden(ParesDe(una)) > orden(ParesDe(otra));
 }
-// 31, 32, then 40 down to 33, then no juego at all.
+// The rank of these points, 1 the best: 31, 32, then 40 down to 33, then no juego.
 inline int LugarDelJuego(int puntos) {
   constexpr std::array<int, 10> lugares{1, 2, 10, 9, 8, 7, 6, 5, 4, 3};
   return puntos < 31 ? 11 : lugares.at(static_cast<std::size_t>(puntos - 31));
@@ -92,13 +91,13 @@ inline int LugarDelJuego(int puntos) {
 inline bool MejorElJuego(const Cuentas& una, const Cuentas& otra) {
   return LugarDelJuego(Puntos(una)) < LugarDelJuego(Puntos(otra));
 }
-// A hand with juego does not belong here, and ranks lowest.
+// A hand with juego ranks lowest.
 inline bool MejorElPunto(const Cuentas& una, const Cuentas& otra) {
   const auto rango = [](const Cuentas& mano) { return Puntos(mano) < 31 ? Puntos(mano) : 0; };
   return rango(una) > rango(otra);
 }
 
-// The first few of what was not as it must be, and how many there were.
+// Collects faults: keeps the first ten and the number of all.
 class Fallos {
  public:
   void Anadir(const std::string& fallo) {
@@ -106,7 +105,7 @@ class Fallos {
     if (primeros_.size() < Bastantes) primeros_.push_back(fallo);
     ++cuantos_;
   }
-  // "" when there were none.
+  // The number of faults and the first ten; "" if there are none.
   std::string Texto() const {
     std::string texto;
     for (const std::string& fallo : primeros_) texto += fallo + "\n";

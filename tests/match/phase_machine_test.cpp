@@ -1,4 +1,4 @@
-// The phase machine: which keys do what, and which step every phase runs.
+// The phase machine: the keys, and the step of each phase.
 #include "match/phase_machine.h"
 
 #include <gtest/gtest.h>
@@ -18,14 +18,14 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-// One key at a table; the new KeyCode.
+// Presses a key and returns the new KeyCode.
 int Press(Table& t, Rnd& rnd, ScriptedPort& port, Integer tecla, Integer mayusculas = 0) {
   Game g{t, rnd, port};
   Text1_KeyDown(g, tecla, mayusculas);
   return tecla;
 }
 
-// Enter in a phase, with the answers of `port` and exactly these draws.
+// Presses Enter in a phase, with exactly these draws.
 void PressEnter(Table& t, Fase fase, ScriptedPort& port,
                 std::initializer_list<float> sacadas = {}) {
   t.Fase = fase;
@@ -33,7 +33,7 @@ void PressEnter(Table& t, Fase fase, ScriptedPort& port,
   EXPECT_EQ(Press(t, rnd, port, TeclaEnter), 0);
 }
 
-// The human, mano, has bet an órdago that is yet to be answered.
+// The human is mano and has bet an órdago, which waits for its answer.
 Table MesaConOrdago() {
   Table t = MesaDePrueba();
   t.SeguirLance = EnviteOrdago;
@@ -41,13 +41,13 @@ Table MesaConOrdago() {
   return t;
 }
 
-// Both parejas have pares: the human and seat 2, whose Cuatros are too weak for an órdago.
+// The human and seat 2 have pares. Those of seat 2 are too weak to accept an órdago.
 void GivePares(Table& t) {
   DarMano(t, 1, "7 7 6 5");
   DarMano(t, 2, "7 6 4 4");
 }
 
-// Both parejas have juego: the human and seat 2, whose 33 are too weak for an órdago.
+// The human and seat 2 have juego. The 33 of seat 2 are too weak to accept an órdago.
 void GiveJuego(Table& t) {
   DarMano(t, 1, "R C S A");
   DarMano(t, 2, "C S 7 6");
@@ -84,7 +84,7 @@ TEST(Text1_KeyDown, TakesEnterWithAnyShiftState) {
   }
 }
 
-TEST(Text1_KeyDown, UsesUpAnEnterThatDoesNothing) {
+TEST(Text1_KeyDown, HandlesEnterInAnUnknownPhaseWithoutEffect) {
   for (const int fase : {-2, 14, 100, 32767, -32768}) {
     Table t = MesaDePrueba();
     t.SeguirLance = 2;
@@ -98,7 +98,7 @@ TEST(Text1_KeyDown, UsesUpAnEnterThatDoesNothing) {
   }
 }
 
-// A hand given up in a phase: the next one starts, and the one before is not counted.
+// Q in this phase starts the next hand without counting the current one.
 void ExpectAbandoned(Fase fase) {
   Table t = MesaDePrueba();
   t.Fase = fase;
@@ -151,7 +151,7 @@ TEST(Text1_KeyDown, LeavesZeroWithOtherShiftStatesAlone) {
   }
 }
 
-TEST(Text1_KeyDown, KnowsTheKeysByTheirCodes) {
+TEST(Text1_KeyDown, HasTheKeyCodesOfTheKeys) {
   EXPECT_EQ(TeclaEnter, 13);
   EXPECT_EQ(TeclaQ, 81);
   EXPECT_EQ(Tecla0, 48);
@@ -213,9 +213,9 @@ TEST(Text1_KeyDown, CountsTheHandInPhase13) {
   EXPECT_TRUE(t.Text2.ends_with(u"Pulse enter para empezar una nueva mano"));
 }
 
-// Opening steps in which all pass: nothing is left to answer.
+// Opening steps in which all pass.
 
-constexpr float NoEnvida = 0.875F;  // the side that refused the mus does not bet after all
+constexpr float NoEnvida = 0.875F;  // a second draw at which the pareja that refused passes
 
 TEST(Text1_KeyDown, OpensTheGrandeInPhase1) {
   Table t = MesaDePrueba();
@@ -238,7 +238,7 @@ TEST(Text1_KeyDown, OpensThePequenaInPhase3) {
 
 TEST(Text1_KeyDown, OpensTheParesInPhase6) {
   Table t = MesaDePrueba();
-  t.SeguirLance = 2;  // the pares start without a bet, whatever was left before
+  t.SeguirLance = 2;  // an old bet, which the pares reset
   ScriptedPort port;
   PressEnter(t, Fase::Pares, port);
   EXPECT_EQ(t.Fase, Fase::DeclaracionJuego);
@@ -263,7 +263,7 @@ TEST(Text1_KeyDown, OpensThePuntoInPhase11) {
   EXPECT_EQ(t.Fase, Fase::Cuenta);
 }
 
-// Opening steps that leave a bet: it is answered on the same Enter. The human's órdago is refused.
+// Opening steps with a bet: it is answered on the same Enter. The human's órdago is refused.
 
 void ExpectRefused(const Table& t, Fase fase, const std::string& final) {
   EXPECT_EQ(t.Fase, fase);
@@ -319,7 +319,7 @@ TEST(Text1_KeyDown, HasABetToThePuntoAnsweredAtOnce) {
   EXPECT_EQ(t.Apuesta[NumeroLance::Punto], ApuestaPagada);
 }
 
-// Answer steps by themselves.
+// Answer steps.
 
 TEST(Text1_KeyDown, AnswersTheGrandeInPhase2) {
   Table t = MesaConOrdago();
@@ -363,9 +363,9 @@ TEST(Text1_KeyDown, AnswersThePuntoInPhase12) {
   EXPECT_EQ(t.Apuesta[NumeroLance::Punto], ApuestaPagada);
 }
 
-// The two ends.
+// Exceptions.
 
-TEST(Text1_KeyDown, LetsThePlayerLeaveInTheMiddleOfAStep) {
+TEST(Text1_KeyDown, LetsLeaveProgramThrough) {
   Table t = MesaDePrueba();
   t.Piedras = {0, 35};
   t.Juegos = {0, 1};

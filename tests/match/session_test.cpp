@@ -1,4 +1,4 @@
-// A game from its start-up dialog to its end, through its one door.
+// The session: a game from the start-up dialog to its end.
 #include "match/session.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ constexpr auto CincoPersonajes =
     "Datos>\r\nel Cojo\r\n051\r\n\r\n"
     "Datos>\r\nDora\r\n099\r\n\r\n";
 
-// The same with a phrase for everything: the match can be played to its end.
+// A character file with a phrase for every kind, so that a whole match can be played.
 std::string PersonajesQueHablan() {
   std::string bytes;
   for (const char* nombre : {"Default indirecto", "Default directo", "Berta", "el Cojo", "Dora"}) {
@@ -48,7 +48,7 @@ struct Puerta {
     sesion = std::make_unique<Session>(carpeta.Path(), port);
   }
 
-  // Opens the dialog, and sits down at the table with whoever comes.
+  // Opens the dialog and accepts its random choice.
   Situacion Sentarse() const {
     sesion->AbrirInicio();
     return sesion->Aceptar();
@@ -59,7 +59,7 @@ struct Puerta {
   }
 };
 
-// Plays on at a table where a match is short, and has its will at the end.
+// Passes, takes the default answers, and answers the question about another match.
 class Jugador : public Port {
  public:
   bool OtraPartida = false;
@@ -79,7 +79,7 @@ class Jugador : public Port {
   TimeOfDay Now() override { return {}; }
 };
 
-// Enter until the match is over; how things stand then.
+// Presses Enter until the match is over, and returns the situation.
 Situacion PlayAMatch(Session& sesion) {
   sesion.AbrirInicio();
   Situacion situacion = sesion.Aceptar();
@@ -90,7 +90,7 @@ Situacion PlayAMatch(Session& sesion) {
   return situacion;
 }
 
-TEST(Session, WantsOtherPlayersAfterAMatchWhenThePlayerDoes) {
+TEST(Session, ReportsOtrosJugadoresAfterAMatchWhenThePlayerWantsThem) {
   TempFolder carpeta;
   carpeta.Write("Jugadores.dat", PersonajesQueHablan());
   carpeta.Write("mus.ini", "1\r\n1\r\n1\r\nAna>\r\n");
@@ -102,7 +102,7 @@ TEST(Session, WantsOtherPlayersAfterAMatchWhenThePlayerDoes) {
   EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores) << "and again, with others";
 }
 
-TEST(Session, EndsAfterAMatchWhenThePlayerHasHadEnough) {
+TEST(Session, EndsAfterAMatchWhenThePlayerWantsNoOther) {
   TempFolder carpeta;
   carpeta.Write("Jugadores.dat", PersonajesQueHablan());
   carpeta.Write("mus.ini", "1\r\n1\r\n1\r\nAna>\r\n");
@@ -128,7 +128,7 @@ TEST(Session, TakesTheEventsOfTheDialog) {
   EXPECT_EQ(d.Combo1.ListIndex, 2);
 }
 
-TEST(Session, StaysInTheDialogAfterAChoiceThatWillNotDo) {
+TEST(Session, StaysInTheDialogAfterAnInvalidChoice) {
   Puerta puerta;
   puerta.sesion->AbrirInicio();
   DlgInicio& d = puerta.sesion->Inicio();
@@ -141,7 +141,7 @@ TEST(Session, StaysInTheDialogAfterAChoiceThatWillNotDo) {
   EXPECT_EQ(Utf8(puerta.sesion->Mesa().Text2), "");
 }
 
-TEST(Session, SitsDownAtTheTableOnceTheChoiceIsAccepted) {
+TEST(Session, StartsTheMatchOnceTheChoiceIsAccepted) {
   const Puerta puerta;
   EXPECT_EQ(puerta.Sentarse(), Situacion::EnLaMesa);
   const Table& t = puerta.sesion->Mesa();
@@ -150,7 +150,7 @@ TEST(Session, SitsDownAtTheTableOnceTheChoiceIsAccepted) {
   EXPECT_GT(puerta.sesion->Generador().Draws(), 20000U) << "the deck has been shuffled";
 }
 
-TEST(Session, GivesKeysToTheRulesAndTellsWhichAreUsedUp) {
+TEST(Session, PassesKeysToTheRulesAndTellsWhichAreHandled) {
   const Puerta puerta;
   puerta.Sentarse();
   Integer otra = 65;
@@ -162,7 +162,7 @@ TEST(Session, GivesKeysToTheRulesAndTellsWhichAreUsedUp) {
   EXPECT_TRUE(puerta.sesion->Mesa().Text2.ends_with(u"pulse Enter para empezar"));
 }
 
-TEST(Session, LetsOneSoundFollowTheOther) {
+TEST(Session, PlaysTheNextSoundAfterTheEndOfOne) {
   Puerta puerta;
   puerta.Sentarse();
   puerta.port.TakeEvents();
@@ -189,7 +189,7 @@ TEST(Session, EndsWithTheMessageOfARunTimeError) {
   EXPECT_TRUE(puerta.sesion->Final().Mensaje.ends_with(u"El programa va a terminar su ejecución."));
 }
 
-TEST(Session, SaysWhenTheMessageHasBeenShownAlready) {
+TEST(Session, TellsThatTheMessageHasAlreadyBeenShown) {
   Puerta puerta;
   std::filesystem::remove(puerta.carpeta.Path() / "Jugadores.dat");
   EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
@@ -197,7 +197,7 @@ TEST(Session, SaysWhenTheMessageHasBeenShownAlready) {
   EXPECT_EQ(puerta.port.TakeEvents(), (Sucesos{"box: " + Utf8(puerta.sesion->Final().Mensaje)}));
 }
 
-TEST(Session, EndsWithWhatTheFaceThrowsAsARuleDoes) {
+TEST(Session, EndsWithARunTimeErrorOfTheFace) {
   const Puerta puerta;
   puerta.Sentarse();
   EXPECT_EQ(puerta.sesion->Atender([] {}), Situacion::EnLaMesa);
@@ -205,7 +205,7 @@ TEST(Session, EndsWithWhatTheFaceThrowsAsARuleDoes) {
   EXPECT_EQ(puerta.sesion->Final().Estado, 1);
 }
 
-TEST(Session, StaysEndedWhateverIsDone) {
+TEST(Session, StaysEnded) {
   Puerta puerta;
   puerta.Sentarse();
   puerta.sesion->Salir();
@@ -226,7 +226,7 @@ TEST(Session, IsEndedByAStepWithinAStep) {
   EXPECT_EQ(puerta.sesion->Atender([&puerta] { puerta.sesion->Salir(); }), Situacion::Fin);
 }
 
-TEST(Session, ClearsTheTableWhenTheDialogIsOpenedAnew) {
+TEST(Session, ClearsTheTableWhenTheDialogIsReopened) {
   Puerta puerta;
   puerta.Sentarse();
   puerta.port.TakeEvents();

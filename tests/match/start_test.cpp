@@ -20,7 +20,7 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-// Six characters, in the code page; a phrase for the third.
+// Six characters in Windows-1252, with one phrase for the third.
 constexpr auto Personajes =
     "Datos>\r\nDefault indirecto\r\n000\r\n\r\nQMus>\r\nque quiere mus\r\n"
     "Datos>\r\nDefault directo\r\n000\r\n\r\nQMus>\r\nMus\r\n"
@@ -29,8 +29,8 @@ constexpr auto Personajes =
     "Datos>\r\nel Cojo\r\n051\r\n\r\n"
     "Datos>\r\nDora\r\n099\r\n\r\n";
 
-// A folder with the character file, and a table as the start-up dialog leaves it: La boticaria at
-// seat 2, the tío Zarandel at 3, the Cojo at 4.
+// A folder with the character file, and a table after the start-up dialog: La boticaria at seat 2,
+// El tío Zarandel at seat 3, el Cojo at seat 4.
 struct Casa {
   TempFolder carpeta;
   Table t;
@@ -47,7 +47,7 @@ struct Casa {
   }
 };
 
-// What Form_Load writes after the match's description.
+// The text of Form_Load after the match's description.
 std::string Cartas(const Table& t) {
   return "Sus cartas son \r\n" + Utf8(TextoMano(t)) + "\r\nPulse enter para empezar";
 }
@@ -90,7 +90,7 @@ TEST(Form_Load, Kept_SetsTheDeclarationsOfParesAndJuegoButNotOfThePunto) {
   EXPECT_EQ(casa.t.Declaracion, (Array<Integer, 3, 5>{-2, -2, 0}));
 }
 
-TEST(Form_Load, BuildsTheWindowsStateAnew) {
+TEST(Form_Load, ResetsForm1) {
   Casa casa;
   Form_Load(casa.g);
   const Table primera = casa.t;

@@ -17,8 +17,8 @@ using Mano = Array<Integer, 1, 4>;
 using Mazo = Array<Integer, 1, 40>;
 
 // A table whose deck is 1 to 40 in order. Seat 1 holds Siete, Seis, Cinco, Cuatro de oros (7, 6, 5,
-// 4); the others hold four Reyes, so that they change nothing. The next card is that of position
-// 17, the Siete de copas.
+// 4). The other seats hold four Reyes and change nothing. The next card is at position 17, the
+// Siete de copas.
 struct Sala {
   Table t = MesaDePrueba();
   DrawList rnd;
@@ -30,7 +30,7 @@ struct Sala {
     t.CartaSiguiente = 17;
     for (Seat asiento = 2; asiento <= 4; ++asiento) DarMano(t, asiento, "R R R R");
   }
-  // A pass in which the human types `respuesta`.
+  // Runs a discard pass in which the human types `respuesta`.
   void Pasar(std::u16string_view respuesta) {
     port.Types(respuesta);
     Descartar(g);
@@ -62,8 +62,7 @@ TEST(Descartar, AsksTheHumanWhichCardsToThrow) {
 TEST(Descartar, ThrowsTheHumansCardsAndDealsNewOnes) {
   Sala sala;
   sala.Pasar(u"24");
-  // The Seis and the Cuatro are thrown, the Siete and the Cinco stay; 17 and 18 are dealt, a Siete
-  // and a Sota.
+  // The Seis and the Cuatro are discarded. The new cards are 17 and 18, a Siete and a Sota.
   EXPECT_EQ(sala.t.Baraja[1], 6);
   EXPECT_EQ(sala.t.Baraja[2], 4);
   EXPECT_EQ(sala.t.Baraja[3], 3);
@@ -124,7 +123,7 @@ struct CasoRespuesta {
   std::vector<int> Tiradas;
 };
 
-// The human's cards on the pile after an answer.
+// The discards of the human after an answer.
 std::vector<int> ThrownFor(std::u16string_view respuesta) {
   Sala sala;
   sala.Pasar(respuesta);
@@ -162,8 +161,9 @@ TEST(Descartar, DealsNothingWhenNothingWasThrown) {
 }
 
 TEST(Descartar, SortsTheHumansHandByCardNumberBeforeNewCardsCome) {
-  // Rey de oros (10), Tres de bastos (33), Cinco de oros, Cuatro de oros; the Cinco goes. What
-  // stays lies as 33, 10, 4, and the new Siete comes last: equal cards show the order.
+  // Rey de oros (10), Tres de bastos (33), Cinco and Cuatro de oros; the Cinco is discarded. The
+  // rest is sorted as 33, 10, 4: the Tres and the Rey have equal values, so that their order shows
+  // the sort by number.
   Sala sala;
   sala.t.Manos[1] = {10, 33, 5, 4};
   sala.Pasar(u"3");
@@ -172,7 +172,7 @@ TEST(Descartar, SortsTheHumansHandByCardNumberBeforeNewCardsCome) {
 
 TEST(Descartar, KeepsTheReyesAndTresesOfTheComputerSeats) {
   Sala sala;
-  // Rey, Tres, Sota, As: the As goes first, then the Sota. 17 and 18 are dealt: Siete and Sota.
+  // Rey, Tres, Sota, As: the As is discarded first, then the Sota. 17 and 18 are Siete and Sota.
   sala.t.Manos[2] = {10, 3, 8, 1};
   sala.Pasar(u"");
   EXPECT_EQ(sala.t.Baraja[1], 1);
@@ -217,7 +217,7 @@ TEST(Descartar, GoesRoundFromTheMano) {
             "Sota       de copas     , Seis       de oros      , "
             "Cinco      de oros      , Cuatro     de oros      \r\n"
             "El jugador 2 cambia 1 cartas.\r\n");
-  // Each seat is dealt its cards before the next one throws.
+  // Each seat gets its cards before the next one discards.
   EXPECT_EQ(sala.t.Manos[3][4], 17);
   EXPECT_EQ(sala.t.Manos[2][4], 19);
 }
@@ -234,7 +234,7 @@ TEST(Descartar, SoundsTheCardsFromTheMano) {
   EXPECT_EQ(sala.t.SonidoActual, 0);
 }
 
-// What lay at the seats while a box was up.
+// Stores the hands while a message box is open.
 class PuertoQueMira : public ScriptedPort {
  public:
   std::vector<decltype(Table::Manos)> Vistas;
@@ -245,7 +245,7 @@ class PuertoQueMira : public ScriptedPort {
   }
 };
 
-// Position 40 goes to the last slot, and then the box about the used-up deck opens.
+// The card at position 40 goes to slot 4; then the box about the end of the deck opens.
 TEST(Descartar, LeavesTheThrownCardsSlotsEmptyUntilTheyAreDealtInto) {
   for (const bool tiraElHumano : {true, false}) {
     Table t = MesaDePrueba();
@@ -358,14 +358,14 @@ TEST(Descartar, LeavesThePileAtPosition40AfterAComputerSeat) {
   EXPECT_EQ(sala.t.DescarteSiguiente, 40);
 }
 
-TEST(Descartar, DealsTheDiscardsAgainWhenTheDeckIsOver) {
+TEST(Descartar, DealsTheDiscardsAgainAtTheEndOfTheDeck) {
   Sala sala;
   sala.t.CartaSiguiente = 40;
   sala.t.Baraja[40] = 38;
   DarMano(sala.t, 4, "R R R 6");
   sala.Pasar(u"1");
-  // The human throws the Siete to position 1 and takes the Sota of position 40; seat 4 throws the
-  // Seis to position 2 and is dealt the human's Siete.
+  // The human discards the Siete to position 1 and gets the Sota of position 40. Seat 4 discards
+  // the Seis to position 2 and gets the human's Siete.
   EXPECT_EQ(sala.t.Manos[1], (Mano{38, 6, 5, 4}));
   EXPECT_EQ(sala.t.Manos[4][4], 7);
   const Sucesos sucesos = sala.port.TakeEvents();

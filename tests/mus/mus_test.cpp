@@ -1,4 +1,4 @@
-// The mus phase: the questions, and the computer seats' answers.
+// The mus phase: the questions, and the answers of the computer seats.
 #include "mus/mus.h"
 
 #include <gtest/gtest.h>
@@ -17,11 +17,11 @@ using Sucesos = std::vector<std::string>;
 using Orden = Array<Integer, 1, 4>;
 
 constexpr auto PreguntaMus = "yesno[¿mus?]:  (icon, default yes)";
-constexpr float Quiere = 0.0F;        // a draw with which a seat wants mus
-constexpr float NoQuiere = 0.96875F;  // one with which it does not
-constexpr float Primera = 0.0F;       // a draw for the first phrase
-constexpr float Segunda = 0.5F;       // for the second
-constexpr float Tercera = 0.75F;      // for the third
+constexpr float Quiere = 0.0F;        // the draw of a seat that wants mus
+constexpr float NoQuiere = 0.96875F;  // the draw of a seat that refuses
+constexpr float Primera = 0.0F;       // the draw for the first phrase
+constexpr float Segunda = 0.5F;       // ... the second
+constexpr float Tercera = 0.75F;      // ... the third
 
 Orden OrderFrom(Seat asiento) {
   Table t;
@@ -93,7 +93,7 @@ TEST(FaseMus, Kept_NamesPersonaje0WhenTheHumanIsMano) {
 }
 
 TEST(FaseMus, AsksNobodyAfterARefusal) {
-  // Seat 2 refuses after the human; seats 3 and 4 are not asked: one decision and one phrase drawn.
+  // Seat 2 refuses. Seats 3 and 4 are not asked and make no draws.
   Table t = MesaDePrueba();
   DrawList rnd{NoQuiere, Segunda, Segunda};
   ScriptedPort port;
@@ -107,7 +107,7 @@ TEST(FaseMus, AsksNobodyAfterARefusal) {
   EXPECT_EQ(t.OrdenAsiento, (Orden{1, 2, 3, 4}));
 }
 
-TEST(FaseMus, NotesTheParejaThatRefused) {
+TEST(FaseMus, RecordsTheParejaThatRefused) {
   Table t = MesaDePrueba();
   t.ParejaCortaMus = 0;
   t.OrdenAsiento = {4, 1, 2, 3};
@@ -180,7 +180,7 @@ TEST(FaseMus, PlaysADiscardPassWhenAllWantMus) {
   Table t = MesaDePrueba();
   t.Text2 = u"lo de antes";
   t.Fase = Fase::Mus;
-  t.RondasMus = 2;  // three kings do not cut any more
+  t.RondasMus = 2;  // three Reyes no longer refuse
   for (Seat asiento = 2; asiento <= 4; ++asiento) DarMano(t, asiento, "3 3 3 A");
   for (int i = 1; i <= 40; ++i) t.Baraja[i] = i;
   t.CartaSiguiente = 17;
@@ -208,7 +208,7 @@ TEST(FaseMus, AsksAgainInTheSameOrderOnTheNextRound) {
   t.OrdenAsiento = {1, 2, 3, 4};
   for (Seat asiento = 2; asiento <= 4; ++asiento) DarMano(t, asiento, "3 3 3 A");
   for (int i = 1; i <= 40; ++i) t.Baraja[i] = i;
-  t.CartaSiguiente = 24;  // Cuatro, Cinco and Seis de espadas, of no juego with three Treses
+  t.CartaSiguiente = 24;  // each seat gets a Cuatro: no juego with three Treses
   t.Baraja[25] = 34;
   t.Baraja[26] = 4;
   DrawList rnd{Quiere, Primera, Primera, Quiere,   Primera, Primera,
@@ -216,7 +216,7 @@ TEST(FaseMus, AsksAgainInTheSameOrderOnTheNextRound) {
   ScriptedPort port;
   port.Yes().Types(u"").Yes();
   Game g{t, rnd, port};
-  t.RondasMus = 2;  // three kings do not cut any more
+  t.RondasMus = 2;  // three Reyes no longer refuse
   FaseMus(g);
   EXPECT_EQ(t.RondasMus, 3);
   FaseMus(g);
@@ -226,7 +226,7 @@ TEST(FaseMus, AsksAgainInTheSameOrderOnTheNextRound) {
   EXPECT_EQ(t.Fase, Fase::Grande);
 }
 
-// The computer seats' answer: a seat without pares and juego unless told otherwise.
+// The answer of a computer seat, without pares and juego unless stated.
 
 // Whether a seat wants mus with the draw `r`.
 bool Wants(const Table& t, Seat asiento, float r = Quiere) {
@@ -242,8 +242,8 @@ TEST(DecideMus, WantsMusNineteenTimesOutOfTwenty) {
   }
 }
 
-TEST(DecideMus, Kept_TakesNoNoticeOfTheScoreOfTheHand) {
-  // 31 points for the mano near the end: the best score, without pares and with one king.
+TEST(DecideMus, Kept_IgnoresTheScoreOfTheHand) {
+  // The mano has 31 near the end of the juego, without pares and with one Rey: the best score.
   Table t = MesaDePrueba();
   DarMano(t, 2, "R C S A");
   t.OrdenAsiento = {2, 3, 4, 1};
@@ -253,7 +253,7 @@ TEST(DecideMus, Kept_TakesNoNoticeOfTheScoreOfTheHand) {
   EXPECT_FALSE(Wants(t, 2, DrawFrom(0.95F)));
 }
 
-TEST(DecideMus, Kept_TakesNoNoticeOfWhoseMano) {
+TEST(DecideMus, Kept_IgnoresWhoIsMano) {
   Table t = MesaDePrueba();
   for (const Orden& orden : {Orden{1, 2, 3, 4}, Orden{2, 3, 4, 1}}) {
     t.OrdenAsiento = orden;
@@ -262,14 +262,14 @@ TEST(DecideMus, Kept_TakesNoNoticeOfWhoseMano) {
   }
 }
 
-// A seat with pares and juego whose only king is no reason to cut: Rey, Caballo, Caballo, 2: 31.
+// The seat has pares, 31 points and only one Rey.
 Table MesaConParesYJuego(Seat asiento) {
   Table t = MesaDePrueba();
   DarMano(t, asiento, "R C C 2");
   return t;
 }
 
-TEST(DecideMus, AsksForMusWithParesAndJuegoWhenCautiousAndNotBehind) {
+TEST(DecideMus, WantsMusWithParesAndJuegoAndALowOrdagueroWhenNotBehind) {
   Table t = MesaConParesYJuego(2);
   t.OrdagueroAsiento[2] = 50;
   EXPECT_TRUE(Wants(t, 2));
@@ -279,14 +279,14 @@ TEST(DecideMus, AsksForMusWithParesAndJuegoWhenCautiousAndNotBehind) {
   EXPECT_TRUE(Wants(t, 2));
 }
 
-TEST(DecideMus, CutsWithParesAndJuegoWhenBehind) {
+TEST(DecideMus, RefusesWithParesAndJuegoWhenBehind) {
   Table t = MesaConParesYJuego(2);
   t.OrdagueroAsiento[2] = 50;
   t.Piedras = {10, 11};  // seat 2 is of pareja 0
   EXPECT_FALSE(Wants(t, 2));
 }
 
-TEST(DecideMus, CutsForTheHumansPartnerWhenBehind) {
+TEST(DecideMus, RefusesAsTheHumansPartnerWhenBehind) {
   Table t = MesaConParesYJuego(3);
   t.Piedras = {11, 10};  // seat 3 is of pareja 1
   EXPECT_FALSE(Wants(t, 3));
@@ -294,7 +294,7 @@ TEST(DecideMus, CutsForTheHumansPartnerWhenBehind) {
   EXPECT_TRUE(Wants(t, 3));
 }
 
-TEST(DecideMus, CutsWithParesAndJuegoWhenBold) {
+TEST(DecideMus, RefusesWithParesAndJuegoAndAnOrdagueroAbove50) {
   Table t = MesaConParesYJuego(4);
   t.OrdagueroAsiento = {0, 0, 0, 51};
   EXPECT_FALSE(Wants(t, 4));
@@ -302,7 +302,7 @@ TEST(DecideMus, CutsWithParesAndJuegoWhenBold) {
   EXPECT_TRUE(Wants(t, 4));
 }
 
-TEST(DecideMus, CutsForBoldnessOnlyWithBothParesAndJuego) {
+TEST(DecideMus, RefusesForItsOrdagueroOnlyWithBothParesAndJuego) {
   Table t = MesaDePrueba();
   t.OrdagueroAsiento[2] = 100;
   t.Piedras = {0, 30};
@@ -314,8 +314,8 @@ TEST(DecideMus, CutsForBoldnessOnlyWithBothParesAndJuego) {
   EXPECT_FALSE(Wants(t, 2));
 }
 
-TEST(DecideMus, CutsWithJuegoAndMoreKingsThanDiscardPassesAndOne) {
-  // Rey, Tres, Siete, Cuatro: 31 with two kings, which are pares too, but the seat is cautious.
+TEST(DecideMus, RefusesWithJuegoAndMoreReyesThanDiscardPassesPlusOne) {
+  // 31 points with two Reyes, which are pares too. The seat's ordaguero is 0.
   Table t = MesaDePrueba();
   DarMano(t, 2, "R 3 7 4");
   t.RondasMus = 0;
@@ -324,27 +324,27 @@ TEST(DecideMus, CutsWithJuegoAndMoreKingsThanDiscardPassesAndOne) {
   EXPECT_TRUE(Wants(t, 2));
 }
 
-TEST(DecideMus, NeedsMoreKingsAfterEveryDiscardPass) {
+TEST(DecideMus, NeedsMoreReyesAfterEveryDiscardPass) {
   Table t = MesaDePrueba();
-  DarMano(t, 2, "R R 3 A");  // 31, three kings
+  DarMano(t, 2, "R R 3 A");  // 31, three Reyes
   t.RondasMus = 1;
   EXPECT_FALSE(Wants(t, 2));
   t.RondasMus = 2;
   EXPECT_TRUE(Wants(t, 2));
-  DarMano(t, 2, "R R 3 3");  // 40, four kings
+  DarMano(t, 2, "R R 3 3");  // 40, four Reyes
   EXPECT_FALSE(Wants(t, 2));
   t.RondasMus = 3;
   EXPECT_TRUE(Wants(t, 2));
 }
 
-TEST(DecideMus, AsksForMusWithOneKing) {
+TEST(DecideMus, WantsMusWithOneRey) {
   Table t = MesaDePrueba();
   DarMano(t, 2, "R C S A");
   t.RondasMus = 0;
   EXPECT_TRUE(Wants(t, 2));
 }
 
-TEST(DecideMus, MindsKingsOnlyWithJuego) {
+TEST(DecideMus, CountsReyesOnlyWithJuego) {
   Table t = MesaDePrueba();
   DarMano(t, 2, "R R 6 4");  // 30
   EXPECT_TRUE(Wants(t, 2));
@@ -352,7 +352,7 @@ TEST(DecideMus, MindsKingsOnlyWithJuego) {
   EXPECT_FALSE(Wants(t, 2));
 }
 
-// The score of the hand, in the order 1 2 3 4 for the mano unless told otherwise.
+// The score of seat 2 with this hand, these stones and this mano.
 
 int ScoreOf(std::string_view cartas, int piedras, Seat mano) {
   Table t = MesaDePrueba();
@@ -375,7 +375,7 @@ TEST(PuntuacionMus, AddsNearTheEndOfTheJuego) {
   EXPECT_EQ(ScoreOf("7 6 5 4", 29, 2), 2);  // six to go
 }
 
-TEST(PuntuacionMus, TakesAwayTheLaterTheSeatSpeaks) {
+TEST(PuntuacionMus, SubtractsForEachLaterPosition) {
   EXPECT_EQ(ScoreOf("7 6 5 4", 0, 2), 0);
   EXPECT_EQ(ScoreOf("7 6 5 4", 0, 1), -1);
   EXPECT_EQ(ScoreOf("7 6 5 4", 0, 4), -2);

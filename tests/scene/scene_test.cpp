@@ -1,4 +1,4 @@
-// What can be seen of the table, element by element.
+// The scene: what can be seen at the table.
 #include "scene/scene.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 namespace tasca::test {
 namespace {
 
-// The cards at a seat: "10 . 8 x" is the card 10, a gap, the card 8 and a card face down.
+// The cards of a seat: "10 . 8 x" is card 10, an empty slot, card 8 and a card face down.
 std::string Cards(const Table& t, Seat asiento, Momento momento = Momento::Reposo) {
   std::string linea;
   const Escena escena = EscenaDe(t, momento);
@@ -26,7 +26,7 @@ AsientoVisto Seen(const Table& t, Seat asiento, Momento momento = Momento::Repos
   return EscenaDe(t, momento).Asientos[asiento];
 }
 
-// "si", "no" or "?" by seat.
+// The declarations of seats 1 to 4: "si", "no" or "?".
 std::string Declared(const Table& t, Momento momento, Declarado AsientoVisto::*lance) {
   std::string linea;
   const Escena escena = EscenaDe(t, momento);
@@ -54,7 +54,7 @@ TEST(EscenaDe, ShowsTheOthersCardsFaceDownWithTheirGapsAtTheEnd) {
   EXPECT_EQ(Cards(t, 4), ". . . .");
 }
 
-TEST(EscenaDe, LaysOpenWhatTheInputLineLaysOpen) {
+TEST(EscenaDe, ShowsTheHandsThatTheInputLineShows) {
   Table t = MesaDePrueba();
   t.Manos[2] = {40, 39, 38, 37};
   MostrarManos(t, TodosLosAsientos);
@@ -65,7 +65,7 @@ TEST(EscenaDe, LaysOpenWhatTheInputLineLaysOpen) {
   EXPECT_FALSE(HayManosAbiertas(t));
 }
 
-TEST(EscenaDe, DoesNotShowACardThatCameUnderAStaleText) {
+TEST(EscenaDe, HidesACardDealtAfterTheHandsWereShown) {
   Table t = MesaDePrueba();
   t.Manos[3] = {40, 39, 38, 37};
   MostrarManos(t, TodosLosAsientos);
@@ -81,7 +81,7 @@ TEST(HayManosAbiertas, LooksAtTheOthersAlone) {
   EXPECT_TRUE(HayManosAbiertas(t));
 }
 
-TEST(HayManosAbiertas, TakesNoGapForACard) {
+TEST(HayManosAbiertas, IgnoresEmptySlots) {
   Table t = MesaDePrueba();
   t.Manos = {};
   EXPECT_FALSE(HayManosAbiertas(t));
@@ -97,7 +97,7 @@ TEST(EscenaDe, NamesTheSeats) {
   EXPECT_EQ(Seen(t, 3).Nombre, u"el Cojo");
 }
 
-TEST(EscenaDe, TellsWhoIsManoOnceThatIsDecided) {
+TEST(EscenaDe, ShowsTheManoOnceItIsDecided) {
   Table t = MesaDePrueba();
   t.OrdenAsiento = {3, 4, 1, 2};
   for (const Seat asiento : {1, 2, 3, 4}) EXPECT_EQ(Seen(t, asiento).EsMano, asiento == 3);
@@ -176,7 +176,7 @@ TEST(EscenaDe, KeepsTheBadgesBetweenHandsWhileTheHandsLieOpen) {
   EXPECT_EQ(Declared(t, Momento::Reposo, &AsientoVisto::Juego), "no no si no");
 }
 
-TEST(EscenaDe, ShowsNoBadgeOfADeclarationThatAnOrdagoForestalled) {
+TEST(EscenaDe, ShowsNoBadgesOfADeclarationAfterAnAcceptedOrdago) {
   Table t = Declarada(Fase::EmpezarMano);
   MostrarManos(t, TodosLosAsientos);
   t.Apuesta[NumeroLance::Pares] = EnviteOrdago;
@@ -212,7 +212,7 @@ TEST(EscenaDe, ShowsPilesOneToThreeThick) {
        {Caso{1, 3}, Caso{12, 3}, Caso{13, 2}, Caso{26, 2}, Caso{27, 1}, Caso{40, 1}}) {
     Table t = MesaDePrueba();
     t.CartaSiguiente = caso.Siguiente;
-    t.DescarteSiguiente = 42 - caso.Siguiente;  // as many cards thrown as are left in the deck
+    t.DescarteSiguiente = 42 - caso.Siguiente;  // as many discards as cards left in the deck
     const Escena escena = EscenaDe(t, Momento::Reposo);
     EXPECT_EQ(escena.GrosorMazo, caso.Grosor) << caso.Siguiente;
     EXPECT_EQ(escena.GrosorDescartes, caso.Grosor) << caso.Siguiente;
@@ -244,7 +244,7 @@ TEST(EscenaDe, Kept_CountsWhatWinsByTheRemainder) {
     int Juegos;
     int Vacas;
   };
-  // Of one juego two are needed all the same; a match of one vaca ends with it.
+  // At best of one juego, two are needed. A match of one vaca needs one.
   for (const Caso& caso :
        {Caso{1, 2, 1}, Caso{2, 1, 1}, Caso{3, 2, 2}, Caso{4, 1, 1}, Caso{5, 2, 2}}) {
     Table t = MesaDePrueba();

@@ -1,5 +1,5 @@
-// Nothing that is secret at the table reaches the scene: in thousands of random states every secret
-// is changed, and the scene has to stay the same.
+// The scene does not depend on secrets: in thousands of random states all hidden cards are changed,
+// and the scene must stay equal.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -26,7 +26,7 @@ class Azar {
 
 constexpr std::array CadaMomento{Momento::Reposo, Momento::Pregunta, Momento::Aviso};
 
-// Four hands from one deck, now and then with a gap; some of the cards have been laid open.
+// Deals random hands. An eighth of the slots are empty, and half of the cards have been shown.
 void DealAnyhow(Table& t, Azar& azar) {
   std::shuffle(t.Baraja.begin(), t.Baraja.end(), azar.Motor());
   int siguiente = 1;
@@ -62,7 +62,7 @@ bool LiesOpen(const Table& t, Seat asiento, int hueco) {
   return t.Manos[asiento][hueco] == t.CartasVistas[asiento][hueco];
 }
 
-// Another card in every place of seats 2 to 4 that holds one face down.
+// Replaces every card of seats 2 to 4 that lies face down.
 void ChangeHiddenHands(Table& t, Azar& azar) {
   for (Seat asiento = 2; asiento <= 4; ++asiento) {
     for (int hueco = 1; hueco <= 4; ++hueco) {
@@ -90,7 +90,7 @@ TEST(Escena, HoldsNoSecretOfTheTable) {
   }
 }
 
-// The same change must be seen where the cards lie open, or the test above would prove nothing.
+// Without this the test above would also pass with a scene that shows no cards.
 TEST(Escena, ShowsAChangeOfAnOpenHand) {
   Table t = MesaDePrueba();
   t.CartasVistas = t.Manos;

@@ -1,4 +1,4 @@
-// The slate: how every lance stands, whatever the phase.
+// The slate: the state of each lance in every phase.
 #include "scene/slate.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,8 @@ std::string Name(EstadoLance estado) {
   return "?";
 }
 
-// A cell in a few words: "[envite 2 over 4 by 0]" in play, ">declaran" next, else the state alone.
+// A cell as text: in brackets if the lance is in play, after ">" if it is next. "envite 2 over 4 by
+// 0" is a bet of 2 stones by pareja 0 over 4 accepted ones.
 std::string Words(const CeldaPizarra& celda) {
   std::string texto = Name(celda.Estado);
   if (celda.Piedras != 0) texto += " " + std::to_string(celda.Piedras);
@@ -49,7 +50,7 @@ std::string Words(const CeldaPizarra& celda) {
   return celda.Marca == MarcaLance::Siguiente ? ">" + texto : texto;
 }
 
-// The cells, in the order of the lances, with " | " between them.
+// The cells in the order of the lances, separated by " | ".
 std::string Slate(const Table& t, Momento momento) {
   std::string linea;
   int numero = 0;
@@ -61,12 +62,12 @@ std::string Slate(const Table& t, Momento momento) {
   return linea;
 }
 
-// A table in a phase, with these records of bets.
+// A table in this phase with these bets. Both parejas have pares and juego.
 Table At(Fase fase, const Array<Integer, 1, 5>& apuesta = {}) {
   Table t = MesaDePrueba();
   t.Fase = fase;
   t.Apuesta = apuesta;
-  t.OrdenPares = {1, 2, 0, 0};  // both parejas have pares, and juego
+  t.OrdenPares = {1, 2, 0, 0};
   t.TurnoJuego = {1, 2, 0, 0};
   return t;
 }
@@ -90,7 +91,7 @@ TEST(PizarraDe, SaysThatTheSeatsDeclare) {
             "en paso | en paso | en paso | [declaran]");
 }
 
-TEST(PizarraDe, ShowsABetThatIsYetToBeAnswered) {
+TEST(PizarraDe, ShowsAnUnansweredBet) {
   Table t = At(Fase::RespuestaGrande);
   t.SeguirLance = 2;
   t.ParejaEnvite = 0;
@@ -132,7 +133,7 @@ TEST(PizarraDe, HasAFifthCellForThePuntoWhenNobodyHasJuego) {
   EXPECT_EQ(Slate(t, Momento::Reposo), "en paso | en paso | en paso | no hay | >-");
 }
 
-TEST(PizarraDe, DoesNotTakeAnEarlierPuntoForABetOfThisHand) {
+TEST(PizarraDe, IgnoresThePuntoOfAnEarlierHand) {
   Table t = At(Fase::Punto, {0, 0, 0, 0, 4});
   t.SeJuegaPunto = true;
   EXPECT_EQ(Slate(t, Momento::Pregunta), "en paso | en paso | en paso | no hay | [-]");
@@ -161,7 +162,7 @@ TEST(PizarraDe, TellsOfTheLastHandOnlyWhileItsHandsLieOpen) {
   EXPECT_EQ(Slate(t, Momento::Reposo), "queridas 5 | en paso | en paso | no querida");
 }
 
-TEST(PizarraDe, LeavesOutWhatAnOrdagoForestalled) {
+TEST(PizarraDe, ShowsLancesAfterAnAcceptedOrdagoAsNotPlayed) {
   Table t = At(Fase::EmpezarMano, {2, EnviteOrdago, 0, 0, 0});
   MostrarManos(t, TodosLosAsientos);
   EXPECT_EQ(Slate(t, Momento::Reposo), "queridas 2 | ordago querido | no se jugo | no se jugo");

@@ -18,7 +18,7 @@ namespace {
 using Sucesos = std::vector<std::string>;
 using Tantos = Array<Integer, 0, 1>;
 
-// A table, a seeded generator and a port.
+// A table, a generator and a port.
 struct SalaSinSemilla {
   Table t = MesaDePrueba();
   Rnd rnd;
@@ -100,7 +100,7 @@ struct CasoLimite {
 constexpr std::array<CasoLimite, 8> LimitesJuegos{
     {{1, 2}, {2, 1}, {3, 2}, {4, 1}, {5, 2}, {6, 1}, {7, 2}, {999, 2}}};
 
-// The vacas of a pareja that has won so many juegos.
+// The vacas of a pareja after ComprobarVaca, if it has this many juegos.
 int VacasWith(int alMejorDe, Pareja pareja, int juegos) {
   SalaSinSemilla sala;
   sala.t.JuegosVaca = alMejorDe;
@@ -118,11 +118,11 @@ TEST(ComprobarVaca, Kept_NeedsTheRemainderOfJuegosAndOneMore) {
   }
 }
 
-// How many vacas a pareja needs; one alone is enough for a match at "a una vaca".
+// The vacas that a pareja needs to win the match.
 constexpr std::array<CasoLimite, 7> LimitesVacas{
     {{1, 1}, {2, 1}, {3, 2}, {4, 1}, {5, 2}, {6, 1}, {7, 2}}};
 
-// Whether the vaca that makes so many for a pareja ends the match.
+// Whether the match ends when a pareja reaches this many vacas.
 bool MatchEndsWith(int alMejorDe, Pareja pareja, int vacas) {
   SalaSinSemilla sala;
   sala.t.VacasPartida = alMejorDe;
@@ -131,7 +131,7 @@ bool MatchEndsWith(int alMejorDe, Pareja pareja, int vacas) {
   sala.port.Yes().Yes();
   ComprobarVaca(sala.g);
   const bool termina = sala.port.TakeEvents().size() > 1;
-  if (!termina) FinPartida(sala.g, pareja);  // the answers are for it
+  if (!termina) FinPartida(sala.g, pareja);  // uses up the scripted answers
   return termina;
 }
 
@@ -156,7 +156,7 @@ constexpr auto VacaGanada =
 constexpr auto VacaACero =
     "box: La pareja 0 gana esta vaca. El resultado ha sido de 0 a 0 partidas.|0 a 0 vaca.";
 
-TEST(ComprobarVaca, EndsTheMatchBeforeItTellsTheVaca) {
+TEST(ComprobarVaca, EndsTheMatchBeforeTheBoxOfTheVaca) {
   SalaSinSemilla sala;
   sala.t.Juegos = {1, 2};
   sala.t.Vacas = {0, 1};
@@ -201,7 +201,7 @@ TEST(FinPartida, NamesTheOpponentsWhenTheyAreCalledByName) {
             "comentan:|Berta: ¡Otra será!|Dora: Buen juego");
 }
 
-TEST(FinPartida, TakesTheOpponentsWordsForTheirDefeat) {
+TEST(FinPartida, QuotesTheOpponentsPhrasesForTheirDefeat) {
   SalaSinSemilla sala;
   sala.t.UsarNombres = true;
   sala.t.Mensajes[3][14][1] = u"Ya veremos";
@@ -222,7 +222,7 @@ TEST(FinPartida, ApplaudsOnlyTheHumansPareja) {
   }
 }
 
-TEST(FinPartida, LeavesWhenThePlayerHasHadEnough) {
+TEST(FinPartida, LeavesWhenThePlayerWantsNoOtherMatch) {
   SalaSinSemilla sala;
   sala.t.Vacas = {2, 0};
   sala.port.No();
@@ -232,7 +232,7 @@ TEST(FinPartida, LeavesWhenThePlayerHasHadEnough) {
   EXPECT_EQ(sala.t.Vacas, (Tantos{2, 0}));
 }
 
-TEST(FinPartida, SendsForOtherPlayersAndChangesNothing) {
+TEST(FinPartida, RequestsOtherPlayersAndChangesNothing) {
   SalaSinSemilla sala;
   sala.t.Vacas = {2, 0};
   sala.t.Piedras = {4, 5};
@@ -297,8 +297,8 @@ TEST(GanaJuego, MayWinTheVaca) {
   EXPECT_EQ(Utf8(sala.t.Text2), "Pulse enter para empezar una nueva mano");
 }
 
-TEST(GanaJuego, Kept_DealsOnceMoreAfterAMatchThatWentOn) {
-  // The new match has dealt a hand already, but the step that asked ends as ever.
+TEST(GanaJuego, Kept_WaitsForANewHandAfterAnotherMatchHasDealtOne) {
+  // The new match has already dealt a hand, but the current step ends as usual.
   SalaSinSemilla sala;
   sala.t.Juegos = {1, 0};
   sala.t.Vacas = {1, 0};

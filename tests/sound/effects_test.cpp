@@ -1,4 +1,4 @@
-// The sound effects: which sound, how often, from which side.
+// The sound effects: the file, the repetitions, the balance and the volume.
 #include "sound/effects.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-// A table, a port and no draws.
+// A table and a port. No draws are expected.
 struct Sala {
   Table t = MesaDePrueba();
   DrawList rnd;
@@ -20,7 +20,7 @@ struct Sala {
   Game g{t, rnd, port};
 
   Sala() : rnd{} {}
-  // One notification of the player.
+  // Notifies the end of a sound and returns the events.
   Sucesos Termina(int estado = 0) {
     Mp1_FinReproduccion(g, estado);
     return port.TakeEvents();
@@ -42,7 +42,7 @@ TEST(SonidoCartas, PlaysTheShuffle) {
   EXPECT_EQ(sala.t.SonidoActual, -1);
 }
 
-TEST(SonidoCartas, PlaysOnceButFromWhereTheLastSoundCame) {
+TEST(SonidoCartas, PlaysOnceWithTheBalanceAndVolumeOfTheLastSound) {
   Sala sala;
   sala.t.Mp1 = {.Veces = 4, .Balance = 300, .Volumen = -500};
   SonidoCartas(sala.g, SonidoReparto);
@@ -86,7 +86,7 @@ TEST(SonidoDescartes, PlacesEverySeatAtItsSideOfTheTable) {
   }
 }
 
-TEST(SonidoDescartes, WalksTheSeatsInTurnFromTheMano) {
+TEST(SonidoDescartes, PlaysTheSeatsInTurnFromTheMano) {
   Sala sala;
   SonidoDescartes(sala.g, {1, 2, 3, 4}, 3);
   sala.port.TakeEvents();
@@ -116,7 +116,7 @@ TEST(SonidoDescartes, StaysSilentAfterTheHumanWhenNobodyElseChanges) {
   EXPECT_EQ(sala.Termina(), (Sucesos{"stop"}));
 }
 
-TEST(SonidoDescartes, ReachesALonelyHumanAfterTheMano) {
+TEST(SonidoDescartes, SoundsTheHumanAfterASilentMano) {
   Sala sala;
   SonidoDescartes(sala.g, {2, 0, 0, 0}, 2);
   sala.port.TakeEvents();
@@ -143,7 +143,7 @@ TEST(SonidoDescartes, Kept_RunsTheStepAgainWhenTheSequenceIsOver) {
   EXPECT_EQ(sala.t.PosicionSonido, 2);
 }
 
-TEST(SonidoDescartes, StartsAnewInTheMiddleOfASequence) {
+TEST(SonidoDescartes, RestartsInTheMiddleOfASequence) {
   Sala sala;
   SonidoDescartes(sala.g, {1, 1, 1, 1}, 1);
   sala.Termina();

@@ -1,4 +1,4 @@
-// How "Aceptar" draws the companions of a player who chose "Aleatorio".
+// The random choice of characters for "Aleatorio".
 #include <gtest/gtest.h>
 
 #include "tests/startup/inicio.h"
@@ -6,7 +6,7 @@
 namespace tasca::test {
 namespace {
 
-// Accepts with these list positions and draws; the list positions then, as "1 2 3".
+// Accepts with these list positions and draws. Returns the new list positions as "1 2 3".
 std::string Sorteo(int ofrecidos, std::array<int, 3> eleccion,
                    std::initializer_list<float> sacadas) {
   Inicio inicio{ofrecidos};
@@ -41,7 +41,7 @@ TEST(Aleatorio, SplitsTheDrawEvenlyAmongThoseOnOffer) {
       {DrawBelow(1.0F), "4"},
   };
   for (const Caso& caso : casos) {
-    // The other two have been chosen so that any position is free for one of two companions.
+    // The other two lists leave the drawn position free.
     const bool baja = caso.Sacada < 0.5F;
     EXPECT_EQ(Sorteo(4, {0, baja ? 3 : 1, baja ? 4 : 2}, {caso.Sacada}),
               caso.Posicion + (baja ? " 3 4" : " 1 2"))
@@ -66,7 +66,7 @@ TEST(Aleatorio, DrawsAgainForACharacterThatAnotherListHasChosen) {
   EXPECT_EQ(Sorteo(4, {2, 4, 0}, {0.25F, 0.75F, 0.0F}), "2 4 1");
 }
 
-TEST(Aleatorio, DrawsOnlyForTheListsThatSaySo) {
+TEST(Aleatorio, DrawsOnlyForListsAtAleatorio) {
   EXPECT_EQ(Sorteo(4, {2, 4, 1}, {}), "2 4 1");
   EXPECT_EQ(Sorteo(4, {2, 0, 1}, {0.5F}), "2 3 1");
 }
@@ -104,7 +104,7 @@ TEST(Aleatorio, EndsTheProgramInsteadOfDrawingForeverWithFewerThanThree) {
   EXPECT_EQ(FalloDe([&dos] { dos.Aceptar({0.5F, 0.5F, 0.0F}); }), FaltanPersonajes);
 }
 
-TEST(Aleatorio, EndsTheProgramForTheOneListThatFewerThanThreeLeaveWithoutACharacter) {
+TEST(Aleatorio, EndsTheProgramIfTheOtherTwoListsHaveTakenAllCharacters) {
   for (const std::array<int, 3> eleccion :
        {std::array{0, 1, 2}, std::array{1, 0, 2}, std::array{2, 1, 0}}) {
     Inicio dos{2};

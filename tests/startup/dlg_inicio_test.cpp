@@ -1,4 +1,4 @@
-// The start-up dialog: what it shows, the choice of companions, and what accepting it sets.
+// The start-up dialog: its texts, the choice of characters, and the effects of accepting it.
 #include "startup/dlg_inicio.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 
 using Sucesos = std::vector<std::string>;
 
-TEST(DlgInicio, BeginsWithItsDesign) {
+TEST(DlgInicio, StartsWithItsDesignValues) {
   const DlgInicio d;
   EXPECT_EQ(Utf8(d.Text1),
             "Bienvenido a la tasca\r\ndel tío Zarandel\r\nElija a sus compañeros de mesa \r\ny la "
@@ -113,7 +113,7 @@ TEST(ComboClick, EnablesAceptarOnceAllThreeListsHaveAChoice) {
   EXPECT_FALSE(d.CbOKEnabled);
 }
 
-TEST(ComboClick, RejectsAPositionThatIsNotThere) {
+TEST(ComboClick, RejectsAnInvalidPosition) {
   Inicio inicio{3};
   EXPECT_THROW(Combo1_Click(inicio.d, 4), RunTimeError);
   EXPECT_THROW(Combo2_Click(inicio.d, -1), RunTimeError);
@@ -239,7 +239,7 @@ TEST(CbOK, CanBePressedAgainAfterAMessage) {
   EXPECT_EQ(inicio.t.PersonajeAsiento, (Array<Integer, 0, 3>{0, 4, 3, 5}));
 }
 
-TEST(CbOK, NotesTheTrimmedName) {
+TEST(CbOK, StoresTheTrimmedName) {
   Inicio inicio{3};
   inicio.Elegir(1, 2, 3);
   inicio.d.Text2 = u"  Ana María ";
@@ -285,7 +285,7 @@ const std::string SinNombre =
     "box: No se ha podido guardar su nombre en mus.ini: no hay permiso para escribir. La partida "
     "se juega igual.";
 
-// A dialog with settings in a folder of a user whom permissions bind.
+// A dialog with settings, run without root privileges.
 struct EnCarpetaAjena : Inicio {
   EnCarpetaAjena() {
     carpeta.Write("mus.ini", "35\r\n3\r\n3\r\nLuis\r\n");
@@ -338,7 +338,7 @@ TEST(CbOK, TellsOnlyOnceThatTheNameCannotBeSaved) {
   EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{});
 }
 
-TEST(CbOK, SavesTheNameOnceItCanAfterAll) {
+TEST(CbOK, SavesTheNameOnceTheFolderIsWritable) {
   EnCarpetaAjena inicio;
   EnCarpetaAjena::Permitir(inicio.carpeta.Path(), 0555);
   EXPECT_TRUE(inicio.Aceptar());
@@ -365,7 +365,7 @@ TEST(CbOK, EndsTheProgramForSettingsCutShort) {
   EXPECT_NE(FalloDe([&inicio] { inicio.Aceptar(); }).find("mus.ini, línea 3: "), std::string::npos);
 }
 
-TEST(CbOK, SetsHowTheTableTalks) {
+TEST(CbOK, SetsNamesExpressionsAndStyle) {
   struct Caso {
     bool Nombres;
     bool Expresiones;

@@ -1,5 +1,5 @@
 #pragma once
-// The start-up dialog over a folder of its own, for its tests.
+// The start-up dialog with a temporary folder.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -14,13 +14,13 @@
 
 namespace tasca::test {
 
-// A record of the character file, one phrase included.
+// A record of the character file with one phrase: six lines.
 inline std::string Registro(const std::string& nombre, const std::string& historia) {
   return "Datos>\r\n" + nombre + "\r\n050\r\n" + historia + "\r\nQMus>\r\nmus\r\n";
 }
 
-// The two default sets and `ofrecidos` more characters: number 3 is "Nombre 3", its story
-// "Historia 3", its list position 1.
+// A file with the two default sets and `ofrecidos` more characters. Number 3 is "Nombre 3", has the
+// story "Historia 3" and the list position 1.
 inline std::string Personajes(int ofrecidos) {
   std::string archivo = Registro("Default indirecto", "-") + Registro("Default directo", "-");
   for (int i = 3; i < 3 + ofrecidos; ++i) {
@@ -29,6 +29,7 @@ inline std::string Personajes(int ofrecidos) {
   return archivo;
 }
 
+// The dialog, its table, its port and a generator.
 struct Inicio {
   TempFolder carpeta;
   Table t;
@@ -36,11 +37,11 @@ struct Inicio {
   ScriptedPort port;
   DlgInicio d;
 
-  // Not loaded yet; without files.
+  // The dialog is not loaded, and the folder is empty.
   Inicio() { t.Carpeta = carpeta.Path(); }
-  // Loaded with this character file.
+  // Loads this character file.
   explicit Inicio(const std::string& archivo) : Inicio{} { Cargar(archivo); }
-  // Loaded with so many characters on offer.
+  // Loads a file that offers this many characters.
   explicit Inicio(int ofrecidos) : Inicio{Personajes(ofrecidos)} {}
 
   void Cargar(const std::string& archivo) {
@@ -52,13 +53,14 @@ struct Inicio {
     Form_Load(d, g);
   }
 
+  // Selects list positions; 0 is "Aleatorio".
   void Elegir(int companero, int contrario1, int contrario2) {
     Combo1_Click(d, companero);
     Combo2_Click(d, contrario1);
     Combo3_Click(d, contrario2);
   }
 
-  // "Aceptar", with just these draws.
+  // Presses "Aceptar", with exactly these draws. True if the choice is accepted.
   bool Aceptar(std::initializer_list<float> sacadas = {}) {
     DrawList lista{sacadas};
     Game g{t, lista.Get(), port};

@@ -1,4 +1,4 @@
-// What the start-up dialog takes from the character file.
+// The lists of the start-up dialog.
 #include <gtest/gtest.h>
 
 #include "tests/startup/inicio.h"
@@ -6,7 +6,7 @@
 namespace tasca::test {
 namespace {
 
-// A list as "TEXT=NUMBER, ...", without "Aleatorio=0, ".
+// A list as "TEXT=NUMBER, ...", without the entry "Aleatorio=0".
 std::string Lista(const ComboBox& combo) {
   std::string texto;
   for (const ComboBox::Entrada& entrada : combo.List) {
@@ -54,14 +54,14 @@ TEST(LlenarCombos, AcceptsLineFeedsAndALastLineWithoutEnd) {
   EXPECT_EQ(Utf8(inicio.d.Text4), "Historia 3");
 }
 
-// Unlike the game's own reader, this one looks for the marker anywhere in a line.
+// Unlike the game's reader, this one finds the marker anywhere in a line.
 TEST(LlenarCombos, Kept_StartsARecordAtTheMarkerAnywhereInALine) {
   EXPECT_EQ(
       ListaDe("hola\r\nMas Datos> aqui\r\nBerta\r\n050\r\n-\r\ndatos>\r\nDora\r\n050\r\n-\r\n"),
       "Berta=1");
 }
 
-// The three lines of a record are taken as they come; those of a skipped one are looked through.
+// The three lines after a marker are not searched for markers, those after a skipped name are.
 TEST(LlenarCombos, Kept_LooksForRecordsInTheRestOfASkippedOne) {
   EXPECT_EQ(ListaDe("Datos>\r\nBerta\r\nDatos>\r\nDatos>\r\nQMus>\r\n"), "Berta=1");
   EXPECT_EQ(ListaDe("Datos>\r\nDefault\r\nDatos>\r\nBerta\r\n050\r\n-\r\n"), "Berta=2");
@@ -85,7 +85,7 @@ TEST(LlenarCombos, OffersTheFirstFiftyRecords) {
 }
 
 TEST(LlenarCombos, Kept_AFiftyFirstRecordOnOfferEndsTheProgram) {
-  // Six lines a record: the 51st begins at line 301, its story is line 304.
+  // A record has six lines: the 51st starts at line 301, and its story is line 304.
   const std::string fallo = FalloDe([] { const Inicio inicio{49}; });
   EXPECT_TRUE(fallo.ends_with(
       "/Jugadores.dat, línea 304: solo los 50 primeros personajes pueden sentarse a la mesa. El "
@@ -93,7 +93,7 @@ TEST(LlenarCombos, Kept_AFiftyFirstRecordOnOfferEndsTheProgram) {
       << fallo;
 }
 
-TEST(LlenarCombos, LetsSkippedRecordsStandAfterTheFiftieth) {
+TEST(LlenarCombos, AllowsSkippedRecordsAfterTheFiftieth) {
   const Inicio inicio{Personajes(48) + Registro("Default 51", "-") + Registro("Default 52", "-")};
   EXPECT_EQ(inicio.d.Combo1.List.size(), 49U);
 }

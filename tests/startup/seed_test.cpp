@@ -12,7 +12,7 @@
 namespace tasca::test {
 namespace {
 
-// A generator to seed, and the clock on the wall.
+// A generator and a port whose clock can be set.
 struct Reloj {
   std::unique_ptr<Table> t = std::make_unique<Table>();
   Rnd rnd;
@@ -50,7 +50,7 @@ TEST(SembrarConHora, StartsCountingDrawsAnew) {
   EXPECT_EQ(reloj.rnd.Draws(), 0U);
 }
 
-TEST(SembrarConHora, Kept_TellsOnlySomeSecondsOfTheDayApart) {
+TEST(SembrarConHora, Kept_GivesTheSameSeedForSeveralTimesOfTheDay) {
   // 1:00:00, 0:01:00 and 0:00:01 all give 2.
   const std::vector<TimeOfDay> horas{{.Hora = 1, .Minuto = 0, .Segundo = 0},
                                      {.Hora = 0, .Minuto = 1, .Segundo = 0},

@@ -1,4 +1,4 @@
-// Reading and rewriting "mus.ini".
+// Reading and writing "mus.ini".
 #include "startup/settings.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ namespace {
 
 const std::string UltimoJugador = "> Nombre del \xFAltimo jugador\r\n";
 
-// A table with the default match, and a folder.
+// A table with the default parameters and a folder.
 struct Ajustes {
   TempFolder carpeta;
   Table t;
@@ -33,7 +33,7 @@ struct Ajustes {
   void Write(std::string_view archivo) const { carpeta.Write("mus.ini", archivo); }
   std::string Read() const { return carpeta.Read("mus.ini"); }
 
-  // Piedras, juegos and vacas after reading.
+  // The piedras, juegos and vacas after reading.
   std::array<int, 3> Parametros() {
     LeerParametrosPartida(t);
     return {t.PiedrasJuego, t.JuegosVaca, t.VacasPartida};
@@ -46,7 +46,7 @@ struct Ajustes {
   }
 };
 
-// The message of the error that ends the program, after the folder's name; "" when there is none.
+// The error message of an operation, without the folder's name; "" if it throws no error.
 template <class Operacion>
 std::string Fallo(const Ajustes& a, Operacion operacion) {
   try {
@@ -83,7 +83,7 @@ TEST(LeerParametrosPartida, IgnoresWhatFollowsTheNumber) {
   EXPECT_EQ(a.Parametros(), (Parametros{40, 5, 1}));
 }
 
-TEST(LeerParametrosPartida, JudgesEveryLineByItself) {
+TEST(LeerParametrosPartida, ChecksEachLineSeparately) {
   EXPECT_EQ((Ajustes{"0\r\n5\r\n1000\r\nAna\r\n"}.Parametros()), (Parametros{35, 5, 3}));
   EXPECT_EQ((Ajustes{"40\r\nx\r\n2\r\nAna\r\n"}.Parametros()), (Parametros{40, 3, 2}));
 }
@@ -278,8 +278,8 @@ TEST(GuardarIni, EndsTheProgramWithFewerThanFourLinesAndLeavesTheFile) {
   }
 }
 
-// Not a run-time error alone: the game goes on without it.
-TEST(GuardarIni, TellsAWritingThatFailsFromAReadingThatFails) {
+// The game continues after a WriteError, but not after other run-time errors.
+TEST(GuardarIni, ThrowsWriteErrorForAFailedWriteOnly) {
   const Ajustes a{"35\r\n3\r\n3\r\nLuis> x\r\n"};
   const PlainUser usuario{a.carpeta};
   std::filesystem::permissions(a.t.Carpeta / "mus.ini", std::filesystem::perms{0444});
@@ -290,7 +290,7 @@ TEST(GuardarIni, TellsAWritingThatFailsFromAReadingThatFails) {
             "mus.ini: no se puede leer el archivo. El programa va a terminar su ejecución.");
 }
 
-TEST(GuardarIni, TakesFourLinesAndMore) {
+TEST(GuardarIni, AcceptsFourOrMoreLines) {
   std::string archivo = "35\r\n3\r\n3\r\nLuis> x";
   for (int lineas = 4; lineas <= 6; ++lineas) {
     EXPECT_EQ(Ajustes{archivo}.Guardado(u"Ana"),
