@@ -1,5 +1,5 @@
 #pragma once
-// The saves and the disks that are put together.
+// The test cases: combinations of a save and a kind of disk.
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -13,13 +13,13 @@
 
 namespace tasca::test {
 
-// What is saved: a name, into a file that has held another.
+// A save: writes a name to a file that holds another one.
 struct Saved {
-  std::string Word;  // for the program that saves
+  std::string Word;  // the first argument of save-once
   std::string File;
-  std::string Copy;    // of the file as it was; "" for a file without one
-  std::string Beside;  // what else the program reads; "" for nothing
-  // The file with that name in it, when it held the other before.
+  std::string Copy;    // the backup copy; "" if there is none
+  std::string Beside;  // another file that the program reads; "" if there is none
+  // The file's content with `nombre`, if it held `anterior` before.
   std::string (*Content)(const std::string& nombre, const std::string& anterior);
 };
 
@@ -37,18 +37,19 @@ inline std::string Settings(const std::string& nombre, const std::string& anteri
 inline const Saved Personajes{"characters", "Jugadores.dat", "Jugadores.bak", "", Cast};
 inline const Saved Ajustes{"settings", "mus.ini", "", "Jugadores.dat", Settings};
 
+// A character file with three characters.
 inline std::string ThreeToSitWith() {
   Table t;
   for (int numero = 1; numero <= 3; ++numero) t.Personajes[numero].Nombre = ToText(numero);
   return TextoPersonajes(t, 3);
 }
 
-// How the disk is that takes the save: what the tracer does to every call, and the program.
+// A kind of disk, simulated by the tracer and by a variant of save-once.
 struct Disk {
   std::string_view Name;
-  std::string Tracer;
-  std::string Program;
-  bool AfterACrash = false;  // with what a save leaves that is killed at the worst moments
+  std::string Tracer;        // strace options for every call
+  std::string Program;       // the path of the variant
+  bool AfterACrash = false;  // the folder contains leftovers of a killed save
 };
 
 inline const std::string Nada = "-e inject=getppid:delay_enter=0";
@@ -58,30 +59,34 @@ inline const Disk DiscoSinCerrojos{"WithoutLocks", "-e inject=flock:error=EOPNOT
 inline const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
 inline const Disk DiscoTrasUnFallo{"AfterACrash", Nada, TASCA_SAVE_ONCE, true};
 
-// A save and its disk.
+// A save on a disk.
 struct Case {
   Saved Save;
   Disk On;
 
-  // What a killed save's file has behind the name of the one that it was to be.
+  // The suffix of a temporary file.
   static constexpr auto Resto = ".guardando-a1B2c3.tmp";
 
+  // The contents of the file before the save, of the copy before the save, and of the file after
+  // it.
   std::string Antes() const { return Save.Content("antes", "mucho antes"); }
   std::string MuchoAntes() const { return Save.Content("mucho antes", ""); }
   std::string Nuevo() const { return Save.Content("nuevo", "antes"); }
   bool HasCopy() const { return !Save.Copy.empty(); }
 
+  // The files that a save writes.
   std::vector<std::string> Written() const {
     if (!HasCopy()) return {Save.File};
     return {Save.Copy, Save.File};
   }
-  // All that lies in the folder when nothing is left over.
+  // The entries of the folder if there are no leftovers.
   std::vector<std::string> Files() const {
     std::vector<std::string> nombres = Written();
     if (!Save.Beside.empty()) nombres.insert(nombres.begin(), Save.Beside);
     return nombres;
   }
 
+  // Writes the files before the save.
   void Fill(const TempFolder& carpeta) const {
     carpeta.Write(Save.File, Antes());
     if (HasCopy()) carpeta.Write(Save.Copy, MuchoAntes());
@@ -92,10 +97,12 @@ struct Case {
     }
   }
 
+  // The command that saves this name.
   std::string SaveIn(const TempFolder& carpeta, const std::string& nombre) const {
     return On.Program + " " + Save.Word + " " + carpeta.Path().string() + " " + nombre;
   }
 
+  // The system calls of a save without faults.
   std::vector<Call> Calls() const {
     const TempFolder carpeta;
     Fill(carpeta);

@@ -1,4 +1,4 @@
-// The saves of the character file and of the settings, killed and failed at every one of their
+// The saves of the character file and of the settings, with a kill or an error at each of their
 // system calls.
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@
 namespace tasca::test {
 namespace {
 
-// How save-once ends when it has told of a save that failed.
+// The exit status of save-once after a reported failure.
 constexpr int GoesOn = 3;
 
 class SaveFaults : public testing::TestWithParam<Case> {
@@ -30,7 +30,8 @@ class SaveFaults : public testing::TestWithParam<Case> {
     ASSERT_TRUE(MachineTraces()) << "strace is missing, or may trace nothing here";
   }
 
-  // Saves once for every call of a save, with a fault at that call; then looks at what it left.
+  // Repeats the save with the fault at each call for which `seElige` is true, and checks the result
+  // with `examinar` each time.
   void SaveWithFaultAtEveryCall(const std::string& fallo, bool (*seElige)(const Call&),
                                 const std::function<void(const Outcome&)>& examinar) {
     int fallos = 0;
@@ -52,7 +53,7 @@ class SaveFaults : public testing::TestWithParam<Case> {
 
   std::string File() const { return carpeta_.Read(GetParam().Save.File); }
 
-  // Every file is whole, and no step was taken before the one that protects it.
+  // Each file is complete. The file is replaced only after its copy.
   void ExpectWholeFiles() const {
     const std::string antes = GetParam().Antes();
     const std::string archivo = File();
@@ -62,14 +63,14 @@ class SaveFaults : public testing::TestWithParam<Case> {
     EXPECT_TRUE(copia == antes || (copia == GetParam().MuchoAntes() && archivo == antes)) << copia;
   }
 
-  // A save that went well, and left nothing over.
+  // The save succeeded and left no temporary files.
   void ExpectACleanSave(const Outcome& fin) const {
     EXPECT_EQ(fin.Status, 0) << fin.Output;
     EXPECT_EQ(File(), GetParam().Nuevo());
     EXPECT_EQ(carpeta_.Names(), GetParam().Files());
   }
 
-  // A later save finds nothing in its way and leaves nothing behind.
+  // A later save succeeds and removes all leftovers.
   void ExpectTheNextSaveToSucceed() const {
     const std::string antes = File();
     const Outcome fin = RunCommand(GetParam().SaveIn(carpeta_, "despues"));
@@ -81,12 +82,12 @@ class SaveFaults : public testing::TestWithParam<Case> {
     EXPECT_EQ(carpeta_.Read(GetParam().Save.Copy), antes);
   }
 
-  // How a folder's file is called in messages.
+  // The name of a file in messages.
   std::string PathOf(const std::string& nombre) const {
     return (carpeta_.Path() / nombre).string();
   }
 
-  // What may be said of a save that has failed for that reason; the program goes on.
+  // The possible messages about a failed save after which the program continues.
   std::set<std::string> Notices(const std::string& motivo) const {
     if (!GetParam().HasCopy()) {
       return {"No se ha podido guardar su nombre en mus.ini: " + motivo +
@@ -100,15 +101,14 @@ class SaveFaults : public testing::TestWithParam<Case> {
             inicio + copia + ": no se puede leer " + archivo + "." + final};
   }
 
-  // What ends the program: the settings are read before they are written.
+  // The possible messages that end the program. The settings are read before they are written.
   std::set<std::string> Endings() const {
     if (GetParam().HasCopy()) return {};
     const std::string motivo = std::string{": no se puede leer el archivo."} + FinDelPrograma;
     return {PathOf("mus.ini") + motivo, PathOf("mus.ini") + ", línea 1" + motivo};
   }
 
-  // A save that went well although a call failed has saved; any other has said what it could not
-  // do and, of a writing, why.
+  // The save has either succeeded despite the error or reported it.
   void ExpectASaveOrAMessage(const Outcome& fin, const std::string& motivo) const {
     if (fin.Status == 0) {
       EXPECT_EQ(File(), GetParam().Nuevo());
@@ -131,7 +131,7 @@ class SaveFaults : public testing::TestWithParam<Case> {
   TempFolder carpeta_;
 };
 
-// A sanitizer makes calls of its own, not in every run the same: what is not reached does not kill.
+// A sanitizer's own calls differ from run to run, so that a chosen call may not occur.
 TEST_P(SaveFaults, AKillLeavesWholeFiles) {
   const auto todas = [](const Call& /*llamada*/) { return true; };
   int muertes = 0;
@@ -146,22 +146,22 @@ TEST_P(SaveFaults, AKillLeavesWholeFiles) {
   EXPECT_GE(muertes, 20);
 }
 
-TEST_P(SaveFaults, ABrokenDiskLeavesWholeFilesAndIsTold) {
+TEST_P(SaveFaults, EioLeavesWholeFilesAndIsReported) {
   ExpectWholeFilesAfterErrors("EIO", "el disco falla.");
 }
-TEST_P(SaveFaults, AFullDiskLeavesWholeFilesAndIsTold) {
+TEST_P(SaveFaults, EnospcLeavesWholeFilesAndIsReported) {
   ExpectWholeFilesAfterErrors("ENOSPC", "no queda sitio en el disco.");
 }
-TEST_P(SaveFaults, AForbiddenCallLeavesWholeFilesAndIsTold) {
+TEST_P(SaveFaults, EaccesLeavesWholeFilesAndIsReported) {
   ExpectWholeFilesAfterErrors("EACCES", "no hay permiso para escribir.");
 }
 
-TEST_P(SaveFaults, AnInterruptedCallLeavesWholeFilesAndIsTold) {
+TEST_P(SaveFaults, EintrLeavesWholeFilesAndIsReported) {
   ExpectWholeFilesAfterErrors("EINTR", "error 4 del sistema.");
 }
 
-// What only the machine's memory holds is lost when the current goes.
-TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
+// Without fsync a power failure could lose the data.
+TEST_P(SaveFaults, SyncsTheFileBeforeTheRenameAndTheFolderAfterIt) {
   std::string orden;
   for (const Call& llamada : GetParam().Calls()) orden += llamada.Name + " ";
   const std::string escrito = "write fsync rename openat fsync close ";
@@ -171,8 +171,8 @@ TEST_P(SaveFaults, FlushesAFileBeforeItTakesItsPlaceAndTheFolderAfter) {
   EXPECT_EQ(vistos, escritos) << orden;
 }
 
-// A name that another save has taken is not opened: that would be writing into its file.
-TEST_P(SaveFaults, OpensNoFileThatAnotherHasCreated) {
+// A temporary file of another save must not be opened.
+TEST_P(SaveFaults, DoesNotOpenTheTemporaryFileOfAnotherSave) {
   const std::vector<Call> llamadas = GetParam().Calls();
   const auto crea = [](const Call& llamada) {
     return llamada.Text.find("O_CREAT") != std::string::npos;
@@ -188,31 +188,30 @@ TEST_P(SaveFaults, OpensNoFileThatAnotherHasCreated) {
   }
 }
 
-// A signal that comes in between is nothing to give up a writing for.
+// Retries on EINTR.
 class SaveInterrupted : public SaveFaults {};
 
-TEST_P(SaveInterrupted, GoesOnWriting) {
+TEST_P(SaveInterrupted, RetriesOnEintr) {
   const std::set<std::string> deEscribir{"openat", "write", "fsync"};
   bool seLee = !GetParam().HasCopy();
   int interrumpidas = 0;
   for (const Call& llamada : GetParam().Calls()) {
     if (!deEscribir.contains(llamada.Name)) continue;
-    if (std::exchange(seLee, false)) continue;  // the first file to be opened is only read
+    if (std::exchange(seLee, false)) continue;  // the first openat opens a file for reading
     SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count));
     GetParam().Fill(carpeta_);
     EXPECT_EQ(SaveWith(llamada, "error=EINTR").Status, 0);
     EXPECT_EQ(File(), GetParam().Nuevo());
     ++interrumpidas;
   }
-  EXPECT_GE(interrumpidas,
-            5);  // opening, writing and flushing the file; opening, flushing the folder
+  // openat, write and fsync of the file, openat and fsync of the folder
+  EXPECT_GE(interrumpidas, 5);
 }
 
-// What the disk says of the last step is told in words: the temporary file can be lost, the folder
-// cannot.
+// The reason for a failed rename. ENOENT means that the temporary file is missing, not the folder.
 class SaveRefused : public SaveFaults {};
 
-TEST_P(SaveRefused, TellsTheReason) {
+TEST_P(SaveRefused, ReportsTheReason) {
   const std::map<std::string, std::string> motivos{
       {"EACCES", "no hay permiso para escribir."},
       {"EROFS", "el disco es de solo lectura."},
@@ -230,10 +229,10 @@ TEST_P(SaveRefused, TellsTheReason) {
   }
 }
 
-// Another save may take a new file for a leftover before its lock is had.
+// Another save may remove a new file as a leftover before it is locked.
 class SaveRobbed : public SaveFaults {};
 
-TEST_P(SaveRobbed, LeavesAFileWhoseLockAnotherHas) {
+TEST_P(SaveRobbed, LeavesAFileLockedByAnotherSave) {
   int cerrojos = 0;
   for (const Call& llamada : GetParam().Calls()) {
     if (llamada.Name != "flock") continue;
@@ -248,7 +247,7 @@ TEST_P(SaveRobbed, LeavesAFileWhoseLockAnotherHas) {
   EXPECT_EQ(cerrojos, std::ssize(GetParam().Written()));
 }
 
-TEST_P(SaveRobbed, CreatesAnotherFileWhenTheFirstIsGone) {
+TEST_P(SaveRobbed, CreatesAnotherFileIfTheFirstWasRemoved) {
   Case robado = GetParam();
   robado.On.Program = TASCA_SAVE_ROBBED;
   robado.Fill(carpeta_);
@@ -259,8 +258,8 @@ TEST_P(SaveRobbed, CreatesAnotherFileWhenTheFirstIsGone) {
   EXPECT_EQ(carpeta_.Names(), GetParam().Files());
 }
 
-// A leftover's name may be another save's by the time its lock is had.
-TEST_P(SaveRobbed, LeavesAFileThatHasGotTheNameOfALeftover) {
+// Before a leftover is locked, another save may have replaced it by its own file of the same name.
+TEST_P(SaveRobbed, LeavesANewFileWithTheNameOfALeftover) {
   Case robado = GetParam();
   robado.On = DiscoTrasUnFallo;
   robado.On.Program = TASCA_SAVE_ROBBED;
@@ -273,8 +272,8 @@ TEST_P(SaveRobbed, LeavesAFileThatHasGotTheNameOfALeftover) {
   ExpectTheNextSaveToSucceed();
 }
 
-// A disk that takes nothing at all is full: to go on would be to go on for ever.
-TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
+// A write() that returns 0 must not be repeated for ever: it is reported as a full disk.
+TEST_P(SaveInterrupted, ReportsAFullDiskIfAWriteReturnsZero) {
   int escrituras = 0;
   for (const Call& llamada : GetParam().Calls()) {
     if (llamada.Name != "write") continue;
@@ -289,7 +288,7 @@ TEST_P(SaveInterrupted, GivesUpADiskThatTakesNothing) {
   EXPECT_GE(escrituras, 1);
 }
 
-// A disk that takes less than it is given is given the rest.
+// Continues after a short write.
 class SaveInBits : public SaveFaults {};
 
 TEST_P(SaveInBits, WritesAFewBytesAtATime) {

@@ -1,8 +1,7 @@
-// save-once characters|settings FOLDER NAME: saves a cast of one character as the editor does, or
-// accepts the start-up dialog with that player's name. It does so between two system calls that
-// nothing else makes, so that a tracer can tell the save's calls from those of starting and ending.
-// Prints what the player is told. Ends with 0 after a save, with 3 when the program goes on without
-// it, with 1 when the program ends.
+// save-once characters|settings FOLDER NAME: saves a file of one character as the editor does, or
+// accepts the start-up dialog with that player's name. Calls getppid before and after the save, so
+// that the save's calls can be found in a trace. Prints the message to the player. Exit status: 0
+// after a save, 3 if it failed and the program continues, 1 if the program ends, 2 for wrong usage.
 #include <unistd.h>
 
 #include <exception>
@@ -51,8 +50,8 @@ int SaveSettings(tasca::Table& t, const std::u16string& nombre) {
   tasca::Rnd rnd;
   tasca::Game g{t, rnd, port};
   const auto d = std::make_unique<tasca::DlgInicio>();
-  // A sanitizer makes system calls of its own when it meets a type of stream for the first time:
-  // this reads the settings before the save does.
+  // A sanitizer makes additional system calls at the first use of a stream type. This reads the
+  // settings before the first mark.
   Form_Load(*d, g);
   Combo1_Click(*d, 1);
   Combo2_Click(*d, 2);

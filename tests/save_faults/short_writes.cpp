@@ -1,10 +1,10 @@
-// A disk that takes a few bytes at a time: in a program that holds this, every write is short.
+// Replaces write() by one that writes at most five bytes.
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
 
-// To the linker, this is the system's write().
+// Links as write().
 extern "C" ssize_t ShortWrite(int descriptor, const void* desde,
                               std::size_t cuantos) __asm__("write");
 

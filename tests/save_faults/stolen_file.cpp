@@ -1,5 +1,5 @@
-// Another save that is always a little faster: in a program that holds this, every second file is
-// gone when its lock is had. In the place of one that was not new stands another of its name.
+// Replaces flock() by one that simulates a concurrent save: at every second call the file has been
+// removed, and a leftover has been replaced by another file of the same name.
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-// To the linker, this is the system's flock().
+// Links as flock().
 extern "C" int LockTooLate(int descriptor, int operacion) __asm__("flock");
 
 extern "C" int LockTooLate(int descriptor, int operacion) {

@@ -1,4 +1,4 @@
-// Commands under strace, and what it writes down.
+// Runs strace and reads its output.
 #include "tests/save_faults/tracer.h"
 
 #include <gtest/gtest.h>
@@ -15,12 +15,13 @@
 namespace tasca::test {
 namespace {
 
-// The leak checker is a tracer of its own, and there can be but one.
+// A process can have only one tracer, and LeakSanitizer traces too.
 std::string Traced(const std::string& opciones, const std::string& orden) {
   return "ASAN_OPTIONS=detect_leaks=0 strace " + opciones + " " + orden;
 }
 
-// The check of virtual calls probes memory through a pipe of its own; a save makes none.
+// Recognises the calls of UBSan's vptr check, which probes memory through a pipe. A save uses no
+// pipe.
 class SanitizersPipe {
  public:
   bool Makes(const std::string& linea) {

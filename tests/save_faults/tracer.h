@@ -1,37 +1,38 @@
 #pragma once
-// A program that saves, run under a tracer that makes its system calls fail.
+// Runs a program under strace, which can make one of its system calls fail.
 #include <string>
 #include <vector>
 
 namespace tasca::test {
 
-// How a command ended, and what it said.
+// The result of a command.
 struct Outcome {
-  int Status = 0;  // exit status, or 128 + signal
-  std::string Output;
+  int Status = 0;      // exit status, or 128 + signal
+  std::string Output;  // of standard output
 };
 
+// Runs a shell command. Standard error is discarded. The status is -1 if it could not be started.
 Outcome RunCommand(const std::string& orden);
 
-// Whether this machine lets a program be traced at all.
+// Whether strace is installed and may trace.
 bool MachineTraces();
 
-// A system call of the save: its name, how many of that name the process has made by then, and the
-// whole call as the tracer writes it.
+// A system call: its name, its number among the process's calls of that name (from 1), and its line
+// in the trace.
 struct Call {
   std::string Name;
   int Count = 0;
   std::string Text = {};
 };
 
-// Calls that only order memory know nothing of disks.
+// False for calls that only manage memory.
 bool IsAboutFiles(const Call& llamada);
 
-// The calls between the save's two marks, of a save that goes well; `opciones` is what the tracer
-// does to every call.
+// Runs a save without faults and returns the calls between its two marks (getppid). `opciones` are
+// strace options.
 std::vector<Call> CallsOf(const std::string& opciones, const std::string& orden);
 
-// The save with a fault ("error=EIO", "signal=KILL") at that call.
+// Runs the save with a fault ("error=EIO", "signal=KILL") at that call.
 Outcome RunWithFault(const std::string& opciones, const std::string& orden, const Call& llamada,
                      const std::string& fallo);
 

@@ -1,5 +1,5 @@
-// save-again FOLDER NUMBER: saves that writer's name in the settings, and its cast, again and again
-// until it is killed. Prints a dot after every round; ends when a save fails, and says why.
+// save-again FOLDER NUMBER: repeatedly saves that writer's name and characters until it is killed.
+// Prints a dot after each round. If a save fails, prints the error and ends.
 #include <charconv>
 #include <exception>
 #include <iostream>

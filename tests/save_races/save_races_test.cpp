@@ -1,5 +1,6 @@
-// Several programs save in one folder at once and are killed at random: every file is always one
-// writer's whole content, and no save fails. TASCA_SAVES=1000 sets how often each program saves.
+// Several programs save concurrently in one folder and are killed at random. Every file always has
+// the complete content of one writer, and no save fails. TASCA_SAVES sets the number of rounds per
+// program.
 #include <gtest/gtest.h>
 #include <poll.h>
 
@@ -23,7 +24,7 @@ namespace {
 
 constexpr int Seconds = 1000;  // in milliseconds
 
-// Rounds that each program is to save.
+// The number of rounds that each program saves on average.
 int RoundsOfEach() {
   constexpr int EnLaSuite = 10;
   const char* const pedidas = std::getenv("TASCA_SAVES");      // NOLINT(concurrency-mt-unsafe)
@@ -32,7 +33,7 @@ int RoundsOfEach() {
 
 class SaveRaces : public testing::TestWithParam<int> {
  protected:
-  // Writer 0 is the one before all others.
+  // Writer 0 writes the initial files.
   SaveRaces() {
     t_->Carpeta = carpeta_.Path();
     for (int numero = GetParam(); numero >= 0; --numero) {
@@ -58,7 +59,7 @@ class SaveRaces : public testing::TestWithParam<int> {
     }
   }
 
-  // Waits until a program has saved; the rounds saved since the last time.
+  // Waits until a program has saved, for at most a minute. Returns the number of new rounds.
   int WaitForRounds() {
     std::vector<pollfd> esperados;
     for (const auto& programa : programas_) {
@@ -81,7 +82,8 @@ class SaveRaces : public testing::TestWithParam<int> {
   // A number from 0 to `hasta` - 1.
   std::size_t Any(std::size_t hasta) { return azar_() % hasta; }
 
-  // A random program at a random step of its save: looking at the files takes about as long as one.
+  // Kills a random program at a random step of its save. Reading the files takes about as long as a
+  // save, so that it serves as a random delay.
   void KillOne() {
     for (std::size_t veces = Any(8); veces > 0; --veces) ExpectWholeFiles();
     programas_.at(Any(programas_.size()))->Restart();
@@ -90,13 +92,13 @@ class SaveRaces : public testing::TestWithParam<int> {
   TempFolder carpeta_;
   std::unique_ptr<Table> t_ = std::make_unique<Table>();
   int personajes_ = 0;
-  std::set<std::string> ajustes_;   // all that the settings may hold
-  std::set<std::string> repartos_;  // all that the character file and its copy may hold
+  std::set<std::string> ajustes_;   // the possible contents of the settings
+  std::set<std::string> repartos_;  // the possible contents of the character file and its copy
   std::vector<std::unique_ptr<SavingProgram>> programas_;
   std::mt19937 azar_{static_cast<unsigned>(GetParam())};
 };
 
-TEST_P(SaveRaces, LeaveWholeFilesAndNoMessage) {
+TEST_P(SaveRaces, LeaveWholeFilesAndNoErrors) {
   const int rondas = GetParam() * RoundsOfEach();
   const int bastantes = 2 * GetParam();
   StartAll();

@@ -1,4 +1,4 @@
-// Starting, listening to and killing it.
+// Starts, reads and kills the child process.
 #include "tests/save_races/saving_program.h"
 
 #include <fcntl.h>

@@ -1,24 +1,26 @@
 #pragma once
-// A program that saves again and again in a process of its own.
+// A child process that saves repeatedly.
 #include <sys/types.h>
 
 #include <string>
 
 namespace tasca::test {
 
+// Runs save-again. The destructor kills it.
 class SavingProgram {
  public:
+  // Starts writer `numero` in the folder.
   SavingProgram(std::string carpeta, int numero);
   SavingProgram(const SavingProgram&) = delete;
   SavingProgram& operator=(const SavingProgram&) = delete;
   ~SavingProgram();
 
-  // Where its dots arrive.
+  // The descriptor of its standard output, which receives a dot per round.
   int Output() const { return salida_; }
-  // Takes what has arrived: the number of rounds saved. The test fails for anything but dots, and
-  // for a program that has ended.
+  // Reads the output, waiting if there is none, and returns the number of new rounds. Fails the
+  // test if there is anything but dots or if the program has ended.
   int TakeRounds();
-  // Kills the program, and starts it anew.
+  // Kills the program and starts it again.
   void Restart();
 
  private:

@@ -1,4 +1,4 @@
-// Names and casts by the writer's number.
+// The texts by the writer's number.
 #include "tests/save_races/writers_text.h"
 
 #include "base/text.h"

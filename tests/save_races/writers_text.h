@@ -1,14 +1,16 @@
 #pragma once
-// What each of the programs that save at once writes.
+// The texts that a writer saves.
 #include <string>
 
 #include "table/table.h"
 
 namespace tasca::test {
 
+// The player's name that writer `numero` saves.
 std::u16string WritersName(int numero);
 
-// The writer's cast, long enough to be written in several pieces; tells how many characters it has.
+// Fills in the characters of writer `numero` and returns their number. Their file is too long for a
+// single buffered write.
 int FillCast(Table& t, int numero);
 
 }  // namespace tasca::test
