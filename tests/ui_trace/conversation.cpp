@@ -1,4 +1,4 @@
-// Two stream buffers, back to back.
+// Connects the player and the trace by two stream buffers.
 #include "tests/ui_trace/conversation.h"
 
 #include <istream>
@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-// Takes the game's lines as they come.
+// An output stream that parses the game's lines.
 class Listener : public std::streambuf {
  public:
   TraceEvents Take() { return std::exchange(events_, {}); }
@@ -35,7 +35,7 @@ class Listener : public std::streambuf {
   }
 
  private:
-  // A line of the game is written in as many pieces as it likes; none goes past the line's end.
+  // A line may be written in several pieces, but no piece continues after a line's end.
   void Hear(std::string_view piece) {
     all_ += piece;
     if (!piece.ends_with('\n')) return;
@@ -49,7 +49,7 @@ class Listener : public std::streambuf {
   TraceEvents events_;
 };
 
-// Asks the player for a line when the game wants to read one.
+// An input stream that asks the player for each line when it is read.
 class Speaker : public std::streambuf {
  public:
   Speaker(const Player& player, Listener& listener) : player_{player}, listener_{listener} {}

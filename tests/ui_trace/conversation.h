@@ -1,5 +1,5 @@
 #pragma once
-// A trace whose next line depends on what the game has just told.
+// Plays a trace whose input depends on the game's output.
 #include <filesystem>
 #include <functional>
 #include <nlohmann/json.hpp>
@@ -11,10 +11,11 @@ namespace tasca::test {
 
 using TraceEvents = std::vector<nlohmann::ordered_json>;
 
-// Is given the events since its last line (none at the start) and says the next line; nothing ends
-// the input.
+// Gets the events since its last line (none at the start) and returns the next line, or nothing to
+// end the input.
 using Player = std::function<std::optional<std::string>(const TraceEvents&)>;
 
+// The exit status, the whole input and output, and the messages.
 struct Conversation {
   int Status = -1;
   std::string In;
@@ -23,6 +24,7 @@ struct Conversation {
   TraceEvents Rest;  // the events after the last line
 };
 
+// Plays a trace in this folder until it ends.
 Conversation Converse(const std::filesystem::path& folder, const Player& player);
 
 }  // namespace tasca::test

@@ -1,4 +1,4 @@
-// The three ends of a game and the end of the input.
+// The ends of a game and the end of the input.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -10,8 +10,8 @@
 namespace tasca::test {
 namespace {
 
-// A match of one juego at one stone: seat 2 bets everything at grande, the human accepts, and the
-// match is over one way or the other.
+// The lines up to the end of a match of one stone: seat 2 bets an órdago at grande, and the human
+// accepts.
 std::vector<std::string> UpToTheEnd(std::vector<std::string> more) {
   std::vector<std::string> lines{Start, Enter, No, Enter, Result(0), Result(1)};
   lines.insert(lines.end(), more.begin(), more.end());
@@ -28,18 +28,18 @@ TEST(TraceEnd, AsksForAnotherMatchWithoutIcon) {
   EXPECT_EQ(question["default"], "yes");
 }
 
-TEST(TraceEnd, QuitComesAtOnceWithoutAState) {
+TEST(TraceEnd, QuitFollowsWithoutAState) {
   const TraceRun run = TraceFolder{1, 2, 1}.Play(UpToTheEnd({No, Enter}));
   EXPECT_EQ(run.Status, 0);
   EXPECT_EQ(run.Last().dump(), R"({"event":"end","reason":"quit","text":""})");
   EXPECT_EQ(run.Events.at(run.Events.size() - 2)["event"], "msgbox");
 }
 
-TEST(TraceEnd, PlayersComesAfterTheStepHasEndedAndItsState) {
+TEST(TraceEnd, PlayersFollowsTheStateOfTheStep) {
   const TraceRun run = TraceFolder{1, 2, 1}.Play(UpToTheEnd({Yes, Yes, Enter}));
   EXPECT_EQ(run.Status, 0);
   const std::size_t n = run.Events.size();
-  // The vaca's box is still shown, the scores are as they were won.
+  // The box of the vaca is still shown, with the final score.
   EXPECT_NE(run.Events.at(n - 3)["text"].get<std::string>().find(" gana esta vaca. El resultado"),
             std::string::npos);
   EXPECT_EQ(run.Events.at(n - 2)["event"], "state");
@@ -66,7 +66,7 @@ TEST(TraceEnd, ARunTimeErrorHasItsMessageAndStatus1) {
       R"({"event":"end","reason":"error","text":"Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su ejecución."})");
 }
 
-TEST(TraceEnd, TheEndOfTheInputIsNormalWhileAKeyIsWaitedFor) {
+TEST(TraceEnd, TheInputMayEndInsteadOfAKey) {
   const TraceRun run = TraceFolder{}.Play({Start, Enter, No});
   EXPECT_EQ(run.Status, 0);
   EXPECT_EQ(run.Err, "");
@@ -88,7 +88,7 @@ TEST(TraceEnd, LinesMayEndInCrLf) {
             folder.Play({Start, Enter, No}).Out);
 }
 
-TEST(TraceEnd, AnOutputThatTakesNoMoreLinesIsReported) {
+TEST(TraceEnd, AnOutputErrorIsReported) {
   struct Full : std::streambuf {};
   Full full;
   std::ostream out{&full};

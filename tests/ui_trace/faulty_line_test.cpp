@@ -1,4 +1,4 @@
-// Lines that do not fit what is waited for: told with their number, status 2, nothing changed.
+// Invalid lines: the message has the line number, the status is 2, and nothing is changed.
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -13,7 +13,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// What is seen of a trace from outside.
+// The observable result of a trace.
 struct Seen {
   int Status;
   std::string WhichLine;  // the start of the message
@@ -39,8 +39,8 @@ Seen PlayFaulty(const TraceFolder& folder, Lines lines, const std::string& fault
           .Settings = folder.Files().Read("mus.ini")};
 }
 
-// Each of the lines, played after `before`, must be refused under its number, and the output and
-// the files must be what the lines before it alone give.
+// Plays each faulty line after `before`. It must be refused with its line number, and the output
+// and the settings must be those of the lines before it.
 void EveryOneIsRefused(const TraceFolder& folder, const Lines& before, const Lines& faulty) {
   const std::string settings = folder.Files().Read("mus.ini");
   const TraceRun alone = folder.Play(before);
@@ -197,7 +197,7 @@ TEST(TraceFaultyLine, InsteadOfAButtonOfTheDialog) {
 }
 
 TEST(TraceFaultyLine, AnOrdagoOffersNeitherARaiseNorAnother) {
-  // At one stone from the juego seat 2 bets everything once the human has passed.
+  // One stone before the end of the juego seat 2 bets an órdago after the human's paso.
   const Lines before{Start, Enter, No, Enter, Result(0)};
   EveryOneIsRefused(TraceFolder{1, 3, 3}, before, {Result(2), Result(3)});
 }

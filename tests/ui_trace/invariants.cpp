@@ -1,4 +1,4 @@
-// The checks, one after the other.
+// The checks of the invariants.
 #include "tests/ui_trace/invariants.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 namespace tasca::test {
 namespace {
 
-constexpr int HandHasEnded = -1;  // the phase in which a hand waits for the next one
+constexpr int HandHasEnded = -1;  // the phase after a hand
 
 bool IsCard(int number) { return number >= 1 && number <= 40; }
 
@@ -26,7 +26,7 @@ bool HandsAreSortedCards(const Situation& s) {
   });
 }
 
-// The answer to a bet comes on the Enter of the bet: its phases are never waited in.
+// The game never waits in the answer phases: a bet is answered on the same Enter.
 bool PhaseIsOneToWaitIn(const Situation& s) {
   constexpr std::array<int, 10> phases{HandHasEnded, 0, 1, 3, 5, 6, 8, 9, 11, 13};
   return std::find(phases.begin(), phases.end(), s.Fase) != phases.end();
@@ -48,7 +48,7 @@ bool IsNewHand(const Situation& s) { return s.Fase == 0 && s.RondasMus == 0; }
 
 using CardSet = std::bitset<41>;
 
-// The first `count` cards of the deck, none of them twice if there are as many in the set.
+// The set of the first `count` cards of the deck. It is smaller than `count` if a card is repeated.
 CardSet FirstOfTheDeck(const Situation& s, std::size_t count) {
   CardSet cards;
   for (std::size_t i = 0; i < count; ++i) cards.set(static_cast<std::size_t>(s.Baraja.at(i)));
@@ -59,7 +59,7 @@ bool FreshDeckIsWhole(const Situation& s) {
   return !IsNewHand(s) || (FirstOfTheDeck(s, 40).count() == 40 && s.CartaSiguiente == 17);
 }
 
-// Four hands of four, none of them twice.
+// The four hands are the first 16 cards of the deck, none of them twice.
 bool DealtCardsAreTheFirstOfTheDeck(const Situation& s) {
   if (!IsNewHand(s)) return true;
   CardSet held;
@@ -69,7 +69,7 @@ bool DealtCardsAreTheFirstOfTheDeck(const Situation& s) {
   return held == FirstOfTheDeck(s, 16);
 }
 
-// Neither juegos nor vacas wait past the number that ends the vaca or the match.
+// No pareja has as many juegos as end a vaca, or as many vacas as end the match.
 bool ScoresEndWhenTheyMust(const Situation& s) {
   const auto within = [](const std::array<int, 2>& score, int most) {
     return std::all_of(score.begin(), score.end(), [most](int n) { return n >= 0 && n <= most; });
@@ -84,15 +84,15 @@ std::string Score(const std::array<int, 2>& score) {
 
 bool HasScoreboard(const Situation& s) { return !s.Text3.empty(); }
 
-// Whenever it has been written at all, the scoreboard is up to date when a move has ended.
+// The scoreboard is empty or up to date.
 bool ScoreboardIsTrue(const Situation& s) {
   return !HasScoreboard(s) || s.Text3 == "Piedras: " + Score(s.Piedras) +
                                              ";    juegos: " + Score(s.Juegos) +
                                              ";    Vacas: " + Score(s.Vacas);
 }
 
-// A refused punto pays what an older record says, at worst -2; nothing else takes stones away but
-// the end of a juego, and that from both.
+// A refused punto pays what an older record says, at least -2. Otherwise stones are only taken away
+// at the end of a juego, from both parejas.
 bool StonesFallOnlyTogether(const Situation& before, const Situation& after) {
   const bool fell =
       after.Piedras[0] < before.Piedras[0] - 2 || after.Piedras[1] < before.Piedras[1] - 2;
@@ -104,7 +104,7 @@ struct Rule {
   bool (*Holds)(const Situation& s);
 };
 
-// In this order: the later ones rely on cards being cards.
+// The order matters: later rules require valid card numbers.
 constexpr std::array<Rule, 9> Rules{{
     {"a hand that is not four cards in order", HandsAreSortedCards},
     {"a phase that nobody waits in", PhaseIsOneToWaitIn},

@@ -1,5 +1,5 @@
 #pragma once
-// What holds at the table whenever the game waits for a key.
+// The invariants of the table whenever the game waits for a key.
 #include <optional>
 #include <string>
 
@@ -7,21 +7,23 @@
 
 namespace tasca::test {
 
-// What is wrong with a situation; "" when nothing is.
+// The first broken invariant of a situation; "" if there is none.
 std::string FaultIn(const Situation& s);
 
-// What cannot have come of one move; "" when all can.
+// The first broken invariant between a situation and the next; "" if there is none.
 std::string FaultBetween(const Situation& before, const Situation& after);
 
-// Looks at every situation of a game, one after the other.
+// Checks all situations of a game in turn.
 class Watch {
  public:
-  // The next situation is the first of another table.
+  // The next situation belongs to a new table.
   void NewTable() { before_.reset(); }
+  // Checks a situation, also against the one before.
   void Look(const Situation& s);
 
-  // The first thing that was not as it must be; "" while all is.
+  // The first fault; "" if there is none.
   const std::string& Fault() const { return fault_; }
+  // The number of hands that have ended.
   int HandsPlayed() const { return handsPlayed_; }
 
  private:

@@ -1,4 +1,4 @@
-// The main loop: keys, sounds and the state that follows each of them.
+// The main loop: keys, sounds, and the state after each of them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -100,7 +100,7 @@ TEST(TraceSound, OnlyAnIdlePlayerEndsASound) {
   EXPECT_EQ((TraceFolder{}.Play({Start, R"({"sound": 6})"}).Names()), "sound state sound state");
 }
 
-// At this clock all four seats want mus in the first round.
+// With this clock all four seats want mus in the first round.
 constexpr const char* StartWithMus =
     R"({"start": {"clock": [0, 0, 1], "name": "Ana", "combos": [3, 1, 2]}})";
 

@@ -10,7 +10,7 @@
 namespace tasca::test {
 namespace {
 
-// Without mus the human is mano, and opens the grande.
+// The lines up to the grande: the human refuses mus, is mano and opens.
 std::vector<std::string> UpToTheGrande(std::vector<std::string> more) {
   std::vector<std::string> lines{Start, Enter, No, Enter};
   lines.insert(lines.end(), more.begin(), more.end());
@@ -26,14 +26,14 @@ TEST(TraceQuestion, MusIsAYesNoBoxWithTheTextsOnTheScreen) {
   EXPECT_EQ(box["buttons"], "yesno");
   EXPECT_EQ(box["icon"], "question");
   EXPECT_EQ(box["default"], "yes");
-  // The transcript has been cleared by then, the hand still lies in the input line.
+  // The transcript has been cleared; the input line still shows the hand.
   EXPECT_EQ(box["texts"].size(), 3U);
   EXPECT_EQ(box["texts"][0], before["Text1"]);
   EXPECT_EQ(box["texts"][1], "");
   EXPECT_EQ(box["texts"][2], "");
 }
 
-TEST(TraceQuestion, NoCutsTheMus) {
+TEST(TraceQuestion, NoRefusesTheMus) {
   const auto state = TraceFolder{}.Play({Start, Enter, No}).Last();
   EXPECT_EQ(state["Fase"], 1);
   EXPECT_EQ(state["ParejaCortaMus"], 1);
@@ -46,7 +46,7 @@ TEST(TraceQuestion, ExtraFieldsOfAnAnswerAreIgnored) {
   EXPECT_EQ(run.Last()["Fase"], 1);
 }
 
-TEST(TraceQuestion, TheDialogTellsItsTitleAndMode) {
+TEST(TraceQuestion, TheDialogHasItsTitleAndMode) {
   const TraceRun run = TraceFolder{}.Play(UpToTheGrande({Result(0)}));
   EXPECT_EQ(run.First("dialog")["title"], "La grande");
   EXPECT_EQ(run.First("dialog")["mode"], -1);
@@ -54,7 +54,7 @@ TEST(TraceQuestion, TheDialogTellsItsTitleAndMode) {
   EXPECT_EQ(run.Last()["event"], "state");
 }
 
-// What the human says at grande after an envido más.
+// The human's line at grande after "Envido Más" and this answer to the amount.
 std::string SaysAfterRaising(const std::string& answer) {
   const auto text = TraceFolder{}.Play(UpToTheGrande({Result(2), answer})).Last()["Text2"];
   const std::string lines =
@@ -62,14 +62,14 @@ std::string SaysAfterRaising(const std::string& answer) {
   return lines.substr(0, lines.find("\r\n"));
 }
 
-TEST(TraceQuestion, TheInputBoxTakesTextOrCancel) {
+TEST(TraceQuestion, TheInputBoxAcceptsTextOrCancel) {
   EXPECT_EQ(SaysAfterRaising(R"({"text": "13"})"), "Ana: EnvM13D");
   EXPECT_EQ(SaysAfterRaising(R"({"text": ""})"), "Ana: EnvM2D");
   EXPECT_EQ(SaysAfterRaising(R"({"text": "muchas"})"), "Ana: EnvM2D");
   EXPECT_EQ(SaysAfterRaising(R"({"button": "cancel"})"), "Ana: EnvM2D");
 }
 
-TEST(TraceQuestion, TheInputBoxTellsItsTitlePromptAndDefault) {
+TEST(TraceQuestion, TheInputBoxHasItsTitlePromptAndDefault) {
   const TraceRun run = TraceFolder{}.Play(UpToTheGrande({Result(2), R"({"text": "3"})"}));
   const auto& box = run.First("inputbox");
   EXPECT_EQ(box["title"], "Envite a grande");
@@ -79,8 +79,8 @@ TEST(TraceQuestion, TheInputBoxTellsItsTitlePromptAndDefault) {
 }
 
 TEST(TraceQuestion, AMessageBoxWithOnlyOkNeedsNoAnswer) {
-  // At one stone from the juego every computer seat bets everything; the human passes, then
-  // accepts: seat 2's órdago at grande is decided at once.
+  // One stone before the end of the juego every computer seat bets an órdago. The human passes,
+  // then accepts the órdago of seat 2.
   const TraceRun run =
       TraceFolder{1, 3, 3}.Play({Start, Enter, No, Enter, Result(0), Result(1), Enter});
   EXPECT_EQ(run.Status, 0);
@@ -92,13 +92,13 @@ TEST(TraceQuestion, AMessageBoxWithOnlyOkNeedsNoAnswer) {
       box["text"].get<std::string>().rfind("órdago a grande querido y ganado por la pareja ", 0),
       0U);
   EXPECT_EQ(box["buttons"], "ok");
-  // All four hands lie open while the box is up.
+  // All four hands are shown while the box is open.
   EXPECT_NE(box["texts"][0].get<std::string>().find("el Cojo\r\n"), std::string::npos);
   EXPECT_EQ(run.Events.at(7)["Fase"], -1);
 }
 
-// Cuts the mus, passes and refuses, and says no to whether it has pares; keeps that question's
-// default and the text of what follows.
+// A player who refuses mus, passes and denies having pares. Stores the default answer of that
+// question and the text of the next event.
 struct Denier {
   std::string Default;
   std::string Afterwards;
@@ -120,7 +120,7 @@ struct Denier {
 };
 
 TEST(TraceQuestion, TheDeclarationsDefaultIsTheTruth) {
-  // A "no" against the truth is corrected in a box with only OK; to the truth, nothing follows.
+  // A false "no" is corrected in a message box; a true one is not.
   const TraceFolder folder;
   std::set<std::pair<std::string, std::string>> seen;
   for (int second = 0; second < 20; ++second) {

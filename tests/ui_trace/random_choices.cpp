@@ -1,4 +1,4 @@
-// Drawing the choices. Their order is part of every random game that is known by its seed.
+// Draws the choices. The order of the draws must not change: a random game is known by its seed.
 #include "tests/ui_trace/random_choices.h"
 
 #include <utility>
@@ -58,7 +58,7 @@ std::optional<std::string> RandomChoices::Amount() {
   return std::to_string(any_(greatest));
 }
 
-// Órdagos are rare, or no hand would ever be counted.
+// Órdagos are rare, so that most hands reach the count.
 int RandomChoices::Button(int modo) {
   if (modo == static_cast<int>(ModoDialogo::RespuestaOrdago)) return any_(2);
   return Sometimes(5) ? 3 : any_(3);

@@ -1,5 +1,5 @@
 #pragma once
-// A player who does anything that is allowed: the choices, whatever way they reach the game.
+// The choices of a random player, independent of the face.
 #include <array>
 #include <functional>
 #include <optional>
@@ -10,15 +10,16 @@
 
 namespace tasca::test {
 
-// What a random game may try besides good play.
+// Choices that may end in a run-time error.
 enum class Provocation { None, NoPhrases, HugeAmounts };
 
-// What the run-time error says that a provocation may end in; "" for None.
+// A part of the message of that run-time error; "" for None.
 std::u16string_view ErrorOf(Provocation provocation);
 
-// Says a whole number from 0 to n - 1: what the player does depends on nothing else.
+// Returns an integer from 0 to n - 1. The choices depend on nothing else.
 using Chooser = std::function<int(int n)>;
 
+// A choice in the start-up dialog.
 struct StartChoice {
   TimeOfDay Clock;
   std::array<int, 3> Combos{};
@@ -26,7 +27,7 @@ struct StartChoice {
   int Option = 0;
 };
 
-// A key or, when there is one, a report of the media player.
+// A key, or a report of the media player if there is one.
 struct MoveChoice {
   int Key = 0;
   int Shift = 0;
@@ -37,22 +38,22 @@ class RandomChoices {
  public:
   RandomChoices(Chooser any, Provocation provocation);
 
-  // A "mus.ini" with match parameters that make long and short matches.
+  // The content of a "mus.ini" for a long or a short match.
   std::string Settings();
 
   StartChoice Start();
   MoveChoice Move();
-  // The answers: a button that the bidding dialog offers in this mode; what is typed, nothing when
-  // it is cancelled; yes or no.
+  // The answers: a button that the bidding dialog offers in this mode; the typed text, or nothing
+  // for Cancel; yes or no.
   int Button(int modo);
   std::optional<std::string> Typed(std::u16string_view titulo);
   bool SaysYes(std::u16string_view pregunta);
 
-  // Matches that were played to their end.
+  // The number of matches that have ended.
   int MatchesPlayed() const { return matchesPlayed_; }
 
  private:
-  // True `percent` times of a hundred.
+  // True with a probability of `percent`.
   bool Sometimes(int percent) { return any_(100) < percent; }
 
   std::optional<std::string> Amount();

@@ -1,4 +1,4 @@
-// Playing and judging.
+// Plays a random game and checks its end.
 #include "tests/ui_trace/random_game.h"
 
 #include <random>

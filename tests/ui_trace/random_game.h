@@ -1,5 +1,5 @@
 #pragma once
-// One random game, judged.
+// Plays and checks a random game.
 #include <cstdint>
 #include <filesystem>
 #include <set>
@@ -9,17 +9,18 @@
 
 namespace tasca::test {
 
+// The result of a random game.
 struct RandomGame {
   int Status = -1;
   int Hands = 0;
-  int Matches = 0;       // played to their end
-  std::set<int> Seated;  // the characters that have sat at the table
-  std::string In;        // to play it again
+  int Matches = 0;       // matches that ended
+  std::set<int> Seated;  // the characters that were seated
+  std::string In;        // the input lines, for a replay
   std::string Out;
-  std::string Fault;  // "" when all was as it must be
+  std::string Fault;  // the first fault; "" if there is none
 };
 
-// Plays with this character file in a folder of its own. The same seed always plays the same.
+// Plays a game with this character file in a temporary folder. The same seed gives the same game.
 RandomGame PlayRandomGame(const std::filesystem::path& characters, std::uint32_t seed,
                           Length length, Provocation provocation);
 

@@ -1,4 +1,4 @@
-// The choices as lines of a trace.
+// Writes the choices as lines of a trace.
 #include "tests/ui_trace/random_player.h"
 
 #include <string_view>
@@ -39,7 +39,7 @@ std::u16string TextOf(const ordered_json& value) {
   return FromUtf8(value.get_ref<const std::string&>());
 }
 
-// False when a list has another length than the table's.
+// False if the list has a different length.
 template <std::size_t N>
 bool ReadList(const ordered_json& list, std::array<int, N>& numbers) {
   if (!list.is_array() || list.size() != N) return false;
@@ -47,7 +47,7 @@ bool ReadList(const ordered_json& list, std::array<int, N>& numbers) {
   return true;
 }
 
-// Nothing when a list has another length than the table's.
+// Nothing if a list has a wrong length.
 std::optional<Situation> SituationOf(const ordered_json& state) {
   Situation s;
   bool whole = state["Manos"].size() == s.Manos.size();
@@ -102,7 +102,7 @@ void RandomPlayer::Look(const ordered_json& state) {
   const std::string fault = situation ? watch_.Fault() : "a list of another length";
   if (!fault.empty()) fault_ = fault + ": " + state.dump();
   const ordered_json& seats = state["PersonajeAsiento"];
-  seated_.insert(seats.begin() + 1, seats.end());  // the first is the human's
+  seated_.insert(seats.begin() + 1, seats.end());  // without the human's
 }
 
 std::optional<std::string> RandomPlayer::operator()(const TraceEvents& events) {

@@ -1,5 +1,5 @@
 #pragma once
-// A random player in a trace, who looks at every state as it comes by.
+// A random player in a trace, who checks every state.
 #include <limits>
 #include <set>
 #include <string>
@@ -10,28 +10,28 @@
 
 namespace tasca::test {
 
-// When the player leaves the table: after so many hands, or so many matches played to their end.
+// The player leaves after this many hands or matches, whichever comes first.
 struct Length {
   int Hands = std::numeric_limits<int>::max();
   int Matches = std::numeric_limits<int>::max();
 };
 
+// A player for Converse.
 class RandomPlayer {
  public:
   RandomPlayer(Chooser any, Length length, Provocation provocation);
 
-  // A "mus.ini" with match parameters that make long and short matches.
+  // The content of a "mus.ini" for a long or a short match.
   std::string Settings() { return choices_.Settings(); }
 
   std::optional<std::string> operator()(const TraceEvents& events);
 
   int HandsPlayed() const { return watch_.HandsPlayed(); }
   int MatchesPlayed() const { return choices_.MatchesPlayed(); }
-  // The characters that have sat at the table.
+  // The characters that were seated.
   const std::set<int>& Seated() const { return seated_; }
-  // The first thing that was not as it must always be, the end of the game included; "" when all
-  // was. A game that was not provoked must end well; a provoked one may also end in the run-time
-  // error that it asks for.
+  // The first fault of the game, its end included; "" if there is none. A game must end with status
+  // 0; with a provocation it may also end in the corresponding run-time error.
   std::string FaultOf(const Conversation& game) const;
 
  private:
@@ -45,7 +45,7 @@ class RandomPlayer {
   Provocation provocation_;
   Watch watch_;
   std::set<int> seated_;
-  std::string fault_;  // the first one, with the state
+  std::string fault_;  // the first fault, with its state
 };
 
 }  // namespace tasca::test

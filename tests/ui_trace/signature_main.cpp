@@ -1,7 +1,7 @@
-// tasca-signature MATCHES [FILE [FROM]]: one number over everything that so many random matches
-// ask, say and hold. It is the same from every compiler and at every level of optimisation; with
-// FILE it must be the one that is kept there for as many matches. With FROM the first matches are
-// not played: it goes on from the number that is kept for so many.
+// tasca-signature MATCHES [FILE [FROM]]: prints a hash of the traces of this many random matches.
+// It must not depend on the compiler or the level of optimisation. With FILE it is compared with
+// the signature stored there. With FROM the hash continues from the stored signature of FROM
+// matches, which are not played. Exit status: 0, 1 for another signature, 2 for an error.
 #include <charconv>
 #include <cstdint>
 #include <cstring>
@@ -21,7 +21,7 @@ namespace {
 class Hash {
  public:
   Hash() = default;
-  // Goes on from the hash that has this text.
+  // Continues from the hash with this text.
   explicit Hash(const std::string& text) {
     std::from_chars(text.data(), text.data() + text.size(), valor_, 16);
   }
@@ -43,7 +43,7 @@ Provocation ProvocationOf(std::uint32_t seed) {
   return seed % 10 == 0 ? Provocation::HugeAmounts : Provocation::None;
 }
 
-// Of the matches from + 1 to `matches`, added to the hash of those before.
+// Plays the matches from + 1 to `matches` and adds them to the hash.
 std::string SignatureOf(Hash hash, std::uint32_t from, std::uint32_t matches) {
   const std::filesystem::path characters = TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat";
   for (std::uint32_t seed = from + 1; seed <= matches; ++seed) {
@@ -56,7 +56,7 @@ std::string SignatureOf(Hash hash, std::uint32_t from, std::uint32_t matches) {
   return hash.Text();
 }
 
-// The signature in a file of lines "MATCHES SIGNATURE".
+// The stored signature. The file has lines "MATCHES SIGNATURE".
 std::string KeptSignature(const char* path, std::uint32_t matches) {
   std::ifstream lines{path};
   std::uint32_t ofMatches = 0;

@@ -1,4 +1,4 @@
-// Copying from the table.
+// Copies the fields of the table.
 #include "tests/ui_trace/situation.h"
 
 #include <algorithm>

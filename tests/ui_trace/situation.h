@@ -1,6 +1,5 @@
 #pragma once
-// What the invariants look at while the game waits for a key: the table's numbers and scoreboard.
-// A game of the rules alone gives it from its table, a trace from its states.
+// The part of the table that the invariants check. It is read from a table or from a trace's state.
 #include <array>
 #include <cstdint>
 #include <string>
@@ -10,7 +9,7 @@
 
 namespace tasca::test {
 
-// The fields are the table's own. Lists start at 0, whatever the table counts them from.
+// The fields have the names of the table's. All lists start at index 0.
 struct Situation {
   std::array<int, 40> Baraja{};
   int CartaSiguiente = 0;
@@ -27,7 +26,7 @@ struct Situation {
   std::array<int, 2> Vacas{};
   int JuegosVaca = 0;
   int VacasPartida = 0;
-  std::string Text3;  // a character beyond ASCII may stand as anything but ASCII
+  std::string Text3;  // the encoding of non-ASCII characters is not specified
 
   std::uint64_t Draws = 0;
 };

@@ -1,6 +1,6 @@
-// tasca-soak HANDS [CHARACTERS [FIRST-SEED]]: plays random games, with a character file, until so
-// many hands have been played, and tells the seed and the lines of the first game in which
-// something was not as it must be.
+// tasca-soak HANDS [CHARACTERS [FIRST-SEED]]: plays random games with a character file until this
+// many hands have been played. Prints the seed and the input lines of the first game with a fault.
+// Exit status: 0, 1 for a fault, 2 for an error.
 #include <array>
 #include <charconv>
 #include <cstring>
@@ -25,13 +25,13 @@ std::uint32_t Number(const char* text) {
   return number;
 }
 
-// Most games are good play; one in eight each tries one of the ends that a player can cause.
+// One game in eight each has one of the provocations.
 Provocation ProvocationOf(std::uint32_t seed) {
   if (seed % 8 == 6) return Provocation::NoPhrases;
   return seed % 8 == 7 ? Provocation::HugeAmounts : Provocation::None;
 }
 
-// What a run of many games has seen.
+// The totals of all games.
 struct Tally {
   std::array<int, 3> ByStatus{};
   std::uint32_t Hands = 0;
@@ -48,7 +48,7 @@ struct Tally {
 
 constexpr Length Longest{.Hands = 12};
 
-// Plays the game of a seed, one in 49 twice.
+// Plays the game of a seed. One in 49 is played twice and compared.
 RandomGame PlaySeed(const std::filesystem::path& characters, std::uint32_t seed) {
   RandomGame game = PlayRandomGame(characters, seed, Longest, ProvocationOf(seed));
   const bool again = seed % 49 == 0 && game.Fault.empty();
@@ -58,7 +58,8 @@ RandomGame PlaySeed(const std::filesystem::path& characters, std::uint32_t seed)
   return game;
 }
 
-// Draws of two hundred hands a character leave nobody out.
+// Whether every offered character was seated. Requires at least 200 hands per character; with fewer
+// it is true.
 bool EverybodyHasSat(const Tally& tally, const std::filesystem::path& characters) {
   const int offered = RevisarPersonajes(characters).Ofrecidos;
   return tally.Hands / 200 < static_cast<std::uint32_t>(offered) ||

@@ -1,4 +1,4 @@
-// Random games, with what must always hold looked at after every key.
+// Random games, with the invariants checked after every key.
 #include <gtest/gtest.h>
 
 #include "tests/ui_trace/random_game.h"
@@ -9,7 +9,7 @@ namespace {
 const std::filesystem::path Characters =
     std::filesystem::path{TASCA_SOURCE_DIR} / "tests/traces/folder/Jugadores.dat";
 
-TEST(Soak, TwoHundredRandomHandsKeepTheTableInOrder) {
+TEST(Soak, TwoHundredRandomHandsKeepTheInvariants) {
   int hands = 0;
   for (std::uint32_t seed = 1; hands < 200; ++seed) {
     const RandomGame game = PlayRandomGame(Characters, seed, {.Hands = 8}, Provocation::None);
@@ -26,7 +26,7 @@ TEST(Soak, TheSameSeedGivesTheSameBytes) {
   }
 }
 
-TEST(Soak, WithoutPhrasesOfTheirOwnTheFirstToSpeakEndsTheProgram) {
+TEST(Soak, WithoutExpressionsTheFirstComputerSeatEndsTheProgram) {
   for (std::uint32_t seed = 201; seed <= 205; ++seed) {
     const RandomGame game = PlayRandomGame(Characters, seed, {.Hands = 4}, Provocation::NoPhrases);
     EXPECT_EQ(game.Fault, "") << "seed " << seed << "\n" << game.In;

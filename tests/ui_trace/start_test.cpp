@@ -1,4 +1,4 @@
-// The start line: the dialog's fields, its refusals, the clock.
+// The start line: the fields of the dialog, refused choices and the clock.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -26,7 +26,7 @@ TEST(TraceStart, ShufflesAndWritesTheStateOfTheNewWindow) {
 
 TEST(TraceStart, SeatsTheChosenCharacters) {
   const auto state = TraceFolder{}.Play({Start}).Last();
-  // Combo1 is the partner's, seat 3; characters are numbered from the default sets on.
+  // Combo1 is the partner, seat 3. The first offered character has number 3.
   EXPECT_EQ(state["PersonajeAsiento"].dump(), "[0,3,5,4]");
   EXPECT_EQ(state["OrdagueroAsiento"].dump(), "[0,10,90,50]");
   EXPECT_EQ(state["NombreJugador"], "Ana");
@@ -37,14 +37,14 @@ TEST(TraceStart, TrimsTheName) {
   EXPECT_EQ(state.Last()["NombreJugador"], "Ana");
 }
 
-TEST(TraceStart, TakesANameOfAHundredCharacters) {
+TEST(TraceStart, AcceptsANameOfAHundredCharacters) {
   const std::string cien = std::string(96, 'x') + "Ñ€😀";
   const auto state =
       TraceFolder{}.Play({StartWith(R"("name": ")" + cien + R"(", "combos": [1, 2, 3])")}).Last();
   EXPECT_EQ(state["NombreJugador"], cien);
 }
 
-TEST(TraceStart, LeavesALongerNameOfTheSettingsAlone) {
+TEST(TraceStart, KeepsALongerNameFromTheSettings) {
   const TraceFolder folder;
   const std::string largo(150, 'x');
   folder.Files().Write("mus.ini", "7\r\n3\r\n3\r\n" + largo + "> Nombre\r\n");
@@ -64,7 +64,7 @@ TEST(TraceStart, SavesTheName) {
             "7\r\n3\r\n3\r\n\xCD\xF1igo \x80> Nombre del \xFAltimo jugador\r\nAna> Nombre\r\n");
 }
 
-TEST(TraceStart, PlaysWithoutSavingTheNameAndTellsWhy) {
+TEST(TraceStart, PlaysWithoutSavingTheNameAndReportsIt) {
   const TraceFolder folder{7, 3, 3};
   const PlainUser user{folder.Files()};
   std::filesystem::permissions(folder.Files().Path() / "mus.ini", std::filesystem::perms{0444});
@@ -106,7 +106,7 @@ TEST(TraceStart, ReadsTheMatchParameters) {
   EXPECT_EQ(state["VacasPartida"], 1);
 }
 
-// The deck that a clock gives: 20,000 exchanges after one idle draw, seeded by the product.
+// The first deck for this seed: one unused draw, then 20,000 swaps.
 std::vector<int> DeckOf(std::uint32_t seed) {
   std::mt19937 engine{seed};
   const auto position = [&engine] {
@@ -131,7 +131,7 @@ TEST(TraceStart, SeedsFromTheClock) {
   EXPECT_EQ(state["draws"], 40001);
 }
 
-TEST(TraceStart, TakesTheLastSecondOfTheDay) {
+TEST(TraceStart, AcceptsTheLastSecondOfTheDay) {
   const auto state =
       TraceFolder{}.Play({R"({"start": {"clock": [23, 59, 59], "combos": [1, 2, 3]}})"}).Last();
   EXPECT_EQ(state["Baraja"].get<std::vector<int>>(), DeckOf(86400));
@@ -150,7 +150,7 @@ TEST(TraceStart, AsksForAnotherStartAfterARefusal) {
   EXPECT_EQ(run.Events.at(1)["text"],
             "Lo siento, pero el Cojo no tiene hermanos gemelos que puedan ser su pareja. Elija "
             "otro compañero.");
-  // What the later lines leave out stands as the first one set it, the clock too.
+  // Fields missing in the later lines keep the values of the first one, including the clock.
   const auto& state = run.Last();
   EXPECT_EQ(state["NombreJugador"], "Eva");
   EXPECT_EQ(state["EstiloDirecto"], 0);
@@ -184,7 +184,7 @@ TEST(TraceStart, EndsNormallyWhileTheDialogIsOpen) {
   EXPECT_EQ(run.Err, "");
 }
 
-TEST(TraceStart, TellsAMissingCharacterFileAndEndsInAnError) {
+TEST(TraceStart, ReportsAMissingCharacterFileAndEndsInAnError) {
   const TraceFolder folder;
   std::filesystem::remove(folder.Files().Path() / "Jugadores.dat");
   const TraceRun run = folder.Play({Start, Enter});

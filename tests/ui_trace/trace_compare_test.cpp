@@ -1,4 +1,4 @@
-// How a golden game's first difference is told.
+// The description of the first difference between two traces.
 #include <gtest/gtest.h>
 
 #include "tests/traces/compare.h"
@@ -17,26 +17,26 @@ TEST(FirstDifference, NamesTheLineAndTheField) {
             "line 2 (\"state\"), field Fase\n  expected 1\n  got      2");
 }
 
-TEST(FirstDifference, TellsAFieldTooManyAndOneTooFew) {
+TEST(FirstDifference, ReportsAnAdditionalAndAMissingField) {
   EXPECT_EQ(FirstDifference({R"({"a":1})"}, {R"({"a":1,"b":2})"}),
             "line 1 (nothing), field b\n  expected nothing\n  got      2");
   EXPECT_EQ(FirstDifference({R"({"a":1,"b":2})"}, {R"({"a":1})"}),
             "line 1 (nothing), field b\n  expected 2\n  got      nothing");
 }
 
-TEST(FirstDifference, TellsWhichTraceEndsFirst) {
+TEST(FirstDifference, ReportsWhichTraceEndsFirst) {
   EXPECT_EQ(FirstDifference({"{}", "{\"a\":1}"}, {"{}"}),
             "line 2\n  expected {\"a\":1}\n  got      the end");
   EXPECT_EQ(FirstDifference({}, {"{}"}), "line 1\n  expected the end\n  got      {}");
 }
 
-TEST(FirstDifference, SeesTheOrderOfTheFieldsToo) {
+TEST(FirstDifference, ComparesTheOrderOfTheFields) {
   EXPECT_EQ(FirstDifference({R"({"a":1,"b":2})"}, {R"({"b":2,"a":1})"}),
             "line 1 (nothing), in how it is written\n  expected {\"a\":1,\"b\":2}\n"
             "  got      {\"b\":2,\"a\":1}");
 }
 
-TEST(FirstDifference, CopesWithLinesThatAreNoObjects) {
+TEST(FirstDifference, AcceptsLinesThatAreNotObjects) {
   EXPECT_EQ(FirstDifference({"{}"}, {"oops"}), "line 1\n  expected {}\n  got      oops");
 }
 

@@ -1,4 +1,4 @@
-// Running and reading traces.
+// Runs traces and parses their output.
 #include "tests/ui_trace/trace_run.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #pragma once
-// Playing a trace in memory, in a folder of its own.
+// Plays a trace in memory, in a temporary folder.
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -9,22 +9,23 @@
 
 namespace tasca::test {
 
+// The result of a trace.
 struct TraceRun {
   int Status = -1;
   std::string Out;
   std::string Err;
   std::vector<nlohmann::ordered_json> Events;
 
-  // The name of every event in order, a blank between them: "sound state msgbox".
+  // The names of the events, separated by blanks: "sound state msgbox".
   std::string Names() const;
-  // The first event of that name; an empty object and a failed test when there is none.
+  // The first event of that name. If there is none, fails the test and returns an empty object.
   const nlohmann::ordered_json& First(std::string_view name) const;
   const nlohmann::ordered_json& Last() const;
 };
 
-// A folder with a character file: the two default sets, then Berta, el Cojo, Dora and Ramón. Every
-// phrase of theirs is its tag and its slot ("QMus1"), of the defaults "QMusI" and "QMusD"; the
-// raise has an amount in it ("EnvM&1").
+// A folder with a character file: the two default sets, then Berta, el Cojo, Dora and Ramón. A
+// phrase is its tag and its slot ("QMus1"), in the default sets "QMusI" and "QMusD". The phrases
+// for raises contain the amount ("EnvM&1").
 class TraceFolder {
  public:
   TraceFolder();
@@ -33,20 +34,22 @@ class TraceFolder {
 
   const TempFolder& Files() const { return files_; }
 
-  // Plays the lines; the last one has its line end too.
+  // Plays the lines, each with a line end.
   TraceRun Play(const std::vector<std::string>& lines) const;
 
  private:
   TempFolder files_;
 };
 
-// The usual lines. The start is at midnight; Dora is the partner, Berta and el Cojo the opponents.
+// Common lines. The clock of the start is midnight; Dora is the partner, Berta and el Cojo the
+// opponents.
 inline constexpr const char* Start =
     R"({"start": {"clock": [0, 0, 0], "name": "Ana", "combos": [3, 1, 2], "checks": [true, true], "option": 0}})";
 inline constexpr const char* Enter = R"({"key": 13})";
 inline constexpr const char* Yes = R"({"button": "yes"})";
 inline constexpr const char* No = R"({"button": "no"})";
 
+// The answer to the bidding dialog.
 std::string Result(int button);
 
 }  // namespace tasca::test
