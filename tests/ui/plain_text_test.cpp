@@ -1,4 +1,4 @@
-// Nothing from a file or a player can steer the terminal.
+// Text for the terminal without control characters.
 #include "ui/plain_text.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ TEST(PlainText, WritesSpanishAsUtf8) {
   EXPECT_EQ(PlainText(u"¿Órdago, señor?"), "¿Órdago, señor?");
 }
 
-TEST(PlainText, MakesEveryKindOfLineBreakOneLineFeed) {
+TEST(PlainText, ConvertsEveryLineBreakToALineFeed) {
   EXPECT_EQ(PlainText(u"a\r\nb\rc\nd\r\r\ne\n\nf"), "a\nb\nc\nd\n\ne\n\nf");
 }
 
@@ -32,9 +32,9 @@ TEST(PlainText, ReplacesTheFiveUndefinedCodesOfTheTextFiles) {
   EXPECT_EQ(PlainText(u"\u0081\u008D\u008F\u0090\u009D"), "\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 
-TEST(PlainText, ReplacesHalfACharacter) { EXPECT_EQ(PlainText(u"a\xD800z"), "a\uFFFDz"); }
+TEST(PlainText, ReplacesALoneSurrogate) { EXPECT_EQ(PlainText(u"a\xD800z"), "a\uFFFDz"); }
 
-TEST(PlainText, CannotColourOrMoveTheCursor) {
+TEST(PlainText, NeutralisesEscapeSequences) {
   EXPECT_EQ(PlainText(u"\x1B[31mrojo\u009B2J\b"), "\uFFFD[31mrojo\uFFFD2J\uFFFD");
 }
 
@@ -46,7 +46,7 @@ TEST(LeadingBreak, CountsOneBreakOnly) {
   EXPECT_EQ(LeadingBreak(u""), 0U);
 }
 
-TEST(WholeLines, LeavesTheLastUnfinishedLineOut) {
+TEST(WholeLines, DropsAnUnfinishedLastLine) {
   EXPECT_EQ(WholeLines(u"a\r\nb"), u"a\r\n");
   EXPECT_EQ(WholeLines(u"a\rb"), u"a\r");
   EXPECT_EQ(WholeLines(u"a\r\n"), u"a\r\n");
@@ -54,14 +54,14 @@ TEST(WholeLines, LeavesTheLastUnfinishedLineOut) {
   EXPECT_EQ(WholeLines(u""), u"");
 }
 
-TEST(PlainText, LeavesOutThePaddingOfNames) {
+TEST(PlainText, RemovesThePaddingOfNames) {
   EXPECT_EQ(
       PlainText(u"Rey        de oros      , Sota       de copas     \r\nTres       de espadas   "),
       "Rey de oros, Sota de copas\nTres de espadas");
   EXPECT_EQ(PlainText(u"el Cojo          cambia 4 cartas."), "el Cojo cambia 4 cartas.");
 }
 
-TEST(PlainText, TakesThreeBlanksForPadding) {
+TEST(PlainText, TreatsThreeBlanksAsPadding) {
   EXPECT_EQ(PlainText(u"Rey   de oros"), "Rey de oros");
   EXPECT_EQ(PlainText(u"Sabe   .\r\nCalla   \nMira   ,\rVe   "), "Sabe.\nCalla\nMira,\nVe");
   EXPECT_EQ(PlainText(u"   Rey"), " Rey");
@@ -72,7 +72,7 @@ TEST(PlainText, KeepsTheDoubledBlanksOfTheProse) {
             "La pareja 1 se saca  las 3 envidadas a grande ");
 }
 
-TEST(PlainLine, ShowsEveryLineBreakAsTheReplacement) {
+TEST(PlainLine, ReplacesLineBreaks) {
   EXPECT_EQ(PlainLine(u"uno\r\ndos\ntres\rcuatro\x1B"),
             "uno\uFFFD\uFFFDdos\uFFFDtres\uFFFDcuatro\uFFFD");
 }

@@ -1,4 +1,4 @@
-// Between UTF-16 and UTF-8, at the edges of what both can say.
+// The conversion between UTF-16 and UTF-8.
 #include "ui/utf8.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ TEST(Utf8, WritesAndReadsEveryLengthOfCharacter) {
   }
 }
 
-TEST(Utf8, WritesHalfACharacterAsTheReplacement) {
+TEST(Utf8, WritesALoneSurrogateAsTheReplacementCharacter) {
   for (const char16_t half : {u'\xD800', u'\xDBFF', u'\xDC00', u'\xDFFF'}) {
     EXPECT_EQ(ToUtf8(std::u16string{half}), "\uFFFD");
     EXPECT_EQ(ToUtf8(std::u16string{half, u'a'}), "\uFFFDa");
@@ -32,11 +32,11 @@ TEST(Utf8, WritesHalfACharacterAsTheReplacement) {
   EXPECT_EQ(ToUtf8(u"\xD800\xD800\xDC00"), "\uFFFD\U00010000");
 }
 
-TEST(Utf8, ReadsBrokenBytesAsReplacements) {
+TEST(Utf8, ReadsInvalidBytesAsReplacementCharacters) {
   EXPECT_EQ(FromUtf8("a\xC3"), u"a\uFFFD");
   EXPECT_EQ(FromUtf8("\xFFz"), u"\uFFFDz");
   EXPECT_EQ(FromUtf8("\xED\xA0\x80z").back(), u'z');
-  EXPECT_EQ(FromUtf8("\xED\xA0\x80z").front(), u'\uFFFD') << "half a pair is no character";
+  EXPECT_EQ(FromUtf8("\xED\xA0\x80z").front(), u'\uFFFD') << "a surrogate is not a character";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The effects of the game as the loudspeaker gives them: which sound, how often, where, how loud.
+// The sound effects as recorded from the loudspeaker.
 #include <gtest/gtest.h>
 
 #include "cards/deck.h"
@@ -15,7 +15,7 @@ namespace {
 
 using Oidos = std::vector<std::string>;
 
-// A port with a loudspeaker.
+// A port with a media player.
 class SoundingPort : public ScriptedPort {
  public:
   void OpenSound(const Table& t, std::u16string_view archivo) override {
@@ -30,7 +30,7 @@ class Effects : public testing::Test {
  protected:
   Effects() { t_.Carpeta = carpeta_.Path(); }
 
-  // Hears so many sounds to their ends, and that none follows.
+  // Waits for the ends of this many sounds and returns the recording. No further sound may end.
   Oidos Hear(int sonidos) {
     int quedan = sonidos;
     const auto alTerminar = [this, &quedan] {

@@ -1,4 +1,4 @@
-// Decibels on either side.
+// The gains of the two channels.
 #include "ui/loudspeaker/gains.h"
 
 #include <gtest/gtest.h>
@@ -8,13 +8,13 @@
 namespace tasca::test {
 namespace {
 
-// Half a decibel is a factor of 1.06.
+// 0.0005 is far below half a decibel, a factor of 1.06.
 void ExpectGains(const Gains& factores, double izquierda, double derecha) {
   EXPECT_NEAR(factores.Izquierda, izquierda, 0.0005);
   EXPECT_NEAR(factores.Derecha, derecha, 0.0005);
 }
 
-TEST(GainsFor, LeavesTheLoudestSoundInTheMiddleAsItIs) { ExpectGains(GainsFor(0, 0), 1, 1); }
+TEST(GainsFor, IsOneForFullVolumeInTheMiddle) { ExpectGains(GainsFor(0, 0), 1, 1); }
 
 TEST(GainsFor, TakesTheVolumeInHundredthsOfADecibel) {
   ExpectGains(GainsFor(0, -2000), 0.1, 0.1);
@@ -22,13 +22,13 @@ TEST(GainsFor, TakesTheVolumeInHundredthsOfADecibel) {
   ExpectGains(GainsFor(0, -10000), 0.00001, 0.00001);
 }
 
-TEST(GainsFor, WeakensTheSideAwayFromTheBalance) {
+TEST(GainsFor, AttenuatesTheOppositeChannel) {
   ExpectGains(GainsFor(1000, 0), 0.3162, 1);
   ExpectGains(GainsFor(-1000, 0), 1, 0.3162);
   ExpectGains(GainsFor(1, 0), 0.9988, 1);
 }
 
-TEST(GainsFor, SilencesTheOtherSideAtTheEnds) {
+TEST(GainsFor, SilencesTheOppositeChannelAtFullBalance) {
   ExpectGains(GainsFor(10000, -320), 0, 0.6918);
   ExpectGains(GainsFor(-10000, -320), 0.6918, 0);
   EXPECT_EQ(GainsFor(10000, 0).Izquierda, 0);
@@ -42,7 +42,7 @@ TEST(GainsFor, PlacesTheFourSeats) {
   ExpectGains(GainsFor(-300, -500), 0.5623, 0.3981);
 }
 
-TEST(GainsFor, CountsWhatLiesOutsideAsTheNearestEnd) {
+TEST(GainsFor, ClampsVolumeAndBalance) {
   ExpectGains(GainsFor(0, 500), 1, 1);
   ExpectGains(GainsFor(0, -32768), 0.00001, 0.00001);
   ExpectGains(GainsFor(32767, 0), 0, 1);
@@ -55,7 +55,7 @@ TEST(Scale, TakesTheLeftSampleOfEachPairFirst) {
   EXPECT_EQ(muestras, (std::array<std::int16_t, 6>{500, 1000, -16384, 32767, 2, -3}));
 }
 
-TEST(Scale, LeavesHalfAPairAlone) {
+TEST(Scale, IgnoresAnIncompletePair) {
   std::array<std::int16_t, 3> muestras{100, 100, 100};
   Scale(muestras, {.Izquierda = 0, .Derecha = 0});
   EXPECT_EQ(muestras, (std::array<std::int16_t, 3>{0, 0, 100}));

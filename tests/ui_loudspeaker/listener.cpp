@@ -1,4 +1,4 @@
-// Waiting with a limit.
+// Waits with a limit.
 #include "tests/ui_loudspeaker/listener.h"
 
 #include <poll.h>
@@ -54,7 +54,8 @@ bool WaitForRecording(const std::filesystem::path& grabacion,
 
 void WaitForSilence(const std::filesystem::path& grabacion) {
   if (!std::filesystem::exists(grabacion)) return;
-  // More than the device holds back. Once idle for five seconds it is closed and nothing is left.
+  // More than the device's buffer. After five idle seconds the device is closed and the file
+  // complete.
   constexpr std::uintmax_t deSobra = 1 << 16;
   const std::uintmax_t bytes = std::filesystem::file_size(grabacion) + deSobra;
   WaitUntil(std::chrono::seconds{6},

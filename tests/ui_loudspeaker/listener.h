@@ -1,5 +1,5 @@
 #pragma once
-// Waiting for sounds to end, as a face does.
+// Functions that wait for the media player.
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -10,26 +10,26 @@
 
 namespace tasca::test {
 
-// Looks again and again until the condition holds; false when it does not within the limit.
+// Polls the condition every few milliseconds; false if it is not true within the limit.
 bool WaitUntil(std::chrono::seconds limite, const std::function<bool()>& condicion);
 
-// Watches the player for so long, or until `alTerminar`, called at every end, says that it is
-// enough. Gives the number of ends.
+// Handles the player's events until the limit, or until `alTerminar`, called after each end of a
+// sound, returns true. Returns the number of ends.
 int AttendEnds(MediaPlayer& mp1, std::chrono::milliseconds limite,
                const std::function<bool()>& alTerminar);
 
-// One end; false when it does not come within ten seconds.
+// Waits for the end of a sound; false if there is none within ten seconds.
 bool WaitForEnd(MediaPlayer& mp1);
 
-// Something to take, be it an end or not; false when it does not come within half a minute.
+// Waits until the player's descriptor is readable; false if it is not within 30 seconds.
 bool WaitForNews(const MediaPlayer& mp1);
 
-// Whether HasRecorded comes true within half a minute.
+// Waits for HasRecorded; false if it is not true within 30 seconds.
 bool WaitForRecording(const std::filesystem::path& grabacion,
                       const std::vector<std::string>& archivos);
 
-// Waits until silence has been recorded after a sound that has ended, so that nothing of it is
-// still to be written. Without a device there is nothing to wait for.
+// Waits until the whole of a finished sound has been written, with silence after it. Returns at
+// once if there is no recording.
 void WaitForSilence(const std::filesystem::path& grabacion);
 
 }  // namespace tasca::test

@@ -1,4 +1,4 @@
-// How long a sound may take, and how large its file may be.
+// The limits of the loudspeaker: the time of a sound and the size of its file.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -21,7 +21,7 @@ class LoudspeakerLimits : public testing::Test {
     return altavoz_.Play(carpeta_.Path() / archivo, veces, {});
   }
 
-  // Whether it has stopped playing within that time.
+  // Whether it stops playing within the limit.
   bool EndsWithin(seconds limite) {
     const auto fin = std::chrono::steady_clock::now() + limite;
     while (altavoz_.Playing()) {
@@ -31,7 +31,7 @@ class LoudspeakerLimits : public testing::Test {
     return true;
   }
 
-  // The device takes its 1024 samples every so many milliseconds.
+  // Makes the device take 1024 samples at this interval.
   static void Pace(int milisegundos) {
     // NOLINTNEXTLINE(concurrency-mt-unsafe): before any thread is there.
     ASSERT_EQ(::setenv("SDL_DISKAUDIODELAY", std::to_string(milisegundos).c_str(), 1), 0);
@@ -41,8 +41,8 @@ class LoudspeakerLimits : public testing::Test {
   Loudspeaker altavoz_;
 };
 
-// The nine buffers of the sound would take it 27 seconds.
-TEST_F(LoudspeakerLimits, ADeviceThatTakesNoSamplesForLongIsClosed) {
+// At this pace the nine buffers of the sound would take 27 seconds.
+TEST_F(LoudspeakerLimits, AStalledDeviceIsClosed) {
   Pace(3000);
   ASSERT_TRUE(Play("Son_DaUnaCarta.wav"));
   EXPECT_TRUE(EndsWithin(seconds{15}));
@@ -54,8 +54,8 @@ TEST_F(LoudspeakerLimits, ADeviceThatTakesNoSamplesForLongIsClosed) {
             (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-// Its nine or ten buffers take the device well over a second, the sound a fifth of one.
-TEST_F(LoudspeakerLimits, ASlowDeviceHasTimeToPlayItAll) {
+// The nine or ten buffers take over a second, the sound lasts a fifth of one.
+TEST_F(LoudspeakerLimits, ASlowDevicePlaysTheWholeSound) {
   Pace(150);
   ASSERT_TRUE(Play("Son_DaUnaCarta.wav"));
   ASSERT_TRUE(EndsWithin(seconds{30}));
@@ -64,8 +64,8 @@ TEST_F(LoudspeakerLimits, ASlowDeviceHasTimeToPlayItAll) {
             (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-// A hundred cards, longer than one and the delay that a device is granted.
-TEST_F(LoudspeakerLimits, EveryRepetitionHasItsTime) {
+// A hundred cards last longer than one card and the device's delay limit.
+TEST_F(LoudspeakerLimits, TheTimeLimitGrowsWithTheRepetitions) {
   Pace(5);
   const auto comienzo = std::chrono::steady_clock::now();
   ASSERT_TRUE(Play("Son_DaUnaCarta.wav", 100));
@@ -81,7 +81,7 @@ std::string LittleEndian(std::uintmax_t numero) {
   return bytes;
 }
 
-// A card's sound with a part behind it that nobody plays, so many bytes in all.
+// Writes a card's sound with a JUNK chunk after it, so that the file has this size.
 void WriteLongFile(const TempFolder& carpeta, const std::string& nombre, std::uintmax_t bytes) {
   std::string wav = carpeta.Read("Son_DaUnaCarta.wav");
   wav += "JUNK" + LittleEndian(bytes - wav.size() - 8);
@@ -95,7 +95,7 @@ TEST_F(LoudspeakerLimits, AFileOfSixteenMillionBytesIsPlayed) {
   EXPECT_TRUE(Play("mayor.wav"));
 }
 
-TEST_F(LoudspeakerLimits, ALargerFileIsNot) {
+TEST_F(LoudspeakerLimits, ALargerFileIsRefused) {
   WriteLongFile(carpeta_, "enorme.wav", 16'000'002);
   EXPECT_FALSE(Play("enorme.wav"));
   EXPECT_FALSE(fs::exists(carpeta_.Recording())) << "nor is the device opened";

@@ -1,4 +1,4 @@
-// The process that plays: how the game starts it, what it orders, and how it lets it go.
+// The process of tasca-sound: its start, its orders and its end.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -14,7 +14,7 @@
 namespace tasca::test {
 namespace {
 
-// Tells its number, when it is ready, in a file that is there as a whole or not at all.
+// Writes the process id to the file "ready", atomically.
 constexpr const char* Ready = R"(echo $$ >"$here/new" && mv "$here/new" "$here/ready")";
 
 class LoudspeakerProcess : public testing::Test {
@@ -23,7 +23,7 @@ class LoudspeakerProcess : public testing::Test {
     mp1_->Open(carpeta_.Path(), archivo, ajustes);
   }
 
-  // The number of the process that has been started.
+  // Waits for the file "ready" and returns the process id.
   pid_t WaitUntilReady() {
     const auto listo = [this] { return std::filesystem::exists(carpeta_.Path() / "ready"); };
     EXPECT_TRUE(Eventually(listo));
@@ -36,14 +36,14 @@ class LoudspeakerProcess : public testing::Test {
   std::optional<MediaPlayer> mp1_{std::in_place};
 };
 
-// Not even a zombie is left: its number is nobody's.
+// The process has ended and has been reaped.
 void ExpectGone(pid_t proceso) {
   ASSERT_GT(proceso, 0);
   EXPECT_EQ(::kill(proceso, 0), -1);
   EXPECT_EQ(errno, ESRCH);
 }
 
-TEST_F(LoudspeakerProcess, IsGoneOnceTheSoundIsTurnedOff) {
+TEST_F(LoudspeakerProcess, IsReapedWhenTheSoundIsTurnedOff) {
   StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
   Open();
   const pid_t proceso = WaitUntilReady();
@@ -52,7 +52,7 @@ TEST_F(LoudspeakerProcess, IsGoneOnceTheSoundIsTurnedOff) {
   ExpectGone(proceso);
 }
 
-TEST_F(LoudspeakerProcess, IsGoneWithTheMediaPlayer) {
+TEST_F(LoudspeakerProcess, IsReapedWithTheMediaPlayer) {
   StandIn(carpeta_, std::string{Ready} + "\nexec sleep 20");
   Open();
   const pid_t proceso = WaitUntilReady();
@@ -60,7 +60,7 @@ TEST_F(LoudspeakerProcess, IsGoneWithTheMediaPlayer) {
   ExpectGone(proceso);
 }
 
-TEST_F(LoudspeakerProcess, IsGoneOnceItHasEndedByItself) {
+TEST_F(LoudspeakerProcess, IsReapedAfterItHasExited) {
   StandIn(carpeta_, std::string{Ready} + "\nexit 1");
   Open();
   const pid_t proceso = WaitUntilReady();
@@ -68,8 +68,8 @@ TEST_F(LoudspeakerProcess, IsGoneOnceItHasEndedByItself) {
   ExpectGone(proceso);
 }
 
-// Waiting for it would take until it has written its last file.
-TEST_F(LoudspeakerProcess, GoesAtOnceEvenIfItIgnoresRequestsToEnd) {
+// A process that is waited for, not killed, would write the file "lived on".
+TEST_F(LoudspeakerProcess, IsKilledEvenIfItIgnoresSignals) {
   StandIn(carpeta_,
           std::string{"trap '' TERM INT HUP\n"} + Ready + "\nsleep 5\n: >\"$here/lived on\"");
   Open();
@@ -79,7 +79,7 @@ TEST_F(LoudspeakerProcess, GoesAtOnceEvenIfItIgnoresRequestsToEnd) {
   EXPECT_FALSE(std::filesystem::exists(Path("lived on")));
 }
 
-TEST_F(LoudspeakerProcess, WritesNothingToThePlayersTerminal) {
+TEST_F(LoudspeakerProcess, HasNoAccessToTheTerminal) {
   StandIn(carpeta_, std::string{R"(outputs=$(readlink /proc/$$/fd/1 /proc/$$/fd/2))"} +
                         R"(; echo "$outputs" >"$here/outputs"; )" + Ready);
   Open();
@@ -87,7 +87,7 @@ TEST_F(LoudspeakerProcess, WritesNothingToThePlayersTerminal) {
   EXPECT_EQ(carpeta_.Read("outputs"), "/dev/null\n/dev/null\n");
 }
 
-TEST_F(LoudspeakerProcess, InheritsNoneOfTheGamesFiles) {
+TEST_F(LoudspeakerProcess, InheritsNoDescriptorsOfTheGame) {
   const int abierto = ::creat(Path("a file").c_str(), 0600);
   ASSERT_GE(abierto, 0);
   StandIn(carpeta_, std::string{R"(ls -l /proc/$$/fd >"$here/files"; )"} + Ready);
@@ -110,8 +110,8 @@ TEST_F(LoudspeakerProcess, IsOrderedToPlayAndToStop) {
   EXPECT_EQ(OrdersNoted(carpeta_), ordenes);
 }
 
-// The second sound is opened before anybody has noticed that the program is gone.
-TEST_F(LoudspeakerProcess, IsStartedAnewWhenItHasEndedUnnoticed) {
+// The second sound is opened before the end of the process has been handled.
+TEST_F(LoudspeakerProcess, IsRestartedIfItHasEndedUnnoticed) {
   StandIn(carpeta_, "exit 1");
   Open();
   ASSERT_TRUE(WaitForNews(*mp1_));
@@ -121,7 +121,7 @@ TEST_F(LoudspeakerProcess, IsStartedAnewWhenItHasEndedUnnoticed) {
   EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_) == orden; })) << OrdersNoted(carpeta_);
 }
 
-TEST_F(LoudspeakerProcess, MayNotEndASoundBySayingThatItWasIdleBefore) {
+TEST_F(LoudspeakerProcess, EndsASoundOnceDespiteAnEarlierIdleReport) {
   StandIn(carpeta_, "printf idle >&0\nprintf 1 >&0\nexec cat");
   Open();
   EXPECT_TRUE(WaitForEnd(*mp1_));
@@ -135,7 +135,7 @@ TEST_F(LoudspeakerProcess, EndsNoSoundWithAnotherNumber) {
   EXPECT_EQ(AttendEnds(*mp1_, std::chrono::milliseconds{100}, [] { return true; }), 0);
 }
 
-TEST_F(LoudspeakerProcess, IsLetGoOnceItSaysThatItIsIdle) {
+TEST_F(LoudspeakerProcess, IsEndedOnceItReportsThatItIsIdle) {
   StandIn(carpeta_, std::string{Ready} + "\nprintf 1 >&0; printf idle >&0\nexec cat");
   Open();
   const pid_t proceso = WaitUntilReady();
@@ -150,7 +150,7 @@ std::size_t OpenFiles() {
       std::distance(fs::directory_iterator{"/proc/self/fd"}, fs::directory_iterator{}));
 }
 
-TEST_F(LoudspeakerProcess, LeavesNoFileOfTheGamesOpen) {
+TEST_F(LoudspeakerProcess, LeaksNoDescriptors) {
   mp1_.reset();
   const std::size_t antes = OpenFiles();
   StandInThatNotes(carpeta_);

@@ -1,4 +1,4 @@
-// The loudspeaker by itself, in this process.
+// The loudspeaker in this process.
 #include "ui/loudspeaker/loudspeaker.h"
 
 #include <gtest/gtest.h>
@@ -47,14 +47,13 @@ TEST_F(LoudspeakerInAFile, RepeatsASound) {
   EXPECT_EQ(Recorded(), Oidos(4, "Son_DaUnaCarta.wav 0.0 0.0"));
 }
 
-TEST_F(LoudspeakerInAFile, MakesASoundSofterOnEitherSide) {
+TEST_F(LoudspeakerInAFile, AppliesTheGainOfEachChannel) {
   EXPECT_TRUE(Play("Son_DaUnaCarta.wav", 1, {.Izquierda = 0.3162, .Derecha = 0.1}));
   WaitForTheEnd();
   EXPECT_EQ(Recorded(), (Oidos{"Son_DaUnaCarta.wav -10.0 -20.0"}));
 }
 
-// A file of the same sample over and over: wherever it is cut off, what follows can be told from
-// it.
+// A WAV file of one repeated sample. Wherever it is interrupted, the next sound can be found.
 std::string Tone(const std::string& otroWav) {
   using namespace std::string_literals;
   constexpr std::size_t bytes = 0x10000;
@@ -85,7 +84,7 @@ TEST_F(LoudspeakerInAFile, ReplacesWhatIsPlaying) {
   EXPECT_EQ(Recorded(), (Oidos{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-TEST_F(LoudspeakerInAFile, PlaysNothingNoTimes) {
+TEST_F(LoudspeakerInAFile, PlaysNothingForZeroRepetitions) {
   EXPECT_FALSE(Play("Son_DaUnaCarta.wav", 0));
   EXPECT_FALSE(Play("Son_DaUnaCarta.wav", -1));
   EXPECT_FALSE(altavoz_.Playing());
@@ -98,7 +97,7 @@ TEST_F(LoudspeakerInAFile, StopsWhenNothingIsToBePlayed) {
   EXPECT_FALSE(altavoz_.Playing());
 }
 
-TEST_F(LoudspeakerInAFile, DoesNotOpenTheDeviceForWhatIsNoFile) {
+TEST_F(LoudspeakerInAFile, OpensNoDeviceForAMissingFileOrAFolder) {
   carpeta_.Write("vacio.wav", "");
   std::filesystem::create_directory(carpeta_.Path() / "carpeta.wav");
   ASSERT_EQ(::mkfifo((carpeta_.Path() / "tubo.mp3").c_str(), 0600), 0);
@@ -127,7 +126,7 @@ TEST_F(LoudspeakerInAFile, IsSilentForDamagedFilesAndPlaysTheNext) {
   EXPECT_EQ(Recorded(), (Oidos{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-TEST_F(LoudspeakerInAFile, PlaysWhatIsLeftOfAFileThatWasCutOff) {
+TEST_F(LoudspeakerInAFile, PlaysAtMostTheRestOfATruncatedFile) {
   const std::string entero = carpeta_.Read("Son_aplauso.wav");
   carpeta_.Write("Son_aplauso.wav", entero.substr(0, entero.size() / 2));
   Play("Son_aplauso.wav");
@@ -159,7 +158,7 @@ TEST_F(LoudspeakerInAFile, IsSilentWithoutADeviceAndTriesAgain) {
   EXPECT_TRUE(Play("Son_DaUnaCarta.wav"));
 }
 
-TEST_F(LoudspeakerInAFile, LeavesTheSignalsThatEndAProgramAlone) {
+TEST_F(LoudspeakerInAFile, LeavesSigtermAndSigintAlone) {
   EXPECT_TRUE(Play("Son_DaUnaCarta.wav"));
   for (const int senal : {SIGTERM, SIGINT}) {
     struct sigaction accion {};

@@ -1,4 +1,4 @@
-// The media player as a face holds it, with tasca-sound behind it.
+// The media player with tasca-sound.
 #include "ui/loudspeaker/media_player.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ class Mp1 : public testing::Test {
     mp1_.Open(carpeta_.Path(), archivo, ajustes);
   }
 
-  // The number of ends that come in this time.
+  // The number of ends within this time.
   int Ends(milliseconds espera) {
     return AttendEnds(mp1_, espera, [] { return false; });
   }
@@ -28,7 +28,7 @@ class Mp1 : public testing::Test {
     return Described(Listen(carpeta_.Recording()));
   }
 
-  // tasca-sound is replaced by another program.
+  // Replaces tasca-sound by a shell script.
   void ReplaceProgram(const std::string& guion) {
     std::filesystem::remove(carpeta_.Path() / "tasca-sound");
     carpeta_.Write("tasca-sound", "#!/bin/sh\n" + guion + "\n");
@@ -47,14 +47,14 @@ TEST_F(Mp1, PlaysWithCountBalanceAndVolumeAndReportsOneEnd) {
   EXPECT_EQ(Recorded(), Oidos(3, "Son_DaUnaCarta.wav -8.0 -5.0"));
 }
 
-TEST_F(Mp1, ReportsTheEndOfNoTimesThroughTheEvents) {
+TEST_F(Mp1, ReportsTheEndOfZeroRepetitions) {
   Open(u"Son_DaUnaCarta.wav", {.Veces = 0});
   EXPECT_TRUE(WaitForEnd(mp1_));
   EXPECT_EQ(Ends(milliseconds{100}), 0);
   EXPECT_FALSE(std::filesystem::exists(carpeta_.Recording()));
 }
 
-TEST_F(Mp1, NeverTakesTheEndOfAReplacedSoundForTheNewOnes) {
+TEST_F(Mp1, DoesNotReportTheEndOfAReplacedSound) {
   Open(u"Son_DaUnaCarta.wav", {.Veces = 0});
   Open(u"Son_DaUnaCarta.wav", {.Veces = 0});
   EXPECT_TRUE(WaitForNews(mp1_));
@@ -79,7 +79,7 @@ TEST_F(Mp1, StopsBeforeAnythingWasPlayed) {
   EXPECT_FALSE(mp1_.TakeEnd());
 }
 
-TEST_F(Mp1, ReportsTheEndOfWhatCannotBePlayed) {
+TEST_F(Mp1, ReportsTheEndOfAnUnplayableFile) {
   carpeta_.Write("vacio.mp3", "");
   carpeta_.Write("texto.wav", "Esto no es un sonido.");
   for (const std::u16string_view archivo : {u"falta.wav", u"vacio.mp3", u"texto.wav"}) {
@@ -133,7 +133,7 @@ TEST_F(Mp1, PlaysAgainAfterTheProgramFailed) {
   EXPECT_EQ(Described(Listen(otra.Recording())), (Oidos{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-TEST_F(Mp1, EndsWhatPlaysWhenItIsTurnedOff) {
+TEST_F(Mp1, EndsTheSoundWhenItIsTurnedOff) {
   Open(u"Son_aplauso.wav", {.Veces = 1000});
   mp1_.TurnOn(false);
   EXPECT_FALSE(mp1_.IsOn());
@@ -161,12 +161,12 @@ TEST_F(Mp1, PlaysTheNextSoundAfterItIsTurnedOn) {
   EXPECT_EQ(Recorded(), (Oidos{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
 
-TEST_F(Mp1, TurnsOffAndOnWithNothingToEnd) {
+TEST_F(Mp1, TurnsOffAndOnWithoutASound) {
   for (const bool encendido : {true, false, false, true, true}) mp1_.TurnOn(encendido);
   EXPECT_EQ(Ends(milliseconds{50}), 0);
 }
 
-TEST_F(Mp1, LetsTheProgramGoWhenItHasBeenQuietAndStartsItAgain) {
+TEST_F(Mp1, EndsTheIdleProgramAndStartsItAgain) {
   Open(u"Son_DaUnaCarta.wav");
   EXPECT_TRUE(WaitForEnd(mp1_));
   EXPECT_TRUE(WaitForNews(mp1_));

@@ -1,4 +1,4 @@
-// What the game says to tasca-sound.
+// The protocol between the game and tasca-sound.
 #include "ui/loudspeaker/order.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ TEST(SoundOrder, IsALineOfNumbersAndAFile) {
             "12 3 -300 -500 /la tasca/Son.wav");
 }
 
-TEST(SoundOrder, IsReadAsItWasWritten) {
+TEST(SoundOrder, IsReadBack) {
   const auto orden = FromPacket("70000 4 300 -10000  raro \n nombre");
   ASSERT_TRUE(orden);
   EXPECT_EQ(orden->Numero, 70000);
@@ -25,7 +25,7 @@ TEST(SoundOrder, IsReadAsItWasWritten) {
   EXPECT_TRUE(parar->Archivo.empty());
 }
 
-TEST(SoundOrder, IsNothingElse) {
+TEST(SoundOrder, RejectsInvalidPackets) {
   for (const char* const paquete : {"", " ", "1", "1 2 3 4", "1 2 3 x ", "a 2 3 4 f", "1  2 3 4 f",
                                     "1 2 3 40000 f", "99999999999 1 0 0 f"}) {
     EXPECT_FALSE(FromPacket(paquete)) << paquete;

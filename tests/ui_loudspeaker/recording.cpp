@@ -1,4 +1,4 @@
-// Decoding, recording and recognising.
+// Decodes, records and recognises the sounds.
 #include "tests/ui_loudspeaker/recording.h"
 
 #include <SDL.h>
@@ -52,13 +52,12 @@ double Product(Samples uno, Samples otro) {
   return std::inner_product(uno.begin(), uno.end(), otro.begin(), 0.0);
 }
 
-// The factor between a sound and a stretch of the same length, if the one is the other made louder
-// or softer.
+// The gain between a sound and a stretch of the same length; nothing if they differ otherwise.
 std::optional<double> FactorBetween(Samples sonido, Samples tramo) {
   const double factor = Product(sonido, tramo) / Product(sonido, sonido);
   const double energia = Product(tramo, tramo);
   const double resto = energia - factor * factor * Product(sonido, sonido);
-  constexpr double redondeo = 0.34;  // the mean square error that rounding a sample can leave
+  constexpr double redondeo = 0.34;  // the mean square rounding error of a sample
   const double permitido = 1e-3 * energia + redondeo * static_cast<double>(tramo.size());
   if (energia == 0 || resto > permitido) return std::nullopt;
   return factor;
@@ -70,7 +69,7 @@ std::size_t FirstSound(Samples muestras) {
       muestras.begin());
 }
 
-// As long as `factor` times the sound is what was recorded.
+// The number of samples for which the recording is `factor` times the sound.
 std::size_t HeardLength(Samples sonido, Samples tramo, double factor) {
   std::size_t largo = 0;
   while (largo < std::min(sonido.size(), tramo.size()) &&
@@ -80,7 +79,7 @@ std::size_t HeardLength(Samples sonido, Samples tramo, double factor) {
   return largo;
 }
 
-// Chooses SDL's driver while it lives.
+// Selects SDL's audio driver during its lifetime.
 class Driver {
  public:
   explicit Driver(const char* nombre) {
@@ -99,7 +98,7 @@ class Driver {
   std::string antes_;
 };
 
-// To the tenth, and without a sign before zero.
+// The gain in dB, rounded to 0.1. Adding 0.0 avoids -0.
 double Decibels(double factor) { return std::round(200 * std::log10(factor)) / 10 + 0.0; }
 
 struct Found {
@@ -107,8 +106,8 @@ struct Found {
   std::size_t Desde = 0;
 };
 
-// A silent side tells nothing about its neighbour: both are the factor of a stretch of the loudest
-// part that the beginning of a sound has.
+// Compares the first tenth of a second of each channel with the sound, as each channel has its own
+// gain.
 std::optional<Found> FindAt(const Sides& lados, std::size_t desde, const std::string& archivo,
                             Samples sonido) {
   const std::size_t prueba = std::min<std::size_t>(sonido.size(), 4410);
@@ -158,7 +157,8 @@ bool IsWhole(const Heard& oido) {
   return std::abs(oido.Segundos - WholeSeconds(oido.Archivo)) <= 0.001;
 }
 
-// The sound whose first audible sample is at `primera` or, made softer, a little before.
+// The sound whose first audible sample is at `primera`. A softer sound starts a little earlier: its
+// first samples are rounded to 0.
 std::optional<Found> FindAround(const Sides& lados, std::size_t primera) {
   constexpr std::size_t masSuave = 400;
   for (const Sound& sonido : AllSounds()) {
@@ -172,12 +172,12 @@ std::optional<Found> FindAround(const Sides& lados, std::size_t primera) {
   return std::nullopt;
 }
 
-// The sounds of a recording up to its end, or up to something else.
+// The sounds of a recording, up to its end or to the first unknown sound.
 struct Scanned {
   std::vector<Heard> Oidos;
   bool HayOtraCosa = false;
-  double SegundosHasta = 0;       // where the last sound or the other thing is
-  double SegundosDeSilencio = 0;  // at the end
+  double SegundosHasta = 0;       // the position of the end or of the unknown sound
+  double SegundosDeSilencio = 0;  // before that position
 };
 
 Scanned Scan(const fs::path& grabacion) {
@@ -251,7 +251,7 @@ std::vector<std::string> Described(const std::vector<Heard>& oidos) {
 }
 
 SoundFolder::SoundFolder() {
-  AllSounds();  // Decoding changes the environment for a moment: not while a sound plays.
+  AllSounds();  // Decoding changes the environment and must not happen while a sound plays.
   for (const char* const archivo : Archivos) {
     fs::copy_file(fs::path{TASCA_SOURCE_DIR} / "data" / archivo, Path() / archivo);
   }

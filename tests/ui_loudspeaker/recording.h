@@ -1,5 +1,5 @@
 #pragma once
-// What the loudspeaker was given to play, and the game's sounds found in it again.
+// Finds the game's sounds in a recording of the loudspeaker.
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -9,33 +9,33 @@
 
 namespace tasca::test {
 
-// Samples of one side in a second.
+// The sample rate in Hz.
 inline constexpr double Frecuencia = 44100;
 
-// A file of data/ as the loudspeaker would play it at full volume: one side's samples.
+// Decodes a file of data/ at full volume and returns the samples of one channel. Fails the test if
+// the channels differ.
 std::vector<double> Decoded(const std::filesystem::path& archivo);
 
 // A sound found in a recording.
 struct Heard {
   std::string Archivo;
-  double Segundos = 0;   // how much of it, from its beginning
-  double Izquierda = 0;  // decibels against the file
+  double Segundos = 0;   // the length that was played
+  double Izquierda = 0;  // the gain in dB, relative to the file
   double Derecha = 0;
 };
 
-// Everything heard, in order. What is none of the four sounds fails the test.
+// The sounds of a recording, in order. Anything other than the game's four sounds fails the test.
 std::vector<Heard> Listen(const std::filesystem::path& grabacion);
 
-// Whether these sounds and no other have been recorded so far, each to its end, and a second of
-// silence after them.
+// Whether the recording consists of exactly these sounds, each complete, and a second of silence.
 bool HasRecorded(const std::filesystem::path& grabacion, const std::vector<std::string>& archivos);
 
-// "Son_DaUnaCarta.wav -5.0 -5.0", one entry a sound: decibels of the left and the right side to the
-// tenth. Fails when a sound was cut short.
+// Each sound as "Son_DaUnaCarta.wav -5.0 -5.0": the gains of the left and the right channel in dB.
+// Fails the test if a sound is incomplete.
 std::vector<std::string> Described(const std::vector<Heard>& oidos);
 
-// A folder with the game's sounds and tasca-sound, whose loudspeaker is the file "grabacion". It is
-// for the one test that is running: the driver is chosen by the environment.
+// A folder with the game's sounds and tasca-sound. Sets SDL's environment variables so that the
+// sound is written to the file "grabacion" in it; the last SoundFolder created is the one in use.
 class SoundFolder : public TempFolder {
  public:
   SoundFolder();
@@ -43,7 +43,7 @@ class SoundFolder : public TempFolder {
   std::filesystem::path Recording() const { return Path() / "grabacion"; }
 };
 
-// From now on there is no device of any kind.
+// Selects an SDL driver that does not exist, so that opening a device fails.
 void TakeLoudspeakerAway();
 
 }  // namespace tasca::test

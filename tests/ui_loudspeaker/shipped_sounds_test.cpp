@@ -1,4 +1,4 @@
-// The four sounds of data/: length, loudness, format, and that the project's program makes them.
+// The four sounds of data/: their length, loudness and format, and their synthesis.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,9 +7,9 @@
 #include <ostream>
 #include <string_view>
 
+#include "tests/ui_loudspeaker/recording.h"
 #include "tools/synth/applause.h"
 #include "tools/synth/cards.h"
-#include "tests/ui_loudspeaker/recording.h"
 
 namespace tasca::test {
 namespace {
@@ -41,9 +41,10 @@ double Loudest(const std::vector<double>& muestras, std::size_t desde, std::size
   return mayor;
 }
 
-// Decibels below the highest sample there can be.
+// The level of a sample in dBFS.
 double Level(double muestra) { return 20 * std::log10(muestra / 32768); }
 
+// The RMS level of the loudest tenth of a second, in dBFS.
 double LevelOfTheLoudestTenth(const std::vector<double>& muestras) {
   constexpr std::size_t ancho = 4410;
   double suma = 0;
@@ -56,13 +57,13 @@ double LevelOfTheLoudestTenth(const std::vector<double>& muestras) {
   return Level(std::sqrt(mayor / ancho));
 }
 
-TEST_P(ShippedSound, LastsAsLongAsWhatItTells) {
+TEST_P(ShippedSound, HasItsLength) {
   const double segundos = static_cast<double>(Decoded(Archivo()).size()) / Frecuencia;
   EXPECT_GE(segundos, GetParam().DesdeSegundos);
   EXPECT_LE(segundos, GetParam().HastaSegundos);
 }
 
-TEST_P(ShippedSound, HasRoomAboveItsPeak) {
+TEST_P(ShippedSound, HasItsPeakBetweenMinus6AndMinus1Dbfs) {
   const std::vector<double> muestras = Decoded(Archivo());
   const double pico = Level(Loudest(muestras, 0, muestras.size()));
   EXPECT_LE(pico, -1);
@@ -98,14 +99,14 @@ void ExpectFramesOf44100(std::string_view mp3) {
   EXPECT_EQ(bits(3, 0xC0), 0xC0U) << "one side";
 }
 
-TEST_P(ShippedSound, Has44100SamplesASecondOfOneSide) {
+TEST_P(ShippedSound, IsMonoAt44100Hz) {
   const std::string bytes = Bytes();
   ASSERT_GT(bytes.size(), 44U);
   bytes.starts_with("RIFF") ? ExpectOneSideOf44100(bytes) : ExpectFramesOf44100(bytes);
 }
 
-// Sample by sample, but for what MP3 leaves out.
-TEST_P(ShippedSound, IsTheWorkOfTheProjectsProgram) {
+// Compares sample by sample, with a tolerance for MP3.
+TEST_P(ShippedSound, IsTheOutputOfTheSynthesizer) {
   const std::vector<double> muestras = Decoded(Archivo());
   const synth::Clip hecho = GetParam().Hacer();
   ASSERT_EQ(muestras.size(), hecho.size());
@@ -125,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(All, ShippedSound,
                                          Shipped{"Son_DaUnaCarta.wav", 0.15, 0.3, synth::OneCard},
                                          Shipped{"Son_aplauso.wav", 3, 4, synth::Applause}));
 
-TEST(ShippedSounds, TakeLittleRoom) {
+TEST(ShippedSounds, TakeAtMost600KiB) {
   std::uintmax_t bytes = 0;
   for (const auto& archivo : fs::directory_iterator{fs::path{TASCA_SOURCE_DIR} / "data"}) {
     if (archivo.path().filename().string().starts_with("Son_")) bytes += archivo.file_size();

@@ -1,4 +1,4 @@
-// The program tasca-sound by itself, at the other end of its connection.
+// The program tasca-sound, tested through its socket.
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <spawn.h>
@@ -32,7 +32,7 @@ class SoundProgram : public testing::Test {
     ::unsetenv("LD_PRELOAD");  // NOLINT(concurrency-mt-unsafe)
   }
 
-  // Its alarm goes off after a tenth of a second.
+  // Makes its alarm go off after a tenth of a second.
   static void HurryTheAlarm() {
     ASSERT_EQ(::setenv("LD_PRELOAD", TASCA_QUICK_ALARM, 1), 0);  // NOLINT(concurrency-mt-unsafe)
   }
@@ -61,7 +61,7 @@ class SoundProgram : public testing::Test {
     Order(numeros + " " + (carpeta_.Path() / "Son_DaUnaCarta.wav").string());
   }
 
-  // What it says next.
+  // Its next packet, or Nada after the limit, or Cerrada at the end of the connection.
   std::string Hear(int milisegundos = MedioMinuto) const {
     pollfd suceso{.fd = conexion_, .events = POLLIN, .revents = 0};
     if (::poll(&suceso, 1, milisegundos) != 1) return Nada;
@@ -75,7 +75,7 @@ class SoundProgram : public testing::Test {
     conexion_ = -1;
   }
 
-  // Its status as waitpid tells it, once it has ended.
+  // Waits until it has ended and returns its status from waitpid.
   int WaitForItsEnd() {
     int estado = -1;
     EXPECT_EQ(::waitpid(proceso_, &estado, 0), proceso_);
@@ -88,7 +88,7 @@ class SoundProgram : public testing::Test {
     namespace fs = std::filesystem;
     const fs::path archivos = fs::path{"/proc"} / std::to_string(proceso_) / "fd";
     for (const auto& enlace : fs::directory_iterator{archivos}) {
-      std::error_code error;  // one that has been closed meanwhile
+      std::error_code error;  // a descriptor may have been closed meanwhile
       if (fs::read_symlink(enlace, error) == carpeta_.Recording()) return true;
     }
     return false;
@@ -101,7 +101,7 @@ class SoundProgram : public testing::Test {
   pid_t proceso_ = 0;
 };
 
-// To open a named pipe that nobody reads takes for ever.
+// Opening a FIFO without a reader blocks for ever.
 TEST_F(SoundProgram, EndsWhenTheSoundSystemHangs) {
   HurryTheAlarm();
   ASSERT_EQ(::mkfifo(carpeta_.Recording().c_str(), 0600), 0);
@@ -112,7 +112,7 @@ TEST_F(SoundProgram, EndsWhenTheSoundSystemHangs) {
   EXPECT_TRUE(WIFSIGNALED(estado) && WTERMSIG(estado) == SIGALRM) << estado;
 }
 
-TEST_F(SoundProgram, IsPatientWhileNothingHangs) {
+TEST_F(SoundProgram, OutlivesItsAlarmWhileNothingHangs) {
   HurryTheAlarm();
   Start();
   Order("no order at all");
@@ -140,7 +140,7 @@ TEST_F(SoundProgram, AnswersForTheLastOfTwoOrders) {
   EXPECT_EQ(Hear(100), Nada);
 }
 
-TEST_F(SoundProgram, RestsOnceWhenItHasBeenQuietForAWhile) {
+TEST_F(SoundProgram, ClosesTheDeviceAndReportsItOnceWhenIdle) {
   Start();
   OrderCard("3 1 0 0");
   EXPECT_EQ(Hear(), "3");
@@ -153,7 +153,7 @@ TEST_F(SoundProgram, RestsOnceWhenItHasBeenQuietForAWhile) {
   EXPECT_EQ(Hear(), "4");
 }
 
-TEST_F(SoundProgram, TakesTheLongestPathThereCanBe) {
+TEST_F(SoundProgram, AcceptsAPathOfMaximumLength) {
   Start();
   constexpr std::size_t Maximo = 4095;
   std::string ruta = carpeta_.Path().string() + "/";

@@ -1,4 +1,4 @@
-// Scripts as programs.
+// Writes the replacement programs.
 #include "tests/ui_loudspeaker/stand_in.h"
 
 #include <chrono>

@@ -1,5 +1,5 @@
 #pragma once
-// Programs in the place of tasca-sound, and waiting for what they do.
+// Replacements for tasca-sound.
 #include <functional>
 #include <string>
 
@@ -7,15 +7,15 @@
 
 namespace tasca::test {
 
-// Puts a shell script in the place of tasca-sound. It may call its folder "$here".
+// Writes a shell script as tasca-sound into the folder. "$here" is the script's folder.
 void StandIn(const TempFolder& carpeta, const std::string& guion);
 
-// Puts a program there that plays nothing and never answers, and notes what it is ordered.
+// Writes a tasca-sound that plays nothing, never answers and records its orders.
 void StandInThatNotes(const TempFolder& carpeta);
-// The orders noted so far, one after the other.
+// The recorded orders, concatenated.
 std::string OrdersNoted(const TempFolder& carpeta);
 
-// Waits for it; false when it has not come true within half a minute.
+// Waits for the condition; false if it is not true within 30 seconds.
 bool Eventually(const std::function<bool()>& condicion);
 
 }  // namespace tasca::test

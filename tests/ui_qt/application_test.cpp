@@ -1,4 +1,4 @@
-// How the programs with windows end.
+// The ends of the programs with windows.
 #include "ui/qt/application.h"
 
 #include <gtest/gtest.h>
@@ -17,14 +17,14 @@ TEST(EndingOf, IsNoneForAStepThatGoesWell) {
   EXPECT_TRUE(hecho);
 }
 
-TEST(EndingOf, IsAQuietSuccessWhenThePlayerLeaves) {
+TEST(EndingOf, IsSuccessWithoutAMessageWhenThePlayerLeaves) {
   const std::optional<Ending> fin = EndingOf([] { throw LeaveProgram{}; });
   ASSERT_TRUE(fin);
   EXPECT_EQ(fin->Estado, 0);
   EXPECT_EQ(Utf8(fin->Mensaje), "");
 }
 
-TEST(EndingOf, TellsARunTimeErrorOnce) {
+TEST(EndingOf, ReportsARunTimeErrorOnce) {
   const std::optional<Ending> fin = EndingOf([] { throw RunTimeError{u"Mal."}; });
   ASSERT_TRUE(fin);
   EXPECT_EQ(fin->Estado, 1);
@@ -35,7 +35,7 @@ TEST(EndingOf, TellsARunTimeErrorOnce) {
   EXPECT_EQ(Utf8(visto->Mensaje), "");
 }
 
-TEST(EndingOf, TellsAnyOtherErrorToo) {
+TEST(EndingOf, ReportsAnyOtherErrorToo) {
   const std::optional<Ending> fin = EndingOf([] { throw std::length_error{"x"}; });
   ASSERT_TRUE(fin);
   EXPECT_EQ(fin->Estado, 1);

@@ -17,7 +17,7 @@
 namespace tasca::test {
 namespace {
 
-// A box in one line: "title|text|icon|buttons".
+// A box as "title|text|icon|buttons".
 std::string Describe(const QWidget* ventana) {
   std::string linea = Utf8(ventana->windowTitle()) + "|";
   if (const auto* const caja = qobject_cast<const QMessageBox*>(ventana)) {
@@ -35,7 +35,7 @@ std::string Describe(const QWidget* ventana) {
   return linea;
 }
 
-// Describes a box in `vista` and answers it with a key.
+// Stores the description of a box in `vista` and answers it with a key.
 BoxAnswerer LookAndPress(std::string& vista, Qt::Key tecla) {
   return BoxAnswerer{[&vista, tecla](QWidget* caja) {
     vista = Describe(caja);
@@ -43,7 +43,8 @@ BoxAnswerer LookAndPress(std::string& vista, Qt::Key tecla) {
   }};
 }
 
-// Asks a Yes/No question and presses these keys, one at a time, while it waits.
+// Asks a Yes/No question and presses these keys, one at a time. Fails the test if the box closes
+// before the last one.
 std::optional<bool> AskAndPress(const YesNoQuestion& pregunta, const std::vector<Qt::Key>& teclas) {
   std::size_t pulsadas = 0;
   const BoxAnswerer jugador{[&](QWidget* caja) {
@@ -75,7 +76,7 @@ TEST(AskYesNo, HasTheButtonsSiAndNo) {
   EXPECT_EQ(vista, "¿mus?||?|&Sí &No ");
 }
 
-TEST(AskYesNo, HasNothingNamelessToVisitWhenTheTitleIsTheQuestion) {
+TEST(AskYesNo, NamesAllControlsWhenTheTitleIsTheQuestion) {
   std::vector<std::string> sinNombre{"nobody has looked"};
   const BoxAnswerer jugador{[&sinNombre](QWidget* caja) {
     sinNombre = Nameless(caja);
@@ -85,28 +86,28 @@ TEST(AskYesNo, HasNothingNamelessToVisitWhenTheTitleIsTheQuestion) {
   EXPECT_EQ(sinNombre, std::vector<std::string>{});
 }
 
-TEST(AskYesNo, ShowsNoIconWhenNoneIsAskedFor) {
+TEST(AskYesNo, ShowsNoIconIfNotRequested) {
   std::string vista;
   const BoxAnswerer jugador = LookAndPress(vista, Qt::Key_Return);
   AskYesNo(nullptr, {.Titulo = u"Mus", .Texto = u"¿Desea jugar otra partida?", .ConIcono = false});
   EXPECT_EQ(vista, "Mus|¿Desea jugar otra partida?||&Sí &No ");
 }
 
-TEST(AskYesNo, TakesTheLettersSAndN) {
+TEST(AskYesNo, AcceptsTheLettersSAndN) {
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = false}, {Qt::Key_S}),
             true);
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = true}, {Qt::Key_N}),
             false);
 }
 
-TEST(AskYesNo, TakesEnterForTheDefaultAnswer) {
+TEST(AskYesNo, AcceptsEnterForTheDefaultAnswer) {
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = true}, {Qt::Key_Return}),
             true);
   EXPECT_EQ(AskAndPress({.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = false}, {Qt::Key_Return}),
             false);
 }
 
-TEST(AskYesNo, TakesEnterAlsoWhenNoButtonHasTheFocus) {
+TEST(AskYesNo, AcceptsEnterAlsoWhenNoButtonHasTheFocus) {
   for (const bool porDefecto : {true, false}) {
     const BoxAnswerer jugador{[](QWidget* caja) { QTest::keyClick(caja, Qt::Key_Return); }};
     EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u"", .PorDefecto = porDefecto}),
@@ -152,7 +153,7 @@ TEST(AskYesNo, IsWideEnoughForAQuestionInTheTitle) {
            {.Titulo = u"¿Tiene usted pares en esta mano tan larga, señora?", .Texto = u""});
 }
 
-TEST(AskYesNo, GivesNothingWhenTheProgramIsEndedMeanwhile) {
+TEST(AskYesNo, ReturnsNothingWhenTheProgramEnds) {
   const BoxAnswerer fin{[](QWidget*) { QCoreApplication::exit(3); }};
   std::optional<bool> respuesta = true;
   const int estado = RunInEventLoop(
@@ -177,7 +178,7 @@ TEST(AskText, IsWideEnoughForItsTitle) {
   AskText(nullptr, u"¿Cuántas?", u"Envite a la grande de la última mano de la partida", u"2");
 }
 
-TEST(AskText, GivesWhatWasTyped) {
+TEST(AskText, ReturnsTheTypedText) {
   const BoxAnswerer jugador{[](QWidget* caja) {
     QTest::keyClicks(caja->focusWidget(), QStringLiteral("134"));
     Press(caja, Qt::Key_Return);
@@ -185,7 +186,7 @@ TEST(AskText, GivesWhatWasTyped) {
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "134");
 }
 
-TEST(AskText, GivesAnEmptyTextForCancelAndEsc) {
+TEST(AskText, ReturnsAnEmptyTextForCancelAndEsc) {
   {
     const BoxAnswerer jugador{[](QWidget* caja) { Press(caja, Qt::Key_Escape); }};
     EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "");

@@ -1,4 +1,4 @@
-// Writing the files of a table.
+// Writes the data files for a match.
 #include "tests/ui_qt/companions.h"
 
 #include "characters/character_file.h"

@@ -1,4 +1,4 @@
-// The character editor's window, worked by keys.
+// The window of the character editor.
 #include "ui/qt/dialog1_form.h"
 
 #include <gtest/gtest.h>
@@ -90,7 +90,7 @@ TEST_F(EditorWindow, HasTheCaptionsOfTheButtons) {
                              "&Cargar de disco", "Aceptar"}));
 }
 
-TEST_F(EditorWindow, SaysInABoxOfOneRowWhatEnterDoesNot) {
+TEST_F(EditorWindow, ExplainsEnterInASingleLineTextBox) {
   const std::string que = "Para guardar los datos, pulse «Nuevo jugador» o «Releer datos jugador».";
   for (const char* const nombre : {"Text1", "Text2"}) {
     Find<QWidget>(nombre)->setFocus();
@@ -111,7 +111,7 @@ TEST_F(EditorWindow, AddsNoCharacterForAHeldKey) {
   EXPECT_EQ(Find<QListWidget>("List1")->count(), 1);
 }
 
-TEST_F(EditorWindow, StartsWithTheKindsOfPhraseAlone) {
+TEST_F(EditorWindow, StartsWithOnlyTheKindsOfPhraseListed) {
   EXPECT_EQ(Shown("List1"), Textos{});
   EXPECT_EQ(Shown("List3"), Textos{});
   EXPECT_EQ(Shown("List2").size(), 14U);
@@ -119,7 +119,7 @@ TEST_F(EditorWindow, StartsWithTheKindsOfPhraseAlone) {
   EXPECT_EQ(Find<QListWidget>("List2")->currentRow(), -1);
 }
 
-TEST_F(EditorWindow, ShowsWhatIsLoadedWithItsSignsAsTheyStand) {
+TEST_F(EditorWindow, ShowsAmpersandsOfTheFileLiterally) {
   Load();
   EXPECT_EQ(Shown("List1").at(3), "4. el Cojo & Cía");
   EXPECT_TRUE(Find<QListWidget>("List1")->selectedItems().isEmpty());
@@ -142,7 +142,7 @@ TEST_F(EditorWindow, SelectsACharacterByKeys) {
   EXPECT_EQ(Text("Text3"), "Berta cuida cabras.");
 }
 
-TEST_F(EditorWindow, GoesToTheLastCharacterFromNone) {
+TEST_F(EditorWindow, SelectsTheLastCharacterWithEndWithoutASelection) {
   Load();
   Alt(Qt::Key_J);
   Keys({Qt::Key_End});
@@ -165,7 +165,7 @@ TEST_F(EditorWindow, LeavesThePhrasesUnselectedAfterAKindIsChosen) {
   EXPECT_EQ(ventana_.State().List3.ListIndex, 0);
 }
 
-TEST_F(EditorWindow, GoesRoundTheControlsWithTheSameAccessKey) {
+TEST_F(EditorWindow, CyclesThroughControlsWithTheSameAccessKey) {
   Load();
   const auto visitados = [this](Qt::Key tecla) {
     std::set<std::string> nombres;
@@ -237,7 +237,7 @@ TEST_F(EditorWindow, AddsACharacterFromTheThreeTextBoxes) {
   EXPECT_EQ(Utf8(t_.Personajes[6].Historia.Trimmed()), "Bebe.");
 }
 
-// "Eliminar jugador" has the letter of the euro.
+// AltGr+E types the euro sign; Alt+E is the access key of "Eliminar jugador".
 TEST_F(EditorWindow, TypesTheEuroWithoutPressingAButton) {
   Load();
   Alt(Qt::Key_N);
@@ -279,7 +279,7 @@ TEST_F(EditorWindow, SavesTheFile) {
   EXPECT_EQ(carpeta_.Read("Jugadores.dat"), TextoPersonajes(t_, 5));
 }
 
-TEST_F(EditorWindow, SaysWhyItRefusesAKeyUntilTheNextOne) {
+TEST_F(EditorWindow, ShowsTheReasonOfARefusedKeyUntilTheNextOne) {
   Find<GuardedText>("Text1")->setFocus();
   Type(">");
   EXPECT_EQ(Utf8(Find<QLabel>("Status")->text()),
@@ -313,7 +313,7 @@ TEST_F(EditorWindow, DoesNothingOnAceptar) {
   EXPECT_EQ(TextoPersonajes(t_, 5), antes);
 }
 
-TEST_F(EditorWindow, KeepsTheSelectionWhenAListIsClickedBesideItsEntries) {
+TEST_F(EditorWindow, KeepsTheSelectionAfterAClickBelowTheEntries) {
   Load();
   Alt(Qt::Key_J);
   Keys({Qt::Key_Down});
@@ -324,7 +324,7 @@ TEST_F(EditorWindow, KeepsTheSelectionWhenAListIsClickedBesideItsEntries) {
   EXPECT_EQ(lista->selectedItems().size(), 1);
 }
 
-TEST_F(EditorWindow, ShowsTheCharacterAnewWhenItsEntryIsClickedAgain) {
+TEST_F(EditorWindow, RestoresTheTextsWhenTheEntryIsClickedAgain) {
   Load();
   Alt(Qt::Key_J);
   Keys({Qt::Key_Down});
@@ -350,7 +350,7 @@ TEST_F(EditorWindow, AsksOnceAboutChangedTextsWhenAnotherEntryIsClicked) {
   EXPECT_EQ(Text("Text1"), "Berta");
 }
 
-// Another character is chosen, and the data of the one shown cannot be stored.
+// The texts of the selected character cannot be stored, and another one is selected.
 class EditorWindowWithOddData : public EditorWindow {
  protected:
   EditorWindowWithOddData() {
@@ -384,7 +384,7 @@ TEST_F(EditorWindowWithOddData, KeepsTheTextsAndTheEntryAfterAClick) {
   ExpectNothingChanged();
 }
 
-TEST_F(EditorWindow, MakesABlankCharacterOfOneNeverFilled) {
+TEST_F(EditorWindow, CreatesABlankCharacterFromOneNeverFilled) {
   Load();
   Load();  // the names are listed twice; the last entry stands for character 10
   Alt(Qt::Key_J);
@@ -403,7 +403,7 @@ TEST_F(EditorWindow, NamesEveryControlForScreenReaders) {
   EXPECT_EQ(Utf8(Find<QListWidget>("List3")->accessibleName()), "Mensaje");
 }
 
-TEST_F(EditorWindow, ReadsAPhraseThatIsNotThereToScreenReaders) {
+TEST_F(EditorWindow, NamesEmptyPhrasesForScreenReaders) {
   Load();
   Alt(Qt::Key_J);
   Keys({Qt::Key_Down});
@@ -411,7 +411,7 @@ TEST_F(EditorWindow, ReadsAPhraseThatIsNotThereToScreenReaders) {
   EXPECT_EQ(Nameless(&ventana_), Textos{});
 }
 
-TEST_F(EditorWindow, GoesThroughItsControlsWithTab) {
+TEST_F(EditorWindow, MovesThroughItsControlsWithTab) {
   Find<QListWidget>("List1")->setFocus();
   for (const char* const nombre :
        {"Text1", "Text2", "Text3", "Command1_0", "Command1_1", "Command1_2", "List2", "List3",
@@ -421,7 +421,7 @@ TEST_F(EditorWindow, GoesThroughItsControlsWithTab) {
   }
 }
 
-TEST_F(EditorWindow, TellsThatItIsToBeClosedAndStays) {
+TEST_F(EditorWindow, ReportsACloseRequestAndStaysOpen) {
   ventana_.close();
   EXPECT_EQ(cerradas_, 1);
   EXPECT_TRUE(ventana_.isVisible());

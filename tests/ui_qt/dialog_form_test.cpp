@@ -1,4 +1,4 @@
-// The bidding dialog's window.
+// The window of the bidding dialog.
 #include "ui/qt/dialog_form.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class DialogWindow : public testing::Test {
     return Control<QPushButton>(&*ventana_, ("Command1_" + std::to_string(indice)).c_str());
   }
 
-  // Of the buttons that can be seen and pressed, in their order.
+  // The captions of the visible, enabled buttons, in order.
   std::string Captions() {
     std::string textos;
     for (int i = 0; i < 4; ++i) {
@@ -83,7 +83,7 @@ TEST_F(DialogWindow, PlacesTheButtonsInTwoRowsOfTwo) {
   EXPECT_LT(ventana_->width(), Boton(1)->geometry().right() + Boton(1)->width());
 }
 
-TEST_F(DialogWindow, HasRoomForEveryCaptionInALargeFont) {
+TEST_F(DialogWindow, FitsEveryCaptionInALargeFont) {
   const QFont normal = QApplication::font();
   QFont grande = normal;
   grande.setPointSize(40);
@@ -138,7 +138,7 @@ TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {
   EXPECT_TRUE(Boton(0)->hasFocus());
 }
 
-TEST_F(DialogWindow, ArrowKeysStayOnTheButtonsThatAreLeft) {
+TEST_F(DialogWindow, ArrowKeysStayOnVisibleButtons) {
   DialogForm& ventana = Open(ModoDialogo::RespuestaOrdago);
   Press(&ventana, Qt::Key_Down);
   EXPECT_TRUE(Boton(0)->hasFocus());

@@ -1,4 +1,4 @@
-// The start-up dialog's window.
+// The window of the start-up dialog.
 #include "ui/qt/dlg_inicio_form.h"
 
 #include <gtest/gtest.h>
@@ -82,7 +82,7 @@ TEST_F(DlgInicioWindow, ShowsTheStateThatWasLoaded) {
   EXPECT_TRUE(Find<QPushButton>("CbOK")->isEnabled());
 }
 
-TEST_F(DlgInicioWindow, OffersTheSameCompanionsForEverySeat) {
+TEST_F(DlgInicioWindow, OffersTheSameCharactersForEverySeat) {
   for (const char* const nombre : {"Combo1", "Combo2", "Combo3"}) {
     const auto* const combo = Find<QComboBox>(nombre);
     std::string entradas;
@@ -113,12 +113,12 @@ TEST_F(DlgInicioWindow, SelectsTheWholeNameWhenItGetsTheFocus) {
   EXPECT_EQ(Utf8(estado_.Text2), "Luz");
 }
 
-TEST_F(DlgInicioWindow, TakesAPastedNameAsOneLine) {
+TEST_F(DlgInicioWindow, ConvertsAPastedNameToOneLine) {
   Find<QLineEdit>("Text2")->setText(QStringLiteral("Ana\r\nMaría"));
   EXPECT_EQ(Utf8(estado_.Text2), "Ana  María");
 }
 
-TEST_F(DlgInicioWindow, TakesNoMoreThanAHundredCharactersAndSaysSo) {
+TEST_F(DlgInicioWindow, RefusesMoreThanAHundredCharactersWithAMessage) {
   auto* const nombre = Find<QLineEdit>("Text2");
   const std::string cien(100, 'x');
   const std::string reparo = "El nombre puede tener hasta 100 caracteres.";
@@ -135,7 +135,7 @@ TEST_F(DlgInicioWindow, TakesNoMoreThanAHundredCharactersAndSaysSo) {
   EXPECT_EQ(LabelText("Status"), reparo);
 }
 
-TEST_F(DlgInicioWindow, TakesAHundredCharactersOfALongerPaste) {
+TEST_F(DlgInicioWindow, CutsALongPasteToAHundredCharacters) {
   auto* const nombre = Find<QLineEdit>("Text2");
   QGuiApplication::clipboard()->setText(QString{300, QChar{u'x'}});
   nombre->selectAll();
@@ -144,7 +144,7 @@ TEST_F(DlgInicioWindow, TakesAHundredCharactersOfALongerPaste) {
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
-TEST_F(DlgInicioWindow, LeavesALongerNameOfTheSettingsAlone) {
+TEST_F(DlgInicioWindow, KeepsALongerNameFromTheSettings) {
   auto* const nombre = Find<QLineEdit>("Text2");
   const std::string largo(150, 'x');
   estado_.Text2 = std::u16string(150, u'x');
@@ -158,7 +158,7 @@ TEST_F(DlgInicioWindow, LeavesALongerNameOfTheSettingsAlone) {
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
-TEST_F(DlgInicioWindow, KeepsANameThatNobodyTouchesByteForByte) {
+TEST_F(DlgInicioWindow, KeepsAnUneditedNameByteForByte) {
   const std::u16string raro = u"A\u0081B\tC";
   estado_.Text2 = raro;
   ventana_.ShowState();
@@ -192,7 +192,7 @@ TEST_F(DlgInicioWindow, RefusesANameThatTheSettingsCannotHold) {
   EXPECT_EQ(Utf8(estado_.Text2), "Anañ");
 }
 
-TEST_F(DlgInicioWindow, ForgetsARefusalWhenTheLastCharacterFits) {
+TEST_F(DlgInicioWindow, ClearsARefusalWhenTheLastCharacterFits) {
   auto* const nombre = Find<QLineEdit>("Text2");
   nombre->setText(QString{99, QChar{u'x'}});
   Type(nombre, ">");
@@ -203,14 +203,14 @@ TEST_F(DlgInicioWindow, ForgetsARefusalWhenTheLastCharacterFits) {
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
-// What an input method sends: first what is being composed, then what comes of it.
+// Sends an input-method event with a pre-edit text and a committed text.
 void Compose(QWidget* control, const char* enCurso, const char* escrito) {
   QInputMethodEvent suceso{QString::fromUtf8(enCurso), {}};
   suceso.setCommitString(QString::fromUtf8(escrito));
   QApplication::sendEvent(control, &suceso);
 }
 
-TEST_F(DlgInicioWindow, KeepsTheNameWhenAComposedOneIsRefused) {
+TEST_F(DlgInicioWindow, KeepsTheNameWhenAnInputMethodTextIsRefused) {
   auto* const nombre = Find<QLineEdit>("Text2");
   nombre->selectAll();
   Compose(nombre, "ri", "");
@@ -245,7 +245,7 @@ TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
   EXPECT_EQ(estado_.Combo1.ListIndex, 1);
 }
 
-TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndStaysAsItIs) {
+TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndKeepsItsSize) {
   auto* const historia = Find<QLabel>("Text4");
   const QSize forma = ventana_.size();
   for (const std::u16string& texto :
@@ -273,7 +273,7 @@ TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {
   EXPECT_FALSE(estado_.Check1[0]);
 }
 
-TEST_F(DlgInicioWindow, TabGoesFromTheNameToSalir) {
+TEST_F(DlgInicioWindow, TabMovesFromTheNameToSalir) {
   for (const char* const siguiente : {"Combo1", "Combo2", "Combo3", "Check1_0", "Check1_1",
                                       "Option1_0", "CbOK", "CbCancel", "Text2"}) {
     Press(&ventana_, Qt::Key_Tab);
@@ -303,7 +303,7 @@ TEST_F(DlgInicioWindow, NamesEveryControlForScreenReaders) {
   EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
 }
 
-TEST_F(DlgInicioWindow, LeadsFromEveryLabelToItsControl) {
+TEST_F(DlgInicioWindow, HasABuddyForEveryLabel) {
   EXPECT_EQ(Find<QLabel>("Label1")->buddy(), Find<QWidget>("Combo1"));
   EXPECT_EQ(Find<QLabel>("Label2")->buddy(), Find<QWidget>("Combo2"));
   EXPECT_EQ(Find<QLabel>("Label3")->buddy(), Find<QWidget>("Combo3"));
@@ -326,7 +326,7 @@ TEST_F(DlgInicioWindow, AHeldKeyNeitherAcceptsNorLeaves) {
   EXPECT_EQ(salidas_, 0);
 }
 
-TEST_F(DlgInicioWindow, LeavesBySalirByEscAndByClosing) {
+TEST_F(DlgInicioWindow, LeavesBySalirEscAndClosing) {
   Find<QPushButton>("CbCancel")->click();
   EXPECT_EQ(salidas_, 1);
   Press(&ventana_, Qt::Key_Escape);

@@ -1,4 +1,4 @@
-// The character editor as a program, from its window to its end.
+// The character editor's program.
 #include "ui/qt/editor_program.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,8 @@ class EditorInWindows : public testing::Test {
 
   EditorInWindows() { SetTable(carpeta_); }
 
-  // Takes the steps one after the other, each at the window in front, until the program ends.
+  // Runs the program and the steps, each with the active window, until the program ends. Returns
+  // the exit status.
   int Work(const std::vector<Step>& pasos) {
     EditorProgram programa{carpeta_.Path()};
     programa_ = &programa;
@@ -31,7 +32,7 @@ class EditorInWindows : public testing::Test {
       QWidget* const caja = QApplication::activeModalWidget();
       QWidget* const ventana = caja != nullptr ? caja : VisibleWindow("Dialog1");
       if (ventana == nullptr || ButtonIsDown(ventana)) return;
-      // A screen would give the window back its keys when a box goes.
+      // The offscreen platform does not activate the window again after a box.
       if (!TakesKeys(ventana)) return ventana->activateWindow();
       if (dados < pasos.size()) pasos.at(dados++)(ventana);
     });
@@ -45,7 +46,7 @@ class EditorInWindows : public testing::Test {
   static Step Key(Qt::Key tecla) {
     return [tecla](QWidget* ventana) { Press(ventana, tecla); };
   }
-  // The box in front says this, and is answered by Enter.
+  // Checks the text of the box and answers it with a key.
   static Step Reads(const char* texto, Qt::Key tecla = Qt::Key_Return) {
     return [texto, tecla](QWidget* ventana) {
       const auto* const caja = qobject_cast<QMessageBox*>(ventana);
@@ -56,8 +57,8 @@ class EditorInWindows : public testing::Test {
   }
   static void Close(QWidget* ventana) { ventana->close(); }
 
-  // The session is about to end: the program answers as wanted. What the player is asked, and
-  // whether that is possible, is for the steps that follow.
+  // Asks the program whether the session may end. Its answer must be `puede`; `dejanPreguntar` says
+  // whether it may ask the player. The following steps check the question.
   Step SessionMayEnd(bool dejanPreguntar, bool puede) {
     return [this, dejanPreguntar, puede](QWidget*) {
       EXPECT_EQ(programa_->AtSessionEnd().MayCome([=] { return dejanPreguntar; }), puede);
@@ -69,8 +70,8 @@ class EditorInWindows : public testing::Test {
   }
 
   TempFolder carpeta_;
-  EditorProgram* programa_ = nullptr;  // while it is worked with
-  int sesiones_ = 0;                   // whose end has been answered
+  EditorProgram* programa_ = nullptr;  // while Work runs
+  int sesiones_ = 0;                   // the number of answers about the end of the session
 };
 
 constexpr auto SinGuardar =
@@ -84,7 +85,7 @@ TEST_F(EditorInWindows, LoadsAddsSavesAndEnds) {
   EXPECT_NE(carpeta_.Read("Jugadores.dat").find("Datos>\r\nLola\r\n"), std::string::npos);
 }
 
-TEST_F(EditorInWindows, ShowsWhatIsLoadedWhileTheBoxTellsSo) {
+TEST_F(EditorInWindows, ShowsTheLoadedCharactersWhileTheBoxIsOpen) {
   EXPECT_EQ(Work({Alt(Qt::Key_C),
                   [](QWidget* caja) {
                     const QWidget* const ventana = VisibleWindow("Dialog1");
@@ -95,20 +96,20 @@ TEST_F(EditorInWindows, ShowsWhatIsLoadedWhileTheBoxTellsSo) {
             0);
 }
 
-TEST_F(EditorInWindows, AsksBeforeChangesAreThrownAway) {
+TEST_F(EditorInWindows, AsksBeforeDiscardingChanges) {
   EXPECT_EQ(Work({Alt(Qt::Key_U), Close, Reads(SinGuardar), Close, Reads(SinGuardar, Qt::Key_S)}),
             0);
   EXPECT_EQ(carpeta_.Names(), (std::vector<std::string>{"Jugadores.dat", "mus.ini"}));
 }
 
-TEST_F(EditorInWindows, AsksBeforeTheSessionTakesUnsavedChangesAway) {
+TEST_F(EditorInWindows, AsksBeforeTheSessionEndsWithUnsavedChanges) {
   EXPECT_EQ(Work({Alt(Qt::Key_U), SessionMayEnd(true, false), Reads(SinGuardar),
                   SessionMayEnd(true, true), Reads(SinGuardar, Qt::Key_S), SessionEnds()}),
             0);
   EXPECT_EQ(sesiones_, 2);
 }
 
-TEST_F(EditorInWindows, LetsTheSessionEndWhenThereIsNothingToAskOrNoWay) {
+TEST_F(EditorInWindows, LetsTheSessionEndWithoutChangesOrWithoutInteraction) {
   const Step sinPregunta = [](QWidget* ventana) {
     EXPECT_EQ(Utf8(ventana->objectName()), "Dialog1");
   };
@@ -127,12 +128,12 @@ TEST_F(EditorInWindows, EndsWithTheSessionWhateverBoxIsOpen) {
   EXPECT_EQ(Work({Alt(Qt::Key_U), SessionMayEnd(true, true), SessionEnds()}), 0);
 }
 
-TEST_F(EditorInWindows, EndsWithTheSessionWhileAnErrorIsTold) {
+TEST_F(EditorInWindows, EndsWithTheSessionWhileAnErrorIsShown) {
   std::filesystem::remove(carpeta_.Path() / "Jugadores.dat");
   EXPECT_EQ(Work({Alt(Qt::Key_C), SessionEnds()}), 0);
 }
 
-TEST(EditorProgram, HasNothingToAskBeforeItsWindowIsOpen) {
+TEST(EditorProgram, AsksNothingBeforeItsWindowIsOpen) {
   EditorProgram programa{{}};
   EXPECT_TRUE(programa.AtSessionEnd().MayCome([] { return true; }));
 }
@@ -163,7 +164,7 @@ TEST_F(EditorInWindows, EndsWithTheMessageOfARunTimeError) {
   EXPECT_EQ(Work({Alt(Qt::Key_C), Reads(mensaje.c_str())}), 1);
 }
 
-TEST_F(EditorInWindows, StaysOpenWithItsChangesAfterASaveThatFails) {
+TEST_F(EditorInWindows, KeepsItsChangesAfterAFailedSave) {
   const std::filesystem::path copia = carpeta_.Path() / "Jugadores.bak";
   std::filesystem::create_directory(copia);
   const std::string mensaje = "No se ha podido escribir el archivo " + copia.string() +
@@ -181,7 +182,7 @@ TEST_F(EditorInWindows, StaysOpenWithItsChangesAfterASaveThatFails) {
   EXPECT_NE(carpeta_.Read("Jugadores.dat").find("Datos>\r\nLola\r\n"), std::string::npos);
 }
 
-TEST_F(EditorInWindows, LeavesTheFileAloneWhenItEndsWithAnError) {
+TEST_F(EditorInWindows, KeepsTheFileWhenItEndsWithAnError) {
   const std::string antes = carpeta_.Read("Jugadores.dat");
   EXPECT_EQ(
       Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_M), Key(Qt::Key_F2),

@@ -1,4 +1,4 @@
-// The main window: what it shows, and where its keys go.
+// The main window: its texts, its keys and its focus.
 #include "ui/qt/form1.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ namespace {
 
 constexpr int TeclaSinSignificado = 255;
 
-// A window whose keys are written down; Q and Enter are used up.
+// A window that records its keys. Q and Enter are handled, other keys are not.
 class Form1Window : public testing::Test {
  protected:
   using Pulsada = std::pair<int, int>;
@@ -61,7 +61,7 @@ TEST_F(Form1Window, ShowsTheThreeTexts) {
 
 TEST_F(Form1Window, StartsWithTheFocusInTheInputLine) { EXPECT_TRUE(Text1()->hasFocus()); }
 
-TEST_F(Form1Window, LetsOnlyTheInputLineBeWritten) {
+TEST_F(Form1Window, MakesOnlyTheInputLineEditable) {
   EXPECT_FALSE(Text1()->isReadOnly());
   EXPECT_TRUE(Text2()->isReadOnly());
   EXPECT_TRUE(Text3()->isReadOnly());
@@ -89,14 +89,14 @@ TEST_F(Form1Window, PastesNothingFromAnEmptyClipboard) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "abc");
 }
 
-TEST_F(Form1Window, PassesEnterOfEitherKindAndSwallowsIt) {
+TEST_F(Form1Window, HandlesBothEnterKeys) {
   Press(&ventana_, Qt::Key_Return);
   Press(&ventana_, Qt::Key_Enter, Qt::KeypadModifier);
   EXPECT_EQ(teclas_, (std::vector<Pulsada>{{TeclaEnter, 0}, {TeclaEnter, 0}}));
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "");
 }
 
-TEST_F(Form1Window, PassesQAndDoesNotTypeIt) {
+TEST_F(Form1Window, HandlesQWithoutTypingIt) {
   Press(&ventana_, Qt::Key_Q);
   Press(&ventana_, Qt::Key_Q, Qt::ShiftModifier);
   ASSERT_FALSE(teclas_.empty());
@@ -122,7 +122,7 @@ TEST_F(Form1Window, CountsEveryPressHoweverQuick) {
   EXPECT_EQ(teclas_.size(), 5U);
 }
 
-TEST_F(Form1Window, TypesALetterThatIsHeld) {
+TEST_F(Form1Window, RepeatsAHeldLetter) {
   Press(&ventana_, Qt::Key_A);
   Repeat(&ventana_, Qt::Key_A);
   Repeat(&ventana_, Qt::Key_A);
@@ -130,7 +130,7 @@ TEST_F(Form1Window, TypesALetterThatIsHeld) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "aa");
 }
 
-TEST_F(Form1Window, TypesWhatTheRulesLeaveAlone) {
+TEST_F(Form1Window, TypesKeysThatTheRulesDoNotHandle) {
   QTest::keyClicks(Text1(), QStringLiteral("hola"));
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "hola");
 }
@@ -148,7 +148,7 @@ TEST_F(Form1Window, LeavesTypedTextAloneUntilTheRulesRewriteIt) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "Dos");
 }
 
-TEST_F(Form1Window, KeepsTheCursorWhereTheTextStaysTheSame) {
+TEST_F(Form1Window, KeepsTheCursorWhenTheTextIsUnchanged) {
   estado_.Text1 = u"As de oros";
   ventana_.ShowTexts(estado_);
   Text1()->moveCursor(QTextCursor::End);
@@ -180,7 +180,7 @@ TEST_F(Form1Window, GrowsTheInputLineWithItsFont) {
   EXPECT_EQ(Text1()->height(), alto + Text1()->fontMetrics().lineSpacing() - linea);
 }
 
-TEST_F(Form1Window, NeverLetsTheInputLineTakeMoreThanHalf) {
+TEST_F(Form1Window, LimitsTheInputLineToHalfTheWindow) {
   for (int i = 0; i < 100; ++i) estado_.Text1 += u"línea\r\n";
   ventana_.ShowTexts(estado_);
   EXPECT_LE(Text1()->height(), ventana_.height() / 2);
@@ -198,7 +198,7 @@ TEST_F(Form1Window, ScrollsTheTranscriptToItsEndWheneverItGrows) {
 
 TEST_F(Form1Window, KeepsTheEndOfTheTranscriptInViewWhenTheWindowIsResized) {
   for (int j = 0; j < 40; ++j) {
-    estado_.Text2 += std::u16string(150, u'x') + u"\r\n";  // a line more when it is narrow
+    estado_.Text2 += std::u16string(150, u'x') + u"\r\n";  // wraps in a narrow window
   }
   ventana_.ShowTexts(estado_);
   const QScrollBar* const barra = Text2()->verticalScrollBar();
@@ -210,7 +210,7 @@ TEST_F(Form1Window, KeepsTheEndOfTheTranscriptInViewWhenTheWindowIsResized) {
   }
 }
 
-TEST_F(Form1Window, TurnsThePagesOfTheTranscriptFromTheInputLine) {
+TEST_F(Form1Window, ScrollsTheTranscriptByPagesFromTheInputLine) {
   for (int j = 0; j < 200; ++j) estado_.Text2 += u"Berta: paso\r\n";
   ventana_.ShowTexts(estado_);
   const QScrollBar* const barra = Text2()->verticalScrollBar();
@@ -221,7 +221,7 @@ TEST_F(Form1Window, TurnsThePagesOfTheTranscriptFromTheInputLine) {
   EXPECT_EQ(barra->value(), barra->maximum());
 }
 
-TEST_F(Form1Window, BringsTypingAnywhereIntoTheInputLine) {
+TEST_F(Form1Window, MovesTypedTextToTheInputLine) {
   for (QWidget* const otro : {static_cast<QWidget*>(Text2()), static_cast<QWidget*>(Text3())}) {
     otro->setFocus();
     Press(&ventana_, Qt::Key_X);
@@ -234,7 +234,7 @@ TEST_F(Form1Window, BringsTypingAnywhereIntoTheInputLine) {
   EXPECT_EQ(teclas_.back(), (Pulsada{TeclaEnter, 0}));
 }
 
-TEST_F(Form1Window, LetsTheTranscriptBeReadByKeyboard) {
+TEST_F(Form1Window, ScrollsAndCopiesTheTranscriptByKeyboard) {
   Text2()->setFocus();
   Press(&ventana_, Qt::Key_Up);
   Press(&ventana_, Qt::Key_C, Qt::ControlModifier);
@@ -242,11 +242,11 @@ TEST_F(Form1Window, LetsTheTranscriptBeReadByKeyboard) {
   EXPECT_TRUE(teclas_.empty());
 }
 
-// AltGr with a key: on Windows it looks like Ctrl+Alt, under X11 like nothing or another group.
+// The modifiers that Qt reports for AltGr: Ctrl+Alt on Windows, none or a group switch on X11.
 constexpr std::array<Qt::KeyboardModifiers, 3> ConAltGr{
     Qt::NoModifier, Qt::ControlModifier | Qt::AltModifier, Qt::GroupSwitchModifier};
 
-TEST_F(Form1Window, TypesTheSignsOfAltGr) {
+TEST_F(Form1Window, TypesAltGrCharacters) {
   for (const Qt::KeyboardModifiers con : ConAltGr) {
     QTest::sendKeyEvent(QTest::Click, Text1(), Qt::Key_At, QStringLiteral("@"), con);
     QTest::sendKeyEvent(QTest::Click, Text1(), Qt::Key(0x20AC), QStringLiteral("€"), con);
@@ -255,8 +255,8 @@ TEST_F(Form1Window, TypesTheSignsOfAltGr) {
   for (const auto& [tecla, shift] : teclas_) EXPECT_EQ(tecla, TeclaSinSignificado);
 }
 
-// The place of the zero, where a German keyboard has the brace.
-TEST_F(Form1Window, TakesNoSignOfAltGrForACommand) {
+// On a German keyboard AltGr+0 is the closing brace.
+TEST_F(Form1Window, TreatsNoAltGrCharacterAsACommand) {
   constexpr quint32 lugarDelCero = 19;
   for (const Qt::KeyboardModifiers con : ConAltGr) {
     QKeyEvent llave{QEvent::KeyPress,   Qt::Key_BraceRight, con, lugarDelCero, 0, 0,
@@ -268,10 +268,10 @@ TEST_F(Form1Window, TakesNoSignOfAltGrForACommand) {
   for (const auto& [tecla, shift] : teclas_) EXPECT_NE(shift, MayusculasYControl);
 }
 
-TEST_F(Form1Window, BringsTheSignsOfAltGrIntoTheInputLineToo) {
+TEST_F(Form1Window, MovesAltGrCharactersToTheInputLineToo) {
   Text2()->setFocus();
   QTest::sendKeyEvent(QTest::Click, Text2(), Qt::Key_AltGr, QString{}, Qt::GroupSwitchModifier);
-  EXPECT_TRUE(Text2()->hasFocus()) << "on its way to a sign, or to nothing";
+  EXPECT_TRUE(Text2()->hasFocus()) << "AltGr alone types nothing";
   QTest::sendKeyEvent(QTest::Click, Text2(), Qt::Key_At, QStringLiteral("@"),
                       Qt::ControlModifier | Qt::AltModifier);
   EXPECT_TRUE(Text1()->hasFocus());
@@ -333,7 +333,7 @@ TEST_F(Form1Window, OffersTheSoundInAMenu) {
   EXPECT_EQ(sonidos_, std::vector<bool>{false});
 }
 
-TEST_F(Form1Window, SaysWhatF9WillDo) {
+TEST_F(Form1Window, DescribesTheNextEffectOfF9) {
   const auto seLee = [this](const char* texto) {
     const QString ayuda = Text1()->accessibleDescription();
     bool visible = false;
@@ -347,7 +347,7 @@ TEST_F(Form1Window, SaysWhatF9WillDo) {
   EXPECT_TRUE(seLee("F9: poner el sonido"));
 }
 
-TEST(Form1, OpensWithTheSoundAsItWas) {
+TEST(Form1, StartsWithTheGivenSoundSetting) {
   const Form1 ventana{{}, false};
   EXPECT_FALSE(Control<QAction>(&ventana, "Sonido")->isChecked());
   EXPECT_NE(Control<QWidget>(&ventana, "Text1")
@@ -356,7 +356,7 @@ TEST(Form1, OpensWithTheSoundAsItWas) {
             -1);
 }
 
-TEST_F(Form1Window, SaysThatItHasBeenClosed) {
+TEST_F(Form1Window, ReportsThatItWasClosed) {
   ventana_.close();
   EXPECT_EQ(cerrada_, 1);
 }

@@ -29,7 +29,7 @@ class TextBox : public testing::Test {
     caja_->paste();
   }
   void Type(const char* texto) { test::Type(caja_.get(), texto); }
-  // What an input method sends: what comes of the composing, or what is being composed.
+  // Sends an input-method event with a committed text and a pre-edit text.
   void Compose(const QString& texto, const QString& enCurso = {}) {
     QInputMethodEvent suceso{enCurso, {}};
     suceso.setCommitString(texto);
@@ -46,7 +46,7 @@ constexpr auto NoCabe = "El archivo no tiene sitio para ese carácter.";
 constexpr auto EsSeparador = "El signo > no puede guardarse: separa las partes del archivo.";
 constexpr auto Largo = "El texto no puede ser más largo.";
 
-TEST_F(TextBox, TakesWhatTheFileHolds) {
+TEST_F(TextBox, AcceptsCharactersOfWindows1252) {
   Show(20);
   Type("a&b ");
   Paste(QStringLiteral("¿ñ€?"));
@@ -54,8 +54,8 @@ TEST_F(TextBox, TakesWhatTheFileHolds) {
   EXPECT_EQ(reparo_, "");
 }
 
-// On Windows AltGr looks like Ctrl+Alt, under X11 like nothing or another group.
-TEST_F(TextBox, TakesTheSignsOfAltGrAndCountsThem) {
+// Qt reports AltGr as Ctrl+Alt on Windows, and as none or a group switch on X11.
+TEST_F(TextBox, AcceptsAltGrCharactersAndCountsThem) {
   Show(6);
   for (const Qt::KeyboardModifiers con :
        {Qt::KeyboardModifiers{Qt::NoModifier}, Qt::ControlModifier | Qt::AltModifier,
@@ -71,7 +71,7 @@ TEST_F(TextBox, TakesTheSignsOfAltGrAndCountsThem) {
   EXPECT_EQ(reparo_, Largo);
 }
 
-TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
+TEST_F(TextBox, RefusesCharactersThatTheFileCannotStore) {
   Show(20);
   Type("a>");
   EXPECT_EQ(reparo_, EsSeparador);
@@ -82,7 +82,7 @@ TEST_F(TextBox, RefusesKeysThatTheFileDoesNotHold) {
   EXPECT_EQ(Text(), "ab");
 }
 
-TEST_F(TextBox, StaysAsItIsWhenTheClipboardIsEmpty) {
+TEST_F(TextBox, IgnoresAnEmptyClipboard) {
   Show(5);
   Type("abc");
   QApplication::clipboard()->setMimeData(new QMimeData);
@@ -90,7 +90,7 @@ TEST_F(TextBox, StaysAsItIsWhenTheClipboardIsEmpty) {
   EXPECT_EQ(Text(), "abc");
 }
 
-TEST_F(TextBox, RefusesAPasteWholeWithTheReason) {
+TEST_F(TextBox, RefusesAWholePasteWithTheReason) {
   Show(20);
   Type("x");
   Paste(QStringLiteral("uno\ndos"));
@@ -102,7 +102,7 @@ TEST_F(TextBox, RefusesAPasteWholeWithTheReason) {
   EXPECT_EQ(Text(), "x");
 }
 
-TEST_F(TextBox, RefusesWhatIsDropped) {
+TEST_F(TextBox, RefusesADrop) {
   Show(20);
   QMimeData datos;
   datos.setText(QStringLiteral("a>b"));
@@ -114,7 +114,7 @@ TEST_F(TextBox, RefusesWhatIsDropped) {
   EXPECT_EQ(reparo_, EsSeparador);
 }
 
-TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
+TEST_F(TextBox, RefusesATextOfAnInputMethod) {
   Show(20);
   Compose(QStringLiteral("é"));
   EXPECT_EQ(Text(), "é");
@@ -123,7 +123,7 @@ TEST_F(TextBox, RefusesWhatAnInputMethodComposes) {
   EXPECT_EQ(reparo_, NoCabe);
 }
 
-TEST_F(TextBox, StaysAsItIsWhenWhatAnInputMethodComposedOverItIsRefused) {
+TEST_F(TextBox, RestoresASelectionReplacedByARefusedInputMethodText) {
   Show(20);
   caja_->ShowText(u"La\u00A0boticaria");
   caja_->selectAll();
@@ -135,7 +135,7 @@ TEST_F(TextBox, StaysAsItIsWhenWhatAnInputMethodComposedOverItIsRefused) {
   EXPECT_EQ(caja_->textCursor().selectedText().size(), 12);
 }
 
-TEST_F(TextBox, KeepsWhatWasSelectedWhenComposingComesToNothing) {
+TEST_F(TextBox, RestoresTheSelectionWhenAnInputMethodCancels) {
   Show(20);
   Type("abcd");
   caja_->moveCursor(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
@@ -156,7 +156,7 @@ TEST_F(TextBox, ComposesOneCharacterAfterAnother) {
   EXPECT_EQ(Text(), "é") << "the first one has been written";
 }
 
-TEST_F(TextBox, HoldsSoManyCharactersAndNoMore) {
+TEST_F(TextBox, LimitsItsLength) {
   Show(3);
   Type("abc");
   EXPECT_EQ(reparo_, "");
@@ -167,7 +167,7 @@ TEST_F(TextBox, HoldsSoManyCharactersAndNoMore) {
   EXPECT_EQ(Text(), "abc");
 }
 
-TEST_F(TextBox, CountsWhatIsTypedOverASelectionInItsPlace) {
+TEST_F(TextBox, CountsTheReplacedSelectionInItsLength) {
   Show(3);
   Type("abc");
   caja_->selectAll();
@@ -178,7 +178,7 @@ TEST_F(TextBox, CountsWhatIsTypedOverASelectionInItsPlace) {
   EXPECT_EQ(Text(), "xyz");
 }
 
-TEST_F(TextBox, StillDeletesMovesAndUndoes) {
+TEST_F(TextBox, SupportsDeletingMovingAndUndo) {
   Show(3);
   Type("abc");
   QTest::keyClick(caja_.get(), Qt::Key_Left);
@@ -188,7 +188,7 @@ TEST_F(TextBox, StillDeletesMovesAndUndoes) {
   EXPECT_EQ(Text(), "abc");
 }
 
-TEST_F(TextBox, LeavesEnterToTheWindowWhenItHasOneRow) {
+TEST_F(TextBox, PassesEnterToTheWindowIfItHasOneRow) {
   Show(20);
   Type("a");
   QKeyEvent enter{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r")};
@@ -198,7 +198,7 @@ TEST_F(TextBox, LeavesEnterToTheWindowWhenItHasOneRow) {
   EXPECT_EQ(reparo_, "");
 }
 
-TEST_F(TextBox, RefusesEnterWhenItHasSeveralRows) {
+TEST_F(TextBox, RefusesEnterIfItHasSeveralRows) {
   Show(20, 4);
   QTest::keyClick(caja_.get(), Qt::Key_Return);
   EXPECT_EQ(Text(), "");
@@ -240,7 +240,7 @@ TEST_F(TextBox, KeepsNoBreakSpaces) {
   EXPECT_EQ(Text(), "c\u00A0d");
 }
 
-TEST_F(TextBox, LeavesOutWhatOnlyStoodForAnOddCharacterOnceItIsEdited) {
+TEST_F(TextBox, DropsReplacementCharactersOnceItIsEdited) {
   Show(20);
   caja_->ShowText(u"a\rb\u0081c");
   caja_->moveCursor(QTextCursor::End);
@@ -248,7 +248,7 @@ TEST_F(TextBox, LeavesOutWhatOnlyStoodForAnOddCharacterOnceItIsEdited) {
   EXPECT_EQ(Text(), "abcd");
 }
 
-TEST_F(TextBox, TakesNoTabulatorFromTheKeyboard) {
+TEST_F(TextBox, RefusesTabsFromTheKeyboard) {
   Show(20);
   Type("a");
   QKeyEvent conAlt{QEvent::KeyPress, Qt::Key_Tab, Qt::AltModifier, QStringLiteral("\t")};
@@ -259,13 +259,13 @@ TEST_F(TextBox, TakesNoTabulatorFromTheKeyboard) {
   EXPECT_EQ(Text(), "a");
 }
 
-TEST_F(TextBox, TakesATextNeverFilledForNone) {
+TEST_F(TextBox, ShowsATextNeverFilledAsEmpty) {
   Show(20);
   caja_->ShowText(std::u16string(20, u'\0'));
   EXPECT_EQ(Text(), "");
 }
 
-TEST_F(TextBox, GivesBackATextThatWasLeftAloneWithItsOddCharacters) {
+TEST_F(TextBox, ReturnsAnUneditedTextUnchanged) {
   Show(20);
   const std::u16string raro{u"a\0b\u0081", 4};
   caja_->ShowText(raro);

@@ -1,4 +1,4 @@
-// Keys as the rules count them.
+// The key codes for the rules.
 #include "ui/qt/keys.h"
 
 #include <gtest/gtest.h>
@@ -28,10 +28,10 @@ TEST(TeclaDe, KnowsQInAnyShiftState) {
 
 TEST(TeclaDe, KnowsF2) { EXPECT_EQ(Pulsar(Qt::Key_F2).KeyCode, 113); }
 
-TEST(TeclaDe, KnowsTheZeroKeyByItsSign) { EXPECT_EQ(Pulsar(Qt::Key_0).KeyCode, Tecla0); }
+TEST(TeclaDe, RecognisesTheZeroKeyByItsCharacter) { EXPECT_EQ(Pulsar(Qt::Key_0).KeyCode, Tecla0); }
 
 #ifndef Q_OS_WIN
-TEST(TeclaDe, KnowsTheZeroKeyByItsPlaceOnSpanishAndAmericanKeyboards) {
+TEST(TeclaDe, RecognisesTheZeroKeyByItsPositionOnSpanishAndUsKeyboards) {
   const Tecla espanola = Pulsar(Qt::Key_Equal, CtrlMayus, LugarDelCero);
   EXPECT_EQ(espanola.KeyCode, Tecla0);
   EXPECT_EQ(espanola.Shift, MayusculasYControl);
@@ -41,12 +41,12 @@ TEST(TeclaDe, KnowsTheZeroKeyByItsPlaceOnSpanishAndAmericanKeyboards) {
 }
 #endif
 
-TEST(TeclaDe, DoesNotTakeTheSameSignsElsewhereForTheZeroKey) {
+TEST(TeclaDe, DoesNotTakeTheSameCharactersOfOtherKeysForTheZeroKey) {
   EXPECT_NE(Pulsar(Qt::Key_Equal, CtrlMayus, LugarDelCero + 2).KeyCode, Tecla0);
   EXPECT_NE(Pulsar(Qt::Key_0, Qt::KeypadModifier, 90).KeyCode, Tecla0);
 }
 
-TEST(TeclaDe, AddsUpTheShiftKeys) {
+TEST(TeclaDe, CombinesTheModifiers) {
   EXPECT_EQ(Pulsar(Qt::Key_A).Shift, 0);
   EXPECT_EQ(Pulsar(Qt::Key_A, Qt::ShiftModifier).Shift, 1);
   EXPECT_EQ(Pulsar(Qt::Key_A, Qt::ControlModifier).Shift, 2);
@@ -54,7 +54,7 @@ TEST(TeclaDe, AddsUpTheShiftKeys) {
   EXPECT_EQ(Pulsar(Qt::Key_A, CtrlMayus | Qt::AltModifier).Shift, 7);
 }
 
-TEST(TeclaDe, GivesOtherKeysACodeThatMeansNothing) {
+TEST(TeclaDe, GivesOtherKeysAnUnusedCode) {
   for (const int tecla : {int{Qt::Key_A}, int{Qt::Key_1}, int{Qt::Key_Escape}, int{Qt::Key_F1},
                           int{Qt::Key_unknown}}) {
     const int codigo = Pulsar(tecla).KeyCode;

@@ -1,4 +1,4 @@
-// The tests of the windows need the toolkit running, and no screen.
+// Runs the tests with a QApplication on Qt's offscreen platform.
 #include <gtest/gtest.h>
 
 #include <QApplication>

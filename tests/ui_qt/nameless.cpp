@@ -1,4 +1,4 @@
-// Walking through a window as a screen reader does.
+// Traverses the accessibility tree of a window.
 #include "tests/ui_qt/nameless.h"
 
 #include <QAccessible>
@@ -17,14 +17,14 @@ bool HasLabel(const QAccessibleInterface& control) {
   });
 }
 
-// A list to choose from is called after what is chosen in it: only its label tells what it is.
+// The accessible name of a combo box is its current entry, so that it needs a label.
 bool HasName(const QAccessibleInterface& control) {
   if (HasLabel(control)) return true;
   if (qobject_cast<QComboBox*>(control.object()) != nullptr) return false;
   return !control.text(QAccessible::Name).trimmed().isEmpty();
 }
 
-// The name of the control itself or of the nearest one around it that has one.
+// The object name of the control or of its nearest ancestor with one.
 std::string ObjectName(const QAccessibleInterface* control) {
   for (; control != nullptr; control = control->parent()) {
     const QObject* const objeto = control->object();

@@ -14,7 +14,7 @@
 namespace tasca::test {
 namespace {
 
-// Asks for a phrase and lets `hacer` answer; gives the answer.
+// Asks for a phrase, calls `hacer` once with the box, and returns the answer.
 std::string Ask(std::u16string_view porDefecto, const std::function<void(QWidget*)>& hacer) {
   bool hecho = false;
   const BoxAnswerer jugador{[&](QWidget* caja) {
@@ -24,7 +24,7 @@ std::string Ask(std::u16string_view porDefecto, const std::function<void(QWidget
       AskPhrase(nullptr, u"Nuevo mensaje & más: ", u"Mensaje envido & más", porDefecto, 10));
 }
 
-TEST(AskPhrase, ShowsThePromptAndThePhraseThatStandsThere) {
+TEST(AskPhrase, ShowsThePromptAndTheDefaultPhrase) {
   EXPECT_EQ(Ask(u"van & más",
                 [](QWidget* caja) {
                   EXPECT_EQ(Utf8(caja->windowTitle()), "Mensaje envido & más");
@@ -38,7 +38,7 @@ TEST(AskPhrase, ShowsThePromptAndThePhraseThatStandsThere) {
             "van & más");
 }
 
-TEST(AskPhrase, TakesWhatIsTypedOverIt) {
+TEST(AskPhrase, ReturnsTheTypedPhrase) {
   EXPECT_EQ(Ask(u"antes",
                 [](QWidget* caja) {
                   Type(caja->focusWidget(), "nuevo");
@@ -51,14 +51,14 @@ TEST(AskPhrase, IsEmptyWhenCancelled) {
   EXPECT_EQ(Ask(u"antes", [](QWidget* caja) { Press(caja, Qt::Key_Escape); }), "");
 }
 
-// True when all of the reason that stands in the box can be read.
+// True if the whole text of the label is visible.
 bool IsReadable(const QLabel& estado) {
   const QRect hueco{0, 0, estado.contentsRect().width(), 10000};
   const QRect texto = estado.fontMetrics().boundingRect(hueco, Qt::TextWordWrap, estado.text());
   return !estado.text().isEmpty() && texto.height() <= estado.contentsRect().height();
 }
 
-TEST(AskPhrase, HasRoomForEveryReason) {
+TEST(AskPhrase, ShowsEveryReasonInFull) {
   Ask(u"", [](QWidget* caja) {
     auto* const estado = Control<QLabel>(caja, "Status");
     for (const char* const rechazado : {">", "ł", "\u0001", "abcdefghijk"}) {
@@ -71,7 +71,7 @@ TEST(AskPhrase, HasRoomForEveryReason) {
   });
 }
 
-TEST(AskPhrase, KeepsThePhraseWhenAComposedOneIsRefused) {
+TEST(AskPhrase, KeepsThePhraseWhenAnInputMethodTextIsRefused) {
   EXPECT_EQ(Ask(u"van",
                 [](QWidget* caja) {
                   QInputMethodEvent enCurso{QStringLiteral("ri"), {}};
@@ -84,7 +84,7 @@ TEST(AskPhrase, KeepsThePhraseWhenAComposedOneIsRefused) {
             "van");
 }
 
-TEST(AskPhrase, SaysWhyItRefuses) {
+TEST(AskPhrase, ShowsTheReasonOfARefusal) {
   EXPECT_EQ(Ask(u"",
                 [](QWidget* caja) {
                   Type(caja->focusWidget(), "a>");

@@ -1,4 +1,4 @@
-// The player at the windows.
+// The simulated player.
 #include "tests/ui_qt/player.h"
 
 #include <QAbstractButton>
@@ -28,7 +28,7 @@ void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
   QTest::keyClick(control != nullptr ? control : ventana, tecla, con);
 }
 
-// A letter comes with its text, as from a keyboard.
+// A key event for a letter has a text, as from a keyboard.
 void Repeat(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con) {
   QWidget* const control = ventana->focusWidget() != nullptr ? ventana->focusWidget() : ventana;
   const bool esLetra = tecla >= Qt::Key_A && tecla <= Qt::Key_Z;
@@ -78,7 +78,8 @@ int RunInEventLoop(const std::function<void()>& paso) {
 
 namespace {
 
-// A turn may open a box, whose loop needs the next turn: that one is arranged first.
+// Calls the turns from a timer. The timer is restarted before each turn: a turn may open a box,
+// whose event loop needs the next one.
 class Turns {
  public:
   Turns(const std::function<void()>& turno, std::chrono::seconds limite)

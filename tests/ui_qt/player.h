@@ -1,5 +1,5 @@
 #pragma once
-// A player at the windows: finds controls by their names, and answers boxes while they wait.
+// A simulated player: finds controls by their object names, sends keys and answers modal boxes.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -11,7 +11,7 @@
 
 namespace tasca::test {
 
-// A control by its name; the test fails when there is none.
+// A control by its object name. If there is none, fails the test and returns nullptr.
 template <class T>
 T* Control(const QWidget* ventana, const char* nombre) {
   auto* const control = ventana->findChild<T*>(QString::fromUtf8(nombre));
@@ -19,30 +19,29 @@ T* Control(const QWidget* ventana, const char* nombre) {
   return control;
 }
 
-// The window in view with that name; nullptr when there is none.
+// The visible top-level window with that object name; nullptr if there is none.
 QWidget* VisibleWindow(const char* nombre);
 
 // True once the window is active and one of its controls has the focus.
 bool TakesKeys(const QWidget* ventana);
 
-// A key for the control that has the focus in `ventana`.
+// Sends a key to the control that has the focus in `ventana`.
 void Press(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
 
-// The same key again, as the keyboard sends it while it is held down.
+// Sends an auto-repeat key press, as the keyboard does while the key is held down.
 void Repeat(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
 
-// The keys that write `texto`, one character each, for a control.
+// Types `texto` into a control, one key per character.
 void Type(QWidget* control, const char* texto);
 
-// True while a button that was pressed by its access key has yet to be clicked.
+// True while a button pressed by its access key has not been clicked yet.
 bool ButtonIsDown(const QWidget* ventana);
 
-// How long anything may take before its test fails.
+// The default time limit of a test.
 inline constexpr std::chrono::seconds Paciencia{60};
 
-// Waits for modal boxes and shows each of them, once it takes keys, to `alVer` until it is gone.
-// Boxes wait inside their question, so this looks from a timer. A box that is still there when
-// the time is over is closed, and the test fails.
+// Calls `alVer` from a timer with the active modal box, repeatedly while the box takes keys. If a
+// box is still open after the limit, fails the test and closes it.
 class BoxAnswerer {
  public:
   explicit BoxAnswerer(std::function<void(QWidget*)> alVer,
@@ -52,11 +51,11 @@ class BoxAnswerer {
   QTimer reloj_;
 };
 
-// Does `paso` in the event loop and gives the exit status once somebody ends it.
+// Runs `paso` in the event loop and returns the loop's exit status.
 int RunInEventLoop(const std::function<void()>& paso);
 
-// Plays in the event loop: `turno` is called over and over, also while a box waits, until the
-// program ends. Gives the exit status; the test fails when the time is over.
+// Calls `turno` repeatedly in the event loop, also while a box is open, until the program ends.
+// Returns the exit status. After the limit, fails the test and returns -1.
 int PlayUntilEnd(const std::function<void()>& turno, std::chrono::seconds limite = Paciencia);
 
 std::string Utf8(const QString& texto);

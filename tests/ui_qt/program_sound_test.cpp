@@ -1,14 +1,14 @@
-// Sounds while the program is played in its windows.
+// The sounds of the program with windows.
 #include <gtest/gtest.h>
 
 #include <QMessageBox>
 #include <QTest>
 #include <utility>
 
-#include "tests/ui_qt/companions.h"
-#include "tests/ui_qt/player.h"
 #include "tests/ui_loudspeaker/recording.h"
 #include "tests/ui_loudspeaker/stand_in.h"
+#include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/player.h"
 #include "ui/qt/program.h"
 
 namespace tasca::test {
@@ -16,7 +16,7 @@ namespace {
 
 using Oidos = std::vector<std::string>;
 
-// A player who cuts the mus, takes what Enter gives and plays one short match.
+// A player who refuses mus, accepts every default with Enter and plays one short match.
 class ProgramWithSound : public testing::Test {
  protected:
   ProgramWithSound() { SetTable(carpeta_, "1\r\n1\r\n1\r\n"); }
@@ -48,7 +48,7 @@ class ProgramWithSound : public testing::Test {
     Press(caja, no ? Qt::Key_N : Qt::Key_Return);
   }
 
-  // Whether the shuffle and the deal have been heard to their ends.
+  // Whether the shuffle and the deal have been recorded completely.
   bool HasDealt() const {
     return HasRecorded(carpeta_.Recording(), {"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3"});
   }
@@ -78,7 +78,7 @@ TEST_F(ProgramWithSound, PlaysAMatchToTheEndWithoutItsFiles) {
   EXPECT_EQ(Play(), 0);
 }
 
-TEST_F(ProgramWithSound, ShufflesAndDealsWhileNobodyDoesAnything) {
+TEST_F(ProgramWithSound, PlaysTheShuffleAndTheDealWithoutInput) {
   enLaMesa_ = [this](QWidget* ventana) {
     if (HasDealt()) ventana->close();
   };
@@ -86,7 +86,7 @@ TEST_F(ProgramWithSound, ShufflesAndDealsWhileNobodyDoesAnything) {
   EXPECT_EQ(Recorded(), Comienzo);
 }
 
-TEST_F(ProgramWithSound, DealsAfterTheShuffleWhileABoxIsOpen) {
+TEST_F(ProgramWithSound, PlaysTheDealAfterTheShuffleWhileABoxIsOpen) {
   enLaCaja_ = [this](QWidget*) {
     if (HasDealt()) QCoreApplication::exit(0);
   };
@@ -94,7 +94,7 @@ TEST_F(ProgramWithSound, DealsAfterTheShuffleWhileABoxIsOpen) {
   EXPECT_EQ(Recorded(), Comienzo);
 }
 
-TEST_F(ProgramWithSound, IsSilentFromF9OnToTheEnd) {
+TEST_F(ProgramWithSound, IsSilentAfterF9) {
   enLaMesa_ = [this](QWidget* ventana) {
     const bool conSonido = Control<QAction>(ventana, "Sonido")->isChecked();
     if (conSonido && !HasDealt()) return;
@@ -105,7 +105,7 @@ TEST_F(ProgramWithSound, IsSilentFromF9OnToTheEnd) {
   EXPECT_EQ(Recorded(), Comienzo);
 }
 
-TEST_F(ProgramWithSound, StaysSilentAtTheNextTable) {
+TEST_F(ProgramWithSound, KeepsTheSoundSettingForTheNextTable) {
   int inicios = 0;
   std::vector<bool> conSonido;
   enLaMesa_ = [&](QWidget* ventana) {
@@ -128,8 +128,8 @@ TEST_F(ProgramWithSound, StaysSilentAtTheNextTable) {
   EXPECT_EQ(conSonido, std::vector<bool>{false});
 }
 
-// The stand-in never says that a sound has ended: nothing but the main window's end stops one.
-TEST_F(ProgramWithSound, LetsNothingOfTheOldTablePlayOn) {
+// The stand-in never reports the end of a sound, so that only the end of the main window stops one.
+TEST_F(ProgramWithSound, StopsTheSoundOfTheOldTable) {
   StandInThatNotes(carpeta_);
   std::string ordenes;
   const auto barajadas = [&] {
@@ -149,7 +149,8 @@ TEST_F(ProgramWithSound, LetsNothingOfTheOldTablePlayOn) {
     if (barajadas() == 2) ventana->close();
   };
   EXPECT_EQ(Play(), 0);
-  // "12 0 0 0 " stops number 11; the next order is the new table's.
+  // An order with 0 repetitions, such as "12 0 0 0 ", stops the sound. It must come before the last
+  // shuffle.
   const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
   ASSERT_NE(ultima, std::string::npos);
   const std::size_t anterior = ordenes.rfind("Son_", ultima);

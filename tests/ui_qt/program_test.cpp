@@ -1,4 +1,4 @@
-// The whole program in its windows, played by keys.
+// The program with windows, played by keys.
 #include "ui/qt/program.h"
 
 #include <gtest/gtest.h>
@@ -17,10 +17,10 @@
 namespace tasca::test {
 namespace {
 
-// A player who opens the program and answers by keys: Enter wherever nothing else is said.
+// A player who opens the program and answers by keys. The default key is Enter.
 class ProgramInWindows : public testing::Test {
  protected:
-  // The key for a question, by its text or else its title.
+  // The key for a question, which is given by its text or, if that is empty, by its title.
   using Answer = std::function<Qt::Key(const QString& pregunta)>;
 
   int Play(const Answer& respuesta) {
@@ -56,7 +56,7 @@ class ProgramInWindows : public testing::Test {
   }
 
   TempFolder carpeta_;
-  Program* programa_ = nullptr;  // while it is played
+  Program* programa_ = nullptr;  // while Play runs
   QStringList preguntas_;
   std::function<void(QWidget*)> alInicio_ = [](QWidget* ventana) {
     Press(ventana, Qt::Key_Return);
@@ -70,7 +70,7 @@ constexpr const char* PartidaCorta = "1\r\n1\r\n1\r\n";
 constexpr const char* OtraPartida = "¿Desea jugar otra partida?";
 constexpr const char* OtrosJugadores = "¿Desea cambiar de jugadores?";
 
-// Cuts the mus at once, and otherwise takes what Enter gives.
+// Refuses mus and accepts every other default with Enter.
 Qt::Key CutAndPass(const QString& pregunta) {
   return pregunta == QStringLiteral("¿mus?") ? Qt::Key_N : Qt::Key_Return;
 }
@@ -99,7 +99,7 @@ TEST_F(ProgramInWindows, PlaysOnWithTheSamePlayers) {
   EXPECT_EQ(Asked(OtrosJugadores), 2);
 }
 
-// Another match every time, with other players.
+// Always plays another match with other players.
 Qt::Key ChangePlayersAlways(const QString& pregunta) {
   const bool alFinal =
       pregunta == QString::fromUtf8(OtraPartida) || pregunta == QString::fromUtf8(OtrosJugadores);
@@ -119,7 +119,7 @@ TEST_F(ProgramInWindows, ChangesPlayersOnceTheStepHasEnded) {
   EXPECT_NE(Utf8(preguntas_.constLast()), OtrosJugadores) << "the vaca has still to be told";
 }
 
-TEST_F(ProgramInWindows, OpensTheStartDialogAnewInPlaceOfTheTable) {
+TEST_F(ProgramInWindows, ReplacesTheTableByANewStartUpDialog) {
   SetTable(carpeta_, PartidaCorta);
   std::string elegidos;
   alInicio_ = [&elegidos](QWidget* ventana) {
@@ -134,7 +134,7 @@ TEST_F(ProgramInWindows, OpensTheStartDialogAnewInPlaceOfTheTable) {
   EXPECT_EQ(elegidos, "Aleatorio|Aleatorio|");
 }
 
-TEST_F(ProgramInWindows, StartsTheNewMatchFromNothing) {
+TEST_F(ProgramInWindows, StartsTheNewMatchWithAnEmptyScoreboard) {
   SetTable(carpeta_, PartidaCorta);
   std::string tanteos;
   bool esNueva = false;
@@ -166,7 +166,7 @@ TEST_F(ProgramInWindows, OpensTheTableMaximisedWithTheTitleOfTheMatch) {
   EXPECT_TRUE(maximizada);
 }
 
-TEST_F(ProgramInWindows, TakesAceptarOnceHoweverOftenItIsPressed) {
+TEST_F(ProgramInWindows, AcceptsOnceHoweverOftenAceptarIsPressed) {
   SetTable(carpeta_);
   alInicio_ = [](QWidget* ventana) {
     auto* const aceptar = Control<QPushButton>(ventana, "CbOK");
@@ -200,7 +200,7 @@ TEST_F(ProgramInWindows, EndsWhenTheStartDialogIsLeft) {
   EXPECT_EQ(Play(CutAndPass), 0);
 }
 
-TEST_F(ProgramInWindows, GivesTheInputLineTheFocusAfterEveryQuestion) {
+TEST_F(ProgramInWindows, FocusesTheInputLineAfterEveryQuestion) {
   SetTable(carpeta_, PartidaCorta);
   enLaMesa_ = [](QWidget* ventana) {
     EXPECT_EQ(Utf8(ventana->focusWidget()->objectName()), "Text1");
@@ -229,7 +229,7 @@ TEST_F(ProgramInWindows, ShowsTheTranscriptWhileAQuestionWaits) {
   EXPECT_TRUE(visto);
 }
 
-TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
+TEST_F(ProgramInWindows, ShowsAllHandsUntilTheNextHand) {
   SetTable(carpeta_);
   QStringList vistas;
   enLaMesa_ = [&vistas](QWidget* ventana) {
@@ -251,7 +251,7 @@ TEST_F(ProgramInWindows, LaysAllHandsOpenUntilTheNextHand) {
 
 constexpr Qt::KeyboardModifiers ParaVerManos = Qt::ControlModifier | Qt::ShiftModifier;
 
-TEST_F(ProgramInWindows, LaysTheSameHandsOpenOverWhatWasTyped) {
+TEST_F(ProgramInWindows, ShowsTheHandsOverTypedText) {
   SetTable(carpeta_);
   enLaMesa_ = [](QWidget* ventana) {
     auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
@@ -266,7 +266,7 @@ TEST_F(ProgramInWindows, LaysTheSameHandsOpenOverWhatWasTyped) {
   EXPECT_EQ(Play(CutAndPass), 0);
 }
 
-TEST_F(ProgramInWindows, ShowsTheHandBesideAQuestionAndAfterAStepOverWhatWasTyped) {
+TEST_F(ProgramInWindows, ShowsTheHandOverTypedTextDuringAQuestionAndAfterAStep) {
   SetTable(carpeta_);
   std::string mano;
   int preguntas = 0;
@@ -288,7 +288,7 @@ TEST_F(ProgramInWindows, ShowsTheHandBesideAQuestionAndAfterAStepOverWhatWasType
   EXPECT_GE(preguntas, 1);
 }
 
-TEST_F(ProgramInWindows, LeavesTypedTextAloneWhileNoStepRuns) {
+TEST_F(ProgramInWindows, KeepsTypedTextWhileNoStepRuns) {
   SetTable(carpeta_);
   enLaMesa_ = [](QWidget* ventana) {
     auto* const text1 = Control<QPlainTextEdit>(ventana, "Text1");
@@ -304,7 +304,7 @@ TEST_F(ProgramInWindows, LeavesTypedTextAloneWhileNoStepRuns) {
 
 class SessionWithABox : public ProgramInWindows, public testing::WithParamInterface<const char*> {};
 
-TEST_P(SessionWithABox, EndsThoughItIsOpen) {
+TEST_P(SessionWithABox, EndsWhileItIsOpen) {
   SetTable(carpeta_);
   const QLatin1String caja{GetParam()};
   bool estaba = false;
@@ -323,7 +323,7 @@ TEST_P(SessionWithABox, EndsThoughItIsOpen) {
 
 INSTANTIATE_TEST_SUITE_P(Boxes, SessionWithABox, testing::Values("YesNoBox", "Dialog", "InputBox"));
 
-TEST_F(ProgramInWindows, EndsWithTheSessionWhileAnErrorIsTold) {
+TEST_F(ProgramInWindows, EndsWithTheSessionWhileAnErrorIsShown) {
   const int estado = Play([this](const QString&) {
     programa_->AtSessionEnd().Comes();
     return Qt::Key_F5;
@@ -342,7 +342,7 @@ TEST_F(ProgramInWindows, EndsWithTheSessionBetweenQuestions) {
   EXPECT_TRUE(preguntas_.isEmpty());
 }
 
-TEST_F(ProgramInWindows, NeverKeepsTheSessionFromEnding) {
+TEST_F(ProgramInWindows, AlwaysLetsTheSessionEnd) {
   Program programa{carpeta_.Path()};
   EXPECT_TRUE(programa.AtSessionEnd().MayCome([] {
     ADD_FAILURE() << "there is nothing to ask";
@@ -350,8 +350,9 @@ TEST_F(ProgramInWindows, NeverKeepsTheSessionFromEnding) {
   }));
 }
 
-// Without phrases the first companion to speak ends the program, right after Ana, who is mano.
-TEST_F(ProgramInWindows, ShowsTheTextsBesideTheErrorThatEndsTheProgram) {
+// Without expressions the program ends with an error when the first computer seat speaks, after
+// Ana.
+TEST_F(ProgramInWindows, ShowsTheTextsWithTheErrorThatEndsTheProgram) {
   SetTable(carpeta_);
   alInicio_ = [](QWidget* ventana) {
     Control<QCheckBox>(ventana, "Check1_1")->click();
@@ -368,7 +369,7 @@ TEST_F(ProgramInWindows, ShowsTheTextsBesideTheErrorThatEndsTheProgram) {
   EXPECT_TRUE(preguntas_.constLast().contains(QStringLiteral("no tiene nada que decir")));
 }
 
-TEST_F(ProgramInWindows, TellsARunTimeErrorOnceAndEndsWithStatus1) {
+TEST_F(ProgramInWindows, ReportsARunTimeErrorOnceAndEndsWithStatus1) {
   SetTable(carpeta_);
   const int estado = Play([](const QString& pregunta) {
     QWidget* const caja = QApplication::activeModalWidget();
@@ -385,7 +386,7 @@ TEST_F(ProgramInWindows, TellsARunTimeErrorOnceAndEndsWithStatus1) {
             "ejecución.");
 }
 
-TEST_F(ProgramInWindows, TellsOfAMissingCharacterFileOnce) {
+TEST_F(ProgramInWindows, ReportsAMissingCharacterFileOnce) {
   const int estado = Play(CutAndPass);
   EXPECT_EQ(estado, 1);
   EXPECT_EQ(Utf8(preguntas_.join(u'|')),
@@ -393,7 +394,7 @@ TEST_F(ProgramInWindows, TellsOfAMissingCharacterFileOnce) {
             "su ejecución.");
 }
 
-TEST_F(ProgramInWindows, TellsOfADamagedSettingsFileAndLeavesIt) {
+TEST_F(ProgramInWindows, ReportsADamagedSettingsFileAndKeepsIt) {
   SetTable(carpeta_);
   carpeta_.Write("mus.ini", "35\r\n");
   const int estado = Play(CutAndPass);
@@ -405,7 +406,7 @@ TEST_F(ProgramInWindows, TellsOfADamagedSettingsFileAndLeavesIt) {
   EXPECT_EQ(carpeta_.Read("mus.ini"), "35\r\n");
 }
 
-TEST_F(ProgramInWindows, PlaysWithoutSavingTheNameAndTellsSoOnce) {
+TEST_F(ProgramInWindows, PlaysWithoutSavingTheNameAndReportsItOnce) {
   SetTable(carpeta_, PartidaCorta);
   const PlainUser usuario{carpeta_};
   std::filesystem::permissions(carpeta_.Path() / "mus.ini", std::filesystem::perms{0444});
@@ -423,7 +424,7 @@ TEST_F(ProgramInWindows, PlaysWithoutSavingTheNameAndTellsSoOnce) {
   EXPECT_EQ(Asked(OtraPartida), 2);
 }
 
-TEST_F(ProgramInWindows, WritesANameThatNobodyTouchedAsItWas) {
+TEST_F(ProgramInWindows, WritesAnUneditedNameByteForByte) {
   SetTable(carpeta_);
   carpeta_.Write("mus.ini",
                  "35\r\n3\r\n3\r\nA\x81"
@@ -437,7 +438,7 @@ TEST_F(ProgramInWindows, WritesANameThatNobodyTouchedAsItWas) {
       << escrito;
 }
 
-TEST_F(ProgramInWindows, SaysWhyTheChoiceOfCompanionsIsNoGood) {
+TEST_F(ProgramInWindows, ReportsAnInvalidChoiceOfCharacters) {
   SetTable(carpeta_);
   int intentos = 0;
   alInicio_ = [&intentos](QWidget* ventana) {

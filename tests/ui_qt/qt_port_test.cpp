@@ -1,4 +1,4 @@
-// The windows' port by itself: what needs no match.
+// The port of the windows, without a match.
 #include "ui/qt/qt_port.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(QtPort, TellsTheTimeOfDay) {
       << Utf8(hora.toString());
 }
 
-// The folder holds no program that plays.
+// The folder does not contain tasca-sound.
 TEST(QtPort, ReportsTheEndOfASoundWithoutALoudspeaker) {
   QtPort port;
   const TempFolder carpeta;
@@ -40,7 +40,7 @@ TEST(QtPort, ReportsTheEndOfASoundWithoutALoudspeaker) {
   EXPECT_TRUE(WaitForEnd(port.Mp1()));
 }
 
-TEST(QtPort, OrdersASoundOfTheTablesFolderAndItsEnd) {
+TEST(QtPort, PlaysASoundFromTheTablesFolderAndStopsIt) {
   QtPort port;
   const TempFolder carpeta;
   StandInThatNotes(carpeta);
@@ -54,7 +54,7 @@ TEST(QtPort, OrdersASoundOfTheTablesFolderAndItsEnd) {
   EXPECT_EQ(OrdersNoted(carpeta), ordenes);
 }
 
-TEST(QtPort, StopsWhatPlaysWhenTheStartWindowComes) {
+TEST(QtPort, StopsTheSoundWhenTheStartWindowOpens) {
   QtPort port;
   const TempFolder carpeta;
   StandInThatNotes(carpeta);
@@ -65,7 +65,7 @@ TEST(QtPort, StopsWhatPlaysWhenTheStartWindowComes) {
   EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta).ends_with("2 0 0 0 "); }));
 }
 
-TEST(QtPort, GivesTheAnswerOfTheBiddingDialog) {
+TEST(QtPort, ReturnsTheAnswerOfTheBiddingDialog) {
   QtPort port;
   Dialog dialogo;
   Form_Activate(dialogo);
@@ -78,7 +78,7 @@ TEST(QtPort, GivesTheAnswerOfTheBiddingDialog) {
   EXPECT_FALSE(dialogo.Visible);
 }
 
-// A question that nobody has answered must not count as one that was.
+// An unanswered question must not return an answer.
 TEST(QtPort, LeavesTheTableWhenTheProgramEndsDuringAQuestion) {
   QtPort port;
   const Table t = MesaDePrueba();

@@ -1,4 +1,4 @@
-// Text between the game and the toolkit.
+// The conversion of text between the game and Qt.
 #include "ui/qt/qt_text.h"
 
 #include <gtest/gtest.h>
@@ -11,12 +11,12 @@ namespace {
 
 using namespace std::string_view_literals;
 
-TEST(ToDisplay, MakesOneLineBreakOfAnyKind) {
+TEST(ToDisplay, ConvertsEveryLineBreakToALineFeed) {
   EXPECT_EQ(Utf8(ToDisplay(u"uno\r\ndos\rtres\ncuatro\r\n\r\n")), "uno\ndos\ntres\ncuatro\n\n");
   EXPECT_EQ(Utf8(ToDisplay(u"al final\r")), "al final\n");
 }
 
-TEST(ToDisplay, ShowsTheCodesWithoutACharacterAsReplacements) {
+TEST(ToDisplay, ShowsUndefinedCodesAsReplacementCharacters) {
   EXPECT_EQ(Utf8(ToDisplay(u"a\u0081\u008D\u008F\u0090\u009Db")), "a�����b");
   EXPECT_EQ(Utf8(ToDisplay(u"\u001B[2J")), "�[2J");
 }
@@ -25,20 +25,20 @@ TEST(ToDisplay, DropsTheNulsOfATextNeverFilled) {
   EXPECT_EQ(Utf8(ToDisplay(u"\0\0hola\0"sv)), "hola");
 }
 
-TEST(ToDisplay, LeavesBlanksTabsAndSpanishAlone) {
+TEST(ToDisplay, KeepsBlanksTabsAndSpanish) {
   EXPECT_EQ(Utf8(ToDisplay(u"  ¿Envido  más?\t ñ & Ñ ")), "  ¿Envido  más?\t ñ & Ñ ");
 }
 
-TEST(ToLabel, DoublesWhatWouldMarkAnAccessKey) {
+TEST(ToLabel, DoublesAmpersands) {
   EXPECT_EQ(Utf8(ToLabel(u"Pérez & hijos\r\n&")), "Pérez && hijos\n&&");
 }
 
-TEST(FromInput, KeepsALineInOneLine) {
+TEST(FromInput, ConvertsLineBreaksToBlanks) {
   EXPECT_EQ(Utf8(FromInput(QStringLiteral("Ana\r\nMaría\u2028\tB"))), "Ana  María  B");
   EXPECT_EQ(Utf8(FromInput(QStringLiteral("Iñaki Pérez"))), "Iñaki Pérez");
 }
 
-TEST(FromInput, KeepsTheCodesWithoutACharacter) {
+TEST(FromInput, KeepsUndefinedCodes) {
   EXPECT_EQ(FromInput(QStringLiteral("a\u0081b")), u"a\u0081b");
 }
 

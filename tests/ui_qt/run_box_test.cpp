@@ -1,4 +1,4 @@
-// When a box takes keys, and when it does not.
+// The keys that a box accepts and ignores.
 #include "ui/qt/run_box.h"
 
 #include <gtest/gtest.h>
@@ -21,9 +21,8 @@
 namespace tasca::test {
 namespace {
 
-// Presses Enter at every button of a box as soon as it is there, before it has the focus, and once
-// more when it goes; in between, Enter alone answers it. Such keys come to whatever control has the
-// focus by then.
+// Presses Enter on every button of a box when it is shown, before it has the focus, and again when
+// it is hidden. In between it answers the box with Enter.
 class HastyPlayer : public QObject {
  public:
   HastyPlayer() { qApp->installEventFilter(this); }
@@ -37,7 +36,7 @@ class HastyPlayer : public QObject {
     return false;
   }
 
-  // How many keys came too early or too late.
+  // The number of keys that came too early or too late.
   int Wasted() const { return perdidas_; }
 
  private:
@@ -48,7 +47,7 @@ class HastyPlayer : public QObject {
     }
   }
 
-  // A box that is answered before it waits would wait for ever.
+  // exec() of a box that is hidden before it starts would block for ever.
   static void ShowAgain(QDialog* caja) {
     ADD_FAILURE() << "answered by a key that came too early";
     QMetaObject::invokeMethod(caja, "show", Qt::QueuedConnection);
@@ -70,18 +69,18 @@ TEST_F(HurriedBox, TakesYesByDefault) {
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), true);
 }
 
-TEST_F(HurriedBox, TakesNoWhereThatIsTheDefault) {
+TEST_F(HurriedBox, TakesNoIfThatIsTheDefault) {
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}),
             false);
 }
 
 TEST_F(HurriedBox, ConfirmsByDefault) { EXPECT_TRUE(AskOkCancel(nullptr, u"¿Fuera?", u"")); }
 
-TEST_F(HurriedBox, TakesTheTextThatStandsThere) {
+TEST_F(HurriedBox, TakesTheDefaultText) {
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "2");
 }
 
-TEST_F(HurriedBox, TakesThePhraseThatStandsThere) {
+TEST_F(HurriedBox, TakesTheDefaultPhrase) {
   EXPECT_EQ(Utf8(AskPhrase(nullptr, u"Nuevo mensaje:", u"Mensaje", u"van", 10)), "van");
 }
 
@@ -94,13 +93,14 @@ TEST_F(HurriedBox, BidsPaso) {
   EXPECT_EQ(dialogo.Resultado, 0);
 }
 
-TEST_F(HurriedBox, StaysUntilItHasBeenRead) {
+TEST_F(HurriedBox, StaysOpenUntilAKeyAfterItHasTheFocus) {
   teclas_ = 2;
   ShowMessage(nullptr, u"La pareja 1 gana");
 }
 
-// Another control has got the focus: the first Enter must not be its, and the second must count.
-TEST(RunBox, CountsTheKeyAfterTheOneThatCameTooEarly) {
+// The focus is on another control at first: the first Enter must have no effect, the second one
+// must answer the box.
+TEST(RunBox, AcceptsTheKeyAfterOneThatCameTooEarly) {
   QMessageBox caja;
   auto* const inicial = caja.addButton(QStringLiteral("Uno"), QMessageBox::AcceptRole);
   caja.addButton(QStringLiteral("Dos"), QMessageBox::RejectRole);
@@ -116,15 +116,15 @@ TEST(RunBox, CountsTheKeyAfterTheOneThatCameTooEarly) {
   EXPECT_EQ(teclas, 2);
 }
 
-TEST(RunBox, LeavesTheFocusToThePlayerOnceItHasBeenThere) {
+TEST(RunBox, LetsThePlayerMoveTheFocus) {
   std::size_t pulsadas = 0;
   const std::array teclas{Qt::Key_Tab, Qt::Key_Return};
   const BoxAnswerer jugador{[&](QWidget* caja) { Press(caja, teclas.at(pulsadas++)); }};
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
 }
 
-// Holds one key after another down in every box, then presses `alFin`. Gives whether the held keys
-// have left the box alone.
+// Sends auto-repeat events of several keys to a box, then presses `alFin`. Done is true if the box
+// stayed open meanwhile.
 class KeyHolder {
  public:
   explicit KeyHolder(Qt::Key alFin) : alFin_{alFin} {}
@@ -159,7 +159,7 @@ TEST(HeldKey, AnswersNoQuestion) {
   EXPECT_TRUE(jugador.Done());
 }
 
-TEST(HeldKey, ReadsNoMessage) {
+TEST(HeldKey, ClosesNoMessageBox) {
   const KeyHolder jugador{Qt::Key_Return};
   ShowMessage(nullptr, u"La pareja 1 gana");
   EXPECT_TRUE(jugador.Done());
@@ -174,7 +174,7 @@ TEST(HeldKey, BidsNothing) {
   EXPECT_TRUE(jugador.Done());
 }
 
-TEST(HeldKey, WritesInABoxButDoesNotCloseIt) {
+TEST(HeldKey, TypesIntoAnInputBoxButDoesNotCloseIt) {
   const KeyHolder jugador{Qt::Key_Return};
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "snn");
   EXPECT_TRUE(jugador.Done());
@@ -195,7 +195,7 @@ TEST(HeldKey, MovesTheFocus) {
   EXPECT_EQ(AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}), false);
 }
 
-// The access key of a button: an accepted override keeps it from the button.
+// An accepted ShortcutOverride keeps the access key from the button.
 TEST(HeldKey, PressesNoButtonByItsAccessKey) {
   bool aceptado = false;
   const BoxAnswerer jugador{[&aceptado](QWidget* caja) {

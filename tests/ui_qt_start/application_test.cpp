@@ -1,4 +1,4 @@
-// The toolkit as the programs with windows set it up.
+// The set-up of Qt by the programs with windows.
 #include "ui/qt/application.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@
 namespace tasca::test {
 namespace {
 
-// Each test starts the toolkit, on a screen of its own.
+// Creates the application with an offscreen screen of a given height.
 class Started : public testing::Test {
  protected:
   Application& Start(int alto = 800) {
@@ -33,7 +33,7 @@ class Started : public testing::Test {
     return *(aplicacion_ = std::make_unique<Application>(argc_, argv_.data()));
   }
 
-  // The size of the letters on a screen of that height.
+  // The font size on a screen of that height.
   double Letra(int alto) {
     Start(alto);
     return QApplication::font().pointSizeF();
@@ -51,7 +51,7 @@ TEST_F(Started, KeepsTheCursorFromBlinking) {
   EXPECT_EQ(QGuiApplication::styleHints()->cursorFlashTime(), 0);
 }
 
-TEST_F(Started, GoesOnWhileNoWindowIsOpen) {
+TEST_F(Started, RunsOnWithoutAnOpenWindow) {
   Start();
   EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
 }
@@ -68,7 +68,7 @@ TEST_F(Started, OffersTheTextBoxesMenusInSpanish) {
   EXPECT_EQ(entradas, "&Deshacer|&Rehacer|Cor&tar|&Copiar|&Pegar|Borrar|Seleccionar todo|");
 }
 
-TEST_F(Started, EnlargesTheLettersOnATallScreenUpToTwice) {
+TEST_F(Started, ScalesTheFontOnATallScreenUpToTwice) {
   const double corriente = Letra(800);
   EXPECT_GT(corriente, 0);
   EXPECT_EQ(Letra(1200), corriente);
@@ -81,7 +81,7 @@ TEST_F(Started, RunsUntilTheProgramEnds) {
   EXPECT_EQ(Start().Run([] { QCoreApplication::exit(7); }, {}), 7);
 }
 
-TEST_F(Started, PassesTheEndOfTheSessionOn) {
+TEST_F(Started, ForwardsTheEndOfTheSession) {
   std::string dicho;
   Application& aplicacion = Start();
   const auto acabarSesion = [] {
@@ -99,7 +99,7 @@ TEST_F(Started, PassesTheEndOfTheSessionOn) {
                              QCoreApplication::exit(3);
                            }};
   EXPECT_EQ(aplicacion.Run(acabarSesion, fin), 3);
-  EXPECT_EQ(dicho, "may not ask, ends") << "this screen has no session manager to ask through";
+  EXPECT_EQ(dicho, "may not ask, ends") << "the offscreen platform has no session manager";
 }
 
 TEST_F(Started, HandlesTheEndOfTheSessionItself) {
@@ -114,7 +114,7 @@ TEST_F(Started, HandlesTheEndOfTheSessionItself) {
   EXPECT_EQ(veces, 1);
 }
 
-// A session manager that writes down what it is told.
+// A session manager that records its calls.
 struct Manager {
   bool allowsInteraction() {
     dicho += "asked ";
@@ -140,13 +140,13 @@ std::string Answered(bool deja, bool puedeAcabar) {
   return gestor.dicho;
 }
 
-TEST(AnswerSessionManager, CallsTheEndOffWhenTheProgramHasToStay) {
+TEST(AnswerSessionManager, CancelsTheEndOfTheSessionWhenTheProgramMustStay) {
   EXPECT_EQ(Answered(true, true), "asked release");
   EXPECT_EQ(Answered(true, false), "asked cancel");
   EXPECT_EQ(Answered(false, true), "asked release");
 }
 
-TEST(AnswerSessionManager, AsksForNothingThatTheProgramDoesNotNeed) {
+TEST(AnswerSessionManager, RequestsInteractionOnlyWhenNeeded) {
   Manager gestor{.deja = true, .dicho = {}};
   AnswerSessionManager(gestor, {.MayCome = [](const auto&) { return true; }, .Comes = {}});
   EXPECT_EQ(gestor.dicho, "release");

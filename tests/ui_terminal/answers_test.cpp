@@ -1,4 +1,4 @@
-// What players type for what is offered.
+// Reading typed answers.
 #include "ui/terminal/answers.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace tasca {
 namespace {
 
-TEST(Fold, ForgetsCapitalsAccentsAndBlanksAround) {
+TEST(Fold, RemovesCaseAccentsAndOuterBlanks) {
   struct CasoOpcion {
     std::u16string_view Escrito;
     std::u16string_view Plegado;
@@ -18,7 +18,7 @@ TEST(Fold, ForgetsCapitalsAccentsAndBlanksAround) {
            CasoOpcion{u"ÓRDAGO", u"ordago"},
            CasoOpcion{u"Niño", u"nino"},
            CasoOpcion{u"ÀÉÎÖÜÝÇ", u"aeiouyc"},
-           CasoOpcion{u"o\u0301rdago", u"ordago"},  // the accent as a character of its own
+           CasoOpcion{u"o\u0301rdago", u"ordago"},  // a combining accent
            CasoOpcion{u"Šž ŸŒ", u"sz yœ"},
            CasoOpcion{u"3×÷", u"3×÷"},
            CasoOpcion{u"", u""},
@@ -28,7 +28,7 @@ TEST(Fold, ForgetsCapitalsAccentsAndBlanksAround) {
   }
 }
 
-TEST(ReadYesNo, TakesTheUsualWords) {
+TEST(ReadYesNo, AcceptsTheUsualWords) {
   for (const auto* si : {u"s", u"S", u"si", u"sí", u"SÍ", u" sí ", u"y", u"yes", u"Yes"}) {
     EXPECT_EQ(ReadYesNo(si), true) << test::Utf8(si);
   }
@@ -37,7 +37,7 @@ TEST(ReadYesNo, TakesTheUsualWords) {
   }
 }
 
-TEST(ReadYesNo, TakesNothingElse) {
+TEST(ReadYesNo, RejectsEverythingElse) {
   for (const auto* otra : {u"", u"sip", u"nada", u"0", u"1", u"q", u"ye", u"-"}) {
     EXPECT_EQ(ReadYesNo(otra), std::nullopt) << test::Utf8(otra);
   }
@@ -56,7 +56,7 @@ void ExpectAll(const std::vector<Option>& opciones, const std::vector<CasoOpcion
   }
 }
 
-TEST(FindOptions, UnderstandsTheButtonsOfAnOpening) {
+TEST(FindOptions, FindsTheButtonsOfAnOpening) {
   ExpectAll({{0, u"Paso"}, {1, u"Envido"}, {2, u"Envido Más"}, {3, u"Órdago"}},
             {{u"0", {0}},
              {u"1", {1}},
@@ -92,7 +92,7 @@ TEST(FindOptions, FindsNothingThatIsNotOffered) {
                                              {u"quiero", {1}}});
 }
 
-TEST(FindOptions, TakesEnvidoForTheRaiseWhenABetStands) {
+TEST(FindOptions, TakesEnvidoForTheRaiseInAnAnswer) {
   ExpectAll({{0, u"Paso"}, {1, u"Quiero"}, {2, u"Envido Más"}, {3, u"Órdago"}},
             {{u"e", {2}}, {u"envido", {2}}, {u"q", {1}}});
 }
@@ -111,16 +111,16 @@ TEST(FindOptions, FindsCharactersByTheirWords) {
              {u"ana", {3}},
              {u"ana m", {4}},
              {u"maría", {4}},
-             {u"mari", {5}},  // a name that starts so comes before a word that does
+             {u"mari", {5}},  // the start of a name takes precedence over the start of a word
              {u"a", {0, 3, 4}},
              {u"al", {0}}});
 }
 
-TEST(FindOptions, TakesTheFirstOfTwoThatHaveTheSameName) {
+TEST(FindOptions, TakesTheFirstOfTwoEqualNames) {
   ExpectAll({{1, u"Ana"}, {2, u"Ana"}}, {{u"ana", {1}}, {u"2", {2}}});
 }
 
-TEST(FindOptions, LetsANumberComeBeforeAName) {
+TEST(FindOptions, PrefersANumberToAName) {
   ExpectAll({{1, u"2 de mayo"}, {2, u"Ana"}}, {{u"2", {2}}, {u"2 d", {1}}});
 }
 

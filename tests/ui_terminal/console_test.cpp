@@ -1,4 +1,4 @@
-// Lines out and in.
+// The console's output and input of lines.
 #include "ui/terminal/console.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ TEST(Console, EndsEveryLineOnce) {
   EXPECT_EQ(c.Take(), "uno\ndos\n\ntres\ncuatro\n");
 }
 
-TEST(Console, LeavesTheCursorBehindAPrompt) {
+TEST(Console, LeavesTheCursorAfterAPrompt) {
   FakeConsole c;
   c.Consola.Prompt(u"¿mus? ");
   EXPECT_EQ(c.Take(), "¿mus? ");
@@ -35,7 +35,7 @@ TEST(Console, StartsANewLineAfterAnOpenPrompt) {
   EXPECT_EQ(c.Take(), "uno\ndos\ntres\ncuatro\n");
 }
 
-TEST(Console, EndsThePromptsLineWhenNobodyEchoesTheAnswer) {
+TEST(Console, EndsThePromptsLineWithoutAnEcho) {
   FakeConsole c{"s\n"};
   c.Consola.Prompt(u"¿mus? ");
   c.Consola.ReadLine();
@@ -50,7 +50,7 @@ TEST(Console, LeavesTheLineBreakToATerminalThatEchoes) {
   EXPECT_EQ(c.Take(), "¿mus? Ana: Mus\n");
 }
 
-TEST(Console, BreaksLinesAndPromptsBetweenWordsAtTheWidthOfTheMoment) {
+TEST(Console, WrapsLinesAndPromptsAtTheCurrentWidth) {
   std::istringstream in;
   std::ostringstream out;
   std::size_t ancho = 12;
@@ -70,7 +70,7 @@ TEST(Console, ReadsLinesWithEitherLineEndAndALastOneWithout) {
   EXPECT_THROW(c.Consola.ReadLine(), LeaveProgram);
 }
 
-TEST(Console, ReadsWhatIsNotUtf8) {
+TEST(Console, ReadsInvalidUtf8) {
   FakeConsole c{"Jos\xE9\n"};
   EXPECT_EQ(c.Consola.ReadLine(), u"Jos\uFFFD");
 }
@@ -80,7 +80,7 @@ TEST(Console, ReadsAVeryLongLine) {
   EXPECT_EQ(c.Consola.ReadLine().size(), 3'000'000U);
 }
 
-// Knows how often it has been told to send on what it holds.
+// Counts its flushes.
 struct CountingBuffer : std::stringbuf {
   int sync() override {
     ++Flushes;
@@ -89,7 +89,7 @@ struct CountingBuffer : std::stringbuf {
   int Flushes = 0;
 };
 
-TEST(Console, SendsEverythingOnBeforeItTellsAnError) {
+TEST(Console, FlushesBeforeAnError) {
   CountingBuffer buffer;
   std::ostream out{&buffer};
   std::istringstream in;
@@ -100,7 +100,7 @@ TEST(Console, SendsEverythingOnBeforeItTellsAnError) {
   EXPECT_EQ(buffer.Flushes, 1);
 }
 
-TEST(Console, SendsEverythingOnBeforeItReads) {
+TEST(Console, FlushesBeforeReading) {
   CountingBuffer buffer;
   std::ostream out{&buffer};
   std::istringstream in{"\n"};
@@ -111,14 +111,14 @@ TEST(Console, SendsEverythingOnBeforeItReads) {
   EXPECT_EQ(buffer.Flushes, 1);
 }
 
-TEST(Console, FailsWhenItsOutputDoesNotArrive) {
+TEST(Console, FailsWhenItsOutputCannotBeWritten) {
   FakeConsole c{"\n"};
   c.Out.setstate(std::ios::badbit);
   EXPECT_THROW(c.Consola.ReadLine(), RunTimeError);
   EXPECT_FALSE(c.Consola.Flush());
 }
 
-TEST(Console, TellsErrorsOnTheOtherStreamAndCleansThem) {
+TEST(Console, WritesErrorsToStandardErrorWithoutControlCharacters) {
   FakeConsole c;
   c.Consola.Prompt(u"¿mus? ");
   c.Consola.Error(u"Falta \u0007algo.");

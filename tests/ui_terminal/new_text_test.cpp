@@ -1,4 +1,4 @@
-// The part of the transcript that is still to be read, case by case.
+// The new part of the transcript.
 #include "ui/terminal/new_text.h"
 
 #include <gtest/gtest.h>
@@ -34,14 +34,14 @@ TEST(NewPart, IsEverythingAtFirstAndNothingWhenNothingHasChanged) {
   Expect({"both empty", u"", u"", u""});
 }
 
-TEST(NewPart, IsWhatHasBeenAppended) {
+TEST(NewPart, IsTheAppendedText) {
   Expect({"a line", u"La grande\r\n", u"La grande\r\nAna: Paso\r\n", u"Ana: Paso\r\n"});
   Expect({"a prompt", u"a\r\n", u"a\r\nPulse enter para continuar", u"Pulse enter para continuar"});
   Expect({"lines and a prompt", u"a\r\n", u"a\r\nb\r\nc", u"b\r\nc"});
   Expect({"a blank line", u"a\r\n", u"a\r\n\r\nb", u"\r\nb"});
 }
 
-TEST(NewPart, IsTheWholeTextWhenItIsAnother) {
+TEST(NewPart, IsTheWholeTextWhenItWasReplaced) {
   Expect({"another", u"La grande\r\nAna: Paso\r\n", u"Pequeña \r\n", u"Pequeña \r\n", true});
   Expect({"cleared", u"La grande\r\n", u"", u"", true});
   Expect({"the beginning of what was there", u"Berta: Mus\r\nAna: Mus\r\n", u"Berta: Mus\r\n",
@@ -50,7 +50,7 @@ TEST(NewPart, IsTheWholeTextWhenItIsAnother) {
           u"Ana: Mus\r\nBerta: Paso\r\n", true});
 }
 
-TEST(NewPart, IsOnlyWhatFollowsWhenPromptsHaveBeenTakenOut) {
+TEST(NewPart, IsOnlyTheAppendedTextWhenPromptsWereRemoved) {
   Expect({"in the middle", u"Ana: Sí\r\nPulse enter para continuar\r\nEl juego\r\nAna: Envido\r\n",
           u"Ana: Sí\r\n\r\nEl juego\r\nAna: Envido\r\nBerta: Quiero\r\n", u"Berta: Quiero\r\n"});
   Expect({"and nothing else", u"a\r\nPulse enter para continuar\r\nb\r\n", u"a\r\n\r\nb\r\n", u""});
@@ -68,7 +68,7 @@ TEST(NewPart, KeepsTheOtherPrompts) {
   Expect({"contar", u"a\r\nPulse enter para contar", u"a\r\n", u"a\r\n", true});
 }
 
-TEST(NewPart, DoesNotEndALineThatThePlayersEnterHasEnded) {
+TEST(NewPart, OmitsALineBreakAfterThePlayersEnter) {
   Expect({"heading after a prompt", u"a\r\nPulse enter para continuar",
           u"a\r\nPulse enter para continuar\r\nEl juego", u"El juego"});
   Expect({"only one break", u"a", u"a\r\n\r\nb", u"\r\nb"});
@@ -78,9 +78,8 @@ TEST(NewPart, DoesNotEndALineThatThePlayersEnterHasEnded) {
   Expect({"a line that goes on", u"El juego", u"El juegoAna: Paso\r\n", u"Ana: Paso\r\n"});
 }
 
-// Whatever is appended, piece by piece, and whenever the prompts are taken out, every piece is told
-// exactly once.
-TEST(NewPart, NeverLosesAPieceNorTellsItTwice) {
+// Appends random pieces and removes prompts at random; each piece must be reported exactly once.
+TEST(NewPart, ReportsEveryPieceExactlyOnce) {
   std::mt19937 motor{7};
   for (int vuelta = 0; vuelta < 300; ++vuelta) {
     std::u16string texto;

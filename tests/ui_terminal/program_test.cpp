@@ -1,5 +1,4 @@
-// The program tasca-terminal as a player starts it: at a terminal, over SSH, in a pipe, through a
-// link, by its name.
+// The program tasca-terminal: at a terminal, over SSH, in a pipe, through a link, and by its name.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -28,7 +27,7 @@ class TerminalProgramRun : public testing::Test {
   std::string Program() const { return carpeta_.Path() / "tasca-terminal"; }
   bool LoudspeakerStarted() const { return fs::exists(carpeta_.Path() / "started"); }
 
-  // What the game says to the wish for no sound, once the first hand has been dealt.
+  // "plays" or "silent", from the program's answer to the command "sonido" after the first deal.
   std::string AnswerAboutSound(const Sides& lados, const Words& variables) {
     Words orden = variables;
     orden.push_back(Program());
@@ -46,7 +45,7 @@ class TerminalProgramRun : public testing::Test {
   TempFolder carpeta_;
 };
 
-TEST_F(TerminalProgramRun, PlaysToThePlayerInFrontOfIt) {
+TEST_F(TerminalProgramRun, PlaysSoundAtALocalTerminal) {
   TerminalProgram programa{Terminal, {Program()}};
   programa.Type(Puerta);
   EXPECT_TRUE(Eventually([this] { return LoudspeakerStarted(); }));
@@ -69,8 +68,8 @@ TEST_F(TerminalProgramRun, IsSilentUnlessThePlayerTypesAndReadsAtATerminal) {
   EXPECT_FALSE(LoudspeakerStarted());
 }
 
-// The terminal shows the Enter; a second line break would leave an empty line.
-TEST_F(TerminalProgramRun, LeavesTheEndOfThePromptsLineToTheTerminal) {
+// The terminal echoes the Enter, so that the program must not print a line break too.
+TEST_F(TerminalProgramRun, PrintsNoLineBreakAfterAnEchoedAnswer) {
   TerminalProgram programa{Terminal, {Program()}};
   ASSERT_TRUE(programa.Shows("Su nombre: [Ana] ")) << programa.Shown();
   programa.Type("Eva\n");
@@ -80,7 +79,7 @@ TEST_F(TerminalProgramRun, LeavesTheEndOfThePromptsLineToTheTerminal) {
   EXPECT_EQ(programa.End(), 0);
 }
 
-// The longest line that is shown before the first question: it is known by its start.
+// The hint before the first question, as printed.
 std::string FirstHint(TerminalProgram& programa) {
   EXPECT_TRUE(programa.Shows("Su nombre: ")) << programa.Shown();
   const std::string& todo = programa.Shown();
@@ -89,13 +88,13 @@ std::string FirstHint(TerminalProgram& programa) {
   return todo.substr(desde, todo.rfind("Su nombre: ") - desde);
 }
 
-TEST_F(TerminalProgramRun, BreaksLinesBetweenWordsAtTheTerminalsWidth) {
+TEST_F(TerminalProgramRun, WrapsLinesAtTheWidthOfTheTerminal) {
   TerminalProgram programa{{.Columns = 40}, {Program()}};
   EXPECT_EQ(FirstHint(programa),
             "Enter deja lo que está entre corchetes;\r\nq sale del juego; ? da ayuda.\r\n");
 }
 
-TEST_F(TerminalProgramRun, TakesEightyCharactersForATerminalThatDoesNotTellItsWidth) {
+TEST_F(TerminalProgramRun, WrapsLinesAtEightyColumnsIfTheWidthIsUnknown) {
   TerminalProgram programa{Terminal, {Program()}};
   programa.Type("\nx\n");
   EXPECT_TRUE(programa.Shows("nombres.\r\n")) << programa.Shown();
@@ -105,7 +104,7 @@ TEST_F(TerminalProgramRun, TakesEightyCharactersForATerminalThatDoesNotTellItsWi
   EXPECT_EQ(programa.End(), 0);
 }
 
-TEST_F(TerminalProgramRun, LeavesLinesWholeInAPipe) {
+TEST_F(TerminalProgramRun, DoesNotWrapLinesInAPipe) {
   TerminalProgram programa{{.ReadsAtTerminal = false, .Columns = 40}, {Program()}};
   EXPECT_EQ(FirstHint(programa),
             "Enter deja lo que está entre corchetes; q sale del juego; ? da ayuda.\n");
@@ -119,8 +118,8 @@ TEST_F(TerminalProgramRun, EndsThePromptsLineInAPipe) {
       << programa.Shown();
 }
 
-// A player who reads through another program still sees what is typed.
-TEST_F(TerminalProgramRun, LeavesTheEndOfTheLineToTheTerminalAtWhichThePlayerTypes) {
+// Only the output is a pipe: the terminal still echoes the input.
+TEST_F(TerminalProgramRun, PrintsNoLineBreakIfOnlyTheInputIsATerminal) {
   TerminalProgram programa{{.ReadsAtTerminal = false}, {Program()}};
   programa.Type("Eva\n");
   EXPECT_TRUE(programa.Shows("Compañero: "));

@@ -1,4 +1,4 @@
-// Questions: every answer, every wrong answer, and the end of the input.
+// The questions: valid and invalid answers, and the end of the input.
 #include "ui/terminal/prompts.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace tasca::test {
 namespace {
 
-// A console with the prompts on it; "?" is a command that says what is wanted.
+// A console with prompts. "?" is a command that prints what the question expects.
 struct Asked : FakeConsole {
   explicit Asked(const std::string& entrada)
       : FakeConsole{entrada}, Preguntas{Consola, [this](const TypedLine& linea) {
@@ -19,14 +19,14 @@ struct Asked : FakeConsole {
                                           return true;
                                         }} {}
 
-  std::vector<bool> EsOpcion;  // of each line typed
+  std::vector<bool> EsOpcion;  // for each input line
   Prompts Preguntas;
 };
 
 const std::vector<Option> Botones{{0, u"Paso"}, {1, u"Quiero"}};
 const std::vector<Option> Nombres{{0, u"el Cojo"}, {7, u"el Conde"}};
 
-TEST(PromptsYesNo, ShowsTheDefaultAsACapitalAndTakesItForNothingTyped) {
+TEST(PromptsYesNo, ShowsTheDefaultAsACapitalAndTakesItForAnEmptyLine) {
   Asked si{"\n"};
   EXPECT_TRUE(si.Preguntas.YesNo(u"¿mus?", true));
   EXPECT_EQ(si.Take(), "¿mus? [S/n] \n");
@@ -35,13 +35,13 @@ TEST(PromptsYesNo, ShowsTheDefaultAsACapitalAndTakesItForNothingTyped) {
   EXPECT_EQ(no.Take(), "¿Tiene pares? [s/N] \n");
 }
 
-TEST(PromptsYesNo, TakesTheAnswerTyped) {
+TEST(PromptsYesNo, TakesTheTypedAnswer) {
   Asked a{"n\nSÍ\n"};
   EXPECT_FALSE(a.Preguntas.YesNo(u"¿mus?", true));
   EXPECT_TRUE(a.Preguntas.YesNo(u"¿mus?", false));
 }
 
-TEST(PromptsYesNo, ExplainsAnAnswerThatDoesNotFitAndAsksAgain) {
+TEST(PromptsYesNo, ExplainsAnInvalidAnswerAndAsksAgain) {
   Asked a{"quizás\nn\n"};
   EXPECT_FALSE(a.Preguntas.YesNo(u"¿mus?", true));
   EXPECT_EQ(a.Take(),
@@ -72,7 +72,7 @@ TEST(PromptsChoose, RefusesWhatIsNotOfferedAndAsksAgain) {
             "La grande: [0] \n" + reparo + "La grande: [0] \n" + reparo + "La grande: [0] \n");
 }
 
-TEST(PromptsChoose, NamesTheAnswersBetweenWhichItCannotTell) {
+TEST(PromptsChoose, ListsTheOptionsOfAnAmbiguousAnswer) {
   Asked a{"el co\nconde\n"};
   EXPECT_EQ(a.Preguntas.Choose(u"Compañero:", Nombres, u"0", 0), 7);
   EXPECT_EQ(a.Take(),
@@ -86,14 +86,14 @@ TEST(PromptsChoose, LetsTheInputEnd) {
   EXPECT_THROW(a.Preguntas.Choose(u"La grande:", Botones, u"0", 0), LeaveProgram);
 }
 
-TEST(PromptsText, TakesTheTextWithoutTheBlanksAroundIt) {
+TEST(PromptsText, TrimsTheText) {
   Asked a{"  Ana María \n-\n"};
   EXPECT_EQ(a.Preguntas.Text(u"Su nombre:", u"Jugador 1"), u"Ana María");
   EXPECT_EQ(a.Preguntas.Text(u"Su nombre:", u"Jugador 1"), u"-");
   EXPECT_EQ(a.Take(), "Su nombre: [Jugador 1] \nSu nombre: [Jugador 1] \n");
 }
 
-TEST(PromptsText, LeavesTheDefaultWhenNothingIsTyped) {
+TEST(PromptsText, TakesTheDefaultForAnEmptyLine) {
   Asked a{"\n"};
   EXPECT_EQ(a.Preguntas.Text(u"Su nombre:", u"Jugador 1"), u"Jugador 1");
 }
@@ -105,7 +105,7 @@ TEST(PromptsTextOrCancel, TakesTheTextAsItIs) {
   EXPECT_EQ(a.Preguntas.TextOrCancel(u"¿Cuántas?", u"2"), u"-5");
 }
 
-TEST(PromptsTextOrCancel, GivesTheDefaultForNothingTypedAndNothingForADash) {
+TEST(PromptsTextOrCancel, ReturnsTheDefaultForAnEmptyLineAndNothingForADash) {
   Asked a{"\n-\n - \n"};
   EXPECT_EQ(a.Preguntas.TextOrCancel(u"¿Cuántas?", u"2"), u"2");
   EXPECT_EQ(a.Preguntas.TextOrCancel(u"¿Cuántas?", u"2"), u"");
@@ -113,7 +113,7 @@ TEST(PromptsTextOrCancel, GivesTheDefaultForNothingTypedAndNothingForADash) {
   EXPECT_TRUE(a.Take().starts_with("¿Cuántas? [2; - cancela] \n"));
 }
 
-TEST(PromptsTextOrCancel, SaysThatAnEmptyDefaultIsNothing) {
+TEST(PromptsTextOrCancel, ShowsAnEmptyDefaultAsNada) {
   Asked a{"\n"};
   EXPECT_EQ(a.Preguntas.TextOrCancel(u"¿Cuáles?: ", u""), u"");
   EXPECT_EQ(a.Take(), "¿Cuáles?: [nada; - cancela] \n");
@@ -124,13 +124,13 @@ TEST(PromptsTextOrCancel, LetsTheInputEnd) {
   EXPECT_THROW(a.Preguntas.TextOrCancel(u"¿Cuántas?", u"2"), LeaveProgram);
 }
 
-TEST(Prompts, RunCommandsInsteadOfTakingThemForAnswers) {
+TEST(Prompts, RunCommandsInsteadOfTreatingThemAsAnswers) {
   Asked a{"?\nAna\n"};
   EXPECT_EQ(a.Preguntas.Text(u"Su nombre:", u"Jugador 1"), u"Ana");
   EXPECT_EQ(a.Take(), "Su nombre: [Jugador 1] \nEscriba la respuesta.\nSu nombre: [Jugador 1] \n");
 }
 
-TEST(Prompts, TellTheCommandsWhatEachQuestionWants) {
+TEST(Prompts, TellTheCommandsWhatEachQuestionExpects) {
   Asked a{"?\ns\n?\n1\n?\n2\n"};
   EXPECT_TRUE(a.Preguntas.YesNo(u"¿mus?", true));
   EXPECT_EQ(a.Preguntas.Choose(u"La grande:", Botones, u"0", 0), 1);

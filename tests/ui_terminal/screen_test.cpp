@@ -1,4 +1,4 @@
-// What the player reads at each stop.
+// The output of the table's texts.
 #include "ui/terminal/screen.h"
 
 #include <gtest/gtest.h>
@@ -46,7 +46,7 @@ TEST(Screen, PrintsHandAndScoreOnlyWhenTheyChange) {
   EXPECT_EQ(w.Show(), "");
 }
 
-TEST(Screen, LeavesTheHandToTheTranscriptThatTellsIt) {
+TEST(Screen, DoesNotRepeatAHandThatTheTranscriptShows) {
   Watched w;
   w.t.Text1 = u"Rey de oros";
   w.t.Text2 = u"Sus cartas son\r\nRey de oros\r\nPulse enter para empezar";
@@ -62,7 +62,7 @@ TEST(Screen, PutsThePromptAfterEverythingElse) {
   EXPECT_EQ(w.Show(), "la pareja 1 se saca 1 piedra\nPiedras: 1 / 0\nPulse enter para continuar");
 }
 
-TEST(Screen, ShowsOpenHandsBeforeTheCountThatSpeaksOfThem) {
+TEST(Screen, ShowsOpenHandsBeforeTheCount) {
   Watched w;
   w.t.Text2 = u"Pulse enter para contar";
   w.Show();
@@ -73,7 +73,7 @@ TEST(Screen, ShowsOpenHandsBeforeTheCountThatSpeaksOfThem) {
             "La pareja 1 se saca  una de la grande en paso\n");
 }
 
-TEST(Screen, ShowsOpenHandsAfterTheWordsThatOpenedThem) {
+TEST(Screen, ShowsOpenHandsAfterTheAnswerThatOpenedThem) {
   Watched w;
   w.t.Text2 = u"La grande\r\n";
   w.Show();

@@ -1,4 +1,4 @@
-// A session whose player can hear the loudspeaker.
+// Sessions with sound.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -21,7 +21,7 @@ namespace {
 
 using Oidos = std::vector<std::string>;
 
-// What is typed, one character after the other, as it comes.
+// An unbuffered input stream: reads one character at a time from a descriptor.
 class KeyboardInput : public std::streambuf {
  public:
   explicit KeyboardInput(int descriptor) : descriptor_{descriptor} {}
@@ -43,7 +43,8 @@ class SessionWithSound : public testing::Test {
   SessionWithSound() { LlenarCarpeta(carpeta_); }
 
   using Typist = std::function<void(const std::string& texto)>;
-  // Plays what `jugador` types, at his own pace, until he stops.
+  // Plays a session. `jugador` runs in another thread and types with the function that it gets; the
+  // input ends when it returns. Returns the output.
   std::string Play(const std::function<void(const Typist&)>& jugador) {
     std::array<int, 2> tubo{-1, -1};
     EXPECT_EQ(::pipe(tubo.data()), 0);
@@ -70,7 +71,7 @@ class SessionWithSound : public testing::Test {
   SoundFolder carpeta_;
 };
 
-TEST_F(SessionWithSound, ShufflesAndDealsWhileItWaitsForALine) {
+TEST_F(SessionWithSound, PlaysTheShuffleAndTheDealWhileItWaitsForALine) {
   Play([this](const Typist& teclear) {
     teclear(Puerta);
     Hear({"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3"});
@@ -79,7 +80,7 @@ TEST_F(SessionWithSound, ShufflesAndDealsWhileItWaitsForALine) {
             (Oidos{"Son_BarajaCartas.mp3 0.0 0.0", "Son_ReparteCartas.mp3 0.0 0.0"}));
 }
 
-TEST_F(SessionWithSound, IsSilentOnDemandAndGoesOn) {
+TEST_F(SessionWithSound, TurnsTheSoundOffAndOn) {
   const std::string salida = Play([this](const Typist& teclear) {
     teclear(Puerta + "sonido\nq\nq\nsonido\nq\n");
     Hear({"Son_ReparteCartas.mp3"});
@@ -101,7 +102,7 @@ std::size_t Shuffles(const std::string& ordenes) {
   return veces;
 }
 
-// "12 0 0 0 " stops number 11; the next order is the new table's.
+// An order with 0 repetitions, such as "12 0 0 0 ", stops the sound.
 bool IsStoppedBeforeTheLastShuffle(const std::string& ordenes) {
   const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
   if (ultima == std::string::npos) return false;
@@ -109,8 +110,8 @@ bool IsStoppedBeforeTheLastShuffle(const std::string& ordenes) {
   return ordenes.substr(anterior, ultima - anterior).find(" 0 0 0 ") != std::string::npos;
 }
 
-// The stand-in never says that a sound has ended: nothing but the main window's end stops one.
-TEST(SessionThatIsHeard, LetsNothingOfTheOldTablePlayOn) {
+// The stand-in never reports the end of a sound, so that only the end of the table stops one.
+TEST(SessionThatIsHeard, StopsTheSoundOfTheOldTable) {
   const TempFolder carpeta;
   LlenarCarpeta(carpeta, "1", "4", "4");
   StandInThatNotes(carpeta);

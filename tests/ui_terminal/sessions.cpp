@@ -1,4 +1,4 @@
-// Folders, sessions and players.
+// The data files, the sessions and the players.
 #include "tests/ui_terminal/sessions.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ std::u16string Record(std::u16string_view nombre, std::u16string_view historia) 
 
 TimeOfDay TenPastNine() { return {.Hora = 9, .Minuto = 10, .Segundo = 0}; }
 
-// An input whose every line is made up when it is wanted.
+// An input stream that asks the player for each line when it is read.
 class PlayerInput : public std::streambuf {
  public:
   PlayerInput(const std::ostringstream& salida, Player jugador, int maximo)
@@ -108,7 +108,7 @@ SessionResult PlayWith(const TempFolder& carpeta, const Player& jugador, int max
 SessionResult PlayHearing(const TempFolder& carpeta, const Player& jugador, int maximo) {
   std::array<int, 2> tubo{-1, -1};
   EXPECT_EQ(::pipe(tubo.data()), 0);
-  ::close(tubo[1]);  // there is always something at the keyboard: its end
+  ::close(tubo[1]);  // the keyboard is always readable: end of file
   std::ostringstream out;
   PlayerInput entrada{out, jugador, maximo};
   std::istream in{&entrada};

@@ -1,4 +1,4 @@
-// The start-up choices, answered in every way.
+// The start-up questions.
 #include "ui/terminal/startup_prompts.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ TimeOfDay Midnight() { return {}; }
 struct AtTheDoor : FakeConsole {
   explicit AtTheDoor(const std::string& entrada) : FakeConsole{entrada} { LlenarCarpeta(Carpeta); }
 
-  // Asks, and gives what was printed.
+  // Asks all questions and returns the output.
   std::string Ask() {
     if (Sesion.AbrirInicio() == Situacion::EnInicio) AskStartup(Sesion, Consola);
     return Take();
@@ -63,7 +63,7 @@ TEST(AskStartup, SeatsOfferedCharactersForAleatorio) {
   }
 }
 
-TEST(AskStartup, TakesOtherAnswersAndTellsTheStories) {
+TEST(AskStartup, TakesOtherAnswersAndPrintsTheStories) {
   AtTheDoor a{"Íñigo\n3\nCOJO\nberta\nn\ns\nindirecto\n"};
   EXPECT_EQ(a.Ask(), Bienvenida + "Su nombre: [Ana] \n" + Lista +
                          "Compañero: [0 Aleatorio] \n"
@@ -88,7 +88,7 @@ TEST(AskStartup, TakesOtherAnswersAndTellsTheStories) {
             "Ana> Nombre del \xFAltimo jugador\r\n");
 }
 
-TEST(AskStartup, TellsOnceThatTheNameCannotBeSavedAndGoesOn) {
+TEST(AskStartup, ReportsOnceThatTheNameCannotBeSaved) {
   AtTheDoor a{Puerta + Puerta};
   const PlainUser usuario{a.Carpeta};
   std::filesystem::permissions(a.Carpeta.Path() / "mus.ini", std::filesystem::perms{0444});
@@ -106,7 +106,7 @@ TEST(AskStartup, PreviewsTheLineWithoutExpressions) {
   EXPECT_FALSE(a.t.UsarExpresiones);
 }
 
-TEST(AskStartup, AsksAgainAfterACompanionWhoIsAlsoAnOpponent) {
+TEST(AskStartup, AsksAgainIfAPartnerIsAlsoAnOpponent) {
   AtTheDoor a{
       "Eva\n1\n1\n\n\nn\ni\n"
       "\n\n2\n\n\n\n\n"};
@@ -130,7 +130,7 @@ TEST(AskStartup, AsksAgainAfterACompanionWhoIsAlsoAnOpponent) {
   EXPECT_FALSE(a.t.EstiloDirecto);
 }
 
-TEST(AskStartup, AsksAgainAfterTwoOpponentsWhoAreOne) {
+TEST(AskStartup, AsksAgainIfBothOpponentsAreTheSame) {
   AtTheDoor a{
       "\n\n3\n3\n\n\n\n"
       "\n\n\n0\n\n\n\n"};
@@ -143,7 +143,7 @@ TEST(AskStartup, AsksAgainAfterTwoOpponentsWhoAreOne) {
   EXPECT_EQ(a.t.PersonajeAsiento[1], 5);
 }
 
-TEST(AskStartup, ExplainsAnswersThatDoNotFit) {
+TEST(AskStartup, ExplainsInvalidAnswers) {
   AtTheDoor a{"\n5\nZutano\nel\n4\n\n\nquizá\n\n\n2\n\n"};
   const std::string texto = a.Ask();
   const std::string reparo =
@@ -161,7 +161,7 @@ TEST(AskStartup, ExplainsAnswersThatDoNotFit) {
   EXPECT_EQ(a.t.PersonajeAsiento[2], 6);
 }
 
-TEST(AskStartup, TellsAllTheStoriesOnDemand) {
+TEST(AskStartup, PrintsAllStoriesOnDemand) {
   AtTheDoor a{"\n?\n\n\n\n\n\n\n"};
   EXPECT_NE(a.Ask().find("Compañero: [0 Aleatorio] \n"
                          "0 Aleatorio\n"
@@ -184,7 +184,7 @@ TEST(AskStartup, RefusesANameOfMoreThanAHundredCharacters) {
   EXPECT_EQ(Utf8(a.t.NombreJugador), cien);
 }
 
-// What is said to that name; the one typed after it is taken.
+// The message about this name. The next name, Eva, is accepted.
 std::string AnswerToTheName(const std::string& nombre) {
   AtTheDoor a{nombre + "\nEva\n\n\n\n\n\n\n"};
   std::string texto = a.Ask();
@@ -212,7 +212,7 @@ TEST(AskStartup, RefusesANameThatTheSettingsCannotHold) {
   EXPECT_EQ(AnswerToTheName("A\tna"), "Un texto no lleva tabuladores ni caracteres de control.\n");
 }
 
-TEST(AskStartup, TakesANameOfEveryKindOfLetterThatTheSettingsHold) {
+TEST(AskStartup, AcceptsANameWithCharactersOfWindows1252) {
   AtTheDoor a{"José Muñoz-Œuvré €\n\n\n\n\n\n\n"};
   a.Ask();
   EXPECT_EQ(Utf8(a.t.NombreJugador), "José Muñoz-Œuvré €");
@@ -220,14 +220,14 @@ TEST(AskStartup, TakesANameOfEveryKindOfLetterThatTheSettingsHold) {
               std::string::npos);
 }
 
-TEST(AskStartup, LeavesANameOfTheSettingsAloneThatCouldNotBeTyped) {
+TEST(AskStartup, KeepsANameFromTheSettingsThatCannotBeTyped) {
   AtTheDoor a{"\n\n\n\n\n\n\n"};
   a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\nA\x81na> Nombre\r\n");
   EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [A\uFFFDna] \n" + Lista));
   EXPECT_EQ(a.t.NombreJugador, u"A\u0081na");
 }
 
-TEST(AskStartup, LeavesALongerNameOfTheSettingsAlone) {
+TEST(AskStartup, KeepsALongerNameFromTheSettings) {
   const std::string largo(150, 'x');
   AtTheDoor a{"\n\n\n\n\n\n\n"};
   a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\n" + largo + "> Nombre\r\n");
@@ -240,7 +240,7 @@ bool Leaves(AtTheDoor& a) {
   return a.Sesion.HaAcabado() && a.Sesion.Final().Estado == 0;
 }
 
-// Leaves after so many defaults; nothing may have been written by then.
+// Leaves the program after this many defaults. The settings must be unchanged.
 void ExpectToLeave(std::size_t antes, const std::string& orden) {
   AtTheDoor a{std::string(antes, '\n') + orden};
   EXPECT_TRUE(Leaves(a)) << orden << antes;
@@ -253,7 +253,7 @@ TEST(AskStartup, LetsThePlayerLeaveAtEveryPrompt) {
   }
 }
 
-TEST(AskStartup, SaysThatTheCharacterFileIsMissing) {
+TEST(AskStartup, ReportsAMissingCharacterFile) {
   AtTheDoor a{"\n"};
   std::filesystem::remove(a.Carpeta.Path() / "Jugadores.dat");
   EXPECT_EQ(a.Ask(),

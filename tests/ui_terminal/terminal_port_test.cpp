@@ -1,4 +1,4 @@
-// The rules' questions as a player meets them.
+// The terminal's port: the questions of the rules.
 #include "ui/terminal/terminal_port.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ struct AtTheTable : FakeConsole {
     t.Text2 = u"La grande\r\n";
   }
 
-  // The button pressed in the dialog, as the protocol shows it.
+  // Opens the bidding dialog and returns the pressed button.
   int Bid(std::u16string_view titulo, ModoDialogo modo) {
     Dialog dialogo;
     dialogo.Caption = titulo;
@@ -36,7 +36,7 @@ struct AtTheTable : FakeConsole {
   TerminalPort Puerto{Consola, Pantalla, TwentyToFive};
 };
 
-TEST(TerminalMsgBox, PrintsWhatIsNewAndThenItsText) {
+TEST(TerminalMsgBox, PrintsTheNewTextsAndThenItsOwn) {
   AtTheTable a;
   a.Puerto.MsgBox(a.t, u"Ha ganado la partida.\r\nDora: Vaya");
   EXPECT_EQ(a.Take(), "La grande\n[Ha ganado la partida.\nDora: Vaya]\n");
@@ -55,7 +55,7 @@ TEST(TerminalYesNoBox, AsksWithItsTextWhenItHasOne) {
   EXPECT_EQ(a.Take(), "La grande\n¿Desea jugar otra partida? [S/n] \n");
 }
 
-TEST(TerminalYesNoBox, TakesTheDefaultForNothingTyped) {
+TEST(TerminalYesNoBox, TakesTheDefaultForAnEmptyLine) {
   AtTheTable a{"\n\n"};
   EXPECT_FALSE(a.Puerto.YesNoBox(a.t, Pregunta::Pares,
                                  {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}));
@@ -76,7 +76,7 @@ TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
   EXPECT_EQ(pregunta(), u"");
 }
 
-TEST(TerminalInputBox, DiscardsNothingWhenNothingIsTyped) {
+TEST(TerminalInputBox, DiscardsNothingForAnEmptyLine) {
   AtTheTable a{"\n1 3\n"};
   const auto pregunta = [&a] {
     return a.Puerto.InputBox(a.t, Pregunta::Descarte,
@@ -104,7 +104,7 @@ TEST(TerminalDialog, OffersQuieroInAnAnswer) {
   EXPECT_EQ(a.Take(), "La grande\nEnvite a pares: 0 Paso, 1 Quiero, 2 Envido Más, 3 Órdago [0] \n");
 }
 
-TEST(TerminalDialog, OffersAndTakesOnlyTwoButtonsAgainstAnOrdago) {
+TEST(TerminalDialog, OffersAndAcceptsOnlyTwoButtonsAgainstAnOrdago) {
   AtTheTable a{"2\nórdago\nenvido\nq\n"};
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
@@ -114,7 +114,7 @@ TEST(TerminalDialog, OffersAndTakesOnlyTwoButtonsAgainstAnOrdago) {
             "La grande\n" + pregunta + reparo + pregunta + reparo + pregunta + reparo + pregunta);
 }
 
-TEST(TerminalDialog, PassesWhenNothingIsTyped) {
+TEST(TerminalDialog, PassesForAnEmptyLine) {
   AtTheTable a{"\n"};
   EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 0);
 }
@@ -133,7 +133,7 @@ TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
                           pregunta);
 }
 
-// Each kind of question, asked until there is an answer.
+// The kinds of question.
 bool AskMus(AtTheTable& a) {
   return a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""});
 }
@@ -143,7 +143,7 @@ std::u16string AskDiscard(AtTheTable& a) {
                            {.Titulo = u"Sustituir cartas", .Texto = u"cuáles:", .PorDefecto = u""});
 }
 
-TEST(TerminalPort, SaysInEveryKindOfQuestionThatTheHandIsAbandonedAfterIt) {
+TEST(TerminalPort, ExplainsQInEveryKindOfQuestion) {
   const std::string despues = " Para abandonar la mano con q, conteste antes.\n";
   AtTheTable a{"q\nn\nQ\n1 3\nq\n1\n"};
   EXPECT_FALSE(AskMus(a));
@@ -159,12 +159,12 @@ TEST(TerminalPort, SaysInEveryKindOfQuestionThatTheHandIsAbandonedAfterIt) {
                           despues + envite);
 }
 
-TEST(TerminalPort, TakesQForQuieroWhereThatIsOffered) {
+TEST(TerminalPort, TakesQForQuieroIfItIsOffered) {
   AtTheTable a{"q\n"};
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::Respuesta), 1);
 }
 
-TEST(TerminalPort, LeavesOnTheWordInEveryKindOfQuestion) {
+TEST(TerminalPort, LeavesOnSalirInEveryKindOfQuestion) {
   AtTheTable a{"salir\nn\nSalir\n1 3\n salir \n1\n"};
   EXPECT_THROW(AskMus(a), LeaveProgram);
   EXPECT_FALSE(AskMus(a)) << "the word is no answer";
@@ -174,7 +174,7 @@ TEST(TerminalPort, LeavesOnTheWordInEveryKindOfQuestion) {
   EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 1);
 }
 
-TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {
+TEST(TerminalPort, LeavesAtTheEndOfTheInputInEveryKindOfQuestion) {
   AtTheTable a;
   EXPECT_THROW(a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}),
                LeaveProgram);
@@ -184,7 +184,7 @@ TEST(TerminalPort, LetsTheInputEndInEveryKindOfQuestion) {
   EXPECT_THROW(a.Bid(u"La grande", ModoDialogo::Apertura), LeaveProgram);
 }
 
-TEST(TerminalPort, AsksItsClock) {
+TEST(TerminalPort, ReturnsTheTimeOfItsClock) {
   AtTheTable a;
   EXPECT_EQ(a.Puerto.Now().Hora, 16);
   EXPECT_EQ(a.Puerto.Now().Minuto, 40);
@@ -200,13 +200,13 @@ int SecondsIn(const char* zona) {
   return (hora.Hora * 60 + hora.Minuto) * 60 + hora.Segundo;
 }
 
-TEST(LocalTime, IsTheTimeOfThePlayersPlace) {
+TEST(LocalTime, FollowsTheTimeZone) {
   constexpr int Dia = 24 * 60 * 60;
   const int aqui = SecondsIn("UTC0");
   const int alEste = SecondsIn("XXX-5:30");
   const int diferencia = (alEste - aqui + Dia) % Dia;
   EXPECT_GE(diferencia, (5 * 60 + 30) * 60);
-  EXPECT_LE(diferencia, (5 * 60 + 30) * 60 + 5) << "but for the time between the two readings";
+  EXPECT_LE(diferencia, (5 * 60 + 30) * 60 + 5) << "plus the time between the two readings";
 }
 
 }  // namespace

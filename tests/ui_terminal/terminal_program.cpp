@@ -1,4 +1,4 @@
-// Terminals, pipes and processes.
+// Creates the terminals, the pipes and the process.
 #include "tests/ui_terminal/terminal_program.h"
 
 #include <fcntl.h>
@@ -16,7 +16,7 @@
 namespace tasca::test {
 namespace {
 
-// The test's end and the program's.
+// The two ends of a pipe or a terminal.
 struct Ends {
   int Here = -1;
   int There = -1;
@@ -79,7 +79,7 @@ void TerminalProgram::Type(const std::string& texto) const {
   EXPECT_EQ(::write(entrada_, texto.data(), texto.size()), static_cast<ssize_t>(texto.size()));
 }
 
-// False at the end of what is shown, or when nothing comes for a long time.
+// Reads some output. False at its end, or if there is none for 30 seconds.
 bool TerminalProgram::ReadSome() {
   constexpr int medioMinuto = 30'000;
   pollfd suceso{.fd = salida_, .events = POLLIN, .revents = 0};

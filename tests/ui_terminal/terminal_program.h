@@ -1,5 +1,5 @@
 #pragma once
-// The built program tasca-terminal, at a terminal of its own or at pipes.
+// Runs the program tasca-terminal on a pseudo-terminal or on pipes.
 #include <sys/types.h>
 
 #include <filesystem>
@@ -8,32 +8,34 @@
 
 namespace tasca::test {
 
-// Where the player types and reads: a terminal, or else a pipe.
+// Whether standard input and standard output are a terminal or a pipe.
 struct Sides {
   bool TypesAtTerminal = true;
   bool ReadsAtTerminal = true;
-  unsigned short Columns = 0;  // of the terminals; 0: it does not tell
+  unsigned short Columns = 0;  // the width of the terminal; 0: unknown
 };
 
-// Puts the program, not a link to it, into a folder.
+// Copies the program into a folder.
 void CopyTerminalProgram(const std::filesystem::path& carpeta);
 
+// A running tasca-terminal.
 class TerminalProgram {
  public:
-  // Starts `orden` as the command env does: variables, then the program, by its path or by its
+  // Starts `orden` like the command env: first variables ("NAME=value"), then the program's path or
   // name.
   TerminalProgram(const Sides& lados, std::vector<std::string> orden);
   TerminalProgram(const TerminalProgram&) = delete;
   TerminalProgram& operator=(const TerminalProgram&) = delete;
-  // Kills it when it has not ended.
+  // Kills the program if it has not ended.
   ~TerminalProgram();
 
+  // Writes to its standard input.
   void Type(const std::string& texto) const;
-  // Waits until that has been shown; false when it is not within half a minute.
+  // Waits until `texto` has been printed; false if it is not within 30 seconds.
   bool Shows(const std::string& texto);
-  // All that has been shown.
+  // The output so far.
   const std::string& Shown() const { return mostrado_; }
-  // Ends the input and gives the exit status.
+  // Closes its standard input, waits for its end and returns the exit status.
   int End();
 
  private:

@@ -1,4 +1,4 @@
-// Whole sessions, from the door to the street.
+// Whole sessions at the terminal.
 #include "ui/terminal/terminal.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ bool Contains(const std::string& texto, const std::string& que) {
   return texto.find(que) != std::string::npos;
 }
 
-// What a session prints after the start-up choices.
+// The output of a session after the start-up questions.
 std::string FromTheTableOn(const SessionResult& sesion) {
   return sesion.Out.substr(sesion.Out.find("Partida de\n"));
 }
@@ -32,7 +32,7 @@ struct Session : testing::Test {
   TempFolder Carpeta;
 };
 
-TEST_F(Session, OpensTheTableAndLeavesAtTheEndOfTheInput) {
+TEST_F(Session, StartsAMatchAndEndsWithTheInput) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, "\n3\n2\n1\n\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
@@ -44,16 +44,16 @@ TEST_F(Session, OpensTheTableAndLeavesAtTheEndOfTheInput) {
                        "Sus cartas son \n"))
       << mesa;
   EXPECT_TRUE(mesa.ends_with("\nPulse enter para empezar\n")) << mesa;
-  EXPECT_EQ(Count(mesa, "\n"), 9) << "the hand is told once, in the transcript";
+  EXPECT_EQ(Count(mesa, "\n"), 9) << "the hand is printed once, in the transcript";
 }
 
-TEST_F(Session, SaysThatAPipeHasNoSound) {
+TEST_F(Session, ReportsThatAPipeHasNoSound) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, Puerta + "Sonido\n");
   EXPECT_EQ(Count(sesion.Out, "En esta terminal no hay sonido.\n"), 1);
 }
 
-TEST_F(Session, TakesInputWithWindowsLineEnds) {
+TEST_F(Session, AcceptsWindowsLineEnds) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, "Eva\r\n3\r\n\r\n\r\n\r\n\r\n\r\nsalir\r\n");
   EXPECT_EQ(sesion.Status, 0);
@@ -70,7 +70,7 @@ TEST_F(Session, EndsWithStatusZeroWhereverTheInputEnds) {
   }
 }
 
-// Plays until the question in which `ultima` occurs, and ends the input there.
+// Plays up to the question that contains `ultima`, and ends the input there.
 SessionResult PlayUpTo(const TempFolder& carpeta, const std::string& ultima) {
   return PlayWith(carpeta, [&](const std::string& pregunta) -> std::optional<std::string> {
     if (Contains(pregunta, ultima)) return std::nullopt;
@@ -91,7 +91,7 @@ TEST_F(Session, EndsWithStatusZeroInEveryKindOfQuestion) {
   }
 }
 
-TEST_F(Session, LeavesOnTheWordInAQuestion) {
+TEST_F(Session, LeavesOnSalirInAQuestion) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, Puerta + "\nsalir\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
@@ -99,7 +99,7 @@ TEST_F(Session, LeavesOnTheWordInAQuestion) {
   EXPECT_TRUE(sesion.Out.ends_with("\n¿mus? [S/n] \n")) << sesion.Out;
 }
 
-// The parts that `texto` lacks, or has in another order.
+// The parts that do not occur in `texto` in this order.
 std::vector<std::string> MissingParts(const std::string& texto,
                                       const std::vector<std::string>& partes) {
   std::vector<std::string> faltan;
@@ -140,7 +140,7 @@ TEST_F(Session, PlaysAHandFromTheMusToTheCount) {
   EXPECT_EQ(MissingParts(sesion.Out, partes), std::vector<std::string>{}) << sesion.Out;
 }
 
-TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
+TEST_F(Session, StartsTheNextHandWhenThePlayerAbandonsOne) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, Puerta + "q\nQ\n");
   EXPECT_EQ(sesion.Status, 0);
@@ -150,7 +150,7 @@ TEST_F(Session, GoesOnToTheNextHandWhenThePlayerAbandonsThisOne) {
   EXPECT_FALSE(Contains(mesa, "¿mus?"));
 }
 
-TEST_F(Session, LaysAllHandsOpenOnTheWord) {
+TEST_F(Session, ShowsAllHandsOnManos) {
   LlenarCarpeta(Carpeta);
   const std::string mesa = FromTheTableOn(PlayLines(Carpeta, "\n3\n2\n1\n\n\n\nManos\n"));
   const std::string abiertas = mesa.substr(mesa.find("empezar\n") + 8);
@@ -162,7 +162,7 @@ TEST_F(Session, LaysAllHandsOpenOnTheWord) {
   EXPECT_EQ(Count(abiertas, " de "), 16);
 }
 
-TEST_F(Session, HelpsWithoutPlayingOn) {
+TEST_F(Session, PrintsHelpWithoutAStep) {
   LlenarCarpeta(Carpeta);
   const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + "?\n"));
   EXPECT_TRUE(
@@ -179,7 +179,7 @@ TEST_F(Session, HelpsWithoutPlayingOn) {
       << "the hand twice";
 }
 
-TEST_F(Session, HintsAtTheKeysForAnythingElse) {
+TEST_F(Session, PrintsAHintForAnythingElse) {
   LlenarCarpeta(Carpeta);
   for (const std::string otra : {"x", "0", "13", "envido", "qq", "mano"}) {
     const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + otra + "\n"));
@@ -191,14 +191,14 @@ TEST_F(Session, HintsAtTheKeysForAnythingElse) {
   }
 }
 
-TEST_F(Session, LeavesOnTheWord) {
+TEST_F(Session, LeavesOnSalir) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, Puerta + "Salir\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
   EXPECT_FALSE(Contains(sesion.Out, "¿mus?"));
 }
 
-// With these settings a pareja takes the juego with its second stone, the vaca with its first juego
+// With these settings a pareja wins the juego with its second stone, the vaca with its first juego
 // and the match with its first vaca.
 void LlenarParaPartidaCorta(const TempFolder& carpeta) { LlenarCarpeta(carpeta, "1", "4", "4"); }
 
@@ -213,7 +213,7 @@ TEST_F(Session, SaysGoodbyeWhenThePlayerWantsNoOtherMatch) {
   EXPECT_TRUE(sesion.Out.ends_with("\n¿Desea jugar otra partida? [S/n] \nHasta pronto\n"));
 }
 
-TEST_F(Session, GoesBackToTheDoorWhenThePlayerWantsOtherCompanions) {
+TEST_F(Session, ReturnsToTheStartUpQuestionsWhenThePlayerWantsOtherPlayers) {
   LlenarParaPartidaCorta(Carpeta);
   int puertas = 0;
   const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
@@ -229,7 +229,7 @@ TEST_F(Session, GoesBackToTheDoorWhenThePlayerWantsOtherCompanions) {
   EXPECT_TRUE(sesion.Out.ends_with("\nPulse enter para empezar\n"));
 }
 
-TEST_F(Session, ShowsNothingOfTheOldTableInAMessageAtTheDoor) {
+TEST_F(Session, PrintsNothingOfTheOldTableInTheStartUpQuestions) {
   LlenarParaPartidaCorta(Carpeta);
   int puertas = 0;
   const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
@@ -243,7 +243,7 @@ TEST_F(Session, ShowsNothingOfTheOldTableInAMessageAtTheDoor) {
       Contains(sesion.Out, "Así se contará: La boticaria: Sí, como bueyes\n[Si quiere que "));
 }
 
-TEST_F(Session, StartsAnotherMatchWithTheSameCompanions) {
+TEST_F(Session, StartsAnotherMatchWithTheSamePlayers) {
   LlenarParaPartidaCorta(Carpeta);
   int partidas = 0;
   const Player jugador = [&partidas](const std::string& pregunta) -> std::optional<std::string> {
@@ -257,7 +257,7 @@ TEST_F(Session, StartsAnotherMatchWithTheSameCompanions) {
   EXPECT_TRUE(sesion.Out.ends_with("\nHasta pronto\n"));
 }
 
-TEST_F(Session, EndsWithAnErrorWhenTheAmountTypedIsTooLarge) {
+TEST_F(Session, EndsWithAnErrorForATooLargeAmount) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayWith(Carpeta, [](const std::string& pregunta) {
     if (Contains(pregunta, "¿mus?")) return "n";
@@ -281,7 +281,7 @@ TEST_F(Session, EndsWithTheErrorOfAFaultyFile) {
   EXPECT_EQ(sesion.Out, "");
 }
 
-TEST_F(Session, TellsOnceThatTheCharacterFileIsMissing) {
+TEST_F(Session, ReportsAMissingCharacterFileOnce) {
   const SessionResult sesion = PlayLines(Carpeta, Puerta);
   EXPECT_EQ(sesion.Status, 1);
   EXPECT_EQ(sesion.Out,
@@ -290,14 +290,14 @@ TEST_F(Session, TellsOnceThatTheCharacterFileIsMissing) {
   EXPECT_EQ(sesion.Err, "");
 }
 
-// An output that takes what it is given until it has been told so often to send it on.
+// An output stream that fails after a number of flushes.
 struct FillingBuffer : std::stringbuf {
   explicit FillingBuffer(int quedan) : Quedan{quedan} {}
   int sync() override { return Quedan-- > 0 ? 0 : -1; }
   int Quedan;
 };
 
-TEST_F(Session, EndsWithAnErrorWheneverItsOutputDoesNotArrive) {
+TEST_F(Session, EndsWithAnErrorIfItsOutputCannotBeWritten) {
   LlenarCarpeta(Carpeta);
   const auto jugar = [&](FillingBuffer& buffer, std::string& error) {
     std::istringstream in{Puerta + "?\n"};
@@ -321,7 +321,7 @@ TEST_F(Session, EndsWithAnErrorWheneverItsOutputDoesNotArrive) {
   }
 }
 
-TEST_F(Session, PrintsNoControlCharacterOfAnyFile) {
+TEST_F(Session, PrintsNoControlCharactersFromFiles) {
   LlenarCarpeta(Carpeta);
   std::string personajes = Carpeta.Read("Jugadores.dat");
   for (const std::string_view nombre : {"Berta", "Cojo", "Dora", "Tuerto"}) {

@@ -1,4 +1,4 @@
-// Waiting for the player and for sounds.
+// Waiting for input and for sounds.
 #include "ui/terminal/tty.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@
 namespace tasca::test {
 namespace {
 
-// A keyboard whose player types when the test says so.
+// A pipe as the keyboard.
 class Waiting : public testing::Test {
  protected:
   void SetUp() override { ASSERT_EQ(::pipe(tubo_.data()), 0); }
@@ -31,7 +31,7 @@ class Waiting : public testing::Test {
     tubo_[1] = -1;
   }
 
-  // The folder holds no program that plays: every sound ends at once.
+  // The folder does not contain tasca-sound: every sound ends at once.
   void Open() { mp1_.Open(carpeta_.Path(), u"falta.wav", {}); }
   void Wait(const std::function<void()>& alTerminar) { WaitForLine(tubo_[0], mp1_, alTerminar); }
 
@@ -52,7 +52,7 @@ TEST_F(Waiting, EndsWithTheInput) {
   Wait([] { FAIL() << "no sound was opened"; });
 }
 
-TEST_F(Waiting, LetsSoundsFollowEachOtherMeanwhile) {
+TEST_F(Waiting, HandlesTheEndsOfSoundsMeanwhile) {
   int finales = 0;
   Open();
   Wait([this, &finales] {
@@ -62,7 +62,7 @@ TEST_F(Waiting, LetsSoundsFollowEachOtherMeanwhile) {
   EXPECT_EQ(finales, 3);
 }
 
-TEST_F(Waiting, LetsASoundEndEvenIfTheLineIsThereAlready) {
+TEST_F(Waiting, HandlesTheEndOfASoundEvenIfALineIsAvailable) {
   int finales = 0;
   Open();
   Type();
@@ -70,8 +70,8 @@ TEST_F(Waiting, LetsASoundEndEvenIfTheLineIsThereAlready) {
   EXPECT_EQ(finales, 1);
 }
 
-// Signals that come every ten milliseconds; the twentieth types a line.
-// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler reaches nothing else.
+// Counts the signals of a timer. The twentieth types a line.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a handler can only use globals.
 volatile std::sig_atomic_t senales = 0;
 volatile std::sig_atomic_t dondeTeclear = -1;
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
@@ -82,15 +82,15 @@ void OnSignal(int /*senal*/) {
   if (senales == Ultima && ::write(dondeTeclear, "\n", 1) != 1) std::abort();
 }
 
-// How often this thread has gone to sleep so far. One that spins never does, however busy the
-// machine.
+// The number of voluntary context switches of this thread. Busy waiting makes none, even on a
+// loaded machine.
 long Sleeps() {
   rusage uso{};
   ::getrusage(RUSAGE_THREAD, &uso);
   return uso.ru_nvcsw;  // NOLINT(cppcoreguidelines-pro-type-union-access): the C library's
 }
 
-TEST_F(Waiting, GoesOnAfterASignalAndSleepsBetweenThem) {
+TEST_F(Waiting, RetriesOnEintrWithoutBusyWaiting) {
   senales = 0;
   dondeTeclear = Keyboard();
   struct sigaction antes {};

@@ -1,4 +1,4 @@
-// Long lines break between words.
+// Line wrapping between words.
 #include "ui/terminal/wrap.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ TEST(Wrap, CountsCharactersAndNotBytes) {
   EXPECT_EQ(Wrap("\U0001F0A1\U0001F0A2 €", 3), "\U0001F0A1\U0001F0A2\n€");
 }
 
-TEST(Wrap, KeepsTheLineBreaksThatAreThere) {
+TEST(Wrap, KeepsExistingLineBreaks) {
   EXPECT_EQ(Wrap("uno\n\ndos tres\n", 5), "uno\n\ndos\ntres\n");
   EXPECT_EQ(Wrap("\nuno", 5), "\nuno");
   EXPECT_EQ(Wrap("", 5), "");
@@ -29,7 +29,7 @@ TEST(Wrap, KeepsTheBlanksWithinALineAndAtItsStart) {
   EXPECT_EQ(Wrap("  se saca  las 3", 16), "  se saca  las 3");
 }
 
-TEST(Wrap, LeavesTheBlankBehindAPromptWhereItFits) {
+TEST(Wrap, KeepsTheBlankAfterAPromptIfItFits) {
   EXPECT_EQ(Wrap("¿mus? [S/n] ", 12), "¿mus? [S/n] ");
   EXPECT_EQ(Wrap("¿mus? [S/n] ", 11), "¿mus? [S/n]");
 }
@@ -39,7 +39,7 @@ TEST(Wrap, DoesNotBreakAWord) {
   EXPECT_EQ(Wrap("desproporcionado", 6), "desproporcionado");
 }
 
-TEST(Wrap, LeavesLinesWholeWithoutAWidth) {
+TEST(Wrap, DoesNotWrapWithoutAWidth) {
   const std::string larga(300, 'x');
   EXPECT_EQ(Wrap(larga + " " + larga, 0), larga + " " + larga);
 }
