@@ -1,9 +1,9 @@
-"""Tells the mutants that only change how a window looks: sizes, margins, fonts, stretch, colours and
-positions are what a person judges, and no test holds them."""
+"""Recognises mutants that only change the look of a window: sizes, margins, fonts, stretch, colours
+and positions. No test covers these."""
 
 import re
 
-# A line with one of these is about looks whatever is changed in it.
+# Any change of a line with one of these only affects the look.
 LINES = re.compile(
     r"setContentsMargins|setSpacing|setMargin\(|setTextMargins|setDocumentMargin"
     r"|setMinimum(Width|Height|ContentsLength)|_->setFont\(|setItalic|setBold|\bScaled\(\S+\(\), [\d.]+\)"
@@ -12,8 +12,7 @@ LINES = re.compile(
     r"|setUniformItemSizes|boton->setIcon|averageCharWidth"
     r"|availableSize\(\) \*|constexpr Q(Size|Point)|QPoint\{|double (Unidad|letraDelDibujo)"
     r"|rejilla->(addItem|rowCount)|setWordWrap")
-# Here only the numbers and the sums are: how much of the room a control takes, not that it is there;
-# how high a box is, not that its height is kept.
+# Here only changes of numbers and sums do: the size of a control, but not its presence.
 NUMBERS = re.compile(r"->add(Widget|Layout|Item)\(|Hoja\(this|documentMargin\(\)|frameWidth\(\)"
                      r"|setMinimumHeight|lineSpacing\(\)")
 

@@ -1,4 +1,4 @@
-"""The mutants: every place where one small change makes another program."""
+"""Generates the mutants: programs that differ from the original in one small change."""
 
 import math
 import re
@@ -15,7 +15,7 @@ RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">",
              "==": ("!=",), "!=": ("==",)}
 ARITHMETIC = {"+": "-", "-": "+", "*": "/", "/": "*", "%": "*", "+=": "-=", "-=": "+=",
               "*=": "/=", "/=": "*=", "++": "--", "--": "++"}
-# Where a name of the one kind stands, the next of its row takes its place.
+# A name is replaced by the next one of its row.
 NAMES = {
     "Decision": ["Callar", "NoQuiero", "Quiero", "EnvidoMas", "Ordago"],
     "MessageCategory": ["QMus", "NMus", "TPar", "NPar", "TJue", "NJue", "Paso", "Envi", "EnvM",
@@ -28,7 +28,8 @@ NEVER_DROPPED = {"case", "default", "if", "for", "while", "do", "switch", "else"
 DECLARATION = re.compile(r"(?!return|throw)(const |constexpr )*[\w:]+(<[^;=]*>)?[&*]? "
                          r"(const )?[&*]?\[?\w+")
 
-# What decides for a computer seat; what these call in the same folders belongs to it.
+# The functions that decide for a computer seat. The functions that they call in DECIDING_FOLDERS
+# are included too.
 DECIDERS = re.compile(r"(Decide|Responde|Abre)[A-Z]\w*|DecidirRespuesta|DescartarComputador"
                       r"|CantidadApertura|CantidadAlSubir|PuntuacionMus")
 DECIDING_FOLDERS = ("cards/", "lances/", "mus/")
@@ -44,8 +45,8 @@ class Mutant:
     start: int
     end: int
     replacement: str
-    before: str  # the lines as they are, in one, and as they become
-    after: str
+    before: str  # the original lines, joined, without repeated blanks
+    after: str   # the mutated ones
 
 
 def sources(root, folders):
@@ -53,7 +54,7 @@ def sources(root, folders):
 
 
 def headers(root):
-    """Those with what decides for a computer seat."""
+    """The headers of DECIDING_FOLDERS."""
     return _read_all(root, DECIDING_FOLDERS, "*.h")
 
 
@@ -69,8 +70,8 @@ def all_mutants(sources_):
 
 
 def thresholds(sources_, headers_):
-    """Every relation and every number in what decides for the computer seats, with the numbers to
-    which the headers give a name."""
+    """The mutants of every relation and number in the code that decides for computer seats, named
+    constants of the headers included."""
     found = []
     for each, chosen in _deciding(sources_, headers_):
         found += [mutant for mutant in _mutants(each, sorted(chosen))
@@ -79,7 +80,7 @@ def thresholds(sources_, headers_):
 
 
 def _deciding(sources_, headers_):
-    """Each source with those of its tokens that decide."""
+    """Yields each source with the indices of its tokens that belong to deciding code."""
     near = [each for each in sources_ if each.path.startswith(DECIDING_FOLDERS)] + headers_
     waiting = [(each, name) for each in near for name in each.functions if
                DECIDERS.fullmatch(name)]
@@ -125,7 +126,7 @@ def _mutant(each, operator, first, last, replacement):
 
 
 def _changes(each, i):
-    """(operator, first token, last token, replacement) for each change that begins at token i."""
+    """Yields (operator, first token, last token, replacement) for each change at token i."""
     tokens, token = each.tokens, each.tokens[i]
     if token.in_angles:
         return
@@ -150,7 +151,8 @@ def _changes(each, i):
 
 
 def _neighbours(text):
-    """A whole number one up and one down; a fraction in its second figure, by one at most."""
+    """An integer plus and minus one; a fraction changed in its second significant digit, by at most
+    1.0."""
     hexadecimal = text.lower().startswith("0x")
     digits = text.rstrip("uUlL" if hexadecimal else "uUlLfF")
     suffix = text[len(digits):]
@@ -199,14 +201,14 @@ def _word_changes(each, i):
 
 
 def _dropped(each, i):
-    """The statement that begins at token i, when nothing is declared in it."""
+    """Drops the statement that begins at token i, unless it declares something."""
     tokens, token = each.tokens, each.tokens[i]
     if i not in each.bodies or token.text in NEVER_DROPPED or not _begins_statement(each, i):
         return
     last = source.end_of_statement(tokens, i)
     if last is None or DECLARATION.match(each.text, token.start):
         return
-    # The last return of a function is no statement that one could leave out.
+    # The last return of a function cannot be dropped.
     if token.text != "return" or tokens[i - 1].text == ")":
         yield "statement", i, last, ";"
 

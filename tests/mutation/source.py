@@ -1,4 +1,4 @@
-"""A rule's source as tokens, and where its functions and constants stand."""
+"""A C++ source as tokens, with the positions of its functions and constants."""
 
 import re
 from dataclasses import dataclass, field
@@ -22,7 +22,7 @@ class Token:
     text: str
     start: int
     end: int
-    spaced: bool = False    # blanks on both sides: a sign between two values
+    spaced: bool = False    # blanks on both sides: a binary operator
     in_angles: bool = False  # inside the < > of a template
 
 
@@ -31,11 +31,12 @@ class Source:
     path: str
     text: str
     tokens: list
-    # Name to the tokens (first, last) of each function and of each constant outside of functions.
+    # From a name to the tokens (first, last) of its functions and of its constants outside
+    # functions.
     functions: dict = field(default_factory=dict)
     constants: dict = field(default_factory=dict)
-    bodies: set = field(default_factory=set)  # the tokens inside of functions' braces
-    heads: set = field(default_factory=set)   # those between the brackets of a for
+    bodies: set = field(default_factory=set)  # the tokens in function bodies
+    heads: set = field(default_factory=set)   # the tokens in the parentheses of a for
 
     def line_of(self, position):
         return self.text.count("\n", 0, position) + 1
@@ -70,7 +71,7 @@ def _mark_angles(tokens):
 
 
 def closing(tokens, i):
-    """The token that closes the bracket opened at i."""
+    """The index of the token that closes the bracket at i."""
     pairs = {"(": ")", "{": "}", "[": "]"}
     opening, wanted, depth = tokens[i].text, pairs[tokens[i].text], 0
     for j in range(i, len(tokens)):
@@ -78,7 +79,7 @@ def closing(tokens, i):
             depth += (tokens[j].text == opening) - (tokens[j].text == wanted)
             if depth == 0:
                 return j
-    raise ValueError("a bracket that nothing closes")
+    raise ValueError("unclosed bracket")
 
 
 def read(root, path):
@@ -106,7 +107,8 @@ def _find_definitions(source):
 
 
 def _definition(tokens, i):
-    """The definition that begins at token i: its last token, its name and what it is."""
+    """The definition that begins at token i: its last token, its name and its kind ("functions",
+    "constants" or "")."""
     j, name, has_arguments, initialisers = i, "", False, False
     while True:
         text = tokens[j].text
@@ -133,7 +135,7 @@ def _definition(tokens, i):
 
 
 def _opening(tokens, i):
-    """The brace that the one at i closes."""
+    """The index of the brace that the one at i closes."""
     depth = 0
     while True:
         depth += (tokens[i].text == "}") - (tokens[i].text == "{")
@@ -143,7 +145,7 @@ def _opening(tokens, i):
 
 
 def end_of_statement(tokens, i):
-    """The semicolon that ends what begins at token i; None when a bracket closes before."""
+    """The index of the semicolon that ends the statement at i; None if a bracket closes before."""
     while tokens[i].text != ";":
         if tokens[i].text in (")", "}", "]"):
             return None

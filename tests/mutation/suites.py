@@ -1,4 +1,4 @@
-"""Which tests could notice a mutant: what has to be built for them, and what runs them."""
+"""The tests that can kill a mutant: their build targets and their commands."""
 
 import re
 
@@ -6,14 +6,14 @@ LEAST_PATIENCE = 20  # seconds
 
 
 class Rules:
-    """For the rules: every test that plays them without a window."""
+    """For the rules: all tests without a window."""
 
     LIBRARIES = ("tasca_rules",)
     PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
     FOLDERS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
                "startup", "characters", "base")
     OTHERS = ("tests_ui_trace", "tests_bad_inputs", "tests_tools_cast", "tests_save_faults")
-    # A minute or two long, and about nothing but how a file is saved.
+    # These tests take a minute or two and only cover the saving of files.
     SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
 
     def __init__(self, root):
@@ -36,7 +36,7 @@ class Rules:
         return found
 
     def of(self, path, place, usual):
-        """The folder's own tests first, then the quicker before the slower."""
+        """The tests for a source: those of its folder first, then the others from fast to slow."""
         found = self.every(place)
         if not path.startswith(self.SAVING[1]):
             del found[self.SAVING[0]]
@@ -48,7 +48,7 @@ class Rules:
 
 
 class Ui:
-    """For the faces: of each of them its own tests, and those of what is built on it."""
+    """For the faces: the tests of each face and of what is built on it."""
 
     LIBRARIES = ("tasca_rules", "tasca_utf8", "tasca_options", "tasca_program_folder",
                  "tasca_cast_source", "tasca_trace_face", "tasca_media_player",
@@ -57,7 +57,7 @@ class Ui:
                 "tasca-cast", "tasca-check", "tasca-golden")
     TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_loudspeaker", "tests_ui_terminal",
              "tests_ui_trace", "tests_tools_cast", "tests_ui")
-    # From what a path begins with to the tests, in their order.
+    # From a prefix of a path to its tests, in order.
     BY_PATH = {
         "ui/qt/": ("tests_ui_qt_start", "start of tasca", "start of tasca-editor", "tests_ui_qt"),
         "ui/loudspeaker/": ("tests_ui_loudspeaker", "tests_ui_terminal", "tests_ui_qt"),
@@ -97,7 +97,7 @@ class Ui:
         return found
 
     def of(self, path, place, usual):
-        """The cases of the source's own test file first."""
+        """The tests for a source: the cases of its own test file first."""
         found = self.every(place)
         names = next(names for start, names in self.BY_PATH.items() if path.startswith(start))
         chosen = [(name, command) for wanted in names for name, command in found.items()
@@ -105,7 +105,7 @@ class Ui:
         return [*self._own(path, found), *chosen]
 
     def _own(self, path, found):
-        """The suites of the test file that is called like the source, of those that run long."""
+        """The suites of the source's own test file, in the folders whose tests are slow."""
         folder, stem = path.split("/")[1], path.rsplit("/", 1)[1].removesuffix(".cpp")
         file = self._tests / f"ui_{folder}" / f"{stem}_test.cpp"
         if folder not in ("qt", "loudspeaker", "terminal") or not file.exists():

@@ -1,9 +1,9 @@
-"""Building one mutant and running the tests that could notice it.
+"""Builds a mutant and runs the tests that can kill it.
 
-The tests are built once, against shared libraries of the rules and of the faces. A mutant is one
-source compiled beside them and linked with the other objects into a library (or program) of its own,
-which the same tests are then run with: nothing of the checkout, nor of the build, is ever written
-over. A changed header is one for the rules alone: the tests keep the number as it was.
+The tests are built once, against shared libraries of the rules and of the faces. For a mutant, one
+source is compiled and linked with the other objects into a separate library or program, and the
+same tests run with it. Neither the checkout nor the build is modified. For a mutated header only
+the rules are recompiled, not the tests.
 """
 
 import fcntl
@@ -22,7 +22,7 @@ class Stopped(Exception):
 
 
 class Processes:
-    """Every process that runs at the moment, so that none is left when the run is stopped."""
+    """The running processes, so that all can be killed when the run is stopped."""
 
     def __init__(self):
         self._lock = threading.Lock()
@@ -30,7 +30,7 @@ class Processes:
         self._stopped = False
 
     def run(self, command, patience, **options):
-        """The exit status; None when the patience ended first."""
+        """Runs a command. Returns its exit status; None after `patience` seconds."""
         with self._lock:
             if self._stopped:
                 raise Stopped
@@ -45,7 +45,7 @@ class Processes:
             self._end(process)
 
     def _end(self, process):
-        """With all that it has started itself."""
+        """Kills the process group."""
         try:
             os.killpg(process.pid, signal.SIGKILL)
         except ProcessLookupError:
@@ -78,7 +78,7 @@ class Build:
         self._lock = (self.folder / "lock").open("w", encoding="utf-8")
 
     def take(self):
-        """False when another run is at work in the folder; the end of this one gives it back."""
+        """Locks the build folder until this process ends. False if another run holds the lock."""
         try:
             fcntl.flock(self._lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
         except BlockingIOError:
@@ -86,7 +86,7 @@ class Build:
         return True
 
     def make(self):
-        """False when it cannot be built; the log tells why."""
+        """Builds the program and the tests. False if that fails; the reason is in the log."""
         configure = ["cmake", "-G", "Ninja", "-S", self.root, "-B", self.folder,
                      "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O1 -w", "-DBUILD_SHARED_LIBS=ON",
                      "-DCMAKE_SKIP_RPATH=ON", f"-DCMAKE_LIBRARY_OUTPUT_DIRECTORY={self.folder}"]
@@ -121,11 +121,11 @@ class Build:
         return command[command.index("-o") + 1]
 
     def holder_of(self, path):
-        """The library or program that a source is linked into."""
+        """The name of the library or program that a source is linked into."""
         return next(made for made, linker in self.linkers.items() if self.object_of(path) in linker)
 
     def read_by(self, path):
-        """The sources to compile anew when that file has changed: of a header, those of the rules."""
+        """The sources to recompile after a change of that file: for a header, all rules."""
         if not path.endswith(".h"):
             return [path]
         return [source for source in self.compilers
@@ -135,7 +135,8 @@ class Build:
         return self.folder / "bin" / name
 
     def measure(self, paths):
-        """Runs the tests for those sources on the unmutated program; the names of those that fail."""
+        """Runs the tests of those sources on the original program and stores their durations.
+        Returns the names of the tests that fail."""
         needed = {name for path in paths for name, _ in self.suites.of(path, self.place, {})}
         worker = Worker(self, "unmutated")
         failed = []
@@ -150,7 +151,7 @@ class Build:
 
 
 class Worker:
-    """Makes one mutant after the other in a folder of its own."""
+    """Builds and tests mutants, one at a time, in a folder of its own."""
 
     def __init__(self, build, name):
         self.build = build
@@ -160,7 +161,7 @@ class Worker:
         (self.folder / "tmp").mkdir(parents=True)
 
     def trial(self, mutant):
-        """What becomes of the mutant: "not compiled", "survived" or what killed it."""
+        """Tests a mutant. Returns "not compiled", "survived" or the test that killed it."""
         if not self._make(mutant):
             return "not compiled"
         usual = self.build.usual
@@ -194,8 +195,8 @@ class Worker:
                    for command in [*commands, link])
 
     def _compile(self, path, changed, link):
-        """The command that compiles a source with the changed file, which is that source or one of
-        its headers; its object takes the usual one's place in the link."""
+        """The command that compiles a source with the mutated file, which is the source itself or a
+        header. Replaces the original object in `link` by the new one."""
         command = list(self.build.compilers[path])
         original = self.build.object_of(path)
         compiled = self.mutant / path.replace("/", "_").replace(".cpp", ".o")
@@ -207,7 +208,7 @@ class Worker:
         return command
 
     def run_test(self, command, patience):
-        """The exit status of a test of the mutant; None when it took too long."""
+        """Runs a test with the mutant. Returns its exit status; None after `patience` seconds."""
         temporary = self.folder / "tmp"
         libraries = f"{self.mutant}:{self.build.folder}"
         status = self.build.processes.run(

@@ -1,4 +1,4 @@
-"""What a program shows, read as a screen reader does: AT-SPI by pyatspi."""
+"""Reads the windows of a program as a screen reader does, through pyatspi."""
 import os
 
 import gi
@@ -7,7 +7,7 @@ gi.require_version("Atspi", "2.0")
 import pyatspi  # noqa: E402
 from gi.repository import Atspi, GLib  # noqa: E402
 
-PATIENCE = 20_000  # milliseconds that a program may take to answer
+PATIENCE = 20_000  # the time limit of a call, in milliseconds
 
 _STATES = {pyatspi.STATE_ACTIVE: "active", pyatspi.STATE_CHECKED: "checked",
            pyatspi.STATE_ENABLED: "enabled", pyatspi.STATE_FOCUSABLE: "focusable",
@@ -16,7 +16,7 @@ _STATES = {pyatspi.STATE_ACTIVE: "active", pyatspi.STATE_CHECKED: "checked",
 
 
 class Gone(Exception):
-    """The thing is not on the screen any more."""
+    """The object no longer exists."""
 
 
 class Hung(Exception):
@@ -24,45 +24,45 @@ class Hung(Exception):
 
 
 class Bus:
-    """The bus of the accessible programs of a session."""
+    """The accessibility bus of a session."""
 
     def __init__(self, session):
-        # The library connects with its first call, and once in the life of this process.
+        # pyatspi connects with its first call, once in a process.
         os.environ.update({name: session.environment[name]
                            for name in ("DBUS_SESSION_BUS_ADDRESS", "DISPLAY")})
         Atspi.set_timeout(PATIENCE, PATIENCE)
         self._desktop = Node(pyatspi.Registry.getDesktop(0))
 
     def program(self, pid):
-        """The program with that process id, or nothing yet."""
-        for program in self._desktop.asked_anew().children():
+        """The program with that process id, or None if it is not on the bus yet."""
+        for program in self._desktop.without_cache().children():
             try:
                 if program.process_id() == pid:
-                    return program.asked_anew()
+                    return program.without_cache()
             except Gone:
                 continue
         return None
 
     def listen(self, event, heard):
-        """Calls `heard` with the node, the kind and the value of every such event."""
+        """Calls `heard` with the node, the detail and the value of each such event."""
         def pass_on(told):
             heard(Node(told.source), told.type.minor, told.any_data)
         pyatspi.Registry.registerEventListener(pass_on, event)
 
 
 def _asked(question):
-    """The answer of a program."""
+    """The result of a call, with its errors as Gone or Hung."""
     try:
         return question()
     except GLib.Error as error:
-        # The library has no error of its own for a reply that does not come in time.
+        # pyatspi has no error code for a timeout.
         if "hung" in error.message or "reply" in error.message:
             raise Hung(error.message) from error
         raise Gone(error.message) from error
 
 
 class Node:
-    """A window, a control, or anything else on the screen."""
+    """An accessible object: a window, a control or a part of one."""
 
     def __init__(self, accessible):
         self._accessible = accessible
@@ -73,8 +73,8 @@ class Node:
     def __hash__(self):
         return hash(self._accessible)
 
-    def asked_anew(self):
-        """The desktop or a program, from now on without the library's cache of earlier answers."""
+    def without_cache(self):
+        """Switches the cache of the desktop or of a program off."""
         self._accessible.set_cache_mask(Atspi.Cache.NONE)
         return self
 
@@ -95,7 +95,7 @@ class Node:
         return _asked(lambda: self._accessible.queryText().getText(0, -1))
 
     def box(self):
-        """Where it is on the screen: x, y, width, height."""
+        """Its rectangle on the screen: x, y, width, height."""
         place = _asked(lambda: self._accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS))
         return place.x, place.y, place.width, place.height
 
@@ -104,19 +104,19 @@ class Node:
         return [child for child in found if child]
 
     def labels(self):
-        """The names of the labels that belong to it."""
+        """The names of its labels."""
         return [Node(relation.getTarget(place)).name()
                 for relation in _asked(self._accessible.getRelationSet)
                 if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY
                 for place in range(relation.getNTargets())]
 
     def all(self):
-        """It and everything in it."""
+        """Yields this node and all its descendants."""
         yield self
         for child in self.children():
             yield from child.all()
 
     def _child(self, place):
-        """Nothing if it has gone since the children were counted."""
+        """None if the child has gone since the children were counted."""
         accessible = _asked(lambda: self._accessible.getChildAtIndex(place))
         return Node(accessible) if accessible else None

@@ -1,15 +1,15 @@
-"""What Enter alone leads to, told by tasca-trace: the windows, and the texts of the transcript."""
+"""Plays with Enter alone through tasca-trace: gives the windows and the texts of the transcript."""
 import json
 import subprocess
 from itertools import takewhile
 
-TITLE = "La tasca del tío Zarandel"  # of every window that has no other
-LAST_TITLE = "Mus"  # of the two questions that end a match
-_OTHER_PLAYERS = "¿Desea cambiar de jugadores?"  # the match ends with the step that asks this
+TITLE = "La tasca del tío Zarandel"  # the default title of a window
+LAST_TITLE = "Mus"  # the title of the two questions after a match
+_OTHER_PLAYERS = "¿Desea cambiar de jugadores?"  # asked in the last step of a match
 
 
 class Untitled:
-    """Whether a window without a title of its own counts: between two matches it does not.
+    """Decides whether a window with the default title counts: between two matches it does not.
 
     The start-up dialog and the table may get a key before they are active, so their events come
     late or not at all. The first two boxes of a match have titles of their own.
@@ -19,7 +19,7 @@ class Untitled:
         self._titled = self._last = 0
 
     def counts(self, title):
-        """To be asked for every window; true for one that has a title."""
+        """Must be called for every window. True for a window with another title."""
         if title == TITLE:
             return self._titled >= 2 and self._last < 2
         if self._last == 2:
@@ -30,9 +30,9 @@ class Untitled:
 
 
 def told(program, folder, clock):
-    """Windows as ("window", title) and texts as ("said", text), match after match, for ever.
+    """Yields windows as ("window", title) and texts as ("said", text), match after match, for ever.
 
-    Every question gets its default answer, and the start-up dialog its own choice.
+    Every question gets its default answer; the start-up dialog is accepted unchanged.
     """
     while True:
         yield from _match(program, folder, clock)
@@ -72,7 +72,7 @@ def _transcript(event):
 
 
 def _seen(event, shown):
-    """The window inserts what differs from what it has shown."""
+    """The events of the window: it inserts the part of the text that differs from `shown`."""
     text = _transcript(event)
     same = len(list(takewhile(lambda pair: pair[0] == pair[1], zip(text, shown))))
     if text[same:]:

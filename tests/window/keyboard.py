@@ -1,4 +1,4 @@
-"""Keys, as from a Spanish keyboard."""
+"""Sends keys through X, as from a Spanish keyboard."""
 
 _SIGNS = {" ": "space", "ñ": "ntilde"}
 
@@ -8,7 +8,7 @@ class Keyboard:
         self._session = session
 
     def press(self, *keys):
-        """Presses keys one after another, by their X names: "Return", "shift+Tab"."""
+        """Presses keys in turn, given by their X names: "Return", "shift+Tab"."""
         self._session.run("xdotool", "key", "--delay", "0", *keys)
 
     def type(self, text):

@@ -1,4 +1,4 @@
-"""A player at the keyboard: at every question an answer, and the keys that give it."""
+"""A random player: the answer to each question and the keys for it."""
 import random
 
 import windows
@@ -7,7 +7,7 @@ BUTTONS = ["Paso", "Envido", "Envido Más", "Órdago"]
 
 
 class Answer:
-    """The answer as a line for `tasca-trace` (nothing for a box with "Aceptar"), and its keys."""
+    """An answer: its line for `tasca-trace` (None for a message box) and its keys."""
 
     def __init__(self, line, *keys):
         self.line = line
@@ -15,7 +15,7 @@ class Answer:
 
 
 class MatchPlayer:
-    """Plays one match; the same seed plays in the same way."""
+    """Plays one match. The same seed gives the same answers."""
 
     def __init__(self, seed):
         self._chance = random.Random(seed)
@@ -27,7 +27,7 @@ class MatchPlayer:
         return self._answers[seen.kind](seen)
 
     def _key(self, seen):
-        """Mostly Enter; at times a hand is abandoned, or all cards are laid open."""
+        """Mostly Enter; sometimes abandons the hand or shows all hands."""
         drawn = self._chance.random()
         lie_open = len(seen.texts[0].splitlines()) > 2
         if drawn < 0.02:
@@ -48,7 +48,7 @@ class MatchPlayer:
         return Answer({"button": "yes" if yes else "no"}, *keys)
 
     def _input(self, seen):
-        """Cards to discard, or stones to bet; what stands there is selected, typing replaces it."""
+        """Cards to discard or stones to bet. The default text is selected: typing replaces it."""
         drawn = self._chance.random()
         if drawn < 0.1:
             return Answer({"button": "cancel"}, "Escape")

@@ -1,19 +1,19 @@
-"""Everything that a program shows, in order and without a gap: AT-SPI's events, as they come."""
+"""Records everything that a program shows, in order, from AT-SPI events."""
 import signal
 
 from accessible import GLib, Gone
 
 _ENDING = (signal.SIGINT, signal.SIGTERM)
-_BEGINNING = "Partida de\n"  # of the transcript, and of nothing else
-_TABLE = "filler"  # the role of a window that is no dialog
+_BEGINNING = "Partida de\n"  # only a transcript begins like this
+_TABLE = "filler"  # the role of the main window
 
 
 class Overheard:
-    """What has been shown so far, in `log`: ("window", title) and ("said", text).
+    """The events so far are in `log`: ("window", title) and ("said", text).
 
-    A box counts when it first has the keyboard, a text when the transcript gets it; the log begins
-    with the first transcript. The table may get the keyboard after its first boxes, and does not
-    count. To be made before the program starts.
+    A box is recorded when it is first activated, a text when it is inserted into the transcript.
+    The log begins with the first transcript. The main window is not recorded, because it may be
+    activated after its first boxes. Must be created before the program starts.
     """
 
     def __init__(self, bus):
@@ -24,9 +24,10 @@ class Overheard:
         bus.listen("object:text-changed", self._text)
 
     def take(self):
-        """Takes what has come in since; true if there was anything."""
+        """Handles the pending events. True if something was recorded."""
         before = len(self.log)
-        # An exception that a signal raises within a callback would end Python without any clean-up.
+        # An exception raised by a signal handler inside a callback would end Python without
+        # clean-up.
         signal.pthread_sigmask(signal.SIG_BLOCK, _ENDING)
         while GLib.MainContext.default().iteration(False):
             pass
@@ -49,7 +50,7 @@ class Overheard:
 
 
 def _is_table(window):
-    """A box may be gone by the time its event is read; the table stays for a whole match."""
+    """Whether this is the main window. A box may have been closed by the time its event is read."""
     try:
         return window.role() == _TABLE
     except Gone:

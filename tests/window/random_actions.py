@@ -1,10 +1,10 @@
-"""Random keys and clicks, as arguments for xdotool; the same seed gives the same ones."""
+"""Random keys and clicks as arguments for xdotool. The same seed gives the same ones."""
 import random
 import string
 
 WIDTH, HEIGHT = 1280, 800
 
-# What leads on in a program, pressed most often.
+# Keys that advance a program. They are pressed most often.
 LEADING = {
     "tasca": ["Return", "Return", "Return", "space", "s", "n", "1", "2", "3", "4", "0"],
     "tasca-editor": ["Return", "F2", "Down", "Down", "Tab", "n", "alt+c", "alt+g", "alt+u",
@@ -25,7 +25,7 @@ class RandomActions:
         self._kinds = [LEADING[program], _PLAIN, _MOVING, _OTHERS]
 
     def next(self, window):
-        """One action, within the window (x, y, width, height) for the most part."""
+        """One action, mostly inside the window (x, y, width, height)."""
         drawn = self._chance.random()
         if drawn < 0.85:
             return ["key", "--delay", "0", self._key()]
@@ -49,7 +49,7 @@ class RandomActions:
         return self._chance.choice("1111112345")
 
     def _place(self, window):
-        """Also a little outside: a window has a frame, and a list may open below it."""
+        """A random point, also a little outside the window: on its frame or on an open list."""
         x, y, width, height = window
         across = self._chance.randint(x - 10, x + width + 10)
         down = self._chance.randint(y - 25, y + height + 60)

@@ -1,4 +1,4 @@
-"""A desktop of its own for a program: display, bus, window manager, and a folder to play in."""
+"""A separate desktop for a program: display, bus, window manager and program folder."""
 import ctypes
 import os
 import pathlib
@@ -10,15 +10,15 @@ import tempfile
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-LIMIT = 30  # seconds; nothing on an idle machine takes one of them
+LIMIT = 30  # seconds; on an idle machine everything takes less than one
 
 
 class TooLong(Exception):
-    """Something waited for has not come."""
+    """A condition was not met within its limit."""
 
 
 def wait_for(what, look, limit=LIMIT):
-    """Looks again and again until `look` gives something, and returns it."""
+    """Polls `look` until it returns something true, and returns that."""
     end = time.monotonic() + limit
     while time.monotonic() < end:
         seen = look()
@@ -29,7 +29,7 @@ def wait_for(what, look, limit=LIMIT):
 
 
 class Session:
-    """Entered, it is up; left, none of its processes and files is there any more."""
+    """A context manager: starts the desktop, and removes all its processes and files at the end."""
 
     def __enter__(self):
         signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended from outside"))
@@ -56,24 +56,24 @@ class Session:
         shutil.rmtree(self.folder)
 
     def place(self, build, *programs):
-        """Copies programs of a build folder, and their data, into the folder to play in."""
+        """Copies programs of a build and the data files into the program folder."""
         shutil.copytree(ROOT / "data", self.bin, dirs_exist_ok=True)
         for program in programs:
             shutil.copy2(ROOT / "build" / build / "bin" / program, self.bin)
 
     def start(self, *command, extra=(), pass_fds=()):
-        """Starts a program of this desktop, with more of an environment if need be."""
+        """Starts a program on this desktop. `extra` are additional environment variables."""
         return subprocess.Popen([str(word) for word in command], stdin=subprocess.DEVNULL,
                                 stdout=subprocess.DEVNULL, stderr=self._log, pass_fds=pass_fds,
                                 env={**self.environment, **dict(extra)})
 
     def run(self, *command):
-        """Runs a program of this desktop to its end."""
+        """Runs a program on this desktop; its exit status must be 0."""
         if self.start(*command).wait() != 0:
             raise RuntimeError(f"{' '.join(map(str, command))}: {self.log()[-2000:]}")
 
     def log(self):
-        """What the programs of this desktop have written."""
+        """The standard error of all programs of this desktop."""
         return (self.folder / "log").read_text(errors="replace")
 
     def _environment(self):
@@ -86,7 +86,7 @@ class Session:
                 "SDL_AUDIODRIVER": "dummy"}
 
     def _start_display(self):
-        # Keys do not repeat: on a busy machine a short press may look like a long one.
+        # -r turns auto-repeat off: on a loaded machine a short press could repeat.
         number = self._first_line("-displayfd", "Xvfb", "-r", "-noreset", "-nolisten", "tcp",
                                   "-screen", "0", "1280x800x24")
         return f":{number}"
@@ -96,7 +96,7 @@ class Session:
                                 "--nopidfile")
 
     def _first_line(self, option, *command):
-        """Starts a server that writes where it is to be found once it is ready."""
+        """Starts a server that writes its address to a descriptor when it is ready; returns it."""
         reading, writing = os.pipe()
         value = [f"{option}={writing}"] if option.startswith("--") else [option, writing]
         self.start(*command, *value, pass_fds=[writing])
@@ -112,7 +112,7 @@ class Session:
 
 
 def _adopt_orphans():
-    """What the programs of the desktop leave running becomes a child of this one."""
+    """Makes this process the reaper of orphaned descendants."""
     set_child_subreaper = 36
     ctypes.CDLL(None).prctl(set_child_subreaper, 1, 0, 0, 0)
 
@@ -130,7 +130,7 @@ def _children():
 
 
 def _reap():
-    """Forgets the children that have ended; true when none is left."""
+    """Reaps the children that have ended. True if none is left."""
     try:
         while os.waitpid(-1, os.WNOHANG)[0] != 0:
             pass

@@ -1,18 +1,18 @@
-"""A player at the start-up dialog: what is to be chosen, and the keys that choose it."""
+"""The choices in the start-up dialog and the keys for them."""
 import dataclasses
 
 
 @dataclasses.dataclass
 class Choice:
-    """All that can be chosen in the dialog; companions by their place in the lists."""
+    """A choice in the dialog. `companions` are list positions."""
 
     name: str
     companions: list
-    checks: list  # names, phrases
+    checks: list  # use names, use phrases
     style: int
 
     def line(self, clock):
-        """It as a line for `tasca-trace`."""
+        """The choice as a line for `tasca-trace`."""
         return {"start": {"clock": clock, "name": self.name, "combos": self.companions,
                           "checks": self.checks, "option": self.style}}
 
@@ -21,7 +21,8 @@ _FIRST_KEYS = ["B", "e", "g", "o", "ntilde", "a", "Tab", *["Down"] * 3, "Tab", "
                *["Down"] * 3, "Tab", "space", "Tab", "space"]
 _SECOND_KEYS = ["space", "shift+Tab", "space", "shift+Tab", "Down", "Down", *["Tab"] * 3, "Down"]
 
-# Nobody can sit in two places: the first choice is refused, and mended from where its keys ended.
+# The first choice has a character at two seats and is refused. The keys of the second one continue
+# from the focus after the first.
 ROUNDS = [
     (Choice("Begoña", [3, 0, 3], [False, False], 0), _FIRST_KEYS),
     (Choice("Begoña", [3, 0, 5], [True, True], 1), _SECOND_KEYS),
@@ -29,7 +30,7 @@ ROUNDS = [
 
 
 def chosen(seen):
-    """The choice that the dialog shows."""
+    """The current choice of the dialog."""
     (name,) = [part.node.text() for part in seen.having("text")]
     companions = [_place(part.node) for part in seen.having("combo box")]
     checks = ["checked" in part.states for part in seen.having("check box")]
@@ -38,6 +39,6 @@ def chosen(seen):
 
 
 def _place(companion):
-    """A list has the name of what is chosen in it."""
+    """The position of the current entry. The name of a combo box is its current entry."""
     (entries,) = companion.children()
     return [entry.name() for entry in entries.children()].index(companion.name())

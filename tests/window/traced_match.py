@@ -1,17 +1,17 @@
-"""The same match through `tasca-trace`, told as the window's transcript is."""
+"""Plays a match through `tasca-trace` and gives it in the form of the window's transcript."""
 import json
 import subprocess
 
 import windows
 from match_player import BUTTONS
 
-_TITLE = "La tasca del tío Zarandel"  # of every window that has no other
+_TITLE = "La tasca del tío Zarandel"  # the default title of a window
 _OFFERED = {-1: BUTTONS, 0: ["Paso", "Quiero", *BUTTONS[2:]], -2: ["Paso", "Quiero"]}
 _CAPTIONS = {"ok": "Aceptar", "yes": "Sí", "no": "No"}
 
 
 def traced(program, folder, lines):
-    """Plays the lines and gives the events with the lines that answer them."""
+    """Plays the lines. Returns the events and, after each, the line that answers it."""
     given = "".join(json.dumps(line) + "\n" for line in lines)
     ended = subprocess.run([program, folder], input=given, stdout=subprocess.PIPE, text=True,
                            encoding="utf-8", check=False)
@@ -30,7 +30,7 @@ def traced(program, folder, lines):
 
 
 def _as_shown(event, status):
-    """An event of the trace as the window shows it."""
+    """An event of the trace in the form of the window's transcript."""
     if event["event"] == "state":
         return {"table": _shown([event["Text1"], event["Text2"], event["Text3"]])}
     if event["event"] == "end":
@@ -53,5 +53,5 @@ def _question(event, title):
 
 
 def _shown(texts):
-    """A window breaks a line at any kind of line break."""
+    """Converts all line breaks to LF, as the window does."""
     return [text.replace("\r\n", "\n").replace("\r", "\n") for text in texts]

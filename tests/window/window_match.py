@@ -1,4 +1,4 @@
-"""A match in the window, from the start-up dialog to the end of the program."""
+"""Plays a match in the window, from the start-up dialog to the end of the program."""
 import frozen_clock
 import startup_player
 from accessible import Bus
@@ -10,9 +10,9 @@ CLOCK = [21, 4, 37]
 
 
 class WindowMatch:
-    """A match in the window; `told` is its transcript, `lines` the answers for tasca-trace.
+    """A match in the window. `told` is its transcript, `lines` are the answers for tasca-trace.
 
-    `watch` is called with everything that is seen.
+    `watch` is called with every window that is seen.
     """
 
     def __init__(self, session, player, watch=lambda seen: None):
@@ -36,13 +36,13 @@ class WindowMatch:
         self.told.append({"end": "quit", "status": self.process.wait()})
 
     def end(self):
-        """Leaves nothing of the program."""
+        """Kills the program and cleans up."""
         self.process.kill()
         self.process.wait()
         frozen_clock.forget(self.process.pid)
 
     def _start(self):
-        """The start-up dialog: a choice that is refused in a box, and then one that is not."""
+        """Plays the start-up dialog: first a choice that is refused, then a valid one."""
         seen = self._window.next()
         self._watch(seen)
         for choice, keys in startup_player.ROUNDS:

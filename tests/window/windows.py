@@ -1,4 +1,4 @@
-"""What a program shows and waits for: a question, or its main window, which waits for keys."""
+"""The windows of a program that wait for input: a question or the main window."""
 from accessible import Gone
 from session import wait_for
 
@@ -16,16 +16,16 @@ class Windows:
     def __init__(self, bus, process):
         self._process = process
         self._program = wait_for("program", lambda: bus.program(process.pid))
-        self._showing = []  # the oldest first
+        self._showing = []  # in the order in which they were shown
         self._sheets = {}
 
     def next(self, previous=None):
-        """The next thing that it shows, other than the one before; nothing once it has ended."""
+        """Waits for a window or texts other than `previous`. None once the program has ended."""
         (seen,) = wait_for("change in the window", lambda: self._change(previous))
         return seen
 
     def now(self):
-        """What it shows, if its newest window has the keyboard."""
+        """The newest window, if it is active; otherwise None."""
         sight = self._look()
         return Seen(sight) if sight else None
 
@@ -41,13 +41,13 @@ class Windows:
             return None
 
     def _look(self):
-        """The window with the keyboard and the texts of the table, if both are there."""
+        """The active window and the texts of the table; None if no window is active."""
         windows = self._program.children()
         front = self._front(windows)
         return (front, self._texts(windows)) if front else None
 
     def _front(self, windows):
-        """The newest window, which blocks the others, once it has the keyboard."""
+        """The newest window, which is modal to the others, if it is active."""
         states = {window: window.states() for window in windows}
         self._showing = [window for window in self._showing if window in states]
         self._showing += [window for window in windows if window not in self._showing]
@@ -80,7 +80,7 @@ class Part:
 
 
 class Seen:
-    """The window that has the keyboard, with all its controls, and the texts of the table."""
+    """The active window with its visible controls, and the texts of the table."""
 
     def __init__(self, sight):
         self.sight = sight
@@ -91,11 +91,11 @@ class Seen:
         self.kind = self._kind()
 
     def again(self):
-        """The same window as it is now."""
+        """Reads the same window again."""
         return Seen(self.sight)
 
     def having(self, role, state="showing"):
-        """The controls of a role that are in a state."""
+        """The controls with this role and this state."""
         return [part for part in self.parts if part.role == role and state in part.states]
 
     def names(self, role, state="showing"):
@@ -105,7 +105,7 @@ class Seen:
         return "".join(self.names("label"))
 
     def event(self):
-        """It as an event of the transcript."""
+        """The window as an event of the transcript."""
         if self.kind == MAIN:
             return {"table": self.texts}
         asked = {"question": self.kind, "title": self.title}
