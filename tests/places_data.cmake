@@ -1,4 +1,5 @@
-# The game's files are brought up to date beside the programs, and what the player has changed stays.
+# Checks cmake/place_data.cmake: it updates the data files beside the programs, except those that
+# the player has changed.
 # cmake -DROOT=<the project's folder> -DWORK=<a folder to work in> -P places_data.cmake
 file(REMOVE_RECURSE ${WORK})
 
