@@ -196,9 +196,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, Ordaguero,
                              {"SignAlone", "-", 0},
                              {"ALongNumber", std::string(2000, '9'), 999},
                          }),
-                         [](const testing::TestParamInfo<BadOrdaguero>& caso) {
-                           return caso.param.Name;
-                         });
+                         ByName);
 
 }  // namespace
 }  // namespace tasca::test

@@ -152,10 +152,7 @@ std::vector<OnlyPhrase> BadPhrases() {
   };
 }
 
-INSTANTIATE_TEST_SUITE_P(Phrases, BadPhrase, testing::ValuesIn(BadPhrases()),
-                         [](const testing::TestParamInfo<OnlyPhrase>& caso) {
-                           return caso.param.Name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Phrases, BadPhrase, testing::ValuesIn(BadPhrases()), ByName);
 
 // Only the phrase for refusing mus, said in every hand, is long: all phrases would be 70 MiB.
 TEST(BadPhrase, OfAMebibyteIsCutWhenItIsSaid) {
@@ -193,12 +190,13 @@ TEST_P(MebibyteLine, IsReadButOneByteMoreIsTooLong) {
                        ": la línea es demasiado larga."));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Places, MebibyteLine,
-    testing::Values(LongLine{"Name", Nombre, ""}, LongLine{"Ordaguero", Ordaguero, ""},
-                    LongLine{"Story", Historia, ""}, LongLine{"Tag", Marca, ">"},
-                    LongLine{"Phrase", Frase, ""}),
-    [](const testing::TestParamInfo<LongLine>& caso) { return caso.param.Name; });
+INSTANTIATE_TEST_SUITE_P(Places, MebibyteLine,
+                         testing::Values(LongLine{"Name", Nombre, ""},
+                                         LongLine{"Ordaguero", Ordaguero, ""},
+                                         LongLine{"Story", Historia, ""},
+                                         LongLine{"Tag", Marca, ">"},
+                                         LongLine{"Phrase", Frase, ""}),
+                         ByName);
 
 // Lengths around the widths: names and phrases keep 100 characters, stories 200. The dialog's lists
 // show the whole name.

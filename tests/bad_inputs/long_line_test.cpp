@@ -60,9 +60,7 @@ INSTANTIATE_TEST_SUITE_P(CharacterFile, GibibyteLine,
                                          HugeLine{"Ordaguero", 131}, HugeLine{"Story", 132},
                                          HugeLine{"Tag", 133}, HugeLine{"Phrase", 134},
                                          HugeLine{"LastLine", 160}),
-                         [](const testing::TestParamInfo<HugeLine>& caso) {
-                           return caso.param.Name;
-                         });
+                         ByName);
 
 class GibibyteSetting : public testing::TestWithParam<int> {};
 

@@ -74,9 +74,7 @@ INSTANTIATE_TEST_SUITE_P(Names, ProgramFolderNamed,
                              {"WithSigns", "a%20&>\"$#", "a%20&>\"$#"},
                              {"WithALineBreak", "a\nb", "a\nb"},
                          }),
-                         [](const testing::TestParamInfo<FolderName>& caso) {
-                           return caso.param.Name;
-                         });
+                         ByName);
 
 }  // namespace
 }  // namespace tasca::test

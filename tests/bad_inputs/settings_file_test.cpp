@@ -114,10 +114,7 @@ TEST_P(BadSettingsFile, HasItsOutcome) {
   EXPECT_EQ(partidaLeida, GetParam().Partida);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, BadSettingsFile, testing::ValuesIn(Cases()),
-                         [](const testing::TestParamInfo<BadSettings>& caso) {
-                           return caso.param.Name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Lines, BadSettingsFile, testing::ValuesIn(Cases()), ByName);
 
 }  // namespace
 }  // namespace tasca::test

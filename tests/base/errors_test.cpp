@@ -3,24 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
+#include "tests/support/errors.h"
 #include "tests/support/tables.h"
 
 namespace tasca {
 namespace {
 
+using test::ErrorOf;
 using test::Utf8;
-
-RunTimeError Thrown(const std::function<void()>& hacer) {
-  try {
-    hacer();
-  } catch (const RunTimeError& error) {
-    return error;
-  }
-  ADD_FAILURE() << "nothing was thrown";
-  return RunTimeError{u""};
-}
 
 TEST(RunTimeError, SaysWhatHappenedAndThatTheProgramEnds) {
   const RunTimeError error{u"Se ha roto la baraja."};
@@ -58,18 +48,18 @@ TEST(RunTimeError, KeepsItsMessageIfAlreadyShown) {
 }
 
 TEST(ThrowOverflow, NamesTheRange) {
-  EXPECT_EQ(Utf8(Thrown(ThrowOverflow).Message()),
+  EXPECT_EQ(ErrorOf(ThrowOverflow),
             "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
             "ejecución.");
 }
 
 TEST(ThrowIndexOutOfRange, HasItsMessage) {
-  EXPECT_EQ(Utf8(Thrown(ThrowIndexOutOfRange).Message()),
+  EXPECT_EQ(ErrorOf(ThrowIndexOutOfRange),
             "El índice está fuera del intervalo. El programa va a terminar su ejecución.");
 }
 
 TEST(ThrowInvalidCall, AddsTheAdvice) {
-  EXPECT_EQ(Utf8(Thrown([] { ThrowInvalidCall(u"Haga otra cosa."); }).Message()),
+  EXPECT_EQ(ErrorOf([] { ThrowInvalidCall(u"Haga otra cosa."); }),
             "Llamada a procedimiento o argumento no válidos. Haga otra cosa. El programa va a "
             "terminar su ejecución.");
 }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace tasca {
 namespace {
 
@@ -21,9 +23,16 @@ TEST(Rnd, GivesTheUpper24BitsOfTheMersenneTwister) {
   EXPECT_EQ(sacada, Diezmilesima);
 }
 
-TEST(Rnd, StaysBelowOneForTheHighestOutput) {
-  // 0xFFFFFFFF as a float divided by 2^32 would be 1: the lower bits are dropped first.
-  EXPECT_EQ(static_cast<float>(0xFFFFFFFFU >> 8U) * 0x1p-24F, 0x1.fffffep-1F);
+// Rounded to a float before the lower bits are dropped, this output would give 1.
+TEST(Rnd, StaysBelowOneForTheHighestOutputs) {
+  constexpr std::uint32_t SemillaAlta = 14784396;
+  ASSERT_EQ(std::mt19937{SemillaAlta}(), 0xFFFFFFEFU);
+  Rnd rnd;
+  rnd.Seed(SemillaAlta);
+  EXPECT_EQ(rnd(), 0x1.fffffep-1F);
+}
+
+TEST(Rnd, GivesMultiplesOf2ToTheMinus24BelowOne) {
   Rnd rnd;
   rnd.Seed(1);
   for (int i = 0; i < 100000; ++i) {

@@ -277,8 +277,7 @@ TEST(EliminarJugador, AsksFirst) {
   const Table antes = e.t;
   e.port.Confirms(false);
   Command1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{"confirm[Eliminar jugador]: Confirme que desea eliminar el jugador 2. P2"}));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaEliminar("2. P2")});
   EXPECT_EQ(e.t, antes);
   EXPECT_EQ(Entradas(e.d.List1), (Textos{"1. P1", "2. P2", "3. P3"}));
   EXPECT_EQ(e.d.NumPersonajes, 3);

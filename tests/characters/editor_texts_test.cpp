@@ -8,8 +8,12 @@
 namespace tasca::test {
 namespace {
 
-constexpr auto OrdagueroNoCabe =
-    "box: El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha escrito ";
+// The event of the message about an Ordaguero that the file cannot store.
+std::string OrdagueroNoCabe(int valor) {
+  return "box: El archivo solo puede guardar un valor de ordaguero de 0 a 999, y usted ha "
+         "escrito " +
+         std::to_string(valor) + ". Cámbielo y pruebe otra vez.";
+}
 
 void ExpectRefused(int valor) {
   Taller e{1};
@@ -18,8 +22,7 @@ void ExpectRefused(int valor) {
   e.d.Text2 = Join(valor, u"x");
   e.d.Text3 = u"Baila.";
   Command1_Click(e.d, e.t, e.port, 0);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{OrdagueroNoCabe + std::to_string(valor) + ". Cámbielo y pruebe otra vez."}));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{OrdagueroNoCabe(valor)});
   EXPECT_EQ(e.t, antes);
   EXPECT_EQ(e.d.NumPersonajes, 1);
   EXPECT_EQ(Entradas(e.d.List1), Textos{"1. P1"});
@@ -49,15 +52,15 @@ TEST(ReleerJugador, RefusesAnOrdagueroThatTheFileCannotHold) {
   e.d.Text1 = u"Lola";
   e.d.Text2 = u"-10";
   Command1_Click(e.d, e.t, e.port, 2);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{std::string{OrdagueroNoCabe} + "-10. Cámbielo y pruebe otra vez."}));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{OrdagueroNoCabe(-10)});
   EXPECT_EQ(e.t, antes);
   EXPECT_EQ(Campos(e.d), (Textos{"Lola", "-10", "H2"}));
 }
 
-Textos PreguntaPor(const std::string& nombre) {
-  return {"confirm[Cambiar de jugador]: Los datos de " + nombre +
-          " han cambiado. ¿Aplicarlos? Si pulsa Cancelar, se pierde lo escrito."};
+// The event of the question about changed texts.
+std::string PreguntaPor(const std::string& nombre) {
+  return "confirm[Cambiar de jugador]: Los datos de " + nombre +
+         " han cambiado. ¿Aplicarlos? Si pulsa Cancelar, se pierde lo escrito.";
 }
 
 // A text box, the text typed into it, and the character's data afterwards.
@@ -73,7 +76,7 @@ void ExpectStored(const TextoNuevo& nuevo) {
   e.d.*nuevo.Caja = nuevo.Escrito;
   e.port.Confirms(true);
   List1_Click(e.d, e.t, e.port, 2);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P1"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("P1")});
   EXPECT_EQ(e.Datos(1), nuevo.Datos);
   EXPECT_EQ(e.Datos(3), (Textos{"P3", "30", "H3"}));
   EXPECT_EQ(e.d.List1.ListIndex, 2);
@@ -93,7 +96,7 @@ TEST(List1_Click, DropsChangedTextsWhenThatIsNotConfirmed) {
   e.d.Text3 = u"Baila.";
   e.port.Confirms(false);
   List1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P1"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("P1")});
   EXPECT_EQ(e.t, antes);
   EXPECT_EQ(Campos(e.d), (Textos{"P2", "20", "H2"}));
 }
@@ -106,9 +109,7 @@ TEST(List1_Click, KeepsTextsThatCannotBeStoredAndTheSelection) {
   e.d.Text2 = u"-10";
   e.port.Confirms(true);
   List1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{PreguntaPor("P1").front(),
-                    OrdagueroNoCabe + std::string{"-10. Cámbielo y pruebe otra vez."}}));
+  EXPECT_EQ(e.port.TakeEvents(), (Textos{PreguntaPor("P1"), OrdagueroNoCabe(-10)}));
   EXPECT_EQ(e.t, antes);
   EXPECT_EQ(e.d.List1.ListIndex, 0);
   EXPECT_EQ(Campos(e.d), (Textos{"Lola", "-10", "H1"}));
@@ -141,7 +142,7 @@ TEST(List1_Click, AsksAboutTheCharacterThatLoadingShows) {
   e.d.Text1 = u"Lola";
   e.port.Confirms(true);
   List1_Click(e.d, e.t, e.port, 0);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P1"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("P1")});
   EXPECT_EQ(Campos(e.d), (Textos{"Lola", "10", "H1"}));
 }
 
@@ -152,7 +153,7 @@ TEST(List1_Click, AsksAboutACharacterWithoutAName) {
   e.d.Text1 = u"Lola";
   e.port.Confirms(true);
   List1_Click(e.d, e.t, e.port, 0);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("este jugador"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("este jugador")});
   EXPECT_EQ(e.Nombre(2), "Lola");
 }
 
@@ -162,7 +163,7 @@ TEST(List1_Click, AsksBeforeItShowsTheSameCharacterAnew) {
   e.d.Text1 = u"Lola";
   e.port.Confirms(false);
   List1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("P2"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("P2")});
   EXPECT_EQ(Campos(e.d), (Textos{"P2", "20", "H2"}));
 }
 
@@ -187,7 +188,7 @@ TEST(List1_Click, AsksAboutANewCharacterByItsName) {
   e.d.Text3 = u"Canta.";
   e.port.Confirms(true);
   List1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(), PreguntaPor("Pepe"));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaPor("Pepe")});
   EXPECT_EQ(e.Datos(1), (Textos{"P1", "10", "H1"}));
   EXPECT_EQ(e.Datos(3), (Textos{"Pepe", "10", "Canta."}));
 }
@@ -198,8 +199,7 @@ TEST(List1_Click, AsksNothingAboutTextsReplacedByDeletingOrLoading) {
   e.d.Text1 = u"Lola";
   e.port.Confirms(true);
   Command1_Click(e.d, e.t, e.port, 1);
-  EXPECT_EQ(e.port.TakeEvents(),
-            (Textos{"confirm[Eliminar jugador]: Confirme que desea eliminar el jugador 2. P2"}));
+  EXPECT_EQ(e.port.TakeEvents(), Textos{PreguntaEliminar("2. P2")});
   e.d.Text1 = u"Lola";
   Command3_Click(e.d, e.t, e.port, 1);
   List1_Click(e.d, e.t, e.port, 1);

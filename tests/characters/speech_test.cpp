@@ -8,6 +8,7 @@
 
 #include "base/errors.h"
 #include "tests/support/draw_list.h"
+#include "tests/support/errors.h"
 #include "tests/support/tables.h"
 
 namespace tasca::test {
@@ -311,14 +312,9 @@ TEST(DiceJugador, EndsTheProgramForAnInvalidSeat) {
       m.t.UsarNombres = nombres;
       m.t.UsarExpresiones = expresiones;
       Rnd rnd;
-      try {
-        DiceJugador(m.t, rnd, 5, Paso, SinCantidad);
-        ADD_FAILURE() << "seat 5 spoke";
-      } catch (const RunTimeError& error) {
-        EXPECT_EQ(Utf8(error.Message()),
-                  "El índice está fuera del intervalo. El programa va a terminar su ejecución.")
-            << nombres << expresiones;
-      }
+      EXPECT_EQ(ErrorOf([&] { DiceJugador(m.t, rnd, 5, Paso, SinCantidad); }),
+                std::string{"El índice está fuera del intervalo."} + FinDelPrograma)
+          << nombres << expresiones;
     }
   }
 }

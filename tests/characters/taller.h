@@ -18,6 +18,11 @@ using Textos = std::vector<std::string>;
 inline constexpr auto IndiceFuera =
     "El índice está fuera del intervalo. El programa va a terminar su ejecución.";
 
+// The event of the question before a character is deleted. `entrada` is its entry in the list.
+inline std::string PreguntaEliminar(const std::string& entrada) {
+  return "confirm[Eliminar jugador]: Confirme que desea eliminar el jugador " + entrada;
+}
+
 // The message of an overflow of a 16-bit Integer.
 inline constexpr auto Desbordamiento =
     "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "
@@ -91,7 +96,9 @@ inline Textos Campos(const Dialog1& d) { return {Utf8(d.Text1), Utf8(d.Text2), U
 
 // A phrase padded to its field.
 inline std::string Rellena(const std::string& frase) {
-  return frase + std::string(AnchoFrase - frase.size(), ' ');
+  std::string rellena = frase;
+  rellena.resize(AnchoFrase, ' ');
+  return rellena;
 }
 
 }  // namespace tasca::test

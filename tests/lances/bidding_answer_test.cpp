@@ -122,11 +122,6 @@ TEST_F(ResponderLance, ARaiseSeesTheBetThatItAnswers) {
   EXPECT_EQ(m.t.ParejaEnvite, 1);
 }
 
-struct CasoTecleado {
-  const char16_t* texto;
-  int piedras;
-};
-
 TEST_F(ResponderLance, ReadsTheTypedRaiseAndTakesOneForLess) {
   const std::array<CasoTecleado, 11> casos{{{u"1", 1},
                                             {u"2", 2},

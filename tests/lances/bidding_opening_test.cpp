@@ -215,29 +215,24 @@ TEST_F(AbrirLance, OffersTheHumanAllFourButtons) {
   EXPECT_TRUE(dialogo.Command1[3].Visible && dialogo.Command1[3].Enabled);
 }
 
-struct CasoEnvido {
-  const char16_t* texto;
-  int piedras;
-};
-
 TEST_F(AbrirLance, ReadsTheTypedAmountAndTakesTwoForLess) {
-  const std::array<CasoEnvido, 16> casos{{{u"2", 2},
-                                          {u"3", 3},
-                                          {u"1", 2},
-                                          {u"0", 2},
-                                          {u"-7", 2},
-                                          {u"-32768", 2},
-                                          {u"", 2},  // also Cancel
-                                          {u"abc", 2},
-                                          {u"  5 piedras", 5},
-                                          {u"2.5", 2},
-                                          {u"3.5", 4},
-                                          {u"4.5", 4},
-                                          {u"2.51", 3},
-                                          {u"1e1", 10},
-                                          {u"32767", 32767},
-                                          {u"32767.4", 32767}}};
-  for (const CasoEnvido& caso : casos) {
+  const std::array<CasoTecleado, 16> casos{{{u"2", 2},
+                                            {u"3", 3},
+                                            {u"1", 2},
+                                            {u"0", 2},
+                                            {u"-7", 2},
+                                            {u"-32768", 2},
+                                            {u"", 2},  // also Cancel
+                                            {u"abc", 2},
+                                            {u"  5 piedras", 5},
+                                            {u"2.5", 2},
+                                            {u"3.5", 4},
+                                            {u"4.5", 4},
+                                            {u"2.51", 3},
+                                            {u"1e1", 10},
+                                            {u"32767", 32767},
+                                            {u"32767.4", 32767}}};
+  for (const CasoTecleado& caso : casos) {
     SCOPED_TRACE(Utf8(caso.texto));
     Mesa otra;
     otra.port.Presses(2).Types(caso.texto);

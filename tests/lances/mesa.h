@@ -74,6 +74,12 @@ struct Mesa {
   std::string Texto() const { return Utf8(t.Text2); }
 };
 
+// What the human types into an input box, and the stones that it means.
+struct CasoTecleado {
+  const char16_t* texto;
+  int piedras;
+};
+
 // A decision function of a computer seat.
 using Decisor = Decision (*)(const Table& t, Rnd& rnd, Seat asiento);
 

@@ -97,11 +97,11 @@ const std::string FaltanPersonajes =
 
 TEST(Aleatorio, EndsTheProgramInsteadOfDrawingForeverWithFewerThanThree) {
   Inicio nadie{0};
-  EXPECT_EQ(FalloDe([&nadie] { nadie.Aceptar(); }), FaltanPersonajes);
+  EXPECT_EQ(ErrorOf([&nadie] { nadie.Aceptar(); }), FaltanPersonajes);
   Inicio uno{1};
-  EXPECT_EQ(FalloDe([&uno] { uno.Aceptar({0.5F}); }), FaltanPersonajes);
+  EXPECT_EQ(ErrorOf([&uno] { uno.Aceptar({0.5F}); }), FaltanPersonajes);
   Inicio dos{2};
-  EXPECT_EQ(FalloDe([&dos] { dos.Aceptar({0.5F, 0.5F, 0.0F}); }), FaltanPersonajes);
+  EXPECT_EQ(ErrorOf([&dos] { dos.Aceptar({0.5F, 0.5F, 0.0F}); }), FaltanPersonajes);
 }
 
 TEST(Aleatorio, EndsTheProgramIfTheOtherTwoListsHaveTakenAllCharacters) {
@@ -109,7 +109,7 @@ TEST(Aleatorio, EndsTheProgramIfTheOtherTwoListsHaveTakenAllCharacters) {
        {std::array{0, 1, 2}, std::array{1, 0, 2}, std::array{2, 1, 0}}) {
     Inicio dos{2};
     dos.Elegir(eleccion.at(0), eleccion.at(1), eleccion.at(2));
-    EXPECT_EQ(FalloDe([&dos] { dos.Aceptar(); }), FaltanPersonajes);
+    EXPECT_EQ(ErrorOf([&dos] { dos.Aceptar(); }), FaltanPersonajes);
   }
 }
 

@@ -71,7 +71,7 @@ TEST(DlgInicioFormLoad, ProposesJugador1WithoutSettings) {
 TEST(DlgInicioFormLoad, EndsTheProgramForSettingsCutShort) {
   Inicio inicio;
   inicio.carpeta.Write("mus.ini", "35\r\n3\r\n3\r\n");
-  EXPECT_NE(FalloDe([&inicio] { inicio.Cargar(Personajes(3)); }).find("mus.ini, línea 4: "),
+  EXPECT_NE(ErrorOf([&inicio] { inicio.Cargar(Personajes(3)); }).find("mus.ini, línea 4: "),
             std::string::npos);
 }
 
@@ -352,7 +352,7 @@ TEST(CbOK, SavesTheNameOnceTheFolderIsWritable) {
 TEST(CbOK, EndsTheProgramForSettingsThatMayNotBeRead) {
   EnCarpetaAjena inicio;
   EnCarpetaAjena::Permitir(inicio.carpeta.Path() / "mus.ini", 0222);
-  EXPECT_EQ(FalloDe([&inicio] { inicio.Aceptar(); }),
+  EXPECT_EQ(ErrorOf([&inicio] { inicio.Aceptar(); }),
             (inicio.t.Carpeta / "mus.ini").string() +
                 ": no se puede leer el archivo. El programa va a terminar su ejecución.");
   EXPECT_EQ(inicio.port.TakeEvents(), Sucesos{});
@@ -362,7 +362,7 @@ TEST(CbOK, EndsTheProgramForSettingsCutShort) {
   Inicio inicio{3};
   inicio.Elegir(1, 2, 3);
   inicio.carpeta.Write("mus.ini", "35\r\n3\r\n");
-  EXPECT_NE(FalloDe([&inicio] { inicio.Aceptar(); }).find("mus.ini, línea 3: "), std::string::npos);
+  EXPECT_NE(ErrorOf([&inicio] { inicio.Aceptar(); }).find("mus.ini, línea 3: "), std::string::npos);
 }
 
 TEST(CbOK, SetsNamesExpressionsAndStyle) {

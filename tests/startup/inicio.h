@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "startup/dlg_inicio.h"
 #include "tests/support/draw_list.h"
+#include "tests/support/errors.h"
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
@@ -67,16 +68,5 @@ struct Inicio {
     return CbOK_Click(d, g);
   }
 };
-
-// The message of the error that ends the program; "" when there is none.
-template <class Operacion>
-std::string FalloDe(Operacion operacion) {
-  try {
-    operacion();
-    return "";
-  } catch (const RunTimeError& error) {
-    return Utf8(error.Message());
-  }
-}
 
 }  // namespace tasca::test

@@ -86,7 +86,7 @@ TEST(LlenarCombos, OffersTheFirstFiftyRecords) {
 
 TEST(LlenarCombos, Kept_AFiftyFirstRecordOnOfferEndsTheProgram) {
   // A record has six lines: the 51st starts at line 301, and its story is line 304.
-  const std::string fallo = FalloDe([] { const Inicio inicio{49}; });
+  const std::string fallo = ErrorOf([] { const Inicio inicio{49}; });
   EXPECT_TRUE(fallo.ends_with(
       "/Jugadores.dat, línea 304: solo los 50 primeros personajes pueden sentarse a la mesa. El "
       "programa va a terminar su ejecución."))
@@ -109,7 +109,7 @@ TEST(LlenarCombos, EndsTheProgramForARecordCutShort) {
       {"Datos>\r\nBerta\r\n050\r\n", "línea 4: el archivo se acaba y falta la historia"},
   };
   for (const Caso& caso : casos) {
-    const std::string fallo = FalloDe([&caso] { const Inicio inicio{caso.Archivo}; });
+    const std::string fallo = ErrorOf([&caso] { const Inicio inicio{caso.Archivo}; });
     EXPECT_TRUE(fallo.ends_with("/Jugadores.dat, " + caso.Fallo +
                                 " del personaje. El programa va a terminar su ejecución."))
         << fallo;

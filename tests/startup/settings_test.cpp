@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "base/errors.h"
 #include "base/write_error.h"
+#include "tests/support/errors.h"
 #include "tests/support/plain_user.h"
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
@@ -47,17 +49,11 @@ struct Ajustes {
 };
 
 // The error message of an operation, without the folder's name; "" if it throws no error.
-template <class Operacion>
-std::string Fallo(const Ajustes& a, Operacion operacion) {
-  try {
-    operacion();
-    return "";
-  } catch (const RunTimeError& error) {
-    const std::string carpetaYBarra = a.t.Carpeta.string() + "/";
-    const std::string mensaje = Utf8(error.Message());
-    EXPECT_TRUE(mensaje.starts_with(carpetaYBarra)) << mensaje;
-    return mensaje.substr(carpetaYBarra.size());
-  }
+std::string Fallo(const Ajustes& a, const std::function<void()>& operacion) {
+  const std::string mensaje = ErrorOf(operacion);
+  const std::string carpetaYBarra = a.t.Carpeta.string() + "/";
+  if (!mensaje.starts_with(carpetaYBarra)) return mensaje;
+  return mensaje.substr(carpetaYBarra.size());
 }
 
 std::string FaltaLaLinea(int linea) {

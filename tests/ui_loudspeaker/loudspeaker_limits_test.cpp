@@ -3,8 +3,8 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <thread>
 
+#include "tests/ui_loudspeaker/listener.h"
 #include "tests/ui_loudspeaker/recording.h"
 #include "ui/loudspeaker/loudspeaker.h"
 
@@ -23,12 +23,7 @@ class LoudspeakerLimits : public testing::Test {
 
   // Whether it stops playing within the limit.
   bool EndsWithin(seconds limite) {
-    const auto fin = std::chrono::steady_clock::now() + limite;
-    while (altavoz_.Playing()) {
-      if (std::chrono::steady_clock::now() > fin) return false;
-      std::this_thread::sleep_for(milliseconds{5});
-    }
-    return true;
+    return WaitUntil(limite, [this] { return !altavoz_.Playing(); });
   }
 
   // Makes the device take 1024 samples at this interval.

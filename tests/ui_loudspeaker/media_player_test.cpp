@@ -5,6 +5,7 @@
 
 #include "tests/ui_loudspeaker/listener.h"
 #include "tests/ui_loudspeaker/recording.h"
+#include "tests/ui_loudspeaker/stand_in.h"
 
 namespace tasca::test {
 namespace {
@@ -26,14 +27,6 @@ class Mp1 : public testing::Test {
   Oidos Recorded() {
     WaitForSilence(carpeta_.Recording());
     return Described(Listen(carpeta_.Recording()));
-  }
-
-  // Replaces tasca-sound by a shell script.
-  void ReplaceProgram(const std::string& guion) {
-    std::filesystem::remove(carpeta_.Path() / "tasca-sound");
-    carpeta_.Write("tasca-sound", "#!/bin/sh\n" + guion + "\n");
-    std::filesystem::permissions(carpeta_.Path() / "tasca-sound",
-                                 std::filesystem::perms::owner_all);
   }
 
   SoundFolder carpeta_;
@@ -106,7 +99,7 @@ TEST_F(Mp1, ReportsTheEndWithoutTheProgram) {
 }
 
 TEST_F(Mp1, ReportsTheEndWhenTheProgramFails) {
-  ReplaceProgram("exit 1");
+  StandIn(carpeta_, "exit 1");
   for (int i = 0; i < 3; ++i) {
     Open(u"Son_aplauso.wav");
     EXPECT_TRUE(WaitForEnd(mp1_));
@@ -114,7 +107,7 @@ TEST_F(Mp1, ReportsTheEndWhenTheProgramFails) {
 }
 
 TEST_F(Mp1, DoesNotWaitForAProgramThatHangs) {
-  ReplaceProgram("exec sleep 1000");
+  StandIn(carpeta_, "exec sleep 1000");
   const auto comienzo = std::chrono::steady_clock::now();
   for (int i = 0; i < 2000; ++i) Open(u"Son_aplauso.wav");
   mp1_.TurnOn(false);
@@ -123,7 +116,7 @@ TEST_F(Mp1, DoesNotWaitForAProgramThatHangs) {
 }
 
 TEST_F(Mp1, PlaysAgainAfterTheProgramFailed) {
-  ReplaceProgram("exit 1");
+  StandIn(carpeta_, "exit 1");
   Open(u"Son_aplauso.wav");
   EXPECT_TRUE(WaitForEnd(mp1_));
   const SoundFolder otra;

@@ -1,5 +1,6 @@
 #pragma once
 // Replacements for tasca-sound.
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -12,8 +13,14 @@ void StandIn(const TempFolder& carpeta, const std::string& guion);
 
 // Writes a tasca-sound that plays nothing, never answers and records its orders.
 void StandInThatNotes(const TempFolder& carpeta);
-// The recorded orders, concatenated.
+// The recorded orders, concatenated. Each is "NUMBER REPETITIONS BALANCE VOLUME FILE"; an order
+// with 0 repetitions stops the sound.
 std::string OrdersNoted(const TempFolder& carpeta);
+
+// The number of shuffles in the orders.
+std::ptrdiff_t ShufflesIn(const std::string& ordenes);
+// Whether the order before the last shuffle stops the sound.
+bool StopsBeforeTheLastShuffle(const std::string& ordenes);
 
 // Waits for the condition; false if it is not true within 30 seconds.
 bool Eventually(const std::function<bool()>& condicion);

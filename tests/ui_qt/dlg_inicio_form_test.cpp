@@ -203,13 +203,6 @@ TEST_F(DlgInicioWindow, ClearsARefusalWhenTheLastCharacterFits) {
   EXPECT_EQ(LabelText("Status"), "El nombre puede tener hasta 100 caracteres.");
 }
 
-// Sends an input-method event with a pre-edit text and a committed text.
-void Compose(QWidget* control, const char* enCurso, const char* escrito) {
-  QInputMethodEvent suceso{QString::fromUtf8(enCurso), {}};
-  suceso.setCommitString(QString::fromUtf8(escrito));
-  QApplication::sendEvent(control, &suceso);
-}
-
 TEST_F(DlgInicioWindow, KeepsTheNameWhenAnInputMethodTextIsRefused) {
   auto* const nombre = Find<QLineEdit>("Text2");
   nombre->selectAll();

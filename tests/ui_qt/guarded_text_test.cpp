@@ -29,11 +29,8 @@ class TextBox : public testing::Test {
     caja_->paste();
   }
   void Type(const char* texto) { test::Type(caja_.get(), texto); }
-  // Sends an input-method event with a committed text and a pre-edit text.
-  void Compose(const QString& texto, const QString& enCurso = {}) {
-    QInputMethodEvent suceso{enCurso, {}};
-    suceso.setCommitString(texto);
-    QApplication::sendEvent(caja_.get(), &suceso);
+  void Compose(const char* enCurso, const char* escrito) {
+    test::Compose(caja_.get(), enCurso, escrito);
   }
   std::string Text() const { return test::Utf8(caja_->Text()); }
 
@@ -116,9 +113,9 @@ TEST_F(TextBox, RefusesADrop) {
 
 TEST_F(TextBox, RefusesATextOfAnInputMethod) {
   Show(20);
-  Compose(QStringLiteral("é"));
+  Compose("", "é");
   EXPECT_EQ(Text(), "é");
-  Compose(QStringLiteral("日"));
+  Compose("", "日");
   EXPECT_EQ(Text(), "é");
   EXPECT_EQ(reparo_, NoCabe);
 }
@@ -127,9 +124,9 @@ TEST_F(TextBox, RestoresASelectionReplacedByARefusedInputMethodText) {
   Show(20);
   caja_->ShowText(u"La\u00A0boticaria");
   caja_->selectAll();
-  Compose({}, QStringLiteral("r"));
-  Compose({}, QStringLiteral("ri"));
-  Compose(QStringLiteral("日"));
+  Compose("r", "");
+  Compose("ri", "");
+  Compose("", "日");
   EXPECT_EQ(Text(), "La\u00A0boticaria");
   EXPECT_EQ(reparo_, NoCabe);
   EXPECT_EQ(caja_->textCursor().selectedText().size(), 12);
@@ -139,10 +136,10 @@ TEST_F(TextBox, RestoresTheSelectionWhenAnInputMethodCancels) {
   Show(20);
   Type("abcd");
   caja_->moveCursor(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
-  Compose({}, QStringLiteral("´"));
-  Compose({});
+  Compose("´", "");
+  Compose("", "");
   EXPECT_EQ(Text(), "abcd");
-  Compose(QStringLiteral("é"));
+  Compose("", "é");
   EXPECT_EQ(Text(), "é");
 }
 
@@ -150,9 +147,9 @@ TEST_F(TextBox, ComposesOneCharacterAfterAnother) {
   Show(20);
   Type("abcd");
   caja_->selectAll();
-  Compose({}, QStringLiteral("´"));
-  Compose(QStringLiteral("é"), QStringLiteral("´"));
-  Compose({});
+  Compose("´", "");
+  Compose("´", "é");
+  Compose("", "");
   EXPECT_EQ(Text(), "é") << "the first one has been written";
 }
 

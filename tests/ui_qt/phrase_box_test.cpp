@@ -62,9 +62,7 @@ TEST(AskPhrase, ShowsEveryReasonInFull) {
   Ask(u"", [](QWidget* caja) {
     auto* const estado = Control<QLabel>(caja, "Status");
     for (const char* const rechazado : {">", "ł", "\u0001", "abcdefghijk"}) {
-      QInputMethodEvent suceso;
-      suceso.setCommitString(QString::fromUtf8(rechazado));
-      QApplication::sendEvent(caja->focusWidget(), &suceso);
+      Compose(caja->focusWidget(), "", rechazado);
       EXPECT_TRUE(IsReadable(*estado)) << Utf8(estado->text());
     }
     Press(caja, Qt::Key_Return);
@@ -74,11 +72,8 @@ TEST(AskPhrase, ShowsEveryReasonInFull) {
 TEST(AskPhrase, KeepsThePhraseWhenAnInputMethodTextIsRefused) {
   EXPECT_EQ(Ask(u"van",
                 [](QWidget* caja) {
-                  QInputMethodEvent enCurso{QStringLiteral("ri"), {}};
-                  QApplication::sendEvent(caja->focusWidget(), &enCurso);
-                  QInputMethodEvent escrito;
-                  escrito.setCommitString(QStringLiteral("日"));
-                  QApplication::sendEvent(caja->focusWidget(), &escrito);
+                  Compose(caja->focusWidget(), "ri", "");
+                  Compose(caja->focusWidget(), "", "日");
                   Press(caja, Qt::Key_Return);
                 }),
             "van");

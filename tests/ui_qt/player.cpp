@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QDeadlineTimer>
 #include <QDialog>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTest>
 #include <algorithm>
@@ -45,6 +46,12 @@ void Type(QWidget* control, const char* texto) {
   for (const QChar letra : QString::fromUtf8(texto)) {
     QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString{letra}, Qt::NoModifier);
   }
+}
+
+void Compose(QWidget* control, const char* enCurso, const char* escrito) {
+  QInputMethodEvent suceso{QString::fromUtf8(enCurso), {}};
+  suceso.setCommitString(QString::fromUtf8(escrito));
+  QApplication::sendEvent(control, &suceso);
 }
 
 bool ButtonIsDown(const QWidget* ventana) {

@@ -34,6 +34,9 @@ void Repeat(QWidget* ventana, Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoM
 // Types `texto` into a control, one key per character.
 void Type(QWidget* control, const char* texto);
 
+// Sends an input-method event with a pre-edit text and a committed text.
+void Compose(QWidget* control, const char* enCurso, const char* escrito);
+
 // True while a button pressed by its access key has not been clicked yet.
 bool ButtonIsDown(const QWidget* ventana);
 

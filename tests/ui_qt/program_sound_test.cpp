@@ -132,10 +132,6 @@ TEST_F(ProgramWithSound, KeepsTheSoundSettingForTheNextTable) {
 TEST_F(ProgramWithSound, StopsTheSoundOfTheOldTable) {
   StandInThatNotes(carpeta_);
   std::string ordenes;
-  const auto barajadas = [&] {
-    ordenes = OrdersNoted(carpeta_);
-    return QString::fromStdString(ordenes).count(QStringLiteral("Son_BarajaCartas.mp3"));
-  };
   bool hayCambio = false;
   enLaCaja_ = [&hayCambio](QWidget* caja) {
     const auto* const mensaje = qobject_cast<QMessageBox*>(caja);
@@ -146,16 +142,10 @@ TEST_F(ProgramWithSound, StopsTheSoundOfTheOldTable) {
   };
   enLaMesa_ = [&](QWidget* ventana) {
     if (!hayCambio) return Press(ventana, Qt::Key_Return);
-    if (barajadas() == 2) ventana->close();
+    if (ShufflesIn(ordenes = OrdersNoted(carpeta_)) == 2) ventana->close();
   };
   EXPECT_EQ(Play(), 0);
-  // An order with 0 repetitions, such as "12 0 0 0 ", stops the sound. It must come before the last
-  // shuffle.
-  const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
-  ASSERT_NE(ultima, std::string::npos);
-  const std::size_t anterior = ordenes.rfind("Son_", ultima);
-  EXPECT_NE(ordenes.substr(anterior, ultima - anterior).find(" 0 0 0 "), std::string::npos)
-      << ordenes;
+  EXPECT_TRUE(StopsBeforeTheLastShuffle(ordenes)) << ordenes;
 }
 
 }  // namespace

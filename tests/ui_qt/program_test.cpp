@@ -207,9 +207,10 @@ TEST_F(ProgramInWindows, FocusesTheInputLineAfterEveryQuestion) {
     Control<QWidget>(ventana, "Text2")->setFocus();
     Press(ventana, Qt::Key_Return);
   };
-  Play([](const QString& pregunta) {
+  const int estado = Play([](const QString& pregunta) {
     return pregunta == QString::fromUtf8(OtraPartida) ? Qt::Key_N : CutAndPass(pregunta);
   });
+  EXPECT_EQ(estado, 0);
 }
 
 TEST_F(ProgramInWindows, ShowsTheTranscriptWhileAQuestionWaits) {

@@ -92,31 +92,13 @@ TEST_F(SessionWithSound, TurnsTheSoundOffAndOn) {
   EXPECT_EQ(oidos.front().Archivo, "Son_ReparteCartas.mp3");
 }
 
-std::size_t Shuffles(const std::string& ordenes) {
-  constexpr std::string_view Baraja = "Son_BarajaCartas.mp3";
-  std::size_t veces = 0;
-  for (std::size_t i = ordenes.find(Baraja); i != std::string::npos;
-       i = ordenes.find(Baraja, i + 1)) {
-    ++veces;
-  }
-  return veces;
-}
-
-// An order with 0 repetitions, such as "12 0 0 0 ", stops the sound.
-bool IsStoppedBeforeTheLastShuffle(const std::string& ordenes) {
-  const std::size_t ultima = ordenes.rfind("/Son_BarajaCartas.mp3");
-  if (ultima == std::string::npos) return false;
-  const std::size_t anterior = ordenes.rfind("Son_", ultima);
-  return ordenes.substr(anterior, ultima - anterior).find(" 0 0 0 ") != std::string::npos;
-}
-
 // The stand-in never reports the end of a sound, so that only the end of the table stops one.
 TEST(SessionThatIsHeard, StopsTheSoundOfTheOldTable) {
   const TempFolder carpeta;
   LlenarCarpeta(carpeta, "1", "4", "4");
   StandInThatNotes(carpeta);
   std::string ordenes;
-  const auto segundaMesa = [&] { return Shuffles(ordenes = OrdersNoted(carpeta)) == 2; };
+  const auto segundaMesa = [&] { return ShufflesIn(ordenes = OrdersNoted(carpeta)) == 2; };
   int puertas = 0;
   const Player jugador = [&](const std::string& pregunta) -> std::optional<std::string> {
     if (pregunta.starts_with("Su nombre: ")) ++puertas;
@@ -127,7 +109,7 @@ TEST(SessionThatIsHeard, StopsTheSoundOfTheOldTable) {
     return pregunta.find("¿mus?") != std::string::npos ? "n" : "";
   };
   EXPECT_EQ(PlayHearing(carpeta, jugador).Status, 0);
-  EXPECT_TRUE(IsStoppedBeforeTheLastShuffle(ordenes)) << ordenes;
+  EXPECT_TRUE(StopsBeforeTheLastShuffle(ordenes)) << ordenes;
 }
 
 }  // namespace
