@@ -18,7 +18,7 @@ TEST(DrawList, GivesTheListedDrawsInOrder) {
 }
 
 TEST(DrawList, FailsWhenTooFewAreDrawn) {
-  EXPECT_NONFATAL_FAILURE({ const DrawList lista{0.5F}; }, "another number of draws");
+  EXPECT_NONFATAL_FAILURE({ const DrawList lista{0.5F}; }, "wrong number of draws");
 }
 
 TEST(DrawList, FailsWhenTooManyAreDrawn) {
@@ -28,7 +28,7 @@ TEST(DrawList, FailsWhenTooManyAreDrawn) {
         lista.Get()();
         lista.Get()();
       },
-      "another number of draws");
+      "wrong number of draws");
 }
 
 TEST(DrawList, RefusesAnInvalidDraw) {
@@ -37,7 +37,7 @@ TEST(DrawList, RefusesAnInvalidDraw) {
         DrawList lista{0x1p-25F};
         lista.Get()();
       },
-      "is no draw");
+      "is not a valid draw");
 }
 
 TEST(DrawBelow, IsTheGreatestDrawBelowALimit) {

@@ -38,12 +38,13 @@ std::string PersonajesQueHablan() {
   return bytes;
 }
 
-struct Puerta {
+// A session in a temporary folder, with a scripted port.
+struct SesionDePrueba {
   TempFolder carpeta;
   ScriptedPort port;
   std::unique_ptr<Session> sesion;
 
-  Puerta() {
+  SesionDePrueba() {
     carpeta.Write("Jugadores.dat", CincoPersonajes);
     sesion = std::make_unique<Session>(carpeta.Path(), port);
   }
@@ -99,7 +100,7 @@ TEST(Session, ReportsOtrosJugadoresAfterAMatchWhenThePlayerWantsThem) {
   const auto sesion = std::make_unique<Session>(carpeta.Path(), jugador);
   EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores);
   EXPECT_FALSE(sesion->HaAcabado());
-  EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores) << "and again, with others";
+  EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores) << "the second match";
 }
 
 TEST(Session, EndsAfterAMatchWhenThePlayerWantsNoOther) {
@@ -114,126 +115,126 @@ TEST(Session, EndsAfterAMatchWhenThePlayerWantsNoOther) {
 }
 
 TEST(Session, OpensTheStartUpDialogWithItsLists) {
-  const Puerta puerta;
-  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::EnInicio);
-  EXPECT_EQ(puerta.sesion->Inicio().Combo1.List.size(), 4U);
-  EXPECT_FALSE(puerta.sesion->HaAcabado());
+  const SesionDePrueba prueba;
+  EXPECT_EQ(prueba.sesion->AbrirInicio(), Situacion::EnInicio);
+  EXPECT_EQ(prueba.sesion->Inicio().Combo1.List.size(), 4U);
+  EXPECT_FALSE(prueba.sesion->HaAcabado());
 }
 
 TEST(Session, TakesTheEventsOfTheDialog) {
-  const Puerta puerta;
-  puerta.sesion->AbrirInicio();
-  DlgInicio& d = puerta.sesion->Inicio();
-  EXPECT_EQ(puerta.sesion->EnInicio([&d] { Combo1_Click(d, 2); }), Situacion::EnInicio);
+  const SesionDePrueba prueba;
+  prueba.sesion->AbrirInicio();
+  DlgInicio& d = prueba.sesion->Inicio();
+  EXPECT_EQ(prueba.sesion->EnInicio([&d] { Combo1_Click(d, 2); }), Situacion::EnInicio);
   EXPECT_EQ(d.Combo1.ListIndex, 2);
 }
 
 TEST(Session, StaysInTheDialogAfterAnInvalidChoice) {
-  Puerta puerta;
-  puerta.sesion->AbrirInicio();
-  DlgInicio& d = puerta.sesion->Inicio();
-  puerta.sesion->EnInicio([&d] {
+  SesionDePrueba prueba;
+  prueba.sesion->AbrirInicio();
+  DlgInicio& d = prueba.sesion->Inicio();
+  prueba.sesion->EnInicio([&d] {
     Combo2_Click(d, 1);
     Combo3_Click(d, 1);
   });
-  EXPECT_EQ(puerta.sesion->Aceptar(), Situacion::EnInicio);
-  EXPECT_EQ(puerta.port.TakeEvents().size(), 1U);
-  EXPECT_EQ(Utf8(puerta.sesion->Mesa().Text2), "");
+  EXPECT_EQ(prueba.sesion->Aceptar(), Situacion::EnInicio);
+  EXPECT_EQ(prueba.port.TakeEvents().size(), 1U);
+  EXPECT_EQ(Utf8(prueba.sesion->Mesa().Text2), "");
 }
 
 TEST(Session, StartsTheMatchOnceTheChoiceIsAccepted) {
-  const Puerta puerta;
-  EXPECT_EQ(puerta.Sentarse(), Situacion::EnLaMesa);
-  const Table& t = puerta.sesion->Mesa();
+  const SesionDePrueba prueba;
+  EXPECT_EQ(prueba.Sentarse(), Situacion::EnLaMesa);
+  const Table& t = prueba.sesion->Mesa();
   EXPECT_TRUE(t.Text2.ends_with(u"Pulse enter para empezar"));
   EXPECT_EQ(t.Fase, Fase::Mus);
-  EXPECT_GT(puerta.sesion->Generador().Draws(), 20000U) << "the deck has been shuffled";
+  EXPECT_GT(prueba.sesion->Generador().Draws(), 20000U) << "the draws of a shuffle";
 }
 
 TEST(Session, PassesKeysToTheRulesAndTellsWhichAreHandled) {
-  const Puerta puerta;
-  puerta.Sentarse();
+  const SesionDePrueba prueba;
+  prueba.Sentarse();
   Integer otra = 65;
-  EXPECT_EQ(puerta.sesion->Tecla(otra, 0), Situacion::EnLaMesa);
+  EXPECT_EQ(prueba.sesion->Tecla(otra, 0), Situacion::EnLaMesa);
   EXPECT_EQ(otra, 65);
   Integer q = TeclaQ;
-  EXPECT_EQ(puerta.sesion->Tecla(q, 0), Situacion::EnLaMesa);
+  EXPECT_EQ(prueba.sesion->Tecla(q, 0), Situacion::EnLaMesa);
   EXPECT_EQ(q, 0);
-  EXPECT_TRUE(puerta.sesion->Mesa().Text2.ends_with(u"pulse Enter para empezar"));
+  EXPECT_TRUE(prueba.sesion->Mesa().Text2.ends_with(u"pulse Enter para empezar"));
 }
 
 TEST(Session, PlaysTheNextSoundAfterTheEndOfOne) {
-  Puerta puerta;
-  puerta.Sentarse();
-  puerta.port.TakeEvents();
-  EXPECT_EQ(puerta.sesion->FinDeSonido(0), Situacion::EnLaMesa);
-  EXPECT_EQ(puerta.port.TakeEvents(),
+  SesionDePrueba prueba;
+  prueba.Sentarse();
+  prueba.port.TakeEvents();
+  EXPECT_EQ(prueba.sesion->FinDeSonido(0), Situacion::EnLaMesa);
+  EXPECT_EQ(prueba.port.TakeEvents(),
             (Sucesos{"sound: Son_ReparteCartas.mp3 x1 balance 0 volume 0"}));
 }
 
 TEST(Session, EndsWithStatus0WhenThePlayerLeaves) {
-  const Puerta puerta;
-  puerta.Sentarse();
-  EXPECT_EQ(puerta.sesion->Salir(), Situacion::Fin);
-  EXPECT_TRUE(puerta.sesion->HaAcabado());
-  EXPECT_EQ(puerta.sesion->Final().Estado, 0);
-  EXPECT_EQ(Utf8(puerta.sesion->Final().Mensaje), "");
+  const SesionDePrueba prueba;
+  prueba.Sentarse();
+  EXPECT_EQ(prueba.sesion->Salir(), Situacion::Fin);
+  EXPECT_TRUE(prueba.sesion->HaAcabado());
+  EXPECT_EQ(prueba.sesion->Final().Estado, 0);
+  EXPECT_EQ(Utf8(prueba.sesion->Final().Mensaje), "");
 }
 
 TEST(Session, EndsWithTheMessageOfARunTimeError) {
-  const Puerta puerta;
-  puerta.carpeta.Write("mus.ini", "35\r\n");
-  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->Final().Estado, 1);
-  EXPECT_FALSE(puerta.sesion->Final().YaMostrado);
-  EXPECT_TRUE(puerta.sesion->Final().Mensaje.ends_with(u"El programa va a terminar su ejecución."));
+  const SesionDePrueba prueba;
+  prueba.carpeta.Write("mus.ini", "35\r\n");
+  EXPECT_EQ(prueba.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->Final().Estado, 1);
+  EXPECT_FALSE(prueba.sesion->Final().YaMostrado);
+  EXPECT_TRUE(prueba.sesion->Final().Mensaje.ends_with(u"El programa va a terminar su ejecución."));
 }
 
 TEST(Session, TellsThatTheMessageHasAlreadyBeenShown) {
-  Puerta puerta;
-  std::filesystem::remove(puerta.carpeta.Path() / "Jugadores.dat");
-  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
-  EXPECT_TRUE(puerta.sesion->Final().YaMostrado);
-  EXPECT_EQ(puerta.port.TakeEvents(), (Sucesos{"box: " + Utf8(puerta.sesion->Final().Mensaje)}));
+  SesionDePrueba prueba;
+  std::filesystem::remove(prueba.carpeta.Path() / "Jugadores.dat");
+  EXPECT_EQ(prueba.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_TRUE(prueba.sesion->Final().YaMostrado);
+  EXPECT_EQ(prueba.port.TakeEvents(), (Sucesos{"box: " + Utf8(prueba.sesion->Final().Mensaje)}));
 }
 
 TEST(Session, EndsWithARunTimeErrorOfTheFace) {
-  const Puerta puerta;
-  puerta.Sentarse();
-  EXPECT_EQ(puerta.sesion->Atender([] {}), Situacion::EnLaMesa);
-  EXPECT_EQ(puerta.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->Final().Estado, 1);
+  const SesionDePrueba prueba;
+  prueba.Sentarse();
+  EXPECT_EQ(prueba.sesion->Atender([] {}), Situacion::EnLaMesa);
+  EXPECT_EQ(prueba.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->Final().Estado, 1);
 }
 
 TEST(Session, StaysEnded) {
-  Puerta puerta;
-  puerta.Sentarse();
-  puerta.sesion->Salir();
-  puerta.port.TakeEvents();
-  const auto antes = std::make_unique<Table>(puerta.sesion->Mesa());
-  EXPECT_EQ(puerta.Pulsar(TeclaQ), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->FinDeSonido(0), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
-  EXPECT_EQ(puerta.sesion->Final().Estado, 0);
-  EXPECT_TRUE(puerta.sesion->Mesa() == *antes);
-  EXPECT_EQ(puerta.port.TakeEvents(), Sucesos{});
+  SesionDePrueba prueba;
+  prueba.Sentarse();
+  prueba.sesion->Salir();
+  prueba.port.TakeEvents();
+  const auto antes = std::make_unique<Table>(prueba.sesion->Mesa());
+  EXPECT_EQ(prueba.Pulsar(TeclaQ), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->AbrirInicio(), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->FinDeSonido(0), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->Atender([] { throw RunTimeError{u"Roto."}; }), Situacion::Fin);
+  EXPECT_EQ(prueba.sesion->Final().Estado, 0);
+  EXPECT_TRUE(prueba.sesion->Mesa() == *antes);
+  EXPECT_EQ(prueba.port.TakeEvents(), Sucesos{});
 }
 
 TEST(Session, IsEndedByAStepWithinAStep) {
-  const Puerta puerta;
-  puerta.Sentarse();
-  EXPECT_EQ(puerta.sesion->Atender([&puerta] { puerta.sesion->Salir(); }), Situacion::Fin);
+  const SesionDePrueba prueba;
+  prueba.Sentarse();
+  EXPECT_EQ(prueba.sesion->Atender([&prueba] { prueba.sesion->Salir(); }), Situacion::Fin);
 }
 
 TEST(Session, ClearsTheTableWhenTheDialogIsReopened) {
-  Puerta puerta;
-  puerta.Sentarse();
-  puerta.port.TakeEvents();
-  EXPECT_EQ(puerta.sesion->AbrirInicio(), Situacion::EnInicio);
-  EXPECT_EQ(puerta.port.TakeEvents(), Sucesos{"stop"});
-  EXPECT_TRUE(static_cast<const Form1State&>(puerta.sesion->Mesa()) == Form1State{});
-  EXPECT_EQ(puerta.sesion->Inicio().Combo1.ListIndex, 0);
+  SesionDePrueba prueba;
+  prueba.Sentarse();
+  prueba.port.TakeEvents();
+  EXPECT_EQ(prueba.sesion->AbrirInicio(), Situacion::EnInicio);
+  EXPECT_EQ(prueba.port.TakeEvents(), Sucesos{"stop"});
+  EXPECT_TRUE(static_cast<const Form1State&>(prueba.sesion->Mesa()) == Form1State{});
+  EXPECT_EQ(prueba.sesion->Inicio().Combo1.ListIndex, 0);
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ TEST(FaseMus, EndsWhenTheHumanRefuses) {
   FaseMus(g);
   EXPECT_EQ(port.TakeEvents(), (Sucesos{PreguntaMus}));
   EXPECT_EQ(port.Preguntas, std::vector<Pregunta>{Pregunta::Mus});
-  EXPECT_EQ(t.Dichos.size(), 1U) << "what was said before is forgotten";
+  EXPECT_EQ(t.Dichos.size(), 1U) << "the older records are cleared";
   EXPECT_EQ(Utf8(t.Text2), "Ana: NMus1\r\nAna es mano\rPulse enter para continuar");
   EXPECT_EQ(t.Fase, Fase::Grande);
   EXPECT_EQ(t.ParejaCortaMus, 1);

@@ -26,9 +26,7 @@ constexpr int GoesOn = 3;
 
 class SaveFaults : public testing::TestWithParam<Case> {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(MachineTraces()) << "strace is missing, or may trace nothing here";
-  }
+  void SetUp() override { ASSERT_TRUE(MachineTraces()) << "strace is missing or may not trace"; }
 
   // Repeats the save with the fault at each call for which `seElige` is true, and checks the result
   // with `examinar` each time.

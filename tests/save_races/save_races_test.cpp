@@ -65,7 +65,7 @@ class SaveRaces : public testing::TestWithParam<int> {
     for (const auto& programa : programas_) {
       esperados.push_back({.fd = programa->Output(), .events = POLLIN, .revents = 0});
     }
-    EXPECT_GT(::poll(esperados.data(), esperados.size(), 60 * Seconds), 0) << "nobody saves";
+    EXPECT_GT(::poll(esperados.data(), esperados.size(), 60 * Seconds), 0) << "no program saves";
     int rondas = 0;
     for (std::size_t i = 0; i < esperados.size(); ++i) {
       if (esperados.at(i).revents != 0) rondas += programas_.at(i)->TakeRounds();

@@ -32,7 +32,7 @@ std::mt19937 MotorQueDa(std::initializer_list<float> sacadas) {
   for (const float sacada : sacadas) {
     const float pasos = sacada * Pasos;
     EXPECT_TRUE(sacada >= 0.0F && sacada < 1.0F && std::floor(pasos) == pasos)
-        << sacada << " is no draw";
+        << sacada << " is not a valid draw";
     palabras.at(i++) = Untemper(static_cast<std::uint32_t>(pasos) << 8U);
   }
   std::stringstream estado;
@@ -55,6 +55,6 @@ float DrawFrom(float limite) { return std::ceil(limite * Pasos) / Pasos; }
 DrawList::DrawList(std::initializer_list<float> sacadas)
     : rnd_{MotorQueDa(sacadas)}, previstas_{sacadas.size()} {}
 
-DrawList::~DrawList() { EXPECT_EQ(rnd_.Draws(), previstas_) << "another number of draws"; }
+DrawList::~DrawList() { EXPECT_EQ(rnd_.Draws(), previstas_) << "wrong number of draws"; }
 
 }  // namespace tasca::test

@@ -12,7 +12,7 @@ namespace tasca::test {
 template <class T>
 T Tomar(std::deque<T>& respuestas, T siFalta, const std::string& pregunta) {
   if (respuestas.empty()) {
-    ADD_FAILURE() << "nobody foresaw " << pregunta;
+    ADD_FAILURE() << "no scripted answer to " << pregunta;
     return siFalta;
   }
   T respuesta = std::move(respuestas.front());

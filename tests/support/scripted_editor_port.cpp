@@ -11,8 +11,8 @@
 namespace tasca::test {
 
 ScriptedEditorPort::~ScriptedEditorPort() {
-  EXPECT_TRUE(respuestas_.empty()) << "a confirmation was never asked for";
-  EXPECT_TRUE(textos_.empty()) << "a typed text was never asked for";
+  EXPECT_TRUE(respuestas_.empty()) << "unused scripted confirmations";
+  EXPECT_TRUE(textos_.empty()) << "unused scripted texts";
 }
 
 ScriptedEditorPort& ScriptedEditorPort::Confirms(bool si) {

@@ -17,9 +17,9 @@ std::string Line(std::u16string_view texto) { return Utf8(ReplaceAll(texto, u"\r
 }  // namespace
 
 ScriptedPort::~ScriptedPort() {
-  EXPECT_TRUE(respuestas_.empty()) << "a Yes/No answer was never asked for";
-  EXPECT_TRUE(textos_.empty()) << "a typed text was never asked for";
-  EXPECT_TRUE(botones_.empty()) << "a button of the dialog was never asked for";
+  EXPECT_TRUE(respuestas_.empty()) << "unused scripted Yes/No answers";
+  EXPECT_TRUE(textos_.empty()) << "unused scripted texts";
+  EXPECT_TRUE(botones_.empty()) << "unused scripted buttons";
 }
 
 ScriptedPort& ScriptedPort::Yes() {

@@ -69,7 +69,7 @@ Table MesaDePrueba() {
 
 int NumeroDeCarta(char figura, int palo) {
   const std::size_t rango = Figuras.find(figura);
-  EXPECT_NE(rango, std::string_view::npos) << figura << " is no rank";
+  EXPECT_NE(rango, std::string_view::npos) << figura << " is not a rank";
   return (palo - 1) * 10 + static_cast<int>(rango) + 1;
 }
 
@@ -80,7 +80,7 @@ void DarMano(Table& t, Seat asiento, std::string_view cartas) {
     if (figura == ' ') continue;
     t.Manos[asiento][++hueco] = figura == '-' ? 0 : NumeroDeCarta(figura, ++palos[figura]);
   }
-  EXPECT_EQ(hueco, 4) << cartas << " is no hand";
+  EXPECT_EQ(hueco, 4) << cartas << " is not a hand";
 }
 
 std::string Utf8(std::u16string_view texto) {

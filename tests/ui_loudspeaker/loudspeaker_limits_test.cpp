@@ -43,7 +43,7 @@ TEST_F(LoudspeakerLimits, AStalledDeviceIsClosed) {
   EXPECT_TRUE(EndsWithin(seconds{15}));
   EXPECT_FALSE(altavoz_.Playing());
   Pace(1);
-  EXPECT_TRUE(Play("Son_DaUnaCarta.wav")) << "it opens again for the next sound";
+  EXPECT_TRUE(Play("Son_DaUnaCarta.wav")) << "the device is opened again";
   EXPECT_TRUE(EndsWithin(seconds{30}));
   EXPECT_EQ(Described(Listen(carpeta_.Recording())),
             (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
@@ -93,7 +93,7 @@ TEST_F(LoudspeakerLimits, AFileOfSixteenMillionBytesIsPlayed) {
 TEST_F(LoudspeakerLimits, ALargerFileIsRefused) {
   WriteLongFile(carpeta_, "enorme.wav", 16'000'002);
   EXPECT_FALSE(Play("enorme.wav"));
-  EXPECT_FALSE(fs::exists(carpeta_.Recording())) << "nor is the device opened";
+  EXPECT_FALSE(fs::exists(carpeta_.Recording())) << "the device is not opened";
 }
 
 }  // namespace

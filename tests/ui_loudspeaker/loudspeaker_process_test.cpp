@@ -100,14 +100,14 @@ TEST_F(LoudspeakerProcess, InheritsNoDescriptorsOfTheGame) {
 }
 
 TEST_F(LoudspeakerProcess, IsOrderedToPlayAndToStop) {
-  StandInThatNotes(carpeta_);
+  StandInThatRecords(carpeta_);
   Open(u"Una.wav", {.Veces = 3, .Balance = 300, .Volumen = -500});
   mp1_->Stop();
   Open(u"Otra.mp3");
   const std::string ordenes =
       "1 3 300 -500 " + Path("Una.wav") + "2 0 0 0 " + "3 1 0 0 " + Path("Otra.mp3");
-  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_).size() >= ordenes.size(); }));
-  EXPECT_EQ(OrdersNoted(carpeta_), ordenes);
+  EXPECT_TRUE(Eventually([&] { return RecordedOrders(carpeta_).size() >= ordenes.size(); }));
+  EXPECT_EQ(RecordedOrders(carpeta_), ordenes);
 }
 
 // The second sound is opened before the end of the process has been handled.
@@ -115,10 +115,11 @@ TEST_F(LoudspeakerProcess, IsRestartedIfItHasEndedUnnoticed) {
   StandIn(carpeta_, "exit 1");
   Open();
   ASSERT_TRUE(WaitForNews(*mp1_));
-  StandInThatNotes(carpeta_);
+  StandInThatRecords(carpeta_);
   Open(u"Otra.wav");
   const std::string orden = "2 1 0 0 " + Path("Otra.wav");
-  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta_) == orden; })) << OrdersNoted(carpeta_);
+  EXPECT_TRUE(Eventually([&] { return RecordedOrders(carpeta_) == orden; }))
+      << RecordedOrders(carpeta_);
 }
 
 TEST_F(LoudspeakerProcess, EndsASoundOnceDespiteAnEarlierIdleReport) {
@@ -153,7 +154,7 @@ std::size_t OpenFiles() {
 TEST_F(LoudspeakerProcess, LeaksNoDescriptors) {
   mp1_.reset();
   const std::size_t antes = OpenFiles();
-  StandInThatNotes(carpeta_);
+  StandInThatRecords(carpeta_);
   for (int i = 0; i < 3; ++i) {
     mp1_.emplace();
     Open();

@@ -76,7 +76,7 @@ TEST_F(LoudspeakerInAFile, ReplacesWhatIsPlaying) {
   EXPECT_TRUE(Play("tono.wav", 1000));
   ASSERT_TRUE(WaitUntil(std::chrono::seconds{10}, [this] {
     return carpeta_.Read("grabacion").find_first_not_of('\0') != std::string::npos;
-  })) << "the tone is not heard";
+  })) << "the tone is not recorded";
   EXPECT_TRUE(Play("Son_DaUnaCarta.wav"));
   WaitForTheEnd();
   altavoz_.Close();
@@ -88,7 +88,7 @@ TEST_F(LoudspeakerInAFile, PlaysNothingForZeroRepetitions) {
   EXPECT_FALSE(Play("Son_DaUnaCarta.wav", 0));
   EXPECT_FALSE(Play("Son_DaUnaCarta.wav", -1));
   EXPECT_FALSE(altavoz_.Playing());
-  EXPECT_FALSE(std::filesystem::exists(carpeta_.Recording())) << "the device was not needed";
+  EXPECT_FALSE(std::filesystem::exists(carpeta_.Recording())) << "the device is not opened";
 }
 
 TEST_F(LoudspeakerInAFile, StopsWhenNothingIsToBePlayed) {

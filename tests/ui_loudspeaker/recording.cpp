@@ -224,7 +224,7 @@ std::vector<double> Decoded(const fs::path& archivo) {
 
 std::vector<Heard> Listen(const fs::path& grabacion) {
   Scanned todo = Scan(grabacion);
-  EXPECT_FALSE(todo.HayOtraCosa) << "something else is heard after " << todo.SegundosHasta << " s";
+  EXPECT_FALSE(todo.HayOtraCosa) << "an unknown sound after " << todo.SegundosHasta << " s";
   return std::move(todo.Oidos);
 }
 

@@ -84,7 +84,7 @@ TEST_P(ShippedSound, IsAsLoudAsTheOthers) {
 
 void ExpectOneSideOf44100(std::string_view wav) {
   using namespace std::string_view_literals;
-  EXPECT_EQ(wav.substr(20, 4), "\1\0\1\0"sv) << "plain samples of one side";
+  EXPECT_EQ(wav.substr(20, 4), "\1\0\1\0"sv) << "PCM, mono";
   EXPECT_EQ(wav.substr(24, 4), "\x44\xAC\0\0"sv) << "44100";
   EXPECT_EQ(wav.substr(34, 2), "\x10\0"sv) << "16 bits";
 }
@@ -93,10 +93,10 @@ void ExpectFramesOf44100(std::string_view mp3) {
   const auto bits = [mp3](std::size_t i, unsigned mascara) {
     return static_cast<unsigned char>(mp3[i]) & mascara;
   };
-  EXPECT_EQ(bits(0, 0xFF), 0xFFU) << "a frame";
+  EXPECT_EQ(bits(0, 0xFF), 0xFFU) << "frame sync";
   EXPECT_EQ(bits(1, 0xFE), 0xFAU) << "MPEG 1, layer 3";
   EXPECT_EQ(bits(2, 0x0C), 0U) << "44100";
-  EXPECT_EQ(bits(3, 0xC0), 0xC0U) << "one side";
+  EXPECT_EQ(bits(3, 0xC0), 0xC0U) << "mono";
 }
 
 TEST_P(ShippedSound, IsMonoAt44100Hz) {

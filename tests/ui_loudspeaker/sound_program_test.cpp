@@ -116,7 +116,7 @@ TEST_F(SoundProgram, OutlivesItsAlarmWhileNothingHangs) {
   HurryTheAlarm();
   Start();
   Order("no order at all");
-  EXPECT_EQ(Hear(500), Nada) << "five times as long as its alarm";
+  EXPECT_EQ(Hear(500), Nada) << "for five times the alarm's delay";
   OrderCard("7 1 0 0");
   EXPECT_EQ(Hear(), "7");
 }
@@ -161,7 +161,7 @@ TEST_F(SoundProgram, AcceptsAPathOfMaximumLength) {
   while (ruta.size() + nombre.size() + 2 <= Maximo) ruta += "./";
   Order("1 1 0 0 " + ruta + nombre);
   EXPECT_EQ(Hear(), "1");
-  EXPECT_TRUE(std::filesystem::exists(carpeta_.Recording())) << "it has been played";
+  EXPECT_TRUE(std::filesystem::exists(carpeta_.Recording())) << "the sound was played";
 }
 
 TEST_F(SoundProgram, EndsWithTheGame) {

@@ -18,11 +18,11 @@ void StandIn(const TempFolder& carpeta, const std::string& guion) {
   fs::permissions(programa, fs::perms::owner_all);
 }
 
-void StandInThatNotes(const TempFolder& carpeta) {
+void StandInThatRecords(const TempFolder& carpeta) {
   StandIn(carpeta, R"(exec cat >>"$here/orders")");
 }
 
-std::string OrdersNoted(const TempFolder& carpeta) {
+std::string RecordedOrders(const TempFolder& carpeta) {
   return fs::exists(carpeta.Path() / "orders") ? carpeta.Read("orders") : "";
 }
 

@@ -12,10 +12,10 @@ namespace tasca::test {
 void StandIn(const TempFolder& carpeta, const std::string& guion);
 
 // Writes a tasca-sound that plays nothing, never answers and records its orders.
-void StandInThatNotes(const TempFolder& carpeta);
+void StandInThatRecords(const TempFolder& carpeta);
 // The recorded orders, concatenated. Each is "NUMBER REPETITIONS BALANCE VOLUME FILE"; an order
 // with 0 repetitions stops the sound.
-std::string OrdersNoted(const TempFolder& carpeta);
+std::string RecordedOrders(const TempFolder& carpeta);
 
 // The number of shuffles in the orders.
 std::ptrdiff_t ShufflesIn(const std::string& ordenes);

@@ -168,7 +168,7 @@ TEST_F(DlgInicioWindow, KeepsAnUneditedNameByteForByte) {
   QTest::keyClicks(nombre, QStringLiteral("x"));
   EXPECT_EQ(Utf8(estado_.Text2), "AB Cx");
   Press(&ventana_, Qt::Key_Backspace);
-  EXPECT_EQ(estado_.Text2, raro) << "as it was";
+  EXPECT_EQ(estado_.Text2, raro) << "the original name";
   EXPECT_EQ(LabelText("Status"), "");
 }
 
@@ -213,7 +213,7 @@ TEST_F(DlgInicioWindow, KeepsTheNameWhenAnInputMethodTextIsRefused) {
   EXPECT_EQ(LabelText("Status"), SinSitio);
   Compose(nombre, "´", "");
   Compose(nombre, "", "");
-  EXPECT_EQ(Utf8(estado_.Text2), "Ana") << "nothing was written";
+  EXPECT_EQ(Utf8(estado_.Text2), "Ana") << "nothing was committed";
   Compose(nombre, "´", "");
   Compose(nombre, "", "é");
   EXPECT_EQ(Utf8(estado_.Text2), "é");

@@ -285,7 +285,7 @@ TEST_F(Form1Window, SelectsInTheTranscriptByKeyboard) {
   Press(&ventana_, Qt::Key_Home, Qt::ControlModifier);
   for (int letra = 0; letra < 4; ++letra) Press(&ventana_, Qt::Key_Right, Qt::ShiftModifier);
   EXPECT_EQ(Utf8(Text2()->textCursor().selectedText()), "Dora");
-  EXPECT_FALSE(Text2()->testAttribute(Qt::WA_InputMethodEnabled)) << "nothing is written there";
+  EXPECT_FALSE(Text2()->testAttribute(Qt::WA_InputMethodEnabled)) << "the transcript is read-only";
 }
 
 TEST_F(Form1Window, MovesTheFocusWithTab) {
@@ -315,7 +315,7 @@ TEST_F(Form1Window, TurnsTheSoundOffAndOnByF9FromAnyControl) {
   Text2()->setFocus();
   Press(&ventana_, Qt::Key_F9);
   EXPECT_EQ(sonidos_, (std::vector<bool>{false, true}));
-  EXPECT_TRUE(teclas_.empty()) << "the rules do not get this key";
+  EXPECT_TRUE(teclas_.empty()) << "this key is not passed to the rules";
   EXPECT_TRUE(Text2()->hasFocus());
 }
 

@@ -150,7 +150,7 @@ TEST_F(TextBox, ComposesOneCharacterAfterAnother) {
   Compose("´", "");
   Compose("´", "é");
   Compose("", "");
-  EXPECT_EQ(Text(), "é") << "the first one has been written";
+  EXPECT_EQ(Text(), "é") << "the first character is kept";
 }
 
 TEST_F(TextBox, LimitsItsLength) {

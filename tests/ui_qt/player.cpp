@@ -67,7 +67,7 @@ BoxAnswerer::BoxAnswerer(std::function<void(QWidget*)> alVer, std::chrono::secon
     auto* const caja = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (caja == nullptr) return;
     if (plazo.hasExpired()) {
-      ADD_FAILURE() << "nobody has answered the box";
+      ADD_FAILURE() << "the box was not answered";
       return caja->done(QDialog::Rejected);
     }
     if (TakesKeys(caja)) alVer(caja);

@@ -130,7 +130,7 @@ TEST_F(ProgramWithSound, KeepsTheSoundSettingForTheNextTable) {
 
 // The stand-in never reports the end of a sound, so that only the end of the main window stops one.
 TEST_F(ProgramWithSound, StopsTheSoundOfTheOldTable) {
-  StandInThatNotes(carpeta_);
+  StandInThatRecords(carpeta_);
   std::string ordenes;
   bool hayCambio = false;
   enLaCaja_ = [&hayCambio](QWidget* caja) {
@@ -142,7 +142,7 @@ TEST_F(ProgramWithSound, StopsTheSoundOfTheOldTable) {
   };
   enLaMesa_ = [&](QWidget* ventana) {
     if (!hayCambio) return Press(ventana, Qt::Key_Return);
-    if (ShufflesIn(ordenes = OrdersNoted(carpeta_)) == 2) ventana->close();
+    if (ShufflesIn(ordenes = RecordedOrders(carpeta_)) == 2) ventana->close();
   };
   EXPECT_EQ(Play(), 0);
   EXPECT_TRUE(StopsBeforeTheLastShuffle(ordenes)) << ordenes;

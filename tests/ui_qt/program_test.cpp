@@ -116,7 +116,7 @@ TEST_F(ProgramInWindows, ChangesPlayersOnceTheStepHasEnded) {
   EXPECT_EQ(Play(ChangePlayersAlways), 0);
   EXPECT_EQ(inicios, 3);
   EXPECT_EQ(Asked(OtrosJugadores), 2);
-  EXPECT_NE(Utf8(preguntas_.constLast()), OtrosJugadores) << "the vaca has still to be told";
+  EXPECT_NE(Utf8(preguntas_.constLast()), OtrosJugadores) << "the box of the vaca follows";
 }
 
 TEST_F(ProgramInWindows, ReplacesTheTableByANewStartUpDialog) {
@@ -311,7 +311,7 @@ TEST_P(SessionWithABox, EndsWhileItIsOpen) {
   bool estaba = false;
   const int estado = Play([&](const QString& pregunta) {
     if (QApplication::activeModalWidget()->objectName() == caja) {
-      EXPECT_FALSE(std::exchange(estaba, true)) << "asks on: " << Utf8(pregunta);
+      EXPECT_FALSE(std::exchange(estaba, true)) << "another question: " << Utf8(pregunta);
       programa_->AtSessionEnd().Comes();
       return Qt::Key_F5;
     }
@@ -346,7 +346,7 @@ TEST_F(ProgramInWindows, EndsWithTheSessionBetweenQuestions) {
 TEST_F(ProgramInWindows, AlwaysLetsTheSessionEnd) {
   Program programa{carpeta_.Path()};
   EXPECT_TRUE(programa.AtSessionEnd().MayCome([] {
-    ADD_FAILURE() << "there is nothing to ask";
+    ADD_FAILURE() << "asked for interaction";
     return true;
   }));
 }

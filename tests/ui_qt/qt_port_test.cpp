@@ -43,26 +43,26 @@ TEST(QtPort, ReportsTheEndOfASoundWithoutALoudspeaker) {
 TEST(QtPort, PlaysASoundFromTheTablesFolderAndStopsIt) {
   QtPort port;
   const TempFolder carpeta;
-  StandInThatNotes(carpeta);
+  StandInThatRecords(carpeta);
   Table t = MesaDePrueba();
   t.Carpeta = carpeta.Path();
   t.Mp1 = {.Veces = 2, .Balance = -300, .Volumen = -500};
   port.OpenSound(t, u"Son.wav");
   port.StopSound(t);
   const std::string ordenes = "1 2 -300 -500 " + (carpeta.Path() / "Son.wav").string() + "2 0 0 0 ";
-  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta).size() >= ordenes.size(); }));
-  EXPECT_EQ(OrdersNoted(carpeta), ordenes);
+  EXPECT_TRUE(Eventually([&] { return RecordedOrders(carpeta).size() >= ordenes.size(); }));
+  EXPECT_EQ(RecordedOrders(carpeta), ordenes);
 }
 
 TEST(QtPort, StopsTheSoundWhenTheStartWindowOpens) {
   QtPort port;
   const TempFolder carpeta;
-  StandInThatNotes(carpeta);
+  StandInThatRecords(carpeta);
   Table t = MesaDePrueba();
   t.Carpeta = carpeta.Path();
   port.OpenSound(t, u"Son.wav");
   port.SetStartWindow(nullptr);
-  EXPECT_TRUE(Eventually([&] { return OrdersNoted(carpeta).ends_with("2 0 0 0 "); }));
+  EXPECT_TRUE(Eventually([&] { return RecordedOrders(carpeta).ends_with("2 0 0 0 "); }));
 }
 
 TEST(QtPort, ReturnsTheAnswerOfTheBiddingDialog) {

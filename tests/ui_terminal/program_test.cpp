@@ -32,7 +32,7 @@ class TerminalProgramRun : public testing::Test {
     Words orden = variables;
     orden.push_back(Program());
     TerminalProgram programa{lados, orden};
-    programa.Type(Puerta);
+    programa.Type(AllDefaults);
     EXPECT_TRUE(programa.Shows("Pulse enter para empezar")) << programa.Shown();
     programa.Type("sonido\n");
     const bool sin = programa.Shows("onido.");
@@ -47,7 +47,7 @@ class TerminalProgramRun : public testing::Test {
 
 TEST_F(TerminalProgramRun, PlaysSoundAtALocalTerminal) {
   TerminalProgram programa{Terminal, {Program()}};
-  programa.Type(Puerta);
+  programa.Type(AllDefaults);
   EXPECT_TRUE(Eventually([this] { return LoudspeakerStarted(); }));
   programa.Type("sonido\n");
   EXPECT_TRUE(programa.Shows("Sin sonido.")) << programa.Shown();

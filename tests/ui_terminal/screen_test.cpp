@@ -52,7 +52,7 @@ TEST(Screen, DoesNotRepeatAHandThatTheTranscriptShows) {
   w.t.Text2 = u"Sus cartas son\r\nRey de oros\r\nPulse enter para empezar";
   EXPECT_EQ(w.Show(), "Sus cartas son\nRey de oros\nPulse enter para empezar");
   w.t.Text2 = u"Rey de oros\r\n";
-  EXPECT_EQ(w.Show(), "\nRey de oros\n") << "the hand itself is the old one";
+  EXPECT_EQ(w.Show(), "\nRey de oros\n") << "the hand is unchanged";
 }
 
 TEST(Screen, PutsThePromptAfterEverythingElse) {

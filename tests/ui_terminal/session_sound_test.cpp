@@ -73,7 +73,7 @@ class SessionWithSound : public testing::Test {
 
 TEST_F(SessionWithSound, PlaysTheShuffleAndTheDealWhileItWaitsForALine) {
   Play([this](const Typist& teclear) {
-    teclear(Puerta);
+    teclear(AllDefaults);
     Hear({"Son_BarajaCartas.mp3", "Son_ReparteCartas.mp3"});
   });
   EXPECT_EQ(Described(Listen(carpeta_.Recording())),
@@ -82,27 +82,27 @@ TEST_F(SessionWithSound, PlaysTheShuffleAndTheDealWhileItWaitsForALine) {
 
 TEST_F(SessionWithSound, TurnsTheSoundOffAndOn) {
   const std::string salida = Play([this](const Typist& teclear) {
-    teclear(Puerta + "sonido\nq\nq\nsonido\nq\n");
+    teclear(AllDefaults + "sonido\nq\nq\nsonido\nq\n");
     Hear({"Son_ReparteCartas.mp3"});
   });
   EXPECT_NE(salida.find("Sin sonido.\n"), std::string::npos);
   EXPECT_NE(salida.find("Con sonido.\n"), std::string::npos);
   const std::vector<Heard> oidos = Listen(carpeta_.Recording());
-  ASSERT_EQ(oidos.size(), 1U) << "the recording begins anew with the device";
+  ASSERT_EQ(oidos.size(), 1U) << "opening the device truncates the recording";
   EXPECT_EQ(oidos.front().Archivo, "Son_ReparteCartas.mp3");
 }
 
 // The stand-in never reports the end of a sound, so that only the end of the table stops one.
-TEST(SessionThatIsHeard, StopsTheSoundOfTheOldTable) {
+TEST(SessionWithStandIn, StopsTheSoundOfTheOldTable) {
   const TempFolder carpeta;
   LlenarCarpeta(carpeta, "1", "4", "4");
-  StandInThatNotes(carpeta);
+  StandInThatRecords(carpeta);
   std::string ordenes;
-  const auto segundaMesa = [&] { return ShufflesIn(ordenes = OrdersNoted(carpeta)) == 2; };
-  int puertas = 0;
+  const auto segundaMesa = [&] { return ShufflesIn(ordenes = RecordedOrders(carpeta)) == 2; };
+  int inicios = 0;
   const Player jugador = [&](const std::string& pregunta) -> std::optional<std::string> {
-    if (pregunta.starts_with("Su nombre: ")) ++puertas;
-    if (puertas == 2 && pregunta == "Pulse enter para empezar") {
+    if (pregunta.starts_with("Su nombre: ")) ++inicios;
+    if (inicios == 2 && pregunta == "Pulse enter para empezar") {
       EXPECT_TRUE(Eventually(segundaMesa)) << ordenes;
       return std::nullopt;
     }

@@ -34,7 +34,7 @@ void LlenarCarpeta(const TempFolder& carpeta, std::string_view piedras, std::str
                    std::string_view vacas);
 
 // The input that accepts all seven defaults of the start-up questions.
-inline const std::string Puerta = "\n\n\n\n\n\n\n";
+inline const std::string AllDefaults = "\n\n\n\n\n\n\n";
 
 // The result of a session: the exit status and the output.
 struct SessionResult {

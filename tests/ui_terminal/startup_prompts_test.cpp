@@ -15,8 +15,11 @@ namespace {
 
 TimeOfDay Midnight() { return {}; }
 
-struct AtTheDoor : FakeConsole {
-  explicit AtTheDoor(const std::string& entrada) : FakeConsole{entrada} { LlenarCarpeta(Carpeta); }
+// A console with a session before its start-up questions.
+struct StartupConsole : FakeConsole {
+  explicit StartupConsole(const std::string& entrada) : FakeConsole{entrada} {
+    LlenarCarpeta(Carpeta);
+  }
 
   // Asks all questions and returns the output.
   std::string Ask() {
@@ -41,7 +44,7 @@ const std::string Bienvenida =
 const std::string Lista = "0 Aleatorio\n1 Berta\n2 el Cojo\n3 Dora\n4 el Tuerto\n";
 
 TEST(AskStartup, TakesAllTheDefaults) {
-  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  StartupConsole a{"\n\n\n\n\n\n\n"};
   EXPECT_EQ(a.Ask(), Bienvenida + "Su nombre: [Ana] \n" + Lista +
                          "Compañero: [0 Aleatorio] \n"
                          "Contrario 1: [0 Aleatorio] \n"
@@ -55,7 +58,7 @@ TEST(AskStartup, TakesAllTheDefaults) {
 }
 
 TEST(AskStartup, SeatsOfferedCharactersForAleatorio) {
-  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  StartupConsole a{"\n\n\n\n\n\n\n"};
   a.Ask();
   for (const Seat asiento : {2, 3, 4}) {
     const int personaje = a.t.PersonajeAsiento[asiento - 1];
@@ -64,7 +67,7 @@ TEST(AskStartup, SeatsOfferedCharactersForAleatorio) {
 }
 
 TEST(AskStartup, TakesOtherAnswersAndPrintsTheStories) {
-  AtTheDoor a{"Íñigo\n3\nCOJO\nberta\nn\ns\nindirecto\n"};
+  StartupConsole a{"Íñigo\n3\nCOJO\nberta\nn\ns\nindirecto\n"};
   EXPECT_EQ(a.Ask(), Bienvenida + "Su nombre: [Ana] \n" + Lista +
                          "Compañero: [0 Aleatorio] \n"
                          "Prudente como una gata.\n"
@@ -89,7 +92,7 @@ TEST(AskStartup, TakesOtherAnswersAndPrintsTheStories) {
 }
 
 TEST(AskStartup, ReportsOnceThatTheNameCannotBeSaved) {
-  AtTheDoor a{Puerta + Puerta};
+  StartupConsole a{AllDefaults + AllDefaults};
   const PlainUser usuario{a.Carpeta};
   std::filesystem::permissions(a.Carpeta.Path() / "mus.ini", std::filesystem::perms{0444});
   EXPECT_TRUE(
@@ -101,13 +104,13 @@ TEST(AskStartup, ReportsOnceThatTheNameCannotBeSaved) {
 }
 
 TEST(AskStartup, PreviewsTheLineWithoutExpressions) {
-  AtTheDoor a{"\n\n\n\nn\nn\n0\n"};
+  StartupConsole a{"\n\n\n\nn\nn\n0\n"};
   EXPECT_TRUE(a.Ask().ends_with("Así se contará: jugador 3: Sí tengo pares\n"));
   EXPECT_FALSE(a.t.UsarExpresiones);
 }
 
 TEST(AskStartup, AsksAgainIfAPartnerIsAlsoAnOpponent) {
-  AtTheDoor a{
+  StartupConsole a{
       "Eva\n1\n1\n\n\nn\ni\n"
       "\n\n2\n\n\n\n\n"};
   EXPECT_TRUE(
@@ -131,7 +134,7 @@ TEST(AskStartup, AsksAgainIfAPartnerIsAlsoAnOpponent) {
 }
 
 TEST(AskStartup, AsksAgainIfBothOpponentsAreTheSame) {
-  AtTheDoor a{
+  StartupConsole a{
       "\n\n3\n3\n\n\n\n"
       "\n\n\n0\n\n\n\n"};
   const std::string texto = a.Ask();
@@ -139,12 +142,12 @@ TEST(AskStartup, AsksAgainIfBothOpponentsAreTheSame) {
                        "Elija otro compañero.]\nSu nombre: [Ana] \n"),
             std::string::npos);
   EXPECT_NE(texto.find("Contrario 2: [3 Dora] \nUsar los nombres"), std::string::npos)
-      << "Aleatorio has no story, and Dora's has been told";
+      << "Aleatorio has no story, and Dora's is not repeated";
   EXPECT_EQ(a.t.PersonajeAsiento[1], 5);
 }
 
 TEST(AskStartup, ExplainsInvalidAnswers) {
-  AtTheDoor a{"\n5\nZutano\nel\n4\n\n\nquizá\n\n\n2\n\n"};
+  StartupConsole a{"\n5\nZutano\nel\n4\n\n\nquizá\n\n\n2\n\n"};
   const std::string texto = a.Ask();
   const std::string reparo =
       "Eso no se ofrece. Escriba uno de los números o el comienzo de uno de los nombres.\n";
@@ -162,7 +165,7 @@ TEST(AskStartup, ExplainsInvalidAnswers) {
 }
 
 TEST(AskStartup, PrintsAllStoriesOnDemand) {
-  AtTheDoor a{"\n?\n\n\n\n\n\n\n"};
+  StartupConsole a{"\n?\n\n\n\n\n\n\n"};
   EXPECT_NE(a.Ask().find("Compañero: [0 Aleatorio] \n"
                          "0 Aleatorio\n"
                          "1 Berta: Guisa como nadie.\n"
@@ -177,7 +180,7 @@ TEST(AskStartup, PrintsAllStoriesOnDemand) {
 
 TEST(AskStartup, RefusesANameOfMoreThanAHundredCharacters) {
   const std::string cien = "Ñ" + std::string(99, 'x');
-  AtTheDoor a{cien + "y\n" + std::string(3'000'000, 'x') + "\n" + cien + "\n\n\n\n\n\n\n"};
+  StartupConsole a{cien + "y\n" + std::string(3'000'000, 'x') + "\n" + cien + "\n\n\n\n\n\n\n"};
   const std::string reparo = "El nombre puede tener hasta 100 caracteres.\n";
   EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [Ana] \n" + reparo +
                                   "Su nombre: [Ana] \n" + reparo + "Su nombre: [Ana] \n" + Lista));
@@ -186,7 +189,7 @@ TEST(AskStartup, RefusesANameOfMoreThanAHundredCharacters) {
 
 // The message about this name. The next name, Eva, is accepted.
 std::string AnswerToTheName(const std::string& nombre) {
-  AtTheDoor a{nombre + "\nEva\n\n\n\n\n\n\n"};
+  StartupConsole a{nombre + "\nEva\n\n\n\n\n\n\n"};
   std::string texto = a.Ask();
   const std::string pregunta = "Su nombre: [Ana] \n";
   EXPECT_EQ(Utf8(a.t.NombreJugador), "Eva") << nombre;
@@ -213,7 +216,7 @@ TEST(AskStartup, RefusesANameThatTheSettingsCannotHold) {
 }
 
 TEST(AskStartup, AcceptsANameWithCharactersOfWindows1252) {
-  AtTheDoor a{"José Muñoz-Œuvré €\n\n\n\n\n\n\n"};
+  StartupConsole a{"José Muñoz-Œuvré €\n\n\n\n\n\n\n"};
   a.Ask();
   EXPECT_EQ(Utf8(a.t.NombreJugador), "José Muñoz-Œuvré €");
   EXPECT_TRUE(a.Carpeta.Read("mus.ini").find("\r\nJos\xE9 Mu\xF1oz-\x8Cuvr\xE9 \x80>") !=
@@ -221,7 +224,7 @@ TEST(AskStartup, AcceptsANameWithCharactersOfWindows1252) {
 }
 
 TEST(AskStartup, KeepsANameFromTheSettingsThatCannotBeTyped) {
-  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  StartupConsole a{"\n\n\n\n\n\n\n"};
   a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\nA\x81na> Nombre\r\n");
   EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [A\uFFFDna] \n" + Lista));
   EXPECT_EQ(a.t.NombreJugador, u"A\u0081na");
@@ -229,20 +232,20 @@ TEST(AskStartup, KeepsANameFromTheSettingsThatCannotBeTyped) {
 
 TEST(AskStartup, KeepsALongerNameFromTheSettings) {
   const std::string largo(150, 'x');
-  AtTheDoor a{"\n\n\n\n\n\n\n"};
+  StartupConsole a{"\n\n\n\n\n\n\n"};
   a.Carpeta.Write("mus.ini", "35\r\n3\r\n3\r\n" + largo + "> Nombre\r\n");
   EXPECT_TRUE(a.Ask().starts_with(Bienvenida + "Su nombre: [" + largo + "] \n" + Lista));
   EXPECT_EQ(Utf8(a.t.NombreJugador), largo);
 }
 
-bool Leaves(AtTheDoor& a) {
+bool Leaves(StartupConsole& a) {
   a.Ask();
   return a.Sesion.HaAcabado() && a.Sesion.Final().Estado == 0;
 }
 
 // Leaves the program after this many defaults. The settings must be unchanged.
 void ExpectToLeave(std::size_t antes, const std::string& orden) {
-  AtTheDoor a{std::string(antes, '\n') + orden};
+  StartupConsole a{std::string(antes, '\n') + orden};
   EXPECT_TRUE(Leaves(a)) << orden << antes;
   EXPECT_EQ(a.Carpeta.Read("mus.ini"), "35\r\n3\r\n3\r\nAna> Nombre del \xFAltimo jugador\r\n");
 }
@@ -254,7 +257,7 @@ TEST(AskStartup, LetsThePlayerLeaveAtEveryPrompt) {
 }
 
 TEST(AskStartup, ReportsAMissingCharacterFile) {
-  AtTheDoor a{"\n"};
+  StartupConsole a{"\n"};
   std::filesystem::remove(a.Carpeta.Path() / "Jugadores.dat");
   EXPECT_EQ(a.Ask(),
             "[No se encuentra el archivo con los datos de los personajes. El programa va a "

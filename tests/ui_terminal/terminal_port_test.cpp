@@ -15,8 +15,9 @@ namespace {
 
 TimeOfDay TwentyToFive() { return {.Hora = 16, .Minuto = 40, .Segundo = 1}; }
 
-struct AtTheTable : FakeConsole {
-  explicit AtTheTable(const std::string& entrada = {}) : FakeConsole{entrada} {
+// A console with a terminal port, at the grande.
+struct PortConsole : FakeConsole {
+  explicit PortConsole(const std::string& entrada = {}) : FakeConsole{entrada} {
     t.Text2 = u"La grande\r\n";
   }
 
@@ -37,26 +38,26 @@ struct AtTheTable : FakeConsole {
 };
 
 TEST(TerminalMsgBox, PrintsTheNewTextsAndThenItsOwn) {
-  AtTheTable a;
+  PortConsole a;
   a.Puerto.MsgBox(a.t, u"Ha ganado la partida.\r\nDora: Vaya");
   EXPECT_EQ(a.Take(), "La grande\n[Ha ganado la partida.\nDora: Vaya]\n");
 }
 
 TEST(TerminalYesNoBox, AsksWithItsTitleWhenItHasNoText) {
-  AtTheTable a{"s\n"};
+  PortConsole a{"s\n"};
   EXPECT_TRUE(a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}));
   EXPECT_EQ(a.Take(), "La grande\n¿mus? [S/n] \n");
 }
 
 TEST(TerminalYesNoBox, AsksWithItsTextWhenItHasOne) {
-  AtTheTable a{"n\n"};
+  PortConsole a{"n\n"};
   EXPECT_FALSE(a.Puerto.YesNoBox(a.t, Pregunta::OtraPartida,
                                  {.Titulo = u"Mus", .Texto = u"¿Desea jugar otra partida?"}));
   EXPECT_EQ(a.Take(), "La grande\n¿Desea jugar otra partida? [S/n] \n");
 }
 
 TEST(TerminalYesNoBox, TakesTheDefaultForAnEmptyLine) {
-  AtTheTable a{"\n\n"};
+  PortConsole a{"\n\n"};
   EXPECT_FALSE(a.Puerto.YesNoBox(a.t, Pregunta::Pares,
                                  {.Titulo = u"¿Tiene pares?", .Texto = u"", .PorDefecto = false}));
   EXPECT_TRUE(a.Puerto.YesNoBox(a.t, Pregunta::Pares,
@@ -64,7 +65,7 @@ TEST(TerminalYesNoBox, TakesTheDefaultForAnEmptyLine) {
 }
 
 TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
-  AtTheTable a{"\n5\n-\n"};
+  PortConsole a{"\n5\n-\n"};
   const auto pregunta = [&a] {
     return a.Puerto.InputBox(
         a.t, Pregunta::Cantidad,
@@ -77,7 +78,7 @@ TEST(TerminalInputBox, AsksWithTitleAndTextAndOffersTheDefault) {
 }
 
 TEST(TerminalInputBox, DiscardsNothingForAnEmptyLine) {
-  AtTheTable a{"\n1 3\n"};
+  PortConsole a{"\n1 3\n"};
   const auto pregunta = [&a] {
     return a.Puerto.InputBox(a.t, Pregunta::Descarte,
                              {.Titulo = u"Sustituir cartas",
@@ -93,19 +94,19 @@ TEST(TerminalInputBox, DiscardsNothingForAnEmptyLine) {
 }
 
 TEST(TerminalDialog, OffersFourButtonsInAnOpening) {
-  AtTheTable a{"3\n"};
+  PortConsole a{"3\n"};
   EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 3);
   EXPECT_EQ(a.Take(), "La grande\nLa grande: 0 Paso, 1 Envido, 2 Envido Más, 3 Órdago [0] \n");
 }
 
 TEST(TerminalDialog, OffersQuieroInAnAnswer) {
-  AtTheTable a{"quiero\n"};
+  PortConsole a{"quiero\n"};
   EXPECT_EQ(a.Bid(u"Envite a pares", ModoDialogo::Respuesta), 1);
   EXPECT_EQ(a.Take(), "La grande\nEnvite a pares: 0 Paso, 1 Quiero, 2 Envido Más, 3 Órdago [0] \n");
 }
 
 TEST(TerminalDialog, OffersAndAcceptsOnlyTwoButtonsAgainstAnOrdago) {
-  AtTheTable a{"2\nórdago\nenvido\nq\n"};
+  PortConsole a{"2\nórdago\nenvido\nq\n"};
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
   const std::string reparo =
@@ -115,12 +116,12 @@ TEST(TerminalDialog, OffersAndAcceptsOnlyTwoButtonsAgainstAnOrdago) {
 }
 
 TEST(TerminalDialog, PassesForAnEmptyLine) {
-  AtTheTable a{"\n"};
+  PortConsole a{"\n"};
   EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 0);
 }
 
 TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
-  AtTheTable a{"?\n1\n"};
+  PortConsole a{"?\n1\n"};
   a.t.Text1 = u"Rey de oros";
   a.t.Text3 = u"Piedras: 0 / 0";
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
@@ -134,18 +135,18 @@ TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
 }
 
 // The kinds of question.
-bool AskMus(AtTheTable& a) {
+bool AskMus(PortConsole& a) {
   return a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""});
 }
 
-std::u16string AskDiscard(AtTheTable& a) {
+std::u16string AskDiscard(PortConsole& a) {
   return a.Puerto.InputBox(a.t, Pregunta::Descarte,
                            {.Titulo = u"Sustituir cartas", .Texto = u"cuáles:", .PorDefecto = u""});
 }
 
 TEST(TerminalPort, ExplainsQInEveryKindOfQuestion) {
   const std::string despues = " Para abandonar la mano con q, conteste antes.\n";
-  AtTheTable a{"q\nn\nQ\n1 3\nq\n1\n"};
+  PortConsole a{"q\nn\nQ\n1 3\nq\n1\n"};
   EXPECT_FALSE(AskMus(a));
   const std::string mus = "¿mus? [S/n] \n";
   EXPECT_EQ(a.Take(), "La grande\n" + mus + "Conteste \"s\" (sí) o \"n\" (no)." + despues + mus);
@@ -160,14 +161,14 @@ TEST(TerminalPort, ExplainsQInEveryKindOfQuestion) {
 }
 
 TEST(TerminalPort, TakesQForQuieroIfItIsOffered) {
-  AtTheTable a{"q\n"};
+  PortConsole a{"q\n"};
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::Respuesta), 1);
 }
 
 TEST(TerminalPort, LeavesOnSalirInEveryKindOfQuestion) {
-  AtTheTable a{"salir\nn\nSalir\n1 3\n salir \n1\n"};
+  PortConsole a{"salir\nn\nSalir\n1 3\n salir \n1\n"};
   EXPECT_THROW(AskMus(a), LeaveProgram);
-  EXPECT_FALSE(AskMus(a)) << "the word is no answer";
+  EXPECT_FALSE(AskMus(a)) << "salir is not an answer";
   EXPECT_THROW(AskDiscard(a), LeaveProgram);
   EXPECT_EQ(AskDiscard(a), u"1 3");
   EXPECT_THROW(a.Bid(u"La grande", ModoDialogo::Apertura), LeaveProgram);
@@ -175,7 +176,7 @@ TEST(TerminalPort, LeavesOnSalirInEveryKindOfQuestion) {
 }
 
 TEST(TerminalPort, LeavesAtTheEndOfTheInputInEveryKindOfQuestion) {
-  AtTheTable a;
+  PortConsole a;
   EXPECT_THROW(a.Puerto.YesNoBox(a.t, Pregunta::Mus, {.Titulo = u"¿mus?", .Texto = u""}),
                LeaveProgram);
   EXPECT_THROW(a.Puerto.InputBox(a.t, Pregunta::Cantidad,
@@ -185,7 +186,7 @@ TEST(TerminalPort, LeavesAtTheEndOfTheInputInEveryKindOfQuestion) {
 }
 
 TEST(TerminalPort, ReturnsTheTimeOfItsClock) {
-  AtTheTable a;
+  PortConsole a;
   EXPECT_EQ(a.Puerto.Now().Hora, 16);
   EXPECT_EQ(a.Puerto.Now().Minuto, 40);
   EXPECT_EQ(a.Puerto.Now().Segundo, 1);

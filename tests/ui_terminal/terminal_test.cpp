@@ -49,7 +49,7 @@ TEST_F(Session, StartsAMatchAndEndsWithTheInput) {
 
 TEST_F(Session, ReportsThatAPipeHasNoSound) {
   LlenarCarpeta(Carpeta);
-  const SessionResult sesion = PlayLines(Carpeta, Puerta + "Sonido\n");
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults + "Sonido\n");
   EXPECT_EQ(Count(sesion.Out, "En esta terminal no hay sonido.\n"), 1);
 }
 
@@ -93,7 +93,7 @@ TEST_F(Session, EndsWithStatusZeroInEveryKindOfQuestion) {
 
 TEST_F(Session, LeavesOnSalirInAQuestion) {
   LlenarCarpeta(Carpeta);
-  const SessionResult sesion = PlayLines(Carpeta, Puerta + "\nsalir\n\n\n");
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults + "\nsalir\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
   EXPECT_EQ(sesion.Err, "");
   EXPECT_TRUE(sesion.Out.ends_with("\n¿mus? [S/n] \n")) << sesion.Out;
@@ -142,7 +142,7 @@ TEST_F(Session, PlaysAHandFromTheMusToTheCount) {
 
 TEST_F(Session, StartsTheNextHandWhenThePlayerAbandonsOne) {
   LlenarCarpeta(Carpeta);
-  const SessionResult sesion = PlayLines(Carpeta, Puerta + "q\nQ\n");
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults + "q\nQ\n");
   EXPECT_EQ(sesion.Status, 0);
   const std::string mesa = FromTheTableOn(sesion);
   EXPECT_EQ(Count(mesa, "Sus cartas son"), 3);
@@ -164,7 +164,7 @@ TEST_F(Session, ShowsAllHandsOnManos) {
 
 TEST_F(Session, PrintsHelpWithoutAStep) {
   LlenarCarpeta(Carpeta);
-  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + "?\n"));
+  const std::string mesa = FromTheTableOn(PlayLines(Carpeta, AllDefaults + "?\n"));
   EXPECT_TRUE(
       mesa.ends_with("Enter sigue la mano.\n"
                      "q abandona la mano y empieza otra.\n"
@@ -182,7 +182,7 @@ TEST_F(Session, PrintsHelpWithoutAStep) {
 TEST_F(Session, PrintsAHintForAnythingElse) {
   LlenarCarpeta(Carpeta);
   for (const std::string otra : {"x", "0", "13", "envido", "qq", "mano"}) {
-    const std::string mesa = FromTheTableOn(PlayLines(Carpeta, Puerta + otra + "\n"));
+    const std::string mesa = FromTheTableOn(PlayLines(Carpeta, AllDefaults + otra + "\n"));
     EXPECT_TRUE(mesa.ends_with(
         "Pulse enter para empezar\n"
         "Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.\n"))
@@ -193,7 +193,7 @@ TEST_F(Session, PrintsAHintForAnythingElse) {
 
 TEST_F(Session, LeavesOnSalir) {
   LlenarCarpeta(Carpeta);
-  const SessionResult sesion = PlayLines(Carpeta, Puerta + "Salir\n\n\n");
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults + "Salir\n\n\n");
   EXPECT_EQ(sesion.Status, 0);
   EXPECT_FALSE(Contains(sesion.Out, "¿mus?"));
 }
@@ -215,27 +215,27 @@ TEST_F(Session, SaysGoodbyeWhenThePlayerWantsNoOtherMatch) {
 
 TEST_F(Session, ReturnsToTheStartUpQuestionsWhenThePlayerWantsOtherPlayers) {
   LlenarParaPartidaCorta(Carpeta);
-  int puertas = 0;
-  const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
-    if (pregunta == "Pulse enter para empezar" && puertas == 2) return std::nullopt;
-    if (pregunta == "Compañero: [0 Aleatorio] ") return ++puertas == 2 ? "dora" : "";
+  int inicios = 0;
+  const Player jugador = [&inicios](const std::string& pregunta) -> std::optional<std::string> {
+    if (pregunta == "Pulse enter para empezar" && inicios == 2) return std::nullopt;
+    if (pregunta == "Compañero: [0 Aleatorio] ") return ++inicios == 2 ? "dora" : "";
     return Contains(pregunta, "¿mus?") ? "n" : "";
   };
   const SessionResult sesion = PlayWith(Carpeta, jugador);
   const std::size_t segunda = sesion.Out.rfind("Bienvenido a la tasca\n");
   EXPECT_TRUE(sesion.Out.substr(0, segunda).ends_with(" vaca.]\n"))
-      << "the step runs to its end, and nothing more of the old table is shown";
+      << "the step ends, and then nothing of the old table is printed";
   EXPECT_TRUE(Contains(sesion.Out.substr(segunda), "Partida de\nAna y Dora\n"));
   EXPECT_TRUE(sesion.Out.ends_with("\nPulse enter para empezar\n"));
 }
 
 TEST_F(Session, PrintsNothingOfTheOldTableInTheStartUpQuestions) {
   LlenarParaPartidaCorta(Carpeta);
-  int puertas = 0;
-  const Player jugador = [&puertas](const std::string& pregunta) -> std::optional<std::string> {
-    if (Contains(pregunta, "Su nombre: ") && ++puertas == 3) return std::nullopt;
-    if (puertas == 2 && Contains(pregunta, "Compañero: ")) return "1";
-    if (puertas == 2 && Contains(pregunta, "Contrario 1: ")) return "1";
+  int inicios = 0;
+  const Player jugador = [&inicios](const std::string& pregunta) -> std::optional<std::string> {
+    if (Contains(pregunta, "Su nombre: ") && ++inicios == 3) return std::nullopt;
+    if (inicios == 2 && Contains(pregunta, "Compañero: ")) return "1";
+    if (inicios == 2 && Contains(pregunta, "Contrario 1: ")) return "1";
     return Contains(pregunta, "¿mus?") ? "n" : "";
   };
   const SessionResult sesion = PlayWith(Carpeta, jugador);
@@ -274,7 +274,7 @@ TEST_F(Session, EndsWithAnErrorForATooLargeAmount) {
 TEST_F(Session, EndsWithTheErrorOfAFaultyFile) {
   LlenarCarpeta(Carpeta);
   Carpeta.Write("mus.ini", "35\r\n");
-  const SessionResult sesion = PlayLines(Carpeta, Puerta);
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults);
   EXPECT_EQ(sesion.Status, 1);
   EXPECT_TRUE(Contains(sesion.Err, "mus.ini")) << sesion.Err;
   EXPECT_EQ(Count(sesion.Err, "\n"), 1);
@@ -282,7 +282,7 @@ TEST_F(Session, EndsWithTheErrorOfAFaultyFile) {
 }
 
 TEST_F(Session, ReportsAMissingCharacterFileOnce) {
-  const SessionResult sesion = PlayLines(Carpeta, Puerta);
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults);
   EXPECT_EQ(sesion.Status, 1);
   EXPECT_EQ(sesion.Out,
             "[No se encuentra el archivo con los datos de los personajes. El programa va a "
@@ -300,7 +300,7 @@ struct FillingBuffer : std::stringbuf {
 TEST_F(Session, EndsWithAnErrorIfItsOutputCannotBeWritten) {
   LlenarCarpeta(Carpeta);
   const auto jugar = [&](FillingBuffer& buffer, std::string& error) {
-    std::istringstream in{Puerta + "?\n"};
+    std::istringstream in{AllDefaults + "?\n"};
     std::ostream out{&buffer};
     std::ostringstream err;
     const int estado = RunTerminal(Carpeta.Path(), {.In = in, .Out = out, .Err = err});
@@ -312,7 +312,7 @@ TEST_F(Session, EndsWithAnErrorIfItsOutputCannotBeWritten) {
   std::string error;
   EXPECT_EQ(jugar(entera, error), 0);
   const int veces = DeSobra - entera.Quedan;
-  EXPECT_EQ(veces, 10) << "nine lines to read, the end of the input among them, and the end";
+  EXPECT_EQ(veces, 10) << "nine reads, one of them at the end of the input, and the final flush";
   for (int llena = 0; llena < veces; ++llena) {
     FillingBuffer buffer{llena};
     EXPECT_EQ(jugar(buffer, error), 1) << llena;
@@ -330,7 +330,7 @@ TEST_F(Session, PrintsNoControlCharactersFromFiles) {
   Carpeta.Write("Jugadores.dat", personajes);
   Carpeta.Write("mus.ini", std::string{"35\r\n3\r\n3\r\nA\0\x07na>\r\n", 18});
   const SessionResult sesion =
-      PlayLines(Carpeta, Puerta + "\nn\n\n\x1B[2J\n" + std::string(40, '\n'));
+      PlayLines(Carpeta, AllDefaults + "\nn\n\n\x1B[2J\n" + std::string(40, '\n'));
   EXPECT_EQ(sesion.Status, 0);
   EXPECT_TRUE(std::none_of(sesion.Out.begin(), sesion.Out.end(), [](char byte) {
     return (byte >= '\0' && byte < ' ' && byte != '\n') || byte == '\x7F';

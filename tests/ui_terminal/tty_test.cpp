@@ -105,7 +105,7 @@ TEST_F(Waiting, RetriesOnEintrWithoutBusyWaiting) {
   ::setitimer(ITIMER_REAL, &nunca, nullptr);
   EXPECT_GE(Sleeps() - comienzo, 3) << "between twenty signals";
   ASSERT_EQ(::sigaction(SIGALRM, &antes, nullptr), 0);
-  EXPECT_GE(senales, 20) << "it ended before there was a line";
+  EXPECT_GE(senales, 20) << "it ended without a line";
 }
 
 }  // namespace

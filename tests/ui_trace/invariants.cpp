@@ -106,14 +106,14 @@ struct Rule {
 
 // The order matters: later rules require valid card numbers.
 constexpr std::array<Rule, 9> Rules{{
-    {"a hand that is not four cards in order", HandsAreSortedCards},
-    {"a phase that nobody waits in", PhaseIsOneToWaitIn},
-    {"a speaking order that does not go round", SpeakingOrderGoesRound},
-    {"a deck with something else than cards", DeckHoldsCards},
-    {"a new hand without a whole deck", FreshDeckIsWhole},
-    {"a new hand with other cards than the first of the deck", DealtCardsAreTheFirstOfTheDeck},
-    {"a scoreboard that is not true", ScoreboardIsTrue},
-    {"a bet left standing", [](const Situation& s) { return s.SeguirLance == 0; }},
+    {"a hand that is not four sorted cards", HandsAreSortedCards},
+    {"a phase in which the game never waits", PhaseIsOneToWaitIn},
+    {"an invalid speaking order", SpeakingOrderGoesRound},
+    {"an invalid card in the deck", DeckHoldsCards},
+    {"an incomplete deck in a new hand", FreshDeckIsWhole},
+    {"a new hand that is not from the top of the deck", DealtCardsAreTheFirstOfTheDeck},
+    {"an outdated scoreboard", ScoreboardIsTrue},
+    {"an unanswered bet", [](const Situation& s) { return s.SeguirLance == 0; }},
     {"a vaca or a match that should have ended", ScoresEndWhenTheyMust},
 }};
 
@@ -126,9 +126,9 @@ std::string FaultIn(const Situation& s) {
 }
 
 std::string FaultBetween(const Situation& before, const Situation& after) {
-  if (after.Draws < before.Draws) return "draws that were taken back";
-  if (HasScoreboard(before) && !HasScoreboard(after)) return "a scoreboard that went blank";
-  return StonesFallOnlyTogether(before, after) ? "" : "stones that fell";
+  if (after.Draws < before.Draws) return "a smaller number of draws";
+  if (HasScoreboard(before) && !HasScoreboard(after)) return "a cleared scoreboard";
+  return StonesFallOnlyTogether(before, after) ? "" : "stones taken away";
 }
 
 void Watch::Look(const Situation& s) {

@@ -99,7 +99,7 @@ bool RandomPlayer::HasPlayedEnough() const {
 void RandomPlayer::Look(const ordered_json& state) {
   const std::optional<Situation> situation = SituationOf(state);
   if (situation) watch_.Look(*situation);
-  const std::string fault = situation ? watch_.Fault() : "a list of another length";
+  const std::string fault = situation ? watch_.Fault() : "a list of a wrong length";
   if (!fault.empty()) fault_ = fault + ": " + state.dump();
   const ordered_json& seats = state["PersonajeAsiento"];
   seated_.insert(seats.begin() + 1, seats.end());  // without the human's
@@ -124,7 +124,7 @@ std::string RandomPlayer::FaultOf(const Conversation& game) const {
   const std::string allowed = ToUtf8(ErrorOf(provocation_));
   const bool asked = game.Status == 1 && !allowed.empty() && !game.Rest.empty() &&
                      game.Rest.back().dump().find(allowed) != std::string::npos;
-  return asked ? "" : "an end that nobody asked for, status " + std::to_string(game.Status);
+  return asked ? "" : "an unexpected end, status " + std::to_string(game.Status);
 }
 
 }  // namespace tasca::test

@@ -64,7 +64,7 @@ std::string KeptSignature(const char* path, std::uint32_t matches) {
   while (lines >> ofMatches >> signature) {
     if (ofMatches == matches) return signature;
   }
-  throw std::runtime_error{"no signature is kept for so many matches"};
+  throw std::runtime_error{"no signature is stored for this number of matches"};
 }
 
 std::uint32_t Number(const char* text) {
@@ -76,7 +76,7 @@ std::uint32_t Number(const char* text) {
 
 int Compare(const std::string& found, const std::string& kept) {
   if (found == kept) return 0;
-  std::cout << "but " << kept << " is kept\n";
+  std::cout << "but " << kept << " is stored\n";
   return 1;
 }
 

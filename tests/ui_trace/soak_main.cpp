@@ -82,7 +82,7 @@ int Soak(std::uint32_t wanted, const std::filesystem::path& characters, std::uin
             << "; " << tally.Matches << " matches to their end, " << tally.Seated.size()
             << " characters at the table\n";
   if (EverybodyHasSat(tally, characters)) return 0;
-  std::cout << "not every character has sat at the table\n";
+  std::cout << "some characters were never seated\n";
   return 1;
 }
 
