@@ -78,13 +78,13 @@ TEST(MostrarManos, NamesTheHumanAsTyped) {
   EXPECT_TRUE(t.Text1.starts_with(u"Doña Ana\r\n"));
 }
 
-TEST(MostrarManos, LaysOpenTheCardsThatItShowsOfAll) {
+TEST(MostrarManos, ShowsAllHandsFaceUp) {
   Table t = MesaConManos();
   MostrarManos(t, TodosLosAsientos);
   EXPECT_EQ(t.CartasVistas, t.Manos);
 }
 
-TEST(MostrarManos, OfTheHumanAloneTurnsTheOthersDownAgain) {
+TEST(MostrarManos, HidesTheOtherHandsWhenOnlyTheHumansIsShown) {
   Table t = MesaConManos();
   MostrarManos(t, TodosLosAsientos);
   MostrarManos(t, AsientoHumano);

@@ -157,7 +157,7 @@ TEST(List1_Click, AsksAboutACharacterWithoutAName) {
   EXPECT_EQ(e.Nombre(2), "Lola");
 }
 
-TEST(List1_Click, AsksBeforeItShowsTheSameCharacterAnew) {
+TEST(List1_Click, AsksBeforeReloadingTheSameCharacter) {
   Taller e{2};
   List1_Click(e.d, e.t, e.port, 1);
   e.d.Text1 = u"Lola";

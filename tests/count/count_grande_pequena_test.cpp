@@ -96,7 +96,7 @@ TEST(ContarPequena, IsWonApartFromTheGrande) {
 
 // A refused bet can take the opponents past the target before the count. A settled lance does not
 // check for the end of the juego, so that theirs does not end here.
-TEST(ContarGrande, Kept_ARefusedBetEndsNoJuegoForThePequenaComesFirst) {
+TEST(ContarGrande, Kept_CountsThePequenaBeforeARefusedBetEndsTheJuego) {
   Recuento mano;
   mano.t.Piedras = {36, 35};
   mano.t.Apuesta[NumeroLance::Pequena] = 0;  // the mano, seat 1, wins it
@@ -107,7 +107,7 @@ TEST(ContarGrande, Kept_ARefusedBetEndsNoJuegoForThePequenaComesFirst) {
   EXPECT_EQ(mano.t.Juegos, (Array<Integer, 0, 1>{0, 1}));
 }
 
-TEST(ContarPequena, Kept_ARefusedBetEndsNoJuegoForTheParesComeFirst) {
+TEST(ContarPequena, Kept_CountsTheParesBeforeARefusedBetEndsTheJuego) {
   Recuento mano;
   mano.t.Piedras = {36, 30};
   DarMano(mano.t, 4, "7 5 4 4");

@@ -119,7 +119,7 @@ TEST(ContarPares, LeavesOnlyALineBreakWhenNobodyDeclaredAny) {
 }
 
 // The bidding never leaves such a record; the count must continue nevertheless.
-TEST(ContarPares, SaysThatNobodyHasAnyWhenTheRecordDoesNot) {
+TEST(ContarPares, ReportsNoParesWhenTheRecordMissesIt) {
   Recuento mano;
   mano.t.Piedras = {40, 40};
   mano.t.Apuesta[NumeroLance::Pares] = 0;
@@ -186,7 +186,7 @@ TEST(ContarPares, Kept_ARefusedBetPaysNobodyWhenThatParejaHasNoPares) {
           .Contrarias = 0});
 }
 
-TEST(ContarPares, PaysTheParejaThatIsNotedAsTheirTaker) {
+TEST(ContarPares, PaysTheParejaRecordedAsWinner) {
   Probar({.Manos = {"6 6 5 4", "R R 5 4", SinPares, SinPares},
           .Apuesta = ApuestaPagada,
           .Linea = "La pareja 1 se saca  una del par del jugador 1\r\n",
@@ -202,7 +202,7 @@ TEST(ContarPares, PaysTheParejaThatIsNotedAsTheirTaker) {
          0);
 }
 
-TEST(ContarPares, TakesNoticeOfANotedTakerOnlyAfterARefusedBet) {
+TEST(ContarPares, UsesTheRecordedWinnerOnlyAfterARefusedBet) {
   Probar({.Manos = {"R R 5 4", "6 6 5 4", SinPares, SinPares},
           .Apuesta = EnviteOrdago,
           .Linea = " una del par del jugador 2\r\n",

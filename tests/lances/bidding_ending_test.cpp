@@ -60,7 +60,7 @@ TEST_F(BetRefused, SaysPiedraForASingleStoneSeen) {
   EXPECT_EQ(Rehusan(1, 4), "la pareja 0 se saca 1 piedra\r\nPulse enter para continuar");
 }
 
-TEST_F(BetRefused, PaysNothingWhenNothingStands) {
+TEST_F(BetRefused, PaysNothingWhenTheAcceptedBetIsZero) {
   EXPECT_EQ(Rehusan(0, 0), "la pareja 0 se saca 0 piedras\r\nPulse enter para continuar");
   EXPECT_EQ(m.t.Piedras, (PorPareja{0, 0}));
 }

@@ -38,7 +38,7 @@ inline const Saved Personajes{"characters", "Jugadores.dat", "Jugadores.bak", ""
 inline const Saved Ajustes{"settings", "mus.ini", "", "Jugadores.dat", Settings};
 
 // A character file with three characters.
-inline std::string ThreeToSitWith() {
+inline std::string ThreeCharacters() {
   Table t;
   for (int numero = 1; numero <= 3; ++numero) t.Personajes[numero].Nombre = ToText(numero);
   return TextoPersonajes(t, 3);
@@ -90,7 +90,7 @@ struct Case {
   void Fill(const TempFolder& carpeta) const {
     carpeta.Write(Save.File, Antes());
     if (HasCopy()) carpeta.Write(Save.Copy, MuchoAntes());
-    if (!Save.Beside.empty()) carpeta.Write(Save.Beside, ThreeToSitWith());
+    if (!Save.Beside.empty()) carpeta.Write(Save.Beside, ThreeCharacters());
     if (!On.AfterACrash) return;
     for (const std::string& nombre : Written()) {
       carpeta.Write(nombre + Resto, Nuevo().substr(0, 20));

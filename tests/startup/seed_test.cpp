@@ -43,7 +43,7 @@ TEST(SembrarConHora, MultipliesTheFieldsOfTheClockPlusOne) {
   }
 }
 
-TEST(SembrarConHora, StartsCountingDrawsAnew) {
+TEST(SembrarConHora, ResetsTheNumberOfDraws) {
   Reloj reloj;
   reloj.rnd();
   SembrarConHora(reloj.g);

@@ -7,10 +7,10 @@
 
 namespace tasca::test {
 
-// A table in the middle of a hand: cards built, four hands of no value in any lance that matters,
-// speaking order 1 2 3 4, the default match (35 stones, 3 juegos, 3 vacas), direct style, without
-// names and with phrases of their own. Seats 2, 3, 4 hold characters 3, 4, 5 ("Berta", "el Cojo",
-// "Dora"); the human is "Ana". Every phrase of every character is its tag and its slot ("QMus1").
+// A table in the middle of a hand: the deck is built, all seats hold "7 6 5 4" (no pares, no
+// juego), the speaking order is 1 2 3 4, and the match has 35 stones, 3 juegos and 3 vacas. The
+// style is direct, names are not used, expressions are. Characters 3, 4, 5 ("Berta", "el Cojo",
+// "Dora") sit at seats 2, 3, 4; the human is "Ana". Every phrase is its tag and its slot ("QMus1").
 Table MesaDePrueba();
 
 // Writes a hand into slots 1 to 4 of a seat, in the order given: "R R 3 5". Ranks: A 2 3 4 5 6 7 S

@@ -97,7 +97,7 @@ TEST(Form_Activate, BringsTheRaisesBackAfterAnOrdago) {
   }
 }
 
-TEST(Form_Activate, LeavesTheCaptionAsItStandsInAnyOtherMode) {
+TEST(Form_Activate, LeavesTheCaptionUnchangedInAnyOtherMode) {
   for (const int numero : {1, -3, 7}) {
     const auto modo = static_cast<ModoDialogo>(numero);
     Dialog dialogo = Abierto(ModoDialogo::RespuestaOrdago);

@@ -26,7 +26,7 @@ struct Situation {
   std::array<int, 2> Vacas{};
   int JuegosVaca = 0;
   int VacasPartida = 0;
-  std::string Text3;  // the encoding of non-ASCII characters is not specified
+  std::string Text3;  // non-ASCII characters may have any encoding
 
   std::uint64_t Draws = 0;
 };
