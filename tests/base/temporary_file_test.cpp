@@ -1,7 +1,6 @@
 // Temporary files: their owner, and the removal of leftovers.
 #include "base/temporary_file.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -82,7 +81,7 @@ TEST(Leftovers, OfARunningWriterAreKept) {
   const std::string deOtro = "f.txt.guardando-a1B2c3.tmp";
   carpeta.Write(deOtro, "a medio escribir");
   {
-    const Descriptor otro{carpeta.Path() / deOtro, O_RDWR};
+    const Descriptor otro{carpeta.Path() / deOtro, OpenMode::ReadWrite};
     ASSERT_TRUE(otro.Lock());
     ReplaceFile(carpeta.Path() / "f.txt", "nuevo");
     EXPECT_EQ(carpeta.Read(deOtro), "a medio escribir");

@@ -3,24 +3,17 @@
 // program tasca-sound in the game's folder, which is started by the first sound and ended after
 // some seconds without one. No call blocks and no thread is used: the event loop of the window or
 // the terminal watches a file descriptor.
-#include <sys/types.h>
-
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "table/table.h"
+#include "ui/loudspeaker/connection.h"
 
 namespace tasca {
 
 class MediaPlayer {
  public:
-  MediaPlayer();
-  MediaPlayer(const MediaPlayer&) = delete;
-  MediaPlayer& operator=(const MediaPlayer&) = delete;
-  // Cuts off a sound that is still playing.
-  ~MediaPlayer();
-
   // Plays a file of `carpeta` and replaces the current one. If it cannot be played for any reason,
   // its end is reported at once.
   void Open(const std::filesystem::path& carpeta, std::u16string_view archivo,
@@ -33,24 +26,15 @@ class MediaPlayer {
   void TurnOn(bool encendido);
   bool IsOn() const { return encendido_; }
 
-  // An epoll descriptor. Call TakeEnd when it becomes readable.
-  int Descriptor() const { return vigia_; }
+  // For the event loop. Call TakeEnd when it becomes readable.
+  int Descriptor() const { return conexion_.Descriptor(); }
   // True once after the last opened sound has ended. Open itself never reports an end.
   bool TakeEnd();
 
  private:
-  bool Start(const std::filesystem::path& programa);
-  // Makes TakeEnd report the end of the current sound.
-  void EndSoon();
-  // Opens a new socket pair and returns the program's end of it, or -1.
-  int Connect();
-  void Disconnect();
-  bool Send(const std::string& paquete) const;
   void Hear(std::string_view paquete);
 
-  int vigia_ = -1;          // epoll descriptor that watches conexion_
-  int conexion_ = -1;       // our end of the socket pair
-  pid_t proceso_ = 0;       // tasca-sound, 0 for none
+  Connection conexion_;     // cuts off a sound that is still playing when it closes
   int numero_ = 0;          // of the last order
   bool pendiente_ = false;  // its end has not been reported yet
   bool encendido_ = true;
