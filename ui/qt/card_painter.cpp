@@ -1,0 +1,51 @@
+// Painting the cards, and keeping what has been painted.
+#include "ui/qt/card_painter.h"
+
+#include <QPainter>
+#include <QTransform>
+#include <algorithm>
+
+namespace tasca {
+namespace {
+
+QPixmap PaintCard(int carta, int alto, qreal dpr) {
+  const int altura = qRound(alto * dpr);
+  QPixmap dibujo{qRound(altura * CardAspect), altura};
+  dibujo.fill(carta > 0 ? Qt::white : Qt::blue);
+  dibujo.setDevicePixelRatio(dpr);
+  return dibujo;
+}
+
+}  // namespace
+
+QPixmap CardPainter::Card(int carta, int alto, qreal dpr, bool oscuro) {
+  QPixmap& dibujo = dibujos_[{carta, alto, dpr, oscuro}];
+  if (dibujo.isNull()) dibujo = PaintCard(carta, alto, dpr);
+  return dibujo;
+}
+
+QPixmap CardPainter::Back(int alto, qreal dpr, bool oscuro, bool girado) {
+  if (!girado) return Card(0, alto, dpr, oscuro);
+  QPixmap& dibujo = dibujos_[{-1, alto, dpr, oscuro}];
+  if (dibujo.isNull()) {
+    dibujo = PaintCard(0, alto, dpr).transformed(QTransform{}.rotate(90));
+    dibujo.setDevicePixelRatio(dpr);
+  }
+  return dibujo;
+}
+
+void CardPainter::ForgetOtherHeights(const std::vector<int>& altos, qreal dpr, bool oscuro) {
+  std::erase_if(dibujos_, [&](const auto& uno) {
+    const Key& clave = uno.first;
+    return clave.Dpr != dpr || clave.Oscuro != oscuro ||
+           std::find(altos.begin(), altos.end(), clave.Alto) == altos.end();
+  });
+}
+
+void DrawSharp(QPainter& pintor, QPointF donde, const QPixmap& dibujo) {
+  const QTransform& aPantalla = pintor.deviceTransform();
+  const QPointF entero = aPantalla.map(donde).toPoint();
+  pintor.drawPixmap(aPantalla.inverted().map(entero), dibujo);
+}
+
+}  // namespace tasca
