@@ -5,13 +5,21 @@
 #include <QTransform>
 #include <algorithm>
 
+#include "ui/qt/stroke_painter.h"
+
 namespace tasca {
 namespace {
 
-QPixmap PaintCard(int carta, int alto, qreal dpr) {
+// Painted in device pixels: the ratio is set only afterwards.
+QPixmap PaintCard(int carta, int alto, qreal dpr, bool oscuro) {
   const int altura = qRound(alto * dpr);
   QPixmap dibujo{qRound(altura * CardAspect), altura};
-  dibujo.fill(carta > 0 ? Qt::white : Qt::blue);
+  dibujo.fill(Qt::transparent);
+  const auto dibujos = alto < SmallCardHeight ? SmallCardDrawings : CardDrawings;
+  QPainter pintor{&dibujo};
+  PaintDrawing(pintor, dibujos[static_cast<std::size_t>(carta)],
+               QSizeF{CardUnitsWide, CardUnitsHigh}, dibujo.rect(), oscuro);
+  pintor.end();
   dibujo.setDevicePixelRatio(dpr);
   return dibujo;
 }
@@ -20,7 +28,7 @@ QPixmap PaintCard(int carta, int alto, qreal dpr) {
 
 QPixmap CardPainter::Card(int carta, int alto, qreal dpr, bool oscuro) {
   QPixmap& dibujo = dibujos_[{carta, alto, dpr, oscuro}];
-  if (dibujo.isNull()) dibujo = PaintCard(carta, alto, dpr);
+  if (dibujo.isNull()) dibujo = PaintCard(carta, alto, dpr, oscuro);
   return dibujo;
 }
 
@@ -28,8 +36,7 @@ QPixmap CardPainter::Back(int alto, qreal dpr, bool oscuro, bool girado) {
   if (!girado) return Card(0, alto, dpr, oscuro);
   QPixmap& dibujo = dibujos_[{-1, alto, dpr, oscuro}];
   if (dibujo.isNull()) {
-    dibujo = PaintCard(0, alto, dpr).transformed(QTransform{}.rotate(90));
-    dibujo.setDevicePixelRatio(dpr);
+    dibujo = Card(0, alto, dpr, oscuro).transformed(QTransform{}.rotate(90));
   }
   return dibujo;
 }
