@@ -55,7 +55,7 @@ HORSES = {
     "espadas": Horse("wood", "ink", HELD_HIGH, ("M122 222L116 248L108 272", "M76 224L78 250L76 272"),
                      ("M58 222L54 248L52 270", "M142 212L140 246L130 270"), HANGING_TAIL),
     "bastos": Horse("paper", "wood", HELD_HIGH, ("M116 224L104 248L92 266", "M70 222L48 238L46 262"),
-                    ("M58 216L32 224L25 246", "M142 212L134 244L118 268"), FLYING_TAIL),
+                    ("M58 216L40 226L34 248", "M142 212L134 244L118 268"), FLYING_TAIL),
 }
 
 

@@ -119,7 +119,7 @@ def _espadas(dress):
 
 def _bastos(dress):
     """A hand on his hip, the other on a club that stands beside him."""
-    return [*limb("M122 152L150 178L126 196", THICK, dress.main), *_mantle(dress),
+    return [*limb("M122 150L157 180L124 200", 13, dress.main), *_mantle(dress),
             *_motifs("bastos", ((95, 200), (82, 224), (107, 224), (94, 250))), use("bastos-slim", 46, 226, 1.36),
             *limb("M70 150L50 156L46 166", THICK, dress.main), *hand(46, 173), *_ermine(),
             *_head("bastos", dress, face(gaze=LEFT, mouth="none"), FORKED_BEARD), _mouth("M88 117Q95 122 102 117")]

@@ -103,7 +103,7 @@ def _espadas(dress):
     whiskers = group(moustache(dress.hair["sota"]), -4.5, 1, .9)
     return [*_legs(dress), *limb(RIGHT_ON_HIP, THICK, dress.second), *_tunic(dress),
             *_head("espadas", dress, look + [whiskers]),
-            use("espadas", 34, 222, 1.32, 180), *limb("M70 134L50 148L38 164", THICK, dress.main), *hand(35, 170)]
+            use("espadas", 38, 224, 1.24, 180), *limb("M70 134L51 150L41 168", THICK, dress.main), *hand(39, 176)]
 
 
 def _bastos(dress):

@@ -3,13 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QFont>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSessionManager>
 #include <QStyleHints>
+#include <QTimer>
+#include <QWidget>
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
@@ -79,6 +83,26 @@ TEST_F(Started, ScalesTheFontOnATallScreenUpToTwice) {
 
 TEST_F(Started, RunsUntilTheProgramEnds) {
   EXPECT_EQ(Start().Run([] { QCoreApplication::exit(7); }, {}), 7);
+}
+
+// The icon is painted after the first window has come, not before.
+TEST_F(Started, HasAnIconOnceAWindowIsOpen) {
+  Application& aplicacion = Start();
+  std::optional<QWidget> ventana;
+  QTimer mirada;
+  QElapsedTimer espera;
+  QObject::connect(&mirada, &QTimer::timeout, &mirada, [&] {
+    if (!QApplication::windowIcon().isNull() || espera.hasExpired(60'000)) QCoreApplication::quit();
+  });
+  const auto abrir = [&] {
+    EXPECT_TRUE(QApplication::windowIcon().isNull());
+    ventana.emplace().show();
+    espera.start();
+    mirada.start(1);
+  };
+  aplicacion.Run(abrir, {});
+  EXPECT_FALSE(QApplication::windowIcon().isNull());
+  EXPECT_FALSE(ventana->windowIcon().isNull());
 }
 
 TEST_F(Started, ForwardsTheEndOfTheSession) {

@@ -13,6 +13,7 @@
 
 #include "base/errors.h"
 #include "ui/qt/qt_text.h"
+#include "ui/qt/window_icon.h"
 
 namespace tasca {
 namespace {
@@ -75,8 +76,17 @@ int Application::Run(const std::function<void()>& abrir, SessionEnd fin) {
   return QApplication::exec();
 }
 
+// The first window is on the screen when the application becomes active: it does not wait for the
+// icon to be painted.
+void Application::SetIconOnce() {
+  if (windowIcon().isNull()) setWindowIcon(WindowIcon());
+}
+
 // The toolkit would close the windows one by one, and stay when a question refuses that.
 bool Application::event(QEvent* suceso) {
+  if (suceso->type() == QEvent::ApplicationActivate) {
+    QTimer::singleShot(0, this, &Application::SetIconOnce);
+  }
   if (suceso->type() != QEvent::Quit || !fin_.Comes) return QApplication::event(suceso);
   fin_.Comes();
   return true;

@@ -25,6 +25,8 @@ class Application : public QApplication {
   bool event(QEvent* suceso) override;
 
  private:
+  static void SetIconOnce();
+
   QTranslator castellano_;
   SessionEnd fin_;
 };
