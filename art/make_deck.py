@@ -3,8 +3,8 @@
 
     art/make_deck.py FOLDER TABLES
 
-FOLDER gets cards/*.svg and icons/*.svg, TABLES is the file of the tables. The same drawings always make
-the same bytes."""
+FOLDER gets cards/*.svg and icons/*.svg, TABLES is the file of the tables. The same drawings always
+make the same bytes."""
 import sys
 from pathlib import Path
 

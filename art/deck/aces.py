@@ -40,7 +40,8 @@ def as_espadas():
             flat("M0 -118L16.6 -94.4V44H0Z", "blue"), stroke("M0 -112V40"),
             path("M-9.4 60H9.4V98H-9.4Z", "red", width=BOLD),
             stroke("M-7 71L7 65M-7 81L7 75M-7 91L7 85", width=FINE),
-            path("M-54 42C-36 33 36 33 54 42C60 46 60 57 54 61C36 66 -36 66 -54 61C-60 57 -60 46 -54 42Z",
+            path("M-54 42C-36 33 36 33 54 42C60 46 60 57 54 61C36 66 -36 66 -54 61"
+                 "C-60 57 -60 46 -54 42Z",
                  "gold", width=BOLD),
             flat(circle(-41, 51, 4), "ink"), flat(circle(41, 51, 4), "ink"),
             path(star(0, 50.5, 12, 5.4, 8), "red", width=FINE),
@@ -68,7 +69,8 @@ def as_bastos():
         path(circle(-47, -40, 10.5), "gold", width=3), stroke(circle(-47, -40, 3.8), width=2),
         path(circle(44, -3, 10), "gold", width=3), stroke(circle(44, -3, 3.6), width=2),
         path(circle(-32, 36, 8), "gold", width=3),
-        stroke("M-15 -62C-11 -40 -11 -26 -13 -8M4 -58V-34M0 -8C1 10 0 26 -2 44M12 34V54", width=FINE)]
+        stroke("M-15 -62C-11 -40 -11 -26 -13 -8M4 -58V-34M0 -8C1 10 0 26 -2 44M12 34V54",
+               width=FINE)]
 
 
 ACES = {"oros": as_oros, "copas": as_copas, "espadas": as_espadas, "bastos": as_bastos}

@@ -1,5 +1,5 @@
-"""The back of the cards: eight-pointed stars that touch, and between them crosses of the ground. Turned
-by half it is the same: it tells nothing of the card."""
+"""The back of the cards: eight-pointed stars that touch, and between them crosses of the ground. It
+is the same upside down: it tells nothing of the card."""
 from .frame import HIGH, RADIUS, WIDE, edge
 from .shapes import circle, flat, rectangle, star, use
 

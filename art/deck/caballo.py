@@ -1,9 +1,9 @@
 """The caballos ride: at a trot, at a toast, on parade, at a gallop."""
 from dataclasses import dataclass
 
-from .people import DRESS, LEFT, RIGHT, face, hand, held, moustache
-from .shapes import (FINE, circle, flat, group, limb, merged, path, points, rectangle,
-                     stroke, use)
+from .people import DRESS, FEATHER, LEFT, RIGHT, face, hand, held, moustache
+from .shapes import (FINE, circle, flat, group, limb, merged, path, points, rectangle, stroke,
+                     use)
 
 THICK = 13  # of legs and arms
 HIGH_HEAD = ("M60 112C76 112 86 130 92 160L136 168C152 170 161 186 158 208C156 224 147 234 133 232"
@@ -52,9 +52,11 @@ HORSES = {
                   ("M58 222L36 236L43 260", "M142 212L141 246L126 270"), HANGING_TAIL),
     "copas": Horse("skin", "paper", HELD_LOW, ("M122 222L114 248L106 272", "M78 224L84 250L82 272"),
                    ("M64 224L60 248L56 270", "M142 212L141 246L128 270"), HANGING_TAIL),
-    "espadas": Horse("wood", "ink", HELD_HIGH, ("M122 222L116 248L108 272", "M76 224L78 250L76 272"),
+    "espadas": Horse("wood", "ink", HELD_HIGH, ("M122 222L116 248L108 272",
+                                                "M76 224L78 250L76 272"),
                      ("M58 222L54 248L52 270", "M142 212L140 246L130 270"), HANGING_TAIL),
-    "bastos": Horse("paper", "wood", HELD_HIGH, ("M116 224L104 248L92 266", "M70 222L48 238L46 262"),
+    "bastos": Horse("paper", "wood", HELD_HIGH,
+                    ("M116 224L104 248L92 266", "M70 222L48 238L46 262"),
                     ("M58 216L40 226L34 248", "M142 212L134 244L118 268"), FLYING_TAIL),
 }
 
@@ -73,9 +75,10 @@ def _hoof(leg):
 def _horse(horse, reins):
     items = [path(horse.tail, horse.mane)]
     for leg in horse.far:
-        items += limb(leg, 12, horse.colour) + [stroke(leg, "ink", 12)[:5] + (.42,), _hoof(leg)]
+        items += limb(leg, 12, horse.colour) + [path(leg, None, "ink", 12, .42), _hoof(leg)]
     head = horse.head
-    items += merged([head.outline, *[(leg, THICK) for leg in horse.near], head.ear], horse.colour, width=3.4)
+    items += merged([head.outline, *[(leg, THICK) for leg in horse.near], head.ear], horse.colour,
+                    width=3.4)
     items += [_hoof(leg) for leg in horse.near]
     items += merged([circle(*place) for place in head.mane], horse.mane, width=2.6)
     return items + [stroke(head.bridle, reins, 4), flat(circle(*head.eye, 3.4), "ink"),
@@ -95,7 +98,8 @@ FLYING_CAPE = "M112 124C136 124 150 140 172 142C166 148 170 156 162 164C148 170 
 
 def _coat(dress):
     return [path("M84 126Q105 134 126 126L122 178Q104 184 87 178Z", dress.main),
-            stroke("M105 132V180", width=FINE), path(rectangle(85, 170, 39, 9, 3), dress.trim, width=FINE)]
+            stroke("M105 132V180", width=FINE),
+            path(rectangle(85, 170, 39, 9, 3), dress.trim, width=FINE)]
 
 
 def _rein_hand(dress, bit, reins):
@@ -111,8 +115,8 @@ def _head(suit, dress, look):
 
 
 def _plume(dress):
-    return path("M106 56C104 36 118 24 140 28C135 34 141 38 132 42C137 48 122 54 112 60Z", dress.trim,
-                width=FINE)
+    return path("M106 56C104 36 118 24 140 28C135 34 141 38 132 42C137 48 122 54 112 60Z",
+                dress.trim, width=FINE)
 
 
 def _brimmed_hat(dress):
@@ -122,7 +126,8 @@ def _brimmed_hat(dress):
 
 def _bonnet(dress):
     return [path("M72 80C66 58 88 46 108 46C130 46 146 60 138 80Q105 66 72 80Z", dress.main),
-            path("M72 80Q105 66 138 80L136 88Q105 75 74 88Z", dress.second, width=FINE), _plume(dress),
+            path("M72 80Q105 66 138 80L136 88Q105 75 74 88Z", dress.second, width=FINE),
+            _plume(dress),
             path(circle(108, 58, 5.4), "gold", width=FINE)]
 
 
@@ -136,24 +141,24 @@ def _helmet(dress):
 
 
 def _pointed_hat(dress):
-    feather = path("M0 0C6 -20 18 -30 36 -30C32 -24 36 -20 28 -15C31 -9 18 -4 8 -2Z", dress.trim, width=3)
     return [path("M80 78C82 62 96 54 112 32C122 44 130 60 131 78Z", dress.main),
             path("M66 82C80 68 130 68 146 78C130 90 88 80 66 82Z", dress.second),
-            group([feather], 98, 76, .8, -14, True)]
+            group([path(FEATHER, dress.trim, width=3)], 98, 76, .8, -14, True)]
 
 
 HATS = {"oros": _brimmed_hat, "copas": _bonnet, "espadas": _helmet, "bastos": _pointed_hat}
 
 
 def _oros(dress):
-    """Looks at the coin; the horse wears a plume."""
+    """Looks at the coin."""
     return [path(CAPE, dress.second), *limb("M124 132L147 146L156 126", THICK, dress.main),
             *held("oros", 158, 116), *hand(158, 115), *_coat(dress)], face(gaze=RIGHT)
 
 
 def _copas(dress):
     """Drinks to somebody, while the horse bows."""
-    return [path(CAPE, dress.second), *_coat(dress), *limb("M122 134L150 136L158 116", THICK, dress.main),
+    return [path(CAPE, dress.second), *_coat(dress),
+            *limb("M122 134L150 136L158 116", THICK, dress.main),
             *held("copas", 160, 106), *hand(160, 105)], face(gaze=RIGHT, eyes="laughing")
 
 
@@ -162,7 +167,8 @@ def _espadas(dress):
     look = face(gaze=LEFT, brows="stern", mouth="none")
     whiskers = group(moustache(dress.hair["caballo"]), -4.5, 0, .85)
     return [path(CAPE, dress.second), *_coat(dress), use("espadas", 148, 128, 1.5, 6),
-            *limb("M122 134L136 164L142 172", THICK, dress.main), *hand(144, 172)], look + [whiskers]
+            *limb("M122 134L136 164L142 172", THICK, dress.main), *hand(144, 172)
+            ], look + [whiskers]
 
 
 def _bastos(dress):
@@ -179,6 +185,7 @@ def caballo(suit):
     dress, horse = DRESS[suit], HORSES[suit]
     reins = dress.trim if dress.trim not in (horse.colour, horse.mane) else dress.main
     rider, look = RIDERS[suit](dress)
-    items = [*_horse(horse, reins), *_saddle(dress), *rider, *_rein_hand(dress, horse.head.bit, reins),
+    items = [*_horse(horse, reins), *_saddle(dress), *rider,
+             *_rein_hand(dress, horse.head.bit, reins),
              *_head(suit, dress, look)]
     return [group(items, -6, 0)]

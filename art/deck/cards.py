@@ -71,14 +71,16 @@ def drawing(card):
     suit, rank = suit_and_rank(card)
     text, scale = "number-" + NUMBERS[rank - 1], SMALLER if rank > 7 else 1
     return [use("blank"), use("frame-" + suit), *_middle(suit, rank),
-            use(text, INSET, INSET, scale), ("use", text, (-scale, 0, 0, -scale, WIDE - INSET, HIGH - INSET))]
+            use(text, INSET, INSET, scale), ("use", text,
+                                             (-scale, 0, 0, -scale, WIDE - INSET, HIGH - INSET))]
 
 
 def small_drawing(card):
-    """The number twice as large, and one emblem: what can be read on a card less than 80 px high."""
+    """The number twice as large, and one emblem: legible on a card less than 80 px high."""
     if card == BACK:
         return backs.small_back()
     suit, rank = suit_and_rank(card)
-    scale, y = {"oros": (2.1, 208), "copas": (2.3, 204), "espadas": (2.0, 204), "bastos": (1.9, 206)}[suit]
+    scale, y = {"oros": (2.1, 208), "copas": (2.3, 204), "espadas": (2.0, 204),
+                "bastos": (1.9, 206)}[suit]
     return [use("blank"), use("frame-" + suit), use("number-" + NUMBERS[rank - 1], 26, 28, 2.1),
             use(suit + "-large", 112, y, scale)]

@@ -35,12 +35,14 @@ def bastos():
     trunk = "M-6 41L-13 -26C-13.6 -36 -8.6 -40 0 -40C8.6 -40 13.6 -36 13 -26L6 41Z"
     stubs = [("M-8 0L-15.4 -7", 9.5), ("M8 15L14.4 9", 9)]
     leaf = [path(LEAF, "green", width=3)]
-    return [group(leaf, -18, -9, 1, -8), group(leaf, 17.4, 7, 1, 20), group(leaf, -6.4, 27, .84, -42),
+    return [group(leaf, -18, -9, 1, -8), group(leaf, 17.4, 7, 1, 20),
+            group(leaf, -6.4, 27, .84, -42),
             *merged([trunk] + stubs, "wood", width=3.2),
             flat("M5 -38.6C11 -37.6 13.4 -34 13 -26L6 41H1.6C5 14 7.8 -16 5 -38.6Z", "ink", 0.20),
             path(ellipse(0, -33, 9.6, 4.8), "gold", width=FINE),
             stroke("M-5 -18C-4 -9 -4 -3 -2.8 5M2.6 -22V-14M0.6 14C0.8 20 .6 24 .2 30", width=2.2),
-            path(circle(-16, -7.6, 4.2), "gold", width=2), path(circle(15, 8.4, 4), "gold", width=2)]
+            path(circle(-16, -7.6, 4.2), "gold", width=2),
+            path(circle(15, 8.4, 4), "gold", width=2)]
 
 
 def slim_bastos():

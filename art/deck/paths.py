@@ -77,7 +77,7 @@ STEPS = {
 
 
 def orders(d):
-    """Each order with its coordinates: ("M", x, y), ("L", x, y), ("C", x1, y1, x2, y2, x, y), ("Z",)."""
+    """Each order with its points: ("M", x, y), ("L", x, y), ("C", x1, y1, x2, y2, x, y), ("Z",)."""
     return _Reader(d).read()
 
 
@@ -96,7 +96,8 @@ def arc(x1, y1, rx, ry, large, sweep, x2, y2):
     elif not sweep and angle > 0:
         angle -= 2 * math.pi
     quarters = max(1, math.ceil(abs(angle) / (math.pi / 2) - 1e-9))
-    return [_quarter(cx, cy, rx, ry, begin + angle * i / quarters, begin + angle * (i + 1) / quarters)
+    return [_quarter(cx, cy, rx, ry, begin + angle * i / quarters,
+                     begin + angle * (i + 1) / quarters)
             for i in range(quarters)]
 
 

@@ -22,7 +22,8 @@ DRESS = {
 EYES = {
     "open": [flat(circle(-7.5, -1, 2.6), "ink"), flat(circle(7.5, -1, 2.6), "ink")],
     "laughing": [stroke("M-11 0Q-7.5 -5 -4 0M4 0Q7.5 -5 11 0", width=FINE)],
-    "winking": [flat(circle(-7.5, -1, 2.6), "ink"), stroke("M3.6 -1.6Q7.5 1.6 11.4 -1.6", width=FINE)],
+    "winking": [flat(circle(-7.5, -1, 2.6), "ink"),
+                stroke("M3.6 -1.6Q7.5 1.6 11.4 -1.6", width=FINE)],
 }
 BROWS = {
     "calm": "M-12 -8Q-8 -11 -4 -8.6M4 -8.6Q8 -11 12 -8",
@@ -36,25 +37,30 @@ MOUTHS = {
     "shouting": [path(ellipse(0, 15, 4.4, 4.8), "red", width=FINE)],
 }
 LEFT, AHEAD, RIGHT = -1, 0, 1
+FEATHER = "M0 0C6 -20 18 -30 36 -30C32 -24 36 -20 28 -15C31 -9 18 -4 8 -2Z"  # in a hat
 
 
 def face(gaze=AHEAD, eyes="open", brows="calm", mouth="smile"):
     """A head without hair; the gaze is to the left or the right of who looks at the card."""
     nose = "M0 -1L-2.4 7H1.6" if gaze != RIGHT else "M0 -1L2.4 7H-1.6"
-    features = EYES[eyes] + [stroke(BROWS[brows], width=FINE), stroke(nose, width=2.2)] + MOUTHS[mouth]
+    features = EYES[eyes] + [stroke(BROWS[brows], width=FINE),
+                             stroke(nose, width=2.2)] + MOUTHS[mouth]
     return [path("M-18 -6C-18 -24 18 -24 18 -6V5C18 17 9 24 0 24C-9 24 -18 17 -18 5Z", "skin"),
-            flat(circle(-10.5 + gaze, 8, 4), "red", .40), flat(circle(10.5 + gaze, 8, 4), "red", .40),
+            flat(circle(-10.5 + gaze, 8, 4), "red", .40),
+            flat(circle(10.5 + gaze, 8, 4), "red", .40),
             ("group", (1, 0, 0, 1, 4.5 * gaze, 0), features)]
 
 
 def moustache(colour):
-    return [path("M0 10.6C4 7.4 9 9 13 13.6C8 16.4 3 15.4 0 13C-3 15.4 -8 16.4 -13 13.6C-9 9 -4 7.4 0 10.6Z",
+    return [path("M0 10.6C4 7.4 9 9 13 13.6C8 16.4 3 15.4 0 13C-3 15.4 -8 16.4 -13 13.6"
+                 "C-9 9 -4 7.4 0 10.6Z",
                  colour, width=2)]
 
 
 def held(suit, x, y):
     """The emblem upright in a hand at x, y. The hand is drawn over it."""
-    scale, rise = {"oros": (.98, 31), "copas": (1.0, 17), "espadas": (1.16, 29), "bastos": (1.1, 28)}[suit]
+    scale, rise = {"oros": (.98, 31), "copas": (1.0, 17), "espadas": (1.16, 29),
+                   "bastos": (1.1, 28)}[suit]
     return [use(suit, x, y - rise, scale)]
 
 

@@ -1,7 +1,7 @@
 """The cards from two to seven: where their emblems stand, and how large.
 
-Every rank keeps one pattern, like a die: two a pair, three a triangle, four a square, five a cross, six
-a double row, seven six around one. The tall emblems stand in rows, the wide ones in columns."""
+Every rank keeps one pattern, like a die: two a pair, three a triangle, four a square, five a cross,
+six a double row, seven six around one. The tall emblems stand in rows, the wide ones in columns."""
 from .shapes import use
 
 COINS = {

@@ -62,7 +62,8 @@ def rectangle(x, y, w, h, r=0):
         return points("M{x} {y}H{x2}V{y2}H{x}Z", x=x, y=y, x2=x + w, y2=y + h)
     return points("M{xr} {y}H{x2r}A{r} {r} 0 0 1 {x2} {yr}V{y2r}A{r} {r} 0 0 1 {x2r} {y2}"
                   "H{xr}A{r} {r} 0 0 1 {x} {y2r}V{yr}A{r} {r} 0 0 1 {xr} {y}Z",
-                  x=x, y=y, r=r, x2=x + w, y2=y + h, xr=x + r, yr=y + r, x2r=x + w - r, y2r=y + h - r)
+                  x=x, y=y, r=r, x2=x + w, y2=y + h, xr=x + r, yr=y + r, x2r=x + w - r,
+                  y2r=y + h - r)
 
 
 def star(x, y, outer, inner, rays, turn=-90.0):

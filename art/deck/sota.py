@@ -1,15 +1,15 @@
-"""The sotas stand: a page with his coin, a girl with a cup, a guard with a sword, a lad with a club."""
-from .people import DRESS, LEFT, RIGHT, face, hand, held, moustache, open_hand
+"""The sotas: a page with a coin, a girl with a cup, a guard with a sword, a lad with a club."""
+from .people import DRESS, FEATHER, LEFT, RIGHT, face, hand, held, moustache, open_hand
 from .shapes import FINE, circle, flat, group, limb, path, rectangle, stroke, use
 
 LEFT_ON_HIP = "M72 132L46 157L68 173"
 RIGHT_ON_HIP = "M112 132L138 157L116 173"
 THICK = 13  # of arms and legs
-FEATHER = "M0 0C6 -20 18 -30 36 -30C32 -24 36 -20 28 -15C31 -9 18 -4 8 -2Z"
 
 
 def _legs(dress):
-    return [*limb("M80 208L72 268", THICK, dress.second), *limb("M104 208L112 268", THICK, dress.main),
+    return [*limb("M80 208L72 268", THICK, dress.second),
+            *limb("M104 208L112 268", THICK, dress.main),
             path("M63 266H80V282H49C49 275 57 273 63 266Z", "ink", width=2),
             path("M121 266H104V282H135C135 275 127 273 121 266Z", "ink", width=2)]
 
@@ -42,9 +42,11 @@ def _skirt(dress):
 def _head(suit, dress, look):
     hair = dress.hair["sota"]
     items = [path("M64 76C58 104 62 117 69 122H115C122 117 126 104 120 76Z", hair),
-             path("M68 124C68 114 79 111 92 116C105 111 116 114 116 124C108 133 76 133 68 124Z", "paper"),
+             path("M68 124C68 114 79 111 92 116C105 111 116 114 116 124C108 133 76 133 68 124Z",
+                  "paper"),
              group(look, 92, 88, 1.06),
-             path("M69 82C69 66 115 66 115 82C108 74 100 78 92 75C84 78 76 74 69 82Z", hair, width=FINE)]
+             path("M69 82C69 66 115 66 115 82C108 74 100 78 92 75C84 78 76 74 69 82Z", hair,
+                  width=FINE)]
     return items + HATS[suit](dress)
 
 
@@ -54,8 +56,9 @@ def _band(dress):
 
 def _beret(dress):
     return [path("M63 72C57 52 76 41 95 42C118 43 130 58 121 72C107 64 77 64 63 72Z", dress.main),
-            _band(dress), path("M98 46C98 30 110 21 128 24C124 30 130 35 121 39C125 44 112 48 104 49Z",
-                               "paper", width=FINE)]
+            _band(dress),
+            path("M98 46C98 30 110 21 128 24C124 30 130 35 121 39C125 44 112 48 104 49Z", "paper",
+                 width=FINE)]
 
 
 def _cap(dress):
@@ -64,7 +67,8 @@ def _cap(dress):
 
 
 def _steel_cap(dress):
-    return [path("M92 44C84 34 88 24 100 22C112 20 124 28 130 40C122 36 118 40 112 38C106 42 98 40 96 46Z",
+    return [path("M92 44C84 34 88 24 100 22C112 20 124 28 130 40C122 36 118 40 112 38"
+                 "C106 42 98 40 96 46Z",
                  "red", width=FINE),
             path("M65 74C62 54 76 44 92 44C108 44 122 54 119 74Q92 64 65 74Z", "paper"),
             flat("M98 46C110 48 119 56 117.4 71Q108 67.6 100 67C103 60 102 52 98 46Z", "blue"),
@@ -83,7 +87,8 @@ HATS = {"oros": _beret, "copas": _cap, "espadas": _steel_cap, "bastos": _pointed
 def _oros(dress):
     """A page with a hand on his hip looks at the coin that he holds up."""
     return [*_legs(dress), *limb(LEFT_ON_HIP, THICK, dress.main),
-            *limb("M114 132L139 149L148 128", THICK, dress.second), *held("oros", 150, 118), *hand(150, 117),
+            *limb("M114 132L139 149L148 128", THICK, dress.second), *held("oros", 150, 118),
+            *hand(150, 117),
             *_tunic(dress), *_head("oros", dress, face(gaze=RIGHT))]
 
 
@@ -93,7 +98,8 @@ def _copas(dress):
               for x in (60, 124) for y, r in ((116, 8), (129, 7.4), (141, 6.6))]
     ribbons = [path(circle(x, 151, 4.4), "red", width=FINE) for x in (60, 124)]
     return [*_skirt(dress), *_head("copas", dress, face(brows="raised")), *plaits, *ribbons,
-            *limb("M66 140L56 168L74 178", THICK, dress.main), *limb("M118 140L128 168L110 178", THICK, dress.main),
+            *limb("M66 140L56 168L74 178", THICK, dress.main),
+            *limb("M118 140L128 168L110 178", THICK, dress.main),
             use("copas", 92, 166, 1.06), *hand(78, 178), *hand(106, 178)]
 
 
@@ -103,14 +109,16 @@ def _espadas(dress):
     whiskers = group(moustache(dress.hair["sota"]), -4.5, 1, .9)
     return [*_legs(dress), *limb(RIGHT_ON_HIP, THICK, dress.second), *_tunic(dress),
             *_head("espadas", dress, look + [whiskers]),
-            use("espadas", 38, 224, 1.24, 180), *limb("M70 134L51 150L41 168", THICK, dress.main), *hand(39, 176)]
+            use("espadas", 38, 224, 1.24, 180), *limb("M70 134L51 150L41 168", THICK, dress.main),
+            *hand(39, 176)]
 
 
 def _bastos(dress):
     """A lad with the club over his shoulder waves."""
     return [*_legs(dress), *limb("M70 132L48 143L40 122", THICK, dress.main), *open_hand(39, 112),
             *_tunic(dress), *_head("bastos", dress, face(eyes="winking", brows="raised")),
-            use("bastos", 142, 124, 1.24, 24), *limb("M116 134L138 164L128 160", THICK, dress.second),
+            use("bastos", 142, 124, 1.24, 24), *limb("M116 134L138 164L128 160", THICK,
+                                                     dress.second),
             *hand(126, 158)]
 
 

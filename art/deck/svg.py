@@ -69,5 +69,6 @@ def card_svg(card, symbols):
 
 def icon_svg(side, items, text):
     lines = [HEAD.format(w=side, h=side), f"<title>{text}</title>",
-             '<g stroke-linejoin="round" stroke-linecap="round">', *elements(items), "</g>", "</svg>"]
+             '<g stroke-linejoin="round" stroke-linecap="round">', *elements(items), "</g>",
+             "</svg>"]
     return "\n".join(lines) + "\n"

@@ -1,5 +1,6 @@
 """Recognises mutants that only change the look of a window: sizes, margins, fonts, stretch, colours
-and positions. No test covers these."""
+and positions. No test covers these. The deck's drawings are never mutated: their tables are in
+ui/qt/deck_strokes.inc, which is no source."""
 
 import re
 

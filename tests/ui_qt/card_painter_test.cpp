@@ -9,8 +9,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <map>
+#include <string>
 #include <vector>
 
+#include "tests/support/tables.h"
 #include "tests/ui_qt/colours.h"
 
 namespace tasca::test {
@@ -76,26 +79,42 @@ TEST(CardPainter, DrawsEveryCardDifferently) {
   }
 }
 
-// Where the middle of the frame's upper line is broken, in units from the left.
+// Where the frame's upper line is broken, in units from the left.
 TEST(CardPainter, TellsTheSuitByTheGapsOfTheFrame) {
-  struct Case {
-    int Palo;
-    std::vector<int> Huecos;
-  };
-  const std::vector<Case> casos{{.Palo = Oros, .Huecos = {}},
-                                {.Palo = Copas, .Huecos = {100}},
-                                {.Palo = Espadas, .Huecos = {78, 122}},
-                                {.Palo = Bastos, .Huecos = {60, 100, 140}}};
+  const std::map<std::string, std::vector<int>> huecosDelPalo{
+      {"oros", {}}, {"copas", {100}}, {"espadas", {78, 122}}, {"bastos", {60, 100, 140}}};
   constexpr int alturaDelMarco = 11;
-  for (const Case& caso : casos) {
-    for (const int rango : {1, 7, 10}) {
-      const QImage carta = Picture(caso.Palo + rango, AltoEntero);
-      for (const int x : {30, 60, 78, 100, 122, 140, 170}) {
-        const bool roto = std::find(caso.Huecos.begin(), caso.Huecos.end(), x) != caso.Huecos.end();
-        EXPECT_TRUE(Near(carta.pixelColor(x, alturaDelMarco), roto ? Paper : Ink))
-            << caso.Palo + rango << " at " << x;
-      }
+  const Table t = MesaDePrueba();
+  for (int carta = 1; carta <= 40; ++carta) {
+    const QImage dibujo = Picture(carta, AltoEntero);
+    const std::vector<int>& huecos = huecosDelPalo.at(Utf8(t.Cartas[carta].Palo.Trimmed()));
+    for (const int x : {30, 60, 78, 100, 122, 140, 170}) {
+      const bool roto = std::find(huecos.begin(), huecos.end(), x) != huecos.end();
+      EXPECT_TRUE(Near(dibujo.pixelColor(x, alturaDelMarco), roto ? Paper : Ink))
+          << carta << " at " << x;
     }
+  }
+}
+
+// The number's corner is the same for the four cards of a rank, and for no others; only the numbers
+// of the figures, 10 to 12, have two digits.
+TEST(CardPainter, TellsTheRankByTheNumber) {
+  constexpr QRect rincon{20, 20, 25, 26};
+  constexpr QRect segundaCifra{44, 20, 12, 26};
+  const Table t = MesaDePrueba();
+  QList<QImage> dibujos;
+  for (int carta = 0; carta <= 40; ++carta) dibujos.push_back(Picture(carta, AltoEntero));
+  QImage enBlanco = dibujos[0];
+  enBlanco.fill(Paper);
+  const auto figuraDe = [&t](int carta) { return Utf8(t.Cartas[carta].Figura.Trimmed()); };
+  for (int carta = 1; carta <= 40; ++carta) {
+    const std::string figura = figuraDe(carta);
+    for (int deOros = 1; deOros <= 10; ++deOros) {
+      const bool igual = PixelsApart(dibujos[carta], dibujos[deOros], rincon) == 0;
+      EXPECT_EQ(igual, figura == figuraDe(deOros)) << carta << " and " << deOros;
+    }
+    const bool dosCifras = PixelsApart(dibujos[carta], enBlanco, segundaCifra) > 0;
+    EXPECT_EQ(dosCifras, figura == "Sota" || figura == "Caballo" || figura == "Rey") << carta;
   }
 }
 

@@ -5,7 +5,6 @@
 #include <QScreen>
 #include <QSessionManager>
 #include <QStyleHints>
-#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -62,6 +61,8 @@ Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), a
   // A blinking cursor would wake the processor while the program waits for a key.
   QGuiApplication::styleHints()->setCursorFlashTime(0);
   EnlargeOnTallScreens();
+  icono_.setSingleShot(true);
+  connect(&icono_, &QTimer::timeout, this, &Application::SetIconOnce);
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& gestor) {
     if (fin_.MayCome) AnswerSessionManager(gestor, fin_);
   });
@@ -85,7 +86,7 @@ void Application::SetIconOnce() {
 // The toolkit would close the windows one by one, and stay when a question refuses that.
 bool Application::event(QEvent* suceso) {
   if (suceso->type() == QEvent::ApplicationActivate) {
-    QTimer::singleShot(0, this, &Application::SetIconOnce);
+    icono_.start();
   }
   if (suceso->type() != QEvent::Quit || !fin_.Comes) return QApplication::event(suceso);
   fin_.Comes();

@@ -2,6 +2,7 @@
 // Shared by the game's and the editor's programs: the toolkit's settings, the event loop, and the
 // conversion of exceptions into exit statuses. No exception passes through the event loop.
 #include <QApplication>
+#include <QTimer>
 #include <QTranslator>
 #include <functional>
 #include <optional>
@@ -28,6 +29,7 @@ class Application : public QApplication {
   static void SetIconOnce();
 
   QTranslator castellano_;
+  QTimer icono_;
   SessionEnd fin_;
 };
 

@@ -10,6 +10,10 @@
 namespace tasca {
 namespace {
 
+// In place of a card's number.
+constexpr int Dorso = 0;
+constexpr int DorsoGirado = -1;
+
 // Painted in device pixels: the ratio is set only afterwards.
 QPixmap PaintCard(int carta, int alto, qreal dpr, bool oscuro) {
   const int altura = qRound(alto * dpr);
@@ -33,19 +37,19 @@ QPixmap CardPainter::Card(int carta, int alto, qreal dpr, bool oscuro) {
 }
 
 QPixmap CardPainter::Back(int alto, qreal dpr, bool oscuro, bool girado) {
-  if (!girado) return Card(0, alto, dpr, oscuro);
-  QPixmap& dibujo = dibujos_[{-1, alto, dpr, oscuro}];
+  if (!girado) return Card(Dorso, alto, dpr, oscuro);
+  QPixmap& dibujo = dibujos_[{DorsoGirado, alto, dpr, oscuro}];
   if (dibujo.isNull()) {
-    dibujo = Card(0, alto, dpr, oscuro).transformed(QTransform{}.rotate(90));
+    dibujo = Card(Dorso, alto, dpr, oscuro).transformed(QTransform{}.rotate(90));
   }
   return dibujo;
 }
 
 void CardPainter::ForgetOtherHeights(const std::vector<int>& altos, qreal dpr, bool oscuro) {
   std::erase_if(dibujos_, [&](const auto& uno) {
-    const Key& clave = uno.first;
-    return clave.Dpr != dpr || clave.Oscuro != oscuro ||
-           std::find(altos.begin(), altos.end(), clave.Alto) == altos.end();
+    const auto& [carta, alto, suDpr, suTema] = uno.first;
+    return suDpr != dpr || suTema != oscuro ||
+           std::find(altos.begin(), altos.end(), alto) == altos.end();
   });
 }
 

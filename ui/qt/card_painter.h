@@ -2,8 +2,8 @@
 // The cards as pictures. A picture is painted when it is first asked for, and kept.
 #include <QPixmap>
 #include <QPointF>
-#include <compare>
 #include <map>
+#include <tuple>
 #include <vector>
 
 class QPainter;
@@ -34,14 +34,8 @@ class CardPainter {
   int Kept() const { return static_cast<int>(dibujos_.size()); }
 
  private:
-  struct Key {
-    int Carta;  // 0 for the back, -1 for the back on its side
-    int Alto;
-    qreal Dpr;
-    bool Oscuro;
-
-    auto operator<=>(const Key&) const = default;
-  };
+  // The card, its height, the device pixel ratio, and whether the theme is dark.
+  using Key = std::tuple<int, int, qreal, bool>;
 
   std::map<Key, QPixmap> dibujos_;
 };
