@@ -41,24 +41,31 @@ int PixelsApart(const QImage& una, const QImage& otra, const QRect& donde) {
   return cuenta;
 }
 
+struct Medida {
+  int Alto;
+  double Dpr;
+  QSize Esperado;
+};
+// The height times the ratio, and that times 200 / 308, each rounded.
+const std::vector<Medida> Medidas{{.Alto = 56, .Dpr = 1, .Esperado = {36, 56}},
+                                  {.Alto = 101, .Dpr = 1, .Esperado = {66, 101}},
+                                  {.Alto = 101, .Dpr = 1.25, .Esperado = {82, 126}},
+                                  {.Alto = 101, .Dpr = 1.5, .Esperado = {99, 152}},
+                                  {.Alto = 101, .Dpr = 2, .Esperado = {131, 202}},
+                                  {.Alto = 308, .Dpr = 2, .Esperado = {400, 616}}};
+
 TEST(CardPainter, GivesWholeDevicePixels) {
-  struct Case {
-    int Alto;
-    double Dpr;
-    QSize Esperado;
-  };
-  // The height times the ratio, and that times 200 / 308, each rounded.
-  const std::vector<Case> casos{{.Alto = 56, .Dpr = 1, .Esperado = {36, 56}},
-                                {.Alto = 101, .Dpr = 1, .Esperado = {66, 101}},
-                                {.Alto = 101, .Dpr = 1.25, .Esperado = {82, 126}},
-                                {.Alto = 101, .Dpr = 1.5, .Esperado = {99, 152}},
-                                {.Alto = 101, .Dpr = 2, .Esperado = {131, 202}},
-                                {.Alto = 308, .Dpr = 2, .Esperado = {400, 616}}};
   CardPainter pintor;
-  for (const Case& caso : casos) {
+  for (const Medida& caso : Medidas) {
     const QPixmap carta = pintor.Card(1, caso.Alto, caso.Dpr, false);
     EXPECT_EQ(carta.size(), caso.Esperado) << caso.Alto << " x " << caso.Dpr;
     EXPECT_EQ(carta.devicePixelRatio(), caso.Dpr);
+  }
+}
+
+TEST(CardPainter, GivesBacksOfTheSameSize) {
+  CardPainter pintor;
+  for (const Medida& caso : Medidas) {
     EXPECT_EQ(pintor.Back(caso.Alto, caso.Dpr, true, false).size(), caso.Esperado);
     const QPixmap girada = pintor.Back(caso.Alto, caso.Dpr, true, true);
     EXPECT_EQ(girada.size(), caso.Esperado.transposed());
