@@ -14,7 +14,7 @@ class Dress:
 
 DRESS = {
     "oros": Dress("gold", "blue", "red", {"sota": "ink", "caballo": "gold", "rey": "paper"}),
-    "copas": Dress("red", "gold", "paper", {"sota": "gold", "caballo": "ink", "rey": "ink"}),
+    "copas": Dress("red", "gold", "paper", {"sota": "wood", "caballo": "ink", "rey": "ink"}),
     "espadas": Dress("blue", "red", "gold", {"sota": "red", "caballo": "ink", "rey": "wood"}),
     "bastos": Dress("green", "gold", "red", {"sota": "wood", "caballo": "red", "rey": "gold"}),
 }

@@ -32,9 +32,9 @@ def _skirt(dress):
     return [path("M70 266H86V282H60C60 275 64 272 70 266Z", "ink", width=2),
             path("M114 266H98V282H124C124 275 120 272 114 266Z", "ink", width=2),
             path("M67 122Q92 130 117 122L124 133L113 172C122 200 134 240 137 264Q92 282 47 264"
-                 "C50 240 62 200 71 172L60 133Z", dress.main),
+                 "C50 240 62 200 71 172L60 133Z", dress.second),
             path("M80 174H104C110 206 115 236 116 260Q92 266 68 260C69 236 74 206 80 174Z",
-                 dress.second, width=FINE),
+                 dress.main, width=FINE),
             stroke("M52 252Q60 257 66 258.4M118 258.4Q126 256.4 132 252", dress.trim, 5),
             *_belt(dress)]
 
@@ -98,8 +98,8 @@ def _copas(dress):
               for x in (60, 124) for y, r in ((116, 8), (129, 7.4), (141, 6.6))]
     ribbons = [path(circle(x, 151, 4.4), "red", width=FINE) for x in (60, 124)]
     return [*_skirt(dress), *_head("copas", dress, face(brows="raised")), *plaits, *ribbons,
-            *limb("M66 140L56 168L74 178", THICK, dress.main),
-            *limb("M118 140L128 168L110 178", THICK, dress.main),
+            *limb("M66 140L56 168L74 178", THICK, dress.second),
+            *limb("M118 140L128 168L110 178", THICK, dress.second),
             use("copas", 92, 166, 1.06), *hand(78, 178), *hand(106, 178)]
 
 
