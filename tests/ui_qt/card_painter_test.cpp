@@ -23,10 +23,14 @@ constexpr int Oros = 0;
 constexpr int Copas = 10;
 constexpr int Espadas = 20;
 constexpr int Bastos = 30;
+constexpr int Reverso = 0;       // in place of a card's number
 constexpr int AltoEntero = 308;  // one pixel for each unit of the drawings
 
 QImage Picture(int carta, int alto, bool oscuro = false) {
-  return CardPainter{}.Card(carta, alto, 1, oscuro).toImage();
+  CardPainter pintor;
+  const QPixmap dibujo =
+      carta == Reverso ? pintor.Back(alto, 1, oscuro, false) : pintor.Card(carta, alto, 1, oscuro);
+  return dibujo.toImage();
 }
 
 int PixelsApart(const QImage& una, const QImage& otra, const QRect& donde) {
@@ -133,11 +137,13 @@ TEST(CardPainter, PaintsTheColoursOfTheDrawings) {
     QColor Esperado;
   };
   const std::vector<Case> casos{
-      {.Carta = Oros + 1, .Donde = {149, 164}, .Esperado = Red},     // between two rays of the sun
-      {.Carta = Oros + 1, .Donde = {33, 145}, .Esperado = Gold},     // the rim, between two beads
-      {.Carta = Oros + 1, .Donde = {20, 154}, .Esperado = Paper},    // beside the sun
-      {.Carta = Oros + 2, .Donde = {100, 218}, .Esperado = Paper},   // a coin's middle
-      {.Carta = Oros + 2, .Donde = {62, 218}, .Esperado = Gold},     // and its rim
+      {.Carta = Oros + 1, .Donde = {149, 164}, .Esperado = Red},    // between two rays of the sun
+      {.Carta = Oros + 1, .Donde = {33, 145}, .Esperado = Gold},    // the rim, between two beads
+      {.Carta = Oros + 1, .Donde = {20, 154}, .Esperado = Paper},   // beside the sun
+      {.Carta = Oros + 2, .Donde = {100, 218}, .Esperado = Paper},  // a coin's middle
+      {.Carta = Oros + 2, .Donde = {62, 218}, .Esperado = Gold},    // and its rim
+      {.Carta = Oros + 2, .Donde = {138, 218}, .Esperado = {215, 160, 35}},  // a tenth of ink on it
+      {.Carta = Espadas + 1, .Donde = {90, 45}, .Esperado = Ink},    // the point's left edge
       {.Carta = Copas + 1, .Donde = {70, 140}, .Esperado = Red},     // the bowl
       {.Carta = Espadas + 1, .Donde = {92, 80}, .Esperado = Paper},  // the blade's light half
       {.Carta = Espadas + 1, .Donde = {109, 80}, .Esperado = Blue},  // and its dark half
@@ -166,13 +172,13 @@ TEST(CardPainter, HasAPaperAndABackForTheDarkTheme) {
   const auto margen = [](const QImage& dorso) {
     return std::abs(dorso.pixelColor(5, 154).lightness() - dorso.pixelColor(15, 11).lightness());
   };
-  EXPECT_LT(margen(Picture(0, AltoEntero, true)), margen(Picture(0, AltoEntero)));
+  EXPECT_LT(margen(Picture(Reverso, AltoEntero, true)), margen(Picture(Reverso, AltoEntero)));
 }
 
 // Nobody can tell from a back which way up the card lies.
 TEST(CardPainter, DrawsABackThatIsTheSameUpsideDown) {
   for (const int alto : {60, 200}) {
-    const QImage dorso = Picture(0, alto);
+    const QImage dorso = Picture(Reverso, alto);
     const QImage alReves = dorso.transformed(QTransform{}.rotate(180));
     EXPECT_EQ(PixelsApart(dorso, alReves, dorso.rect()), 0) << alto;
   }
