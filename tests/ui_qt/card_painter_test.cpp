@@ -148,6 +148,8 @@ TEST(CardPainter, PaintsTheColoursOfTheDrawings) {
       {.Carta = Espadas + 1, .Donde = {92, 80}, .Esperado = Paper},  // the blade's light half
       {.Carta = Espadas + 1, .Donde = {109, 80}, .Esperado = Blue},  // and its dark half
       {.Carta = Espadas + 1, .Donde = {100, 262}, .Esperado = Red},  // the pommel's middle
+      {.Carta = Bastos + 8, .Donde = {159, 87}, .Esperado = Gold},   // the end of the leaning club
+      {.Carta = Bastos + 8, .Donde = {128, 107}, .Esperado = Gold},  // a knot of it
       {.Carta = Bastos + 10, .Donde = {23, 40}, .Esperado = Paper},  // beside the 1 of 12
       {.Carta = Bastos + 10, .Donde = {29, 40}, .Esperado = Ink}};   // and on it
   for (const Case& caso : casos) {
@@ -164,6 +166,15 @@ TEST(CardPainter, RoundsTheCorners) {
     EXPECT_EQ(carta.pixelColor(esquina).alpha(), 0);
   }
   EXPECT_EQ(carta.pixelColor(5, 154).alpha(), 255);
+  // Smoothly: the curve, of a radius of 13 pixels, runs through pixels that it covers in part.
+  int cubiertosEnParte = 0;
+  for (int x = 0; x < 13; ++x) {
+    for (int y = 0; y < 13; ++y) {
+      const int alfa = carta.pixelColor(x, y).alpha();
+      if (alfa > 0 && alfa < 255) ++cubiertosEnParte;
+    }
+  }
+  EXPECT_GE(cubiertosEnParte, 8);
 }
 
 TEST(CardPainter, HasAPaperAndABackForTheDarkTheme) {

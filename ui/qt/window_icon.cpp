@@ -10,11 +10,9 @@
 namespace tasca {
 namespace {
 
-constexpr int GrandeDesde = 48;  // pixels; the small drawings are for smaller icons
-
-// The small drawings fill exactly their own number of pixels.
+// A small drawing fits exactly its own number of pixels, and serves for fewer; the last serves for
+// all others.
 const IconDrawing& DrawingFor(int lado) {
-  if (lado >= GrandeDesde) return IconDrawings.back();
   return *std::find_if(IconDrawings.begin(), IconDrawings.end() - 1,
                        [lado](const IconDrawing& dibujo) { return dibujo.Side >= lado; });
 }
