@@ -76,9 +76,9 @@ struct CeldaPizarra {
   NumeroLance Lance = NumeroLance::Grande;
   MarcaLance Marca = MarcaLance::Ninguna;
   EstadoLance Estado = EstadoLance::PorJugar;
-  int Piedras = 0;           // set for Envite and Queridas
-  int Vistas = 0;            // set for Envite
-  std::optional<Pareja> De;  // set for Envite, Ordago and SinEnvite
+  int Piedras = 0;                          // set for Envite and Queridas
+  int Vistas = 0;                           // set for Envite
+  std::optional<Pareja> De = std::nullopt;  // set for Envite, Ordago and SinEnvite
 
   bool operator==(const CeldaPizarra&) const = default;
 };

@@ -1,0 +1,80 @@
+// The words on the table.
+#include "ui/mesa/palabras.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/tables.h"
+
+namespace tasca::test {
+namespace {
+
+std::string Estado(CeldaPizarra celda) { return Utf8(EstadoEscrito(celda)); }
+
+TEST(EstadoEscrito, TellsHowALanceStands) {
+  using E = EstadoLance;
+  constexpr auto grande = NumeroLance::Grande;
+  const auto simple = [](E estado) { return Estado({.Lance = grande, .Estado = estado}); };
+  EXPECT_EQ(simple(E::PorJugar), "—");
+  EXPECT_EQ(simple(E::NoSeJugo), "—");
+  EXPECT_EQ(simple(E::Declaran), "declaran");
+  EXPECT_EQ(simple(E::Ordago), "¡órdago!");
+  EXPECT_EQ(simple(E::OrdagoQuerido), "órdago querido");
+  EXPECT_EQ(simple(E::NoHay), "no hay");
+  EXPECT_EQ(simple(E::EnPaso), "en paso");
+  EXPECT_EQ(simple(E::SinEnvite), "sin envite");
+}
+
+TEST(EstadoEscrito, CountsTheStonesOfABet) {
+  using E = EstadoLance;
+  EXPECT_EQ(Estado({.Estado = E::Envite, .Piedras = 2}), "envite 2");
+  EXPECT_EQ(Estado({.Estado = E::Envite, .Piedras = 4, .Vistas = 2}), "2 vistas + 4");
+  EXPECT_EQ(Estado({.Estado = E::Envite, .Piedras = 4, .Vistas = 1}), "1 vista + 4");
+  EXPECT_EQ(Estado({.Estado = E::Queridas, .Piedras = 6}), "6 queridas");
+  EXPECT_EQ(Estado({.Estado = E::Queridas, .Piedras = 1}), "1 querida");
+}
+
+TEST(EstadoEscrito, AgreesWithTheLance) {
+  const auto no = [](NumeroLance lance) {
+    return Estado({.Lance = lance, .Estado = EstadoLance::NoQuerida});
+  };
+  EXPECT_EQ(no(NumeroLance::Grande), "no querida");
+  EXPECT_EQ(no(NumeroLance::Pequena), "no querida");
+  EXPECT_EQ(no(NumeroLance::Pares), "no queridos");
+  EXPECT_EQ(no(NumeroLance::Juego), "no querido");
+  EXPECT_EQ(no(NumeroLance::Punto), "no querido");
+}
+
+TEST(NombreDeCarta, NamesRankAndSuit) {
+  EXPECT_EQ(Utf8(NombreDeCarta(1)), "As de oros");
+  EXPECT_EQ(Utf8(NombreDeCarta(20)), "Rey de copas");
+  EXPECT_EQ(Utf8(NombreDeCarta(28)), "Sota de espadas");
+  EXPECT_EQ(Utf8(NombreDeCarta(39)), "Caballo de bastos");
+}
+
+TEST(NombreDeLance, NamesTheFive) {
+  EXPECT_EQ(Utf8(NombreDeLance(NumeroLance::Grande)), "Grande");
+  EXPECT_EQ(Utf8(NombreDeLance(NumeroLance::Pequena)), "Pequeña");
+  EXPECT_EQ(Utf8(NombreDeLance(NumeroLance::Pares)), "Pares");
+  EXPECT_EQ(Utf8(NombreDeLance(NumeroLance::Juego)), "Juego");
+  EXPECT_EQ(Utf8(NombreDeLance(NumeroLance::Punto)), "Punto");
+}
+
+TEST(ParesEscritos, AreSilentWhileNothingIsKnown) {
+  EXPECT_EQ(Utf8(ParesEscritos(Declarado::Si)), "pares sí");
+  EXPECT_EQ(Utf8(JuegoEscrito(Declarado::No)), "juego no");
+  EXPECT_EQ(Utf8(ParesEscritos(Declarado::SinSaber)), "");
+}
+
+TEST(ParejaEscrita, SaysWhoseItIs) {
+  EXPECT_EQ(Utf8(ParejaEscrita(1)), "Pareja 1: nosotros");
+  EXPECT_EQ(Utf8(ParejaEscrita(0)), "Pareja 0: ellos");
+}
+
+TEST(EnPalabras, WritesSmallNumbersOut) {
+  EXPECT_EQ(Utf8(EnPalabras(0)), "ninguna");
+  EXPECT_EQ(Utf8(EnPalabras(4)), "cuatro");
+  EXPECT_EQ(Utf8(EnPalabras(5)), "5");
+}
+
+}  // namespace
+}  // namespace tasca::test
