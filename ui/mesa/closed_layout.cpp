@@ -37,8 +37,10 @@ double DebajoDeLaPila(const Medidas& m) { return (0.6 + ConDistintivos) * m.f; }
 
 double AnchoCompanero(double alto) { return alto * ProporcionCarta * (4 - 3 * 0.38); }
 
-double AltoMinimoDelLado(const Medidas& m) {
-  return PilaDe(m.AltoOtros, PasoHolgado).Altura() + DebajoDeLaPila(m) + (AltoGlobo(1) + 1.2) * m.f;
+// With a bubble of so many lines above the pile.
+double AltoMinimoDelLado(const Medidas& m, int lineas) {
+  return PilaDe(m.AltoOtros, PasoHolgado).Altura() + DebajoDeLaPila(m) +
+         (AltoGlobo(lineas) + 1.2) * m.f;
 }
 
 Zonas ZonasBajas(const Medidas& m) {
@@ -57,7 +59,8 @@ Zonas ZonasDe(const Medidas& m) {
   z.LadoAbajo = m.Techo;
   for (const int lineas : {4, 3, 2}) {
     const double banda = std::max(AltoGlobo(lineas), ConDistintivos) + 0.6;
-    if (m.Techo - m.Util.Y - banda * m.f < AltoMinimoDelLado(m)) continue;
+    const int alLado = lineas == 2 ? 1 : lineas + 1;
+    if (m.Techo - m.Util.Y - banda * m.f < AltoMinimoDelLado(m, alLado)) continue;
     z.Banda = banda * m.f;
     z.LadoArriba += z.Banda;
     break;
@@ -103,6 +106,12 @@ double AlturaDeLaPila(const Composicion& c, const Rect& lado, double sobra, cons
   return std::round(lado.Y + std::max({sobra / 2, dosLineas, std::min(sobra, dicho)}));
 }
 
+// A long name may reach into the free cloth, where there is much of it.
+double AlcanceDePlaca(const Medidas& m, const Zonas& z) {
+  if (z.Banda <= 0) return z.Columna;
+  return std::max(z.Columna, std::min(1.3 * z.Columna, m.Util.Ancho / 2 - 12 * m.f));
+}
+
 void PonerLado(const Composicion& c, Seat asiento, const Zonas& z) {
   const double f = c.M.f;
   const bool izquierda = asiento == 4;
@@ -119,7 +128,8 @@ void PonerLado(const Composicion& c, Seat asiento, const Zonas& z) {
   const double y = encima ? AlturaDeLaPila(c, lado, sobra, globo) : std::round(lado.Y);
   const Rect cartas{izquierda ? x : lado.Derecha() - pila.Alto, y, pila.Alto, pila.Altura()};
   PonerPila(c, asiento, pila, cartas.X, cartas.Y);
-  const Rect debajo{x, cartas.Abajo() + 0.6 * f, z.Columna, 0};
+  const double alcance = AlcanceDePlaca(c.M, z);
+  const Rect debajo{izquierda ? x : lado.Derecha() - alcance, cartas.Abajo() + 0.6 * f, alcance, 0};
   PonerPlacaYDistintivos(c, asiento, debajo, izquierda ? Alineado::Izquierda : Alineado::Derecha);
   if (encima) return PonerGloboEncima(c, asiento, lado, globo, cartas);
   PonerGloboAlLado(c, asiento, lado, cartas);
@@ -173,7 +183,7 @@ double PonerCompanero(const Composicion& c, const Zonas& z) {
     PonerPlacaYDistintivos(c, 3, {sitio.X, y, sitio.Ancho, 0}, Alineado::Centro);
     return PonerGloboDelCompanero(c, sitio, cartas, false, y + ConDistintivos * f);
   }
-  const double ancho = z.Banda > 0 ? std::min(lado, std::max(13 * f, lado * 0.65)) : lado;
+  const double ancho = z.Banda > 0 ? std::min(lado, std::max(16 * f, lado * 0.65)) : lado;
   PonerPlacaYDistintivos(c, 3, {cartas.X - 0.9 * f - ancho, cartas.Y, ancho, 0}, Alineado::Derecha);
   const double debajo = std::max(cartas.Abajo(), cartas.Y + ConDistintivos * f);
   return PonerGloboDelCompanero(c, sitio, cartas, true, debajo);
@@ -184,9 +194,15 @@ double PonerCompanero(const Composicion& c, const Zonas& z) {
 void PonerOtrosTapados(const Composicion& c) {
   const Zonas z = ZonasDe(c.M);
   PonerLado(c, 2, z);
-  const double debajo = PonerCompanero(c, z);
   PonerLado(c, 4, z);
-  const double margen = z.Columna + 0.6 * c.M.f;
+  double ocupado = z.Columna;
+  for (const Pieza& pieza : c.Hoja.Piezas) {
+    const Rect donde = Lugar(pieza);
+    ocupado =
+        std::max(ocupado, std::min(donde.Derecha() - c.M.Util.X, c.M.Util.Derecha() - donde.X));
+  }
+  const double debajo = PonerCompanero(c, z);
+  const double margen = ocupado + 0.6 * c.M.f;
   c.Hoja.Libre = Entre(c.M.Util.X + margen, std::max(debajo, c.M.Util.Y + z.Banda) + 0.4 * c.M.f,
                        c.M.Util.Derecha() - margen, c.M.Techo);
 }

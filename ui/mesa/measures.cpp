@@ -9,7 +9,7 @@ namespace {
 
 constexpr double AltoTecla = 2.9;   // of the Enter key, in letters
 constexpr double AltoFila = 3.1;    // of the row above the cards
-constexpr double LadoMinimo = 8.5;  // beside the player's cards, for the plate
+constexpr double LadoMinimo = 9.4;  // beside the player's cards, for the plate
 
 bool HayAbiertas(const Escena& escena) {
   for (Seat asiento = 2; asiento <= 4; ++asiento) {
@@ -27,7 +27,7 @@ double AltoQueCabe(const Medidas& m, double ancho) {
   return (ancho - 3 * m.Hueco) / 4 / ProporcionCarta;
 }
 
-double AltoPizarra(const Medidas& m) { return m.f * (m.Baja ? 4.1 : 4.8); }
+double AltoPizarra(const Medidas& m) { return m.f * (m.Baja ? 4.1 : 5.0); }
 
 double Separacion(const Medidas& m) { return m.f * (m.Baja ? 0.45 : 0.9); }
 

@@ -40,6 +40,7 @@ enum class Lado { Abajo, Izquierda, Derecha };
 struct Bocadillo {
   Rect Donde;
   std::vector<std::u16string> Lineas;
+  double Letras = 1;  // their size, in letters of the system's font
   Seat De = AsientoHumano;
   bool EsElUltimo = false;
   Lado Punta = Lado::Abajo;

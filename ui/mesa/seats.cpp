@@ -111,7 +111,7 @@ Letra LetraDeGlobo(const Composicion& c) { return {c.M.Baja ? 1.0 : 1.06, false}
 Rect PonerPlaca(const Composicion& c, Seat asiento, const Rect& sitio, Alineado a) {
   const double f = c.M.f;
   const AsientoVisto& visto = c.Vista.Asientos[asiento];
-  const double adornos = f * (visto.EsMano ? 4.4 : 2.6);
+  const double adornos = f * (visto.EsMano ? 4.2 : 2.5);
   Placa placa;
   placa.De = asiento;
   placa.EsMano = visto.EsMano;
@@ -172,6 +172,7 @@ void PonerGlobo(const Composicion& c, Seat asiento, const Globo& globo, double x
   if (globo.Lineas.empty()) return;
   c.Hoja.Piezas.emplace_back(Bocadillo{{x, y, globo.Ancho, globo.Alto},
                                        globo.Lineas,
+                                       LetraDeGlobo(c).Factor,
                                        asiento,
                                        c.Vista.Asientos[asiento].HaHabladoElUltimo,
                                        punta,

@@ -4,10 +4,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QScreen>
+#include <QTextBlock>
 #include <QTextDocument>
-#include <QVBoxLayout>
 #include <utility>
 
 #include "base/keys.h"
@@ -55,15 +54,29 @@ bool Renovar(std::u16string& copiado, const std::u16string& texto) {
   return true;
 }
 
+Rect InWindow(const QWidget& control, const Rect& r) {
+  const QPoint esquina = control.mapTo(control.window(), QPoint{});
+  return {r.X + esquina.x(), r.Y + esquina.y(), r.Ancho, r.Alto};
+}
+
+Rect InWindow(const QWidget& control, const QRect& r) {
+  return InWindow(control, Rect{static_cast<double>(r.x()), static_cast<double>(r.y()),
+                                static_cast<double>(r.width()), static_cast<double>(r.height())});
+}
+
 }  // namespace
 
-Form1::Form1(Events sucesos, bool conSonido)
+Form1::Form1(Events sucesos, bool conSonido, bool conMesa)
     : sucesos_{std::move(sucesos)},
       text1_{new InputLine{this, [this](const QKeyEvent& suceso) { return KeyInText1(suceso); }}},
       text2_{new Transcript{this}},
       text3_{new QLineEdit{this}},
-      ayuda_{new QLabel{this}} {
+      ayuda_{new QLabel{this}},
+      mesa_{new MesaView{this, [this] { PressEnter(); }}},
+      marcador_{new ScoreView{this}},
+      reparto_{BuildLayout()} {
   ayuda_->setTextFormat(Qt::PlainText);
+  ayuda_->setWordWrap(true);
   setObjectName(QStringLiteral("Form1"));
   setWindowTitle(ToDisplay(TituloAplicacion));
   text1_->setObjectName(QStringLiteral("Text1"));
@@ -75,27 +88,28 @@ Form1::Form1(Events sucesos, bool conSonido)
   text3_->setReadOnly(true);
   text2_->installEventFilter(this);
   text3_->installEventFilter(this);
-  BuildLayout();
-  layout()->setMenuBar(BuildMenu(conSonido));
+  reparto_->setMenuBar(BuildMenu(conSonido, conMesa));
+  reparto_->ShowPicture(conMesa);
   ShowHelp(conSonido);
   EnlargeTexts();
   resize(QGuiApplication::primaryScreen()->availableSize() * 0.8);
   text1_->setFocus();
 }
 
-void Form1::BuildLayout() {
-  auto* const tanteo = new QHBoxLayout;
-  tanteo->addWidget(Etiqueta(QStringLiteral("Tanteo (su pareja / la contraria):"), text3_));
-  tanteo->addWidget(text3_, 1);
-  auto* const ventana = new QVBoxLayout{this};
-  ventana->addLayout(tanteo);
-  ventana->addWidget(text2_, 1);
-  ventana->addWidget(Etiqueta(QStringLiteral("Sus cartas:"), text1_));
-  ventana->addWidget(text1_);
-  ventana->addWidget(ayuda_);
+Form1Layout* Form1::BuildLayout() {
+  return new Form1Layout{
+      this,
+      {.Mesa = mesa_,
+       .Tanteo = marcador_,
+       .RotuloTexto3 = Etiqueta(QStringLiteral("Tanteo (su pareja / la contraria):"), text3_),
+       .Texto3 = text3_,
+       .Texto2 = text2_,
+       .RotuloTexto1 = Etiqueta(QStringLiteral("Sus cartas:"), text1_),
+       .Texto1 = text1_,
+       .Ayuda = ayuda_}};
 }
 
-QMenuBar* Form1::BuildMenu(bool conSonido) {
+QMenuBar* Form1::BuildMenu(bool conSonido, bool conMesa) {
   auto* const menus = new QMenuBar{this};
   auto* const opciones = menus->addMenu(QStringLiteral("&Opciones"));
   auto* const sonido = opciones->addAction(QStringLiteral("&Sonido"));
@@ -108,7 +122,19 @@ QMenuBar* Form1::BuildMenu(bool conSonido) {
     ShowHelp(encendido);
     sucesos_.Sonido_Click(encendido);
   });
+  AddPictureEntry(*opciones, conMesa);
   return menus;
+}
+
+void Form1::AddPictureEntry(QMenu& opciones, bool conMesa) {
+  auto* const mesa = opciones.addAction(QStringLiteral("&Mesa dibujada"));
+  mesa->setObjectName(QStringLiteral("MesaDibujada"));
+  mesa->setCheckable(true);
+  mesa->setChecked(conMesa);
+  connect(mesa, &QAction::toggled, this, [this](bool dibujada) {
+    reparto_->ShowPicture(dibujada);
+    sucesos_.Mesa_Click(dibujada);
+  });
 }
 
 void Form1::ShowHelp(bool conSonido) {
@@ -121,10 +147,42 @@ void Form1::ShowHelp(bool conSonido) {
 void Form1::ShowTexts(const Form1State& estado) {
   text1_->ShowText(ToDisplay(estado.Text1));
   if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
-  if (Renovar(copiado3_, estado.Text3)) text3_->setText(ToDisplay(estado.Text3));
+  if (!Renovar(copiado3_, estado.Text3)) return;
+  text3_->setText(ToDisplay(estado.Text3));
+  text3_->home(false);
+}
+
+void Form1::ShowTable(const Table& t, Momento momento) {
+  ShowTexts(t);
+  const Escena escena = EscenaDe(t, momento);
+  mesa_->ShowScene(escena);
+  marcador_->ShowScene(escena);
 }
 
 void Form1::FocusInput() { text1_->setFocus(); }
+
+// Without the picture the cards are those of the input line.
+Alrededores Form1::Surroundings() const {
+  Alrededores a;
+  a.Ventana = InWindow(*this, rect());
+  a.Nunca.push_back(InWindow(*text2_, text2_->LastLine()));
+  if (mesa_->isHidden()) {
+    a.Nunca.push_back(InWindow(*text1_, text1_->rect()));
+    return a;
+  }
+  const auto enLaMesa = [this](const Rect& r) { return InWindow(*mesa_, r); };
+  const Lamina& hoja = mesa_->Sheet();
+  a.Libre = enLaMesa(hoja.Libre);
+  a.Nunca.push_back(enLaMesa(hoja.Mano));
+  if (!hoja.Pizarra.Vacio()) a.Nunca.push_back(enLaMesa(hoja.Pizarra));
+  for (const Pieza& pieza : hoja.Piezas) {
+    const bool seLee = std::holds_alternative<Bocadillo>(pieza) ||
+                       std::holds_alternative<Placa>(pieza) ||
+                       std::holds_alternative<Distintivo>(pieza);
+    if (seLee) a.MejorNo.push_back(enLaMesa(Lugar(pieza)));
+  }
+  return a;
+}
 
 // Form_KeyDown: a key that no control has handled moves the focus to the input line. Reading keys
 // are excluded: the Ctrl of Ctrl+C, or an arrow at the end of a text, must not move it.
@@ -136,6 +194,20 @@ void Form1::keyPressEvent(QKeyEvent* suceso) {
 void Form1::closeEvent(QCloseEvent* suceso) {
   suceso->accept();
   sucesos_.Closed();
+}
+
+void Form1::changeEvent(QEvent* suceso) {
+  QWidget::changeEvent(suceso);
+  if (suceso->type() != QEvent::FontChange) return;
+  EnlargeTexts();
+  reparto_->invalidate();
+}
+
+// The key cap does what the key does in the input line.
+void Form1::PressEnter() {
+  FocusInput();
+  const QKeyEvent enter{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier};
+  KeyInText1(enter);
 }
 
 // Passes keys typed in the read-only boxes on to the input line.
@@ -150,11 +222,12 @@ bool Form1::eventFilter(QObject* objeto, QEvent* suceso) {
 
 // The game's texts get a larger font than labels and menus.
 void Form1::EnlargeTexts() {
-  QFont fuente = Scaled(QApplication::font(), 1.3);
+  const QFont fuente = Scaled(QApplication::font(), 1.3);
   text1_->setFont(fuente);
   text2_->setFont(fuente);
-  fuente.setBold(true);
-  text3_->setFont(fuente);
+  QFont negrita = Scaled(QApplication::font(), 1.14);
+  negrita.setBold(true);
+  text3_->setFont(negrita);
   const int margen = QFontMetrics{fuente}.averageCharWidth();
   text1_->document()->setDocumentMargin(margen);
   text2_->document()->setDocumentMargin(margen);

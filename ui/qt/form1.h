@@ -1,5 +1,6 @@
 #pragma once
-// The main window: the scoreboard Text3, the transcript Text2 and the input line Text1.
+// The main window: the scoreboard Text3, the transcript Text2 and the input line Text1, with the
+// drawn table beside them.
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -7,8 +8,12 @@
 #include <functional>
 #include <string>
 
-#include "table/table.h"
+#include "scene/scene.h"
+#include "ui/mesa/box_place.h"
+#include "ui/qt/form1_layout.h"
 #include "ui/qt/input_line.h"
+#include "ui/qt/mesa_view.h"
+#include "ui/qt/score_view.h"
 #include "ui/qt/transcript.h"
 
 namespace tasca {
@@ -22,26 +27,36 @@ class Form1 : public QWidget {
     // The player has switched the sound on or off.
     std::function<void(bool encendido)> Sonido_Click;
     std::function<void()> Closed;
+    // The player puts the drawn table away or back.
+    std::function<void(bool dibujada)> Mesa_Click = [](bool) {};
   };
 
-  // `conSonido` is the initial state of the menu entry "Sonido".
-  explicit Form1(Events sucesos, bool conSonido = true);
+  // `conSonido` and `conMesa` are the initial states of the menu entries "Sonido" and
+  // "Mesa dibujada".
+  explicit Form1(Events sucesos, bool conSonido = true, bool conMesa = true);
 
   // Shows the three texts. Replaces what the player has typed into Text1.
   void ShowTexts(const Form1State& estado);
+  // The same, with the table drawn at that moment.
+  void ShowTable(const Table& t, Momento momento);
   // Moves the focus to Text1.
   void FocusInput();
+  // What a box over this window must not cover, and better does not.
+  Alrededores Surroundings() const;
 
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
   void closeEvent(QCloseEvent* suceso) override;
+  void changeEvent(QEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
-  void BuildLayout();
-  QMenuBar* BuildMenu(bool conSonido);
+  Form1Layout* BuildLayout();
+  QMenuBar* BuildMenu(bool conSonido, bool conMesa);
+  void AddPictureEntry(QMenu& opciones, bool conMesa);
   void ShowHelp(bool conSonido);
   void EnlargeTexts();
+  void PressEnter();
   // Handles Page Up and Page Down, and reports any other key. True if the key has been handled.
   bool KeyInText1(const QKeyEvent& suceso);
 
@@ -51,6 +66,9 @@ class Form1 : public QWidget {
   Transcript* text2_;
   QLineEdit* text3_;
   QLabel* ayuda_;
+  MesaView* mesa_;
+  ScoreView* marcador_;
+  Form1Layout* reparto_;
   // As last shown in Text2 and Text3.
   std::u16string copiado2_;
   std::u16string copiado3_;

@@ -42,15 +42,19 @@ void InputLine::changeEvent(QEvent* suceso) {
   if (suceso->type() == QEvent::FontChange) FitHeight();
 }
 
-// Limits the height to half the window, so that the transcript stays readable. The extra pixel
-// keeps QPlainTextEdit from scrolling when the text fits exactly.
+void InputLine::LimitHeight(int maximo) {
+  maximo_ = maximo;
+  FitHeight();
+}
+
+// The extra pixel keeps QPlainTextEdit from scrolling when the text fits exactly.
 void InputLine::FitHeight() {
   double texto = document()->documentMargin();
   for (QTextBlock linea = document()->begin(); linea.isValid(); linea = linea.next()) {
     texto += document()->documentLayout()->blockBoundingRect(linea).height();
   }
   const int alto = qCeil(texto) + 2 * frameWidth() + 1;
-  const int maximo = std::max(3 * fontMetrics().lineSpacing(), window()->height() / 2);
+  const int maximo = maximo_ > 0 ? maximo_ : alto;
   setVerticalScrollBarPolicy(alto <= maximo ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
   setFixedHeight(std::min(alto, maximo));
 }

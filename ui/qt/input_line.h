@@ -15,6 +15,8 @@ class InputLine : public QPlainTextEdit {
 
   // Replaces the text, including what was typed. Keeps the cursor if the text is the same.
   void ShowText(const QString& texto);
+  // It grows no higher than that; it scrolls then.
+  void LimitHeight(int maximo);
 
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
@@ -27,6 +29,7 @@ class InputLine : public QPlainTextEdit {
   void FitHeight();
 
   KeyHandler alPulsar_;
+  int maximo_ = 0;  // 0 until it is limited
 };
 
 }  // namespace tasca

@@ -54,9 +54,10 @@ void Program::OpenForm1() {
       Form1::Events{
           .Text1_KeyDown = [this](Integer& tecla, Integer shift) { KeyDown(tecla, shift); },
           .Sonido_Click = [this](bool encendido) { port_.Mp1().TurnOn(encendido); },
-          .Closed = [this] { Exit(0); }},
-      port_.Mp1().IsOn());
-  form1_->ShowTexts(sesion_.Mesa());
+          .Closed = [this] { Exit(0); },
+          .Mesa_Click = [this](bool dibujada) { conMesa_ = dibujada; }},
+      port_.Mp1().IsOn(), conMesa_);
+  form1_->ShowTable(sesion_.Mesa(), Momento::Reposo);
   form1_->showMaximized();
   port_.SetMainWindow(form1_.get());
 }
@@ -75,7 +76,7 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
     return;
   }
   const bool haJugado = KeyCode == 0 || EsTeclaDeVerManos(KeyCode, Shift);
-  if (haJugado) form1_->ShowTexts(sesion_.Mesa());
+  if (haJugado) form1_->ShowTable(sesion_.Mesa(), Momento::Reposo);
   form1_->FocusInput();
   if (situacion != Situacion::OtrosJugadores) return;
   enPaso_ = true;

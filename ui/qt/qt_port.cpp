@@ -23,31 +23,31 @@ void QtPort::SetMainWindow(Form1* form1) {
 }
 
 // The player must see the current texts to answer a question.
-void QtPort::ShowTexts(const Table& t) {
-  if (form1_ != nullptr) form1_->ShowTexts(t);
+void QtPort::ShowTable(const Table& t, Momento momento) {
+  if (form1_ != nullptr) form1_->ShowTable(t, momento);
 }
 
 void QtPort::MsgBox(const Table& t, std::u16string_view texto) {
-  ShowTexts(t);
+  ShowTable(t, Momento::Aviso);
   ShowMessage(ventana_, texto);
 }
 
 bool QtPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
-  ShowTexts(t);
+  ShowTable(t, Momento::Pregunta);
   const std::optional<bool> respuesta = AskYesNo(ventana_, pregunta);
   if (!respuesta) throw LeaveProgram{};
   return *respuesta;
 }
 
 void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
-  ShowTexts(t);
+  ShowTable(t, Momento::Pregunta);
   DialogForm forma{ventana_, dialogo};
   RunBox(forma, forma.focusWidget());
   if (dialogo.Visible) throw LeaveProgram{};
 }
 
 std::u16string QtPort::InputBox(const Table& t, Pregunta /*sobre*/, const InputQuestion& pregunta) {
-  ShowTexts(t);
+  ShowTable(t, Momento::Pregunta);
   return AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto);
 }
 

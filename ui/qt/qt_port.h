@@ -30,7 +30,7 @@ class QtPort : public Port {
   TimeOfDay Now() override;
 
  private:
-  void ShowTexts(const Table& t);
+  void ShowTable(const Table& t, Momento momento);
 
   QWidget* ventana_ = nullptr;
   Form1* form1_ = nullptr;

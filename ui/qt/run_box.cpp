@@ -3,7 +3,10 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <optional>
 
+#include "ui/qt/box_place.h"
+#include "ui/qt/form1.h"
 #include "ui/qt/repeat_guard.h"
 
 namespace tasca {
@@ -43,6 +46,10 @@ class KeyGuard : public QObject {
 }  // namespace
 
 int RunBox(QDialog& caja, QWidget* inicial) {
+  std::optional<BoxPlacer> sitio;
+  if (const auto* const form1 = dynamic_cast<Form1*>(caja.parentWidget())) {
+    sitio.emplace(caja, [form1] { return form1->Surroundings(); });
+  }
   const RepeatGuard repeticiones{caja};
   const KeyGuard guarda{caja, inicial};
   inicial->setFocus();

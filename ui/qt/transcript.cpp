@@ -2,6 +2,7 @@
 #include "ui/qt/transcript.h"
 
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <algorithm>
 
@@ -29,6 +30,17 @@ void Transcript::ShowText(const QString& texto) {
 void Transcript::ScrollPages(int paginas) {
   verticalScrollBar()->triggerAction(paginas < 0 ? QScrollBar::SliderPageStepSub
                                                  : QScrollBar::SliderPageStepAdd);
+}
+
+QRect Transcript::LastLine() const {
+  QTextBlock bloque = document()->lastBlock();
+  while (bloque.previous().isValid() && bloque.text().trimmed().isEmpty())
+    bloque = bloque.previous();
+  QTextCursor cursor{bloque};
+  cursor.movePosition(QTextCursor::EndOfBlock);
+  const QRect final = cursorRect(cursor);
+  cursor.movePosition(QTextCursor::StartOfLine);
+  return final.united(cursorRect(cursor)).translated(viewport()->pos());
 }
 
 void Transcript::resizeEvent(QResizeEvent* suceso) {

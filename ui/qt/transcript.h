@@ -13,6 +13,8 @@ class Transcript : public QPlainTextEdit {
   void ShowText(const QString& texto);
   // Scrolls one page forwards (1) or backwards (-1).
   void ScrollPages(int paginas);
+  // Where the last line with anything in it stands, in the box's own coordinates.
+  QRect LastLine() const;
 
  protected:
   void resizeEvent(QResizeEvent* suceso) override;

@@ -1,0 +1,59 @@
+#pragma once
+// Paints what the layout has laid on the table.
+#include <QPainter>
+#include <QRegion>
+
+#include "ui/mesa/layout.h"
+#include "ui/qt/card_painter.h"
+#include "ui/qt/mesa_colors.h"
+#include "ui/qt/mesa_letters.h"
+
+namespace tasca {
+
+QRectF ToQt(const Rect& r);
+
+// What a piece covers, with its shadow, its border and its point.
+QRect CoveredBy(const Pieza& pieza, double letra);
+
+class MesaPainter {
+ public:
+  MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& letras, CardPainter& cartas);
+
+  // Floor, wood and cloth.
+  void PaintSurfaces(const Lamina& hoja);
+  // The pieces that touch the region, in their order.
+  void PaintPieces(const std::vector<Pieza>& piezas, const QRegion& donde);
+
+  void operator()(const Adorno& adorno);
+  void operator()(const Monton& monton);
+  void operator()(const PizarraPuesta& pizarra);
+  void operator()(const CeldaPuesta& celda);
+  void operator()(const Ficha& ficha);
+  void operator()(const CartaPuesta& carta);
+  void operator()(const Placa& placa);
+  void operator()(const Distintivo& distintivo);
+  void operator()(const Bocadillo& bocadillo);
+  void operator()(const TeclaPuesta& tecla);
+  void operator()(const AvisoTurno& aviso);
+  void operator()(const TextoPuesto& texto);
+  void operator()(const SignoPareja& signo);
+  void operator()(const Casilla& casilla);
+
+ private:
+  void Box(const QRectF& r, double radio, const QBrush& relleno, const QPen& linea);
+  void BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea);
+  void Write(const QRectF& r, std::u16string_view texto, Letra letra, const QColor& color,
+             int alineado = Qt::AlignCenter);
+  void PaintBack(const QRectF& r, bool girada);
+  void Shade(const QRectF& r, double alto);
+  void WriteState(const CeldaPuesta& celda, const QRectF& r, const QColor& color);
+
+  QPainter& p_;
+  const MesaColors& c_;
+  MesaLetters& letras_;
+  CardPainter& cartas_;
+  double f_;
+  qreal dpr_;
+};
+
+}  // namespace tasca

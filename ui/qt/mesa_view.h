@@ -1,0 +1,51 @@
+#pragma once
+// The drawn table as a control of the main window: it takes neither the focus nor any key. Its key
+// cap can be clicked.
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "scene/scene.h"
+#include "ui/mesa/layout.h"
+#include "ui/qt/card_painter.h"
+#include "ui/qt/mesa_colors.h"
+#include "ui/qt/mesa_letters.h"
+
+namespace tasca {
+
+class MesaView : public QWidget {
+ public:
+  // `alPulsarEnter` is called for a click on the key cap while it is there.
+  MesaView(QWidget* padre, std::function<void()> alPulsarEnter);
+
+  // Shows another scene; paints only what differs.
+  void ShowScene(const Escena& escena);
+  const Escena& Scene() const { return escena_; }
+  // Where everything lies, in the view's own coordinates.
+  const Lamina& Sheet() const { return hoja_; }
+
+ protected:
+  bool event(QEvent* suceso) override;
+  void changeEvent(QEvent* suceso) override;
+  void paintEvent(QPaintEvent* suceso) override;
+  void resizeEvent(QResizeEvent* suceso) override;
+  void mousePressEvent(QMouseEvent* suceso) override;
+  void mouseReleaseEvent(QMouseEvent* suceso) override;
+  void mouseMoveEvent(QMouseEvent* suceso) override;
+
+ private:
+  Lamina LayOut();
+  void Restart();
+  void ForgetOldCards();
+  bool IsOnKeyCap(QPointF punto) const;
+
+  std::function<void()> alPulsarEnter_;
+  Escena escena_;
+  Lamina hoja_;
+  MesaColors colores_;
+  std::optional<MesaLetters> letras_;
+  CardPainter cartas_;
+  bool pulsada_ = false;
+};
+
+}  // namespace tasca
