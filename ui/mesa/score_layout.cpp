@@ -12,7 +12,7 @@ constexpr int MaximoAmarracos = 9;  // more than that are one, and how many time
 
 struct Marcador {
   Rect Donde;
-  double f;
+  double f = 0;
   const AnchoDeTexto& Mide;
   std::vector<Pieza>& Piezas;
 };

@@ -40,7 +40,8 @@ void PonerFichas(const Composicion& c, const Rect& celda, const Apuesta& apuesta
     const int enFila = i % porFila;
     const int enEsta = std::min(porFila, total - (i / porFila) * porFila);
     const double x = celda.CentroX() - (paso * (enEsta - 1) + lado) / 2 + paso * enFila;
-    const double bajada = dosFilas ? (i / porFila) * f * 0.7 : f * (c.M.Baja ? 0.0 : 0.35);
+    const int fila = i / porFila;
+    const double bajada = dosFilas ? fila * f * 0.7 : f * (c.M.Baja ? 0.0 : 0.35);
     const ClaseFicha clase = i < apuesta.Vistas ? ClaseFicha::Vista : apuesta.Clase;
     c.Hoja.Piezas.emplace_back(Ficha{{x, y + bajada, lado, lado}, clase, i});
   }

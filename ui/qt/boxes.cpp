@@ -1,12 +1,12 @@
 // Message, Yes/No and input boxes.
 #include "ui/qt/boxes.h"
 
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -118,7 +118,7 @@ bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view 
 }
 
 std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,
-                       std::u16string_view porDefecto) {
+                       std::u16string_view porDefecto, const AnswerHelper& ayuda) {
   QInputDialog caja{padre};
   caja.setObjectName(QStringLiteral("InputBox"));
   caja.setWindowTitle(TituloDe(titulo));
@@ -129,8 +129,12 @@ std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string
   caja.setCancelButtonText(QStringLiteral("Cancelar"));
   if (auto* const etiqueta = caja.findChild<QLabel*>()) etiqueta->setTextFormat(Qt::PlainText);
   for (QPushButton* const boton : caja.findChildren<QPushButton*>()) boton->setIcon({});
-  if (caja.layout() != nullptr) caja.layout()->addItem(RoomForTitle(caja));
-  const int respuesta = RunBox(caja, caja.findChild<QLineEdit*>());
+  auto* const campo = caja.findChild<QLineEdit*>();
+  if (auto* const filas = qobject_cast<QBoxLayout*>(caja.layout())) {
+    if (ayuda) filas->insertWidget(filas->indexOf(campo), ayuda(*campo));
+    filas->addItem(RoomForTitle(caja));
+  }
+  const int respuesta = RunBox(caja, campo);
   return respuesta == QDialog::Accepted ? FromInput(caja.textValue()) : std::u16string{};
 }
 

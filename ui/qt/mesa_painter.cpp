@@ -11,6 +11,8 @@ namespace {
 
 constexpr double BordeFino = 1.2;
 constexpr double BordeMarcado = 2.6;
+constexpr int ALaIzquierda = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr int ALaDerecha = Qt::AlignRight | Qt::AlignVCenter;
 
 QColor Faded(QColor color, float opacidad) {
   color.setAlphaF(opacidad);
@@ -53,27 +55,33 @@ MesaPainter::MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& le
 void MesaPainter::PaintSurfaces(const Lamina& hoja) {
   const QRectF suelo = ToQt(hoja.Suelo);
   p_.fillRect(suelo, c_.Suelo);
-  const double losa = f_ * 4.2;
-  p_.setRenderHint(QPainter::Antialiasing, false);
-  p_.setPen(QPen{c_.Junta, 1});
-  for (double y = suelo.top() + losa; y < suelo.bottom(); y += losa) {
-    p_.drawLine(QLineF{suelo.left(), y, suelo.right(), y});
-  }
-  for (double x = suelo.left() + losa; x < suelo.right(); x += losa) {
-    p_.drawLine(QLineF{x, suelo.top(), x, suelo.bottom()});
-  }
-  p_.setRenderHint(QPainter::Antialiasing);
+  PaintTiles(suelo);
   const QRectF madera = ToQt(hoja.Madera);
   if (!c_.Contraste) Box(madera.translated(2, 4), f_ * 2.2, QColor{0, 0, 0, 60}, Qt::NoPen);
   BigBox(madera, f_ * 2.2, c_.Madera, QPen{c_.Canto, 2});
   p_.setPen(QPen{c_.Veta, 2});
-  for (double y = madera.top() + 5 * f_; y < madera.bottom() - 2 * f_; y += 5 * f_) {
+  const double tabla = 5 * f_;
+  for (int i = 1; i * tabla < madera.height() - 2 * f_; ++i) {
+    const double y = madera.top() + i * tabla;
     p_.drawLine(QLineF{madera.left() + 6, y, madera.right() - 6, y});
   }
   const QRectF pano = ToQt(hoja.Pano);
   BigBox(pano, f_ * 1.6, c_.Pano, QPen{c_.Canto, 2});
   const double m = f_ * 0.5;
   Box(pano.adjusted(m, m, -m, -m), f_ * 1.2, Qt::NoBrush, QPen{Faded(c_.PanoLinea, 0.75F), 1.3});
+}
+
+void MesaPainter::PaintTiles(const QRectF& suelo) {
+  const double losa = f_ * 4.2;
+  p_.setRenderHint(QPainter::Antialiasing, false);
+  p_.setPen(QPen{c_.Junta, 1});
+  for (int i = 1; i * losa < suelo.height(); ++i) {
+    p_.drawLine(suelo.topLeft() + QPointF{0, i * losa}, suelo.topRight() + QPointF{0, i * losa});
+  }
+  for (int i = 1; i * losa < suelo.width(); ++i) {
+    p_.drawLine(suelo.topLeft() + QPointF{i * losa, 0}, suelo.bottomLeft() + QPointF{i * losa, 0});
+  }
+  p_.setRenderHint(QPainter::Antialiasing);
 }
 
 void MesaPainter::PaintPieces(const std::vector<Pieza>& piezas, const QRegion& donde) {
@@ -183,8 +191,7 @@ void MesaPainter::WriteState(const CeldaPuesta& celda, const QRectF& r, const QC
                celda.EsOrdago ? QColor{Qt::white} : suyo);
     sitio.setLeft(sitio.left() + signo);
   }
-  Write(sitio, celda.Estado, celda.Tipo, celda.EsOrdago ? QColor{Qt::white} : color,
-        Qt::AlignLeft | Qt::AlignVCenter);
+  Write(sitio, celda.Estado, celda.Tipo, celda.EsOrdago ? QColor{Qt::white} : color, ALaIzquierda);
 }
 
 void MesaPainter::operator()(const Ficha& ficha) {
@@ -212,8 +219,7 @@ void MesaPainter::operator()(const Placa& placa) {
   Box(r, r.height() / 2, c_.Placa, linea);
   DrawPareja(p_, {r.left() + f_ * 1.05, r.center().y()}, f_ * 0.42, ParejaDe(placa.De),
              c_.De(ParejaDe(placa.De)));
-  Write(r.adjusted(f_ * 1.8, 0, 0, 0), placa.Nombre, {1.06, true}, c_.PlacaTexto,
-        Qt::AlignLeft | Qt::AlignVCenter);
+  Write(r.adjusted(f_ * 1.8, 0, 0, 0), placa.Nombre, {1.06, true}, c_.PlacaTexto, ALaIzquierda);
   if (placa.EsMano) DrawHand(p_, {r.right() - f_ * 1.25, r.center().y()}, f_ * 1.6, c_);
 }
 
@@ -243,7 +249,7 @@ void MesaPainter::operator()(const Bocadillo& bocadillo) {
   QRectF fila{r.left() + f_ * 0.68, r.top() + f_ * 0.52, r.width() - f_ * 0.68, alto};
   const Letra letra{bocadillo.Letras, false};
   for (const std::u16string& texto : bocadillo.Lineas) {
-    Write(fila, texto, letra, c_.PlacaTexto, Qt::AlignLeft | Qt::AlignVCenter);
+    Write(fila, texto, letra, c_.PlacaTexto, ALaIzquierda);
     fila.translate(0, alto);
   }
 }
@@ -273,7 +279,7 @@ void MesaPainter::operator()(const AvisoTurno& aviso) {
 
 void MesaPainter::operator()(const TextoPuesto& texto) {
   Write(ToQt(texto.Donde), texto.Texto, texto.Tipo, texto.Tenue ? c_.TextoTenue : c_.Texto,
-        (texto.ALaDerecha ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        texto.ALaDerecha ? ALaDerecha : ALaIzquierda);
 }
 
 void MesaPainter::operator()(const SignoPareja& signo) {

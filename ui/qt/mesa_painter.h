@@ -40,6 +40,7 @@ class MesaPainter {
   void operator()(const Casilla& casilla);
 
  private:
+  void PaintTiles(const QRectF& suelo);
   void Box(const QRectF& r, double radio, const QBrush& relleno, const QPen& linea);
   void BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea);
   void Write(const QRectF& r, std::u16string_view texto, Letra letra, const QColor& color,

@@ -78,7 +78,8 @@ void MesaView::ForgetOldCards() {
 
 bool MesaView::event(QEvent* suceso) {
   if (suceso->type() != QEvent::ToolTip) return QWidget::event(suceso);
-  const auto* const ayuda = static_cast<QHelpEvent*>(suceso);
+  const auto* const ayuda = dynamic_cast<QHelpEvent*>(suceso);
+  if (ayuda == nullptr) return false;
   for (const Pieza& pieza : hoja_.Piezas) {
     const auto* const placa = std::get_if<Placa>(&pieza);
     if (placa == nullptr || !ToQt(placa->Donde).contains(ayuda->pos())) continue;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/errors.h"
+#include "ui/qt/answer_helpers.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/dialog_form.h"
 #include "ui/qt/run_box.h"
@@ -46,9 +47,15 @@ void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
   if (dialogo.Visible) throw LeaveProgram{};
 }
 
-std::u16string QtPort::InputBox(const Table& t, Pregunta /*sobre*/, const InputQuestion& pregunta) {
+std::u16string QtPort::InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) {
   ShowTable(t, Momento::Pregunta);
-  return AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto);
+  AnswerHelper ayuda;
+  if (sobre == Pregunta::Descarte) {
+    ayuda = [&t](QLineEdit& campo) { return CardsToClick(campo, t.Manos[AsientoHumano]); };
+  } else if (sobre == Pregunta::Cantidad) {
+    ayuda = Steps;
+  }
+  return AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto, ayuda);
 }
 
 void QtPort::OpenSound(const Table& t, std::u16string_view archivo) {
