@@ -11,6 +11,7 @@
 
 #include "base/keys.h"
 #include "ui/qt/keys.h"
+#include "ui/qt/mesa_accessible.h"
 #include "ui/qt/qt_text.h"
 
 namespace tasca {
@@ -75,6 +76,7 @@ Form1::Form1(Events sucesos, bool conSonido, bool conMesa)
       mesa_{new MesaView{this, [this] { PressEnter(); }}},
       marcador_{new ScoreView{this}},
       reparto_{BuildLayout()} {
+  DescribeMesaViews();
   ayuda_->setTextFormat(Qt::PlainText);
   ayuda_->setWordWrap(true);
   setObjectName(QStringLiteral("Form1"));

@@ -1,0 +1,117 @@
+// The drawn table as a screen reader finds it.
+#include "ui/qt/mesa_accessible.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+
+#include "cards/hand_text.h"
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+#include "ui/mesa/spoken.h"
+#include "ui/qt/form1.h"
+#include "ui/qt/mesa_painter.h"
+
+namespace tasca::test {
+namespace {
+
+class SpokenTable : public testing::Test {
+ protected:
+  SpokenTable() {
+    ventana_.resize(1280, 800);
+    ventana_.show();
+    QCoreApplication::processEvents();
+  }
+
+  QAccessibleInterface* LaMesa() {
+    return QAccessible::queryAccessibleInterface(Control<QWidget>(&ventana_, "Mesa"));
+  }
+
+  std::vector<std::string> Heard() {
+    std::vector<std::string> frases;
+    const QAccessibleInterface* const mesa = LaMesa();
+    for (int i = 0; i < mesa->childCount(); ++i) {
+      EXPECT_EQ(mesa->child(i)->role(), QAccessible::StaticText);
+      EXPECT_TRUE(mesa->child(i)->isValid());
+      frases.push_back(Utf8(mesa->child(i)->text(QAccessible::Name)));
+    }
+    return frases;
+  }
+
+  void Show(const Table& t, Momento momento) { ventana_.ShowTable(t, momento); }
+
+  Form1 ventana_{
+      {.Text1_KeyDown = [](Integer&, Integer) {}, .Sonido_Click = [](bool) {}, .Closed = [] {}}};
+};
+
+TEST_F(SpokenTable, IsAGroupOfItsOwn) {
+  Show(MesaDePrueba(), Momento::Reposo);
+  EXPECT_EQ(LaMesa()->role(), QAccessible::Grouping);
+  EXPECT_EQ(Utf8(LaMesa()->text(QAccessible::Name)), "La mesa");
+  EXPECT_FALSE(LaMesa()->state().focusable);
+  EXPECT_EQ(LaMesa()->parent()->object(), &ventana_);
+}
+
+// The start of a hand, a bet to be answered, the count.
+TEST_F(SpokenTable, KeepsInStepWithTheScene) {
+  Table t = MesaDePrueba();
+  t.Manos[1] = {20, 18, 16, 1};
+  Show(t, Momento::Reposo);
+  const std::vector<std::string> alPrincipio = Heard();
+  ASSERT_EQ(alPrincipio.size(), 14U) << "four seats, four cards, four lances, two scores";
+  EXPECT_EQ(alPrincipio[0], "Ana, usted, es mano.");
+  EXPECT_EQ(alPrincipio[1],
+            "Jugador 2, de la pareja contraria, a su derecha. Cuatro cartas tapadas.");
+  EXPECT_EQ(alPrincipio[4], "Su carta 1: Rey de copas");
+
+  t.Fase = Fase::RespuestaPequena;
+  t.SeguirLance = 4;
+  t.ParejaEnvite = 0;
+  Show(t, Momento::Pregunta);
+  EXPECT_EQ(Heard()[9], "Pequeña, en juego: 4 de la pareja 0");
+  EXPECT_EQ(Heard()[0], "Ana, usted, es mano. Le toca.");
+
+  t.Fase = Fase::EmpezarMano;
+  t.SeguirLance = 0;
+  t.Manos[2] = {40, 39, 38, 37};
+  t.SeJuegaPunto = true;
+  t.Piedras = {3, 12};
+  MostrarManos(t, TodosLosAsientos);
+  Show(t, Momento::Reposo);
+  ASSERT_EQ(Heard().size(), 15U) << "the punto comes with them";
+  EXPECT_NE(Heard()[1].find("Cartas: Rey de bastos, Caballo de bastos, Sota de bastos, Siete de "
+                            "bastos."),
+            std::string::npos);
+  EXPECT_EQ(Heard()[13], "Pareja 1: nosotros. 12 piedras, ningún juego, ninguna vaca");
+}
+
+TEST_F(SpokenTable, ForgetsWhatIsNoLongerThere) {
+  Table t = MesaDePrueba();
+  t.SeJuegaPunto = true;
+  Show(t, Momento::Reposo);
+  QAccessibleInterface* const ultima = LaMesa()->child(14);
+  ASSERT_NE(ultima, nullptr);
+  t.SeJuegaPunto = false;
+  Show(t, Momento::Reposo);
+  EXPECT_FALSE(ultima->isValid());
+  EXPECT_EQ(LaMesa()->child(14), nullptr);
+  EXPECT_EQ(LaMesa()->child(-1), nullptr);
+}
+
+TEST_F(SpokenTable, FindsWhatLiesUnderThePointer) {
+  Table t = MesaDePrueba();
+  t.Manos[1] = {20, 18, 16, 1};
+  Show(t, Momento::Reposo);
+  const auto* const vista = dynamic_cast<MesaView*>(Control<QWidget>(&ventana_, "Mesa"));
+  const Rect mano = vista->Sheet().Mano;
+  const QPoint primera = vista->mapToGlobal(QPoint{qRound(mano.X + 20), qRound(mano.CentroY())});
+  QAccessibleInterface* const hallada = LaMesa()->childAt(primera.x(), primera.y());
+  ASSERT_NE(hallada, nullptr);
+  EXPECT_EQ(Utf8(hallada->text(QAccessible::Name)), "Su carta 1: Rey de copas");
+  EXPECT_EQ(LaMesa()->indexOfChild(hallada), 4);
+  EXPECT_EQ(hallada->parent(), LaMesa());
+  EXPECT_TRUE(hallada->rect().contains(primera));
+}
+
+}  // namespace
+}  // namespace tasca::test
