@@ -9,7 +9,8 @@ import source
 
 RULES = ("base", "cards", "characters", "count", "lances", "match", "mus", "scene", "score", "sound",
          "startup", "table")
-UI = ("ui", "tools/cast", "tools/check", "ui/qt", "ui/loudspeaker", "ui/terminal", "ui/trace")
+UI = ("ui", "tools/cast", "tools/check", "ui/loudspeaker", "ui/mesa", "ui/qt", "ui/terminal",
+      "ui/trace")
 
 RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
              "==": ("!=",), "!=": ("==",)}
@@ -152,11 +153,13 @@ def _changes(each, i):
 
 def _neighbours(text):
     """An integer plus and minus one; a fraction changed in its second significant digit, by at most
-    1.0."""
+    1.0. None for a number with an exponent: it stands for infinity."""
     hexadecimal = text.lower().startswith("0x")
     digits = text.rstrip("uUlL" if hexadecimal else "uUlLfF")
     suffix = text[len(digits):]
     digits = digits.replace("'", "")
+    if not hexadecimal and "e" in digits.lower():
+        return
     if hexadecimal or "." not in digits:
         octal = len(digits) > 1 and digits[0] == "0"
         base, form = (16, "0x{:X}") if hexadecimal else (8, "0{:o}") if octal else (10, "{}")
