@@ -108,6 +108,15 @@ TEST_F(TableInForm1, KeepsTheTextsAndTheirOrder) {
   }
 }
 
+TEST_F(TableInForm1, ShowsTheWholeScoreInANarrowColumnToo) {
+  const auto* const texto3 = Control<QLineEdit>(&ventana_, "Text3");
+  for (const int ancho : {75, 90, 130}) {
+    ResizeInLetters(ancho, 60);
+    EXPECT_LT(texto3->fontMetrics().horizontalAdvance(texto3->text()), texto3->width()) << ancho;
+  }
+  EXPECT_TRUE(texto3->font().bold()) << "where there is room";
+}
+
 TEST_F(TableInForm1, ShowsTheSceneOfTheMoment) {
   const Table t = MesaConTextos();
   for (const Momento momento : {Momento::Pregunta, Momento::Aviso, Momento::Reposo}) {

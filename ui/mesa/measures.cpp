@@ -27,7 +27,7 @@ double AltoQueCabe(const Medidas& m, double ancho) {
   return (ancho - 3 * m.Hueco) / 4 / ProporcionCarta;
 }
 
-double AltoPizarra(const Medidas& m) { return m.f * (m.Baja ? 4.1 : 5.0); }
+double AltoPizarra(const Medidas& m) { return m.f * (m.Baja ? 4.4 : 5.0); }
 
 double Separacion(const Medidas& m) { return m.f * (m.Baja ? 0.45 : 0.9); }
 

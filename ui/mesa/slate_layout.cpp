@@ -35,7 +35,7 @@ void PonerFichas(const Composicion& c, const Rect& celda, const Apuesta& apuesta
   const double lado = f * 0.62;
   const double paso =
       porFila == 1 ? 0 : std::min(f * 0.74, (celda.Ancho - f - lado) / (porFila - 1));
-  const double y = celda.Abajo() - f * (c.M.Baja ? 0.98 : 1.68);
+  const double y = celda.Abajo() - f * (c.M.Baja ? 0.92 : 1.68);
   for (int i = 0; i < total; ++i) {
     const int enFila = i % porFila;
     const int enEsta = std::min(porFila, total - (i / porFila) * porFila);
@@ -56,12 +56,12 @@ CeldaPuesta CeldaEn(const Composicion& c, const CeldaPizarra& celda, const Rect&
   puesta.EsOrdago =
       celda.Estado == EstadoLance::Ordago || celda.Estado == EstadoLance::OrdagoQuerido;
   puesta.De = celda.De;
-  puesta.Tipo = {puesta.EsOrdago ? 1.0 : 0.92,
+  puesta.Tipo = {puesta.EsOrdago ? 1.08 : 0.98,
                  puesta.EsOrdago || celda.Marca == MarcaLance::EnJuego};
   const double cabe = donde.Ancho - c.M.f * (celda.De ? 1.9 : 0.7);
   const std::u16string texto = EstadoEscrito(celda);
   const double ancho = c.Mide(texto, puesta.Tipo);
-  if (ancho > cabe) puesta.Tipo.Factor = std::max(0.7, puesta.Tipo.Factor * cabe / ancho);
+  if (ancho > cabe) puesta.Tipo.Factor = std::max(0.7, 0.98 * puesta.Tipo.Factor * cabe / ancho);
   puesta.Estado = Abreviado(texto, puesta.Tipo, cabe, c.Mide);
   return puesta;
 }

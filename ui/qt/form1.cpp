@@ -151,7 +151,7 @@ void Form1::ShowTexts(const Form1State& estado) {
   if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
   if (!Renovar(copiado3_, estado.Text3)) return;
   text3_->setText(ToDisplay(estado.Text3));
-  text3_->home(false);
+  FitText3();
 }
 
 void Form1::ShowTable(const Table& t, Momento momento) {
@@ -202,6 +202,7 @@ void Form1::changeEvent(QEvent* suceso) {
   QWidget::changeEvent(suceso);
   if (suceso->type() != QEvent::FontChange) return;
   EnlargeTexts();
+  FitText3();
   reparto_->invalidate();
 }
 
@@ -214,6 +215,7 @@ void Form1::PressEnter() {
 
 // Passes keys typed in the read-only boxes on to the input line.
 bool Form1::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (objeto == text3_ && suceso->type() == QEvent::Resize) FitText3();
   if (suceso->type() != QEvent::KeyPress) return QWidget::eventFilter(objeto, suceso);
   const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso);
   if (pulsada == nullptr || EsTeclaDeLectura(*pulsada)) return false;
@@ -227,13 +229,22 @@ void Form1::EnlargeTexts() {
   const QFont fuente = Scaled(QApplication::font(), 1.3);
   text1_->setFont(fuente);
   text2_->setFont(fuente);
-  QFont negrita = Scaled(QApplication::font(), 1.14);
-  negrita.setBold(true);
-  text3_->setFont(negrita);
   const int margen = QFontMetrics{fuente}.averageCharWidth();
   text1_->document()->setDocumentMargin(margen);
   text2_->document()->setDocumentMargin(margen);
   text3_->setTextMargins(margen, margen / 2, margen, margen / 2);
+}
+
+// Large and bold where there is room for it.
+void Form1::FitText3() {
+  QFont fuente = Scaled(QApplication::font(), 1.14);
+  fuente.setBold(true);
+  const QFontMetrics medidas{fuente};
+  const QMargins margen = text3_->textMargins();
+  const int falta = medidas.horizontalAdvance(text3_->text()) + margen.left() + margen.right() +
+                    medidas.averageCharWidth();
+  text3_->setFont(falta <= text3_->width() ? fuente : QApplication::font());
+  text3_->home(false);
 }
 
 bool Form1::KeyInText1(const QKeyEvent& suceso) {

@@ -56,6 +56,7 @@ class Form1 : public QWidget {
   void AddPictureEntry(QMenu& opciones, bool conMesa);
   void ShowHelp(bool conSonido);
   void EnlargeTexts();
+  void FitText3();
   void PressEnter();
   // Handles Page Up and Page Down, and reports any other key. True if the key has been handled.
   bool KeyInText1(const QKeyEvent& suceso);

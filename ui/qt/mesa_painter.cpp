@@ -176,7 +176,7 @@ void MesaPainter::operator()(const CeldaPuesta& celda) {
   const std::u16string titulo = marcada ? u"▸ " + std::u16string{nombre} : std::u16string{nombre};
   const QColor tiza = celda.PorJugar ? c_.TizaTenue : c_.Tiza;
   const QColor delTitulo = celda.EsOrdago ? c_.Si : marcada ? c_.Marca : tiza;
-  Write({r.left(), r.top() + f_ * 0.25, r.width(), f_ * 1.4}, titulo, {1.0, marcada}, delTitulo);
+  Write({r.left(), r.top() + f_ * 0.25, r.width(), f_ * 1.4}, titulo, {1.06, marcada}, delTitulo);
   WriteState(celda, {r.left(), r.top() + f_ * 1.6, r.width(), f_ * 1.3}, tiza);
 }
 
