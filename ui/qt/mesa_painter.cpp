@@ -52,21 +52,24 @@ MesaPainter::MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& le
   p_.setRenderHint(QPainter::Antialiasing);
 }
 
+// What lies under the next surface is left out.
 void MesaPainter::PaintSurfaces(const Lamina& hoja) {
   const QRectF suelo = ToQt(hoja.Suelo);
-  p_.fillRect(suelo, c_.Suelo);
-  PaintTiles(suelo);
   const QRectF madera = ToQt(hoja.Madera);
-  if (!c_.Contraste) Box(madera.translated(2, 4), f_ * 2.2, QColor{0, 0, 0, 60}, Qt::NoPen);
-  BigBox(madera, f_ * 2.2, c_.Madera, QPen{c_.Canto, 2});
+  const QRectF pano = ToQt(hoja.Pano);
+  FillAround(suelo, ToQt(Dentro(hoja.Madera, f_ * 2.2)), c_.Suelo);
+  PaintTiles(suelo);
+  if (!c_.Contraste) {
+    Box(madera.translated(1.5, 2.5), f_ * 2.2, Qt::NoBrush, QPen{QColor{0, 0, 0, 60}, 5});
+  }
+  BigBox(madera, f_ * 2.2, c_.Madera, QPen{c_.Canto, 2}, ToQt(Dentro(hoja.Pano, f_ * 1.6)));
   p_.setPen(QPen{c_.Veta, 2});
   const double tabla = 5 * f_;
   for (int i = 1; i * tabla < madera.height() - 2 * f_; ++i) {
     const double y = madera.top() + i * tabla;
     p_.drawLine(QLineF{madera.left() + 6, y, madera.right() - 6, y});
   }
-  const QRectF pano = ToQt(hoja.Pano);
-  BigBox(pano, f_ * 1.6, c_.Pano, QPen{c_.Canto, 2});
+  BigBox(pano, f_ * 1.6, c_.Pano, QPen{c_.Canto, 2}, {});
   const double m = f_ * 0.5;
   Box(pano.adjusted(m, m, -m, -m), f_ * 1.2, Qt::NoBrush, QPen{Faded(c_.PanoLinea, 0.75F), 1.3});
 }
@@ -96,11 +99,19 @@ void MesaPainter::Box(const QRectF& r, double radio, const QBrush& relleno, cons
   p_.drawRoundedRect(r, radio, radio);
 }
 
+// All of `r` but `hueco`.
+void MesaPainter::FillAround(const QRectF& r, const QRectF& hueco, const QColor& relleno) {
+  for (const QRect& parte : QRegion{r.toAlignedRect()} - QRegion{hueco.toAlignedRect()}) {
+    p_.fillRect(parte, relleno);
+  }
+}
+
 // Antialiasing only at the border: a big surface takes a third of the time so.
-void MesaPainter::BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea) {
+void MesaPainter::BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea,
+                         const QRectF& hueco) {
   p_.setRenderHint(QPainter::Antialiasing, false);
-  p_.fillRect(r.adjusted(radio, 0, -radio, 0), relleno);
-  p_.fillRect(r.adjusted(0, radio, 0, -radio), relleno);
+  FillAround(r.adjusted(radio, 0, -radio, 0), hueco, relleno);
+  FillAround(r.adjusted(0, radio, 0, -radio), hueco, relleno);
   p_.setPen(Qt::NoPen);
   p_.setBrush(relleno);
   for (const QPointF& esquina :

@@ -42,7 +42,9 @@ class MesaPainter {
  private:
   void PaintTiles(const QRectF& suelo);
   void Box(const QRectF& r, double radio, const QBrush& relleno, const QPen& linea);
-  void BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea);
+  void BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea,
+              const QRectF& hueco);
+  void FillAround(const QRectF& r, const QRectF& hueco, const QColor& relleno);
   void Write(const QRectF& r, std::u16string_view texto, Letra letra, const QColor& color,
              int alineado = Qt::AlignCenter);
   void PaintBack(const QRectF& r, bool girada);
