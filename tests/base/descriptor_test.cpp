@@ -64,18 +64,24 @@ TEST(Descriptor, HoldsALockUntilItIsClosed) {
   EXPECT_TRUE(otro.Lock());
 }
 
-TEST(Descriptor, SetsPermissionsAndOwner) {
+TEST(Descriptor, SetsPermissions) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "");
   const Descriptor archivo{carpeta.Path() / "f.txt", OpenMode::ReadWrite};
   EXPECT_TRUE(archivo.SetPermissions(0604));
   EXPECT_EQ(PermissionsOf(carpeta.Path() / "f.txt"), 0604U);
+  EXPECT_EQ(archivo.Status()->Permissions, 0604U);
+}
+
+TEST(Descriptor, SetsOwnerAndGroup) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  const Descriptor archivo{carpeta.Path() / "f.txt", OpenMode::ReadWrite};
   // Only root can give files away.
   const Owner antes = OwnerOf(carpeta.Path() / "f.txt");
   const Owner nuevo = ::geteuid() == 0 ? Owner{1234, 4321} : antes;
   EXPECT_TRUE(archivo.SetOwner(nuevo.User, nuevo.Group));
   EXPECT_EQ(OwnerOf(carpeta.Path() / "f.txt"), nuevo);
-  EXPECT_EQ(archivo.Status()->Permissions, 0604U);
   EXPECT_EQ(archivo.Status()->Owner, nuevo.User);
   EXPECT_EQ(archivo.Status()->Group, nuevo.Group);
   EXPECT_TRUE(archivo.SetGroup(antes.Group));

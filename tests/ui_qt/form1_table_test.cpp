@@ -137,38 +137,56 @@ QRect InForm1(const QWidget& control, const Rect& r) {
   return ToQt(r).toAlignedRect().translated(control.mapTo(control.window(), QPoint{}));
 }
 
-// The windows and letters that boxes are measured at.
-TEST_F(TableInForm1, OpensBoxesBesideTheCardsTheSlateAndTheLastWords) {
-  const QFont deAntes = QApplication::font();
+class BoxOverTheTable : public TableInForm1 {
+ protected:
+  void TearDown() override { QApplication::setFont(deAntes_); }
+
+  // The place in the window of a bidding dialog that is opened there.
+  QRect PlaceOfABox(QSize tamano, int puntos) {
+    QFont letra = deAntes_;
+    letra.setPointSize(puntos);
+    QApplication::setFont(letra);
+    Resize(tamano.width(), tamano.height());
+    ventana_.ShowTable(MesaConTextos(), Momento::Pregunta);
+    Dialog dialogo;
+    Form_Activate(dialogo);
+    DialogForm caja{&ventana_, dialogo};
+    QRect sitio;
+    const BoxAnswerer jugador{[&](QWidget* abierta) {
+      sitio = abierta->frameGeometry().translated(-ventana_.geometry().topLeft());
+      Press(abierta, Qt::Key_Return);
+    }};
+    RunBox(caja, caja.focusWidget());
+    return sitio;
+  }
+
+  void ExpectNothingCovered(const QRect& sitio, const std::string& donde) {
+    EXPECT_FALSE(sitio.intersects(InForm1(*Picture(), Picture()->Sheet().Mano))) << donde;
+    EXPECT_FALSE(sitio.intersects(InForm1(*Picture(), Picture()->Sheet().Pizarra))) << donde;
+    const auto* const texto2 = dynamic_cast<Transcript*>(Part("Text2"));
+    EXPECT_FALSE(sitio.intersects(texto2->LastLine().translated(texto2->pos()))) << donde;
+  }
+
+ private:
+  QFont deAntes_ = QApplication::font();
+};
+
+TEST_F(BoxOverTheTable, LeavesTheCardsTheSlateAndTheLastLineInView) {
+  int conDibujo = 0;
   for (const QSize tamano : {QSize{800, 600}, {1024, 768}, {1366, 768}, {1920, 1080}}) {
     for (int puntos = 9; puntos <= 24; puntos += 3) {
-      QFont letra = deAntes;
-      letra.setPointSize(puntos);
-      QApplication::setFont(letra);
-      Resize(tamano.width(), tamano.height());
-      ventana_.ShowTable(MesaConTextos(), Momento::Pregunta);
-      Dialog dialogo;
-      Form_Activate(dialogo);
-      DialogForm caja{&ventana_, dialogo};
-      QRect sitio;
-      const BoxAnswerer jugador{[&](QWidget* abierta) {
-        sitio = abierta->frameGeometry().translated(-ventana_.geometry().topLeft());
-        Press(abierta, Qt::Key_Return);
-      }};
-      RunBox(caja, caja.focusWidget());
+      const QRect sitio = PlaceOfABox(tamano, puntos);
       const std::string donde = std::to_string(tamano.width()) + " in " + std::to_string(puntos);
       const bool cabe = sitio.size().boundedTo(ventana_.size()) == sitio.size();
       EXPECT_EQ(ventana_.rect().contains(sitio), cabe) << donde;
       // Without the picture there is nothing but texts, and not always room between them.
       if (!Picture()->isVisible()) continue;
-      EXPECT_FALSE(sitio.intersects(InForm1(*Picture(), Picture()->Sheet().Mano))) << donde;
-      EXPECT_FALSE(sitio.intersects(InForm1(*Picture(), Picture()->Sheet().Pizarra))) << donde;
-      const auto* const texto2 = dynamic_cast<Transcript*>(Part("Text2"));
-      const QRect ultima = texto2->LastLine().translated(texto2->pos());
-      EXPECT_FALSE(sitio.intersects(ultima)) << donde;
+      ++conDibujo;
+      ExpectNothingCovered(sitio, donde);
     }
   }
-  QApplication::setFont(deAntes);
+  // 9 points at 800 by 600, 9 and 12 in the next two windows, 9 to 18 in the last.
+  EXPECT_EQ(conDibujo, 1 + 2 + 2 + 4);
 }
 
 TEST(Form1, OpensWithoutTheTableWhereItWasPutAway) {

@@ -91,6 +91,7 @@ class Description : public QAccessibleWidget {
   QAccessibleInterface* child(int indice) const override {
     if (indice < 0 || indice >= childCount()) return nullptr;
     while (static_cast<int>(frases_.size()) <= indice) {
+      // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): QAccessible owns it from now on.
       frases_.push_back(QAccessible::registerAccessibleInterface(
           new Sentence{vista_, static_cast<int>(frases_.size())}));
     }
