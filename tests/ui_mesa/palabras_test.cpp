@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "tests/support/tables.h"
 
 namespace tasca::test {
@@ -12,16 +14,16 @@ std::string Estado(CeldaPizarra celda) { return Utf8(EstadoEscrito(celda)); }
 
 TEST(EstadoEscrito, TellsHowALanceStands) {
   using E = EstadoLance;
-  constexpr auto grande = NumeroLance::Grande;
-  const auto simple = [](E estado) { return Estado({.Lance = grande, .Estado = estado}); };
-  EXPECT_EQ(simple(E::PorJugar), "—");
-  EXPECT_EQ(simple(E::NoSeJugo), "—");
-  EXPECT_EQ(simple(E::Declaran), "declaran");
-  EXPECT_EQ(simple(E::Ordago), "¡órdago!");
-  EXPECT_EQ(simple(E::OrdagoQuerido), "órdago querido");
-  EXPECT_EQ(simple(E::NoHay), "no hay");
-  EXPECT_EQ(simple(E::EnPaso), "en paso");
-  EXPECT_EQ(simple(E::SinEnvite), "sin envite");
+  for (const auto& [estado, escrito] : {std::pair{E::PorJugar, "—"},
+                                        {E::NoSeJugo, "—"},
+                                        {E::Declaran, "declaran"},
+                                        {E::Ordago, "¡órdago!"},
+                                        {E::OrdagoQuerido, "órdago querido"},
+                                        {E::NoHay, "no hay"},
+                                        {E::EnPaso, "en paso"},
+                                        {E::SinEnvite, "sin envite"}}) {
+    EXPECT_EQ(Estado({.Lance = NumeroLance::Grande, .Estado = estado}), escrito);
+  }
 }
 
 TEST(EstadoEscrito, CountsTheStonesOfABet) {

@@ -54,6 +54,15 @@ std::vector<Rect> Todas(const PartesVentana& p) {
   return llenas;
 }
 
+void ExpectApartAndInside(const std::vector<Rect>& partes, const Rect& dentro) {
+  for (std::size_t i = 0; i < partes.size(); ++i) {
+    EXPECT_EQ(Union(dentro, partes[i]), dentro) << "part " << i;
+    for (std::size_t j = 0; j < i; ++j) {
+      EXPECT_FALSE(SeCruzan(partes[i], partes[j])) << i << ", " << j;
+    }
+  }
+}
+
 TEST(PartesDe, CoverNeitherEachOtherNorTheMenu) {
   for (const auto& [ancho, alto, cuantas] : {std::tuple{1280, 800, 8U},
                                              {740, 640, 8U},
@@ -61,15 +70,9 @@ TEST(PartesDe, CoverNeitherEachOtherNorTheMenu) {
                                              {480, 480, 7U},
                                              {300, 300, 6U}}) {
     const std::vector<Rect> partes = Todas(PartesDe(Ventana(ancho, alto), 30));
-    EXPECT_EQ(partes.size(), cuantas) << ancho << "x" << alto;
-    const Rect dentro = Entre(0, 20, ancho, alto);
-    for (std::size_t i = 0; i < partes.size(); ++i) {
-      EXPECT_EQ(Union(dentro, partes[i]), dentro) << ancho << "x" << alto << ", part " << i;
-      for (std::size_t j = 0; j < i; ++j) {
-        EXPECT_FALSE(SeCruzan(partes[i], partes[j]))
-            << ancho << "x" << alto << ": " << i << ", " << j;
-      }
-    }
+    SCOPED_TRACE(std::to_string(ancho) + "x" + std::to_string(alto));
+    EXPECT_EQ(partes.size(), cuantas);
+    ExpectApartAndInside(partes, Entre(0, 20, ancho, alto));
   }
 }
 
