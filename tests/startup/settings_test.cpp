@@ -50,7 +50,7 @@ struct Ajustes {
 
 // The error message of an operation, without the folder's name; "" if it throws no error.
 std::string Fallo(const Ajustes& a, const std::function<void()>& operacion) {
-  const std::string mensaje = ErrorOf(operacion);
+  std::string mensaje = ErrorOf(operacion);
   const std::string carpetaYBarra = a.t.Carpeta.string() + "/";
   if (!mensaje.starts_with(carpetaYBarra)) return mensaje;
   return mensaje.substr(carpetaYBarra.size());
