@@ -247,7 +247,7 @@ void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port) {
 }
 
 bool HayCambios(const Dialog1& d, const Table& t) {
-  return TextoPersonajes(t, d.NumPersonajes) != d.Guardado;
+  return TextosCambiados(d, t) || TextoPersonajes(t, d.NumPersonajes) != d.Guardado;
 }
 
 }  // namespace tasca

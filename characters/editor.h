@@ -101,7 +101,8 @@ void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port);
 // message box. Throws RunTimeError if the file cannot be used.
 void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port);
 
-// True if the characters in memory differ from the file as last loaded or saved.
+// True if the characters in memory differ from the file as last loaded or saved, or if texts have
+// been typed and not applied.
 bool HayCambios(const Dialog1& d, const Table& t);
 
 }  // namespace tasca

@@ -381,8 +381,9 @@ TEST(HayCambios, IsTrueFromAChangeUntilItIsSaved) {
   List1_Click(e.d, e.t, e.port, 1);
   EXPECT_FALSE(HayCambios(e.d, e.t));
   e.d.Text1 = u"Lola";
+  EXPECT_TRUE(HayCambios(e.d, e.t)) << "typed, and not applied";
   Command1_Click(e.d, e.t, e.port, 2);
-  EXPECT_TRUE(HayCambios(e.d, e.t));
+  EXPECT_TRUE(HayCambios(e.d, e.t)) << "applied, and not saved";
   Command3_Click(e.d, e.t, e.port, 0);
   EXPECT_FALSE(HayCambios(e.d, e.t));
 }
