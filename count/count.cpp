@@ -121,7 +121,8 @@ std::u16string_view SeparadorPares(int porNombrar) {
 Pareja ContarPares(Table& t, Pareja anterior) {
   const Pareja pareja = QuienSeSacaPares(t, anterior);
   // With an accepted bet this counts down the seats still to be named; otherwise it counts up the
-  // seats named. Either way the second of two seats gets the "y".
+  // seats named, and the second of two seats gets the "y".
+  // Kept: after a refused bet the second seat gets a blank.
   int porNombrar = t.Apuesta[NumeroLance::Pares] > 0 ? CuentaAsientos(t, pareja, TienePares) : 0;
   const bool haciaArriba =
       t.Declaracion[NumeroLance::Pares] != SinDeclaracion || t.Apuesta[NumeroLance::Pares] == 0;

@@ -1,5 +1,8 @@
 #pragma once
 // What differs between the five lances. The betting is the same for all (lances/bidding.h).
+// A lance also has its phases (table/phases.h), an element of Apuesta and Declaracion
+// (table/table.h) and their resets (cards/hand.cpp, match/start.cpp), its count (count/count.cpp),
+// its cell on the slate (scene/slate.cpp) and its name there (ui/mesa/palabras.cpp).
 #include <string_view>
 
 #include "table/dialog.h"

@@ -39,7 +39,7 @@ int Clase(const std::vector<int>& iguales) {
 }
 
 // Tie value of hands of one class: 100 x first value + 10 x second + third + 0.1 x fourth + ...,
-// rounded.
+// rounded. The rounding can make unequal hands equal.
 int Desempate(const std::vector<int>& iguales) {
   int milesimas = 0;
   int peso = 100000;

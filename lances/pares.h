@@ -2,6 +2,8 @@
 // Pares: two or more equal cards. Every seat declares whether it has pares. If both parejas have,
 // the seats that have them bet. Dúplex (two pairs) beats medias (three equal cards), medias beat
 // par; within a class the higher pairs win, and of equal hands the first seat in speaking order.
+// The betting is in lances/bidding.h. At the count (count/) each seat of the winning pareja is
+// paid: a par 1 stone, medias 2, dúplex 3.
 #include <vector>
 
 #include "lances/lance.h"

@@ -13,11 +13,11 @@ void FaseMus(Game& g);
 // Makes `asiento` the mano: sets OrdenAsiento to the seats from `asiento` on.
 void OrdenarDesde(Table& t, Seat asiento);
 
-// Whether a computer seat (2 to 4) wants mus. Draws once.
+// Whether a computer seat (2 to 4) wants mus: its chance, and the hands that refuse. Draws once.
 bool DecideMus(const Table& t, Rnd& rnd, Seat asiento);
 
 // Score of a hand for refusing mus, -3 to 4: higher with a juego of 31 or 32 and near the target of
-// stones, lower the later the seat speaks.
+// stones, lower the later the seat speaks. Kept: DecideMus computes it, and it has no effect.
 int PuntuacionMus(const Table& t, Seat asiento);
 
 // The slots (1..4) of the cards that a computer seat discards: all but Reyes and Treses.

@@ -107,8 +107,8 @@ struct Escena {
   bool operator==(const Escena&) const = default;
 };
 
-// Computes the scene. It depends only on the human's hand, the face-up cards, the spoken lines, the
-// declarations, the bets and the score.
+// Computes the scene. It never depends on the face-down cards of seats 2 to 4, on the order of the
+// deck or on draws to come.
 Escena EscenaDe(const Table& t, Momento momento);
 
 // True if any card of the seats 2 to 4 is face up.

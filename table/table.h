@@ -123,7 +123,7 @@ struct Form1State {
   // Kept: the punto's element of both arrays is not reset between hands, so a punto en paso is
   // counted with the values of the last punto that was bet.
   Array<Integer, 1, 5> Apuesta;      // 0 no bet, stones accepted, EnviteOrdago, ApuestaPagada
-  Array<Integer, 3, 5> Declaracion;  // pareja that wins without comparison, SinDeclaracion if none
+  Array<Integer, 3, 5> Declaracion;  // pareja paid after a refused bet, SinDeclaracion if none
   Integer ParejaEnvite;              // pareja that made the last bet of the current lance
   bool SeJuegaPunto = false;         // nobody has juego: the punto is played instead
   Array<Integer, 1, 4> OrdenPares;   // by seat: 1, 2, ... in order of declaration; 0 without pares

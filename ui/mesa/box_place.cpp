@@ -1,4 +1,4 @@
-// The search for a box's place.
+// Searches the place of a box.
 #include "ui/mesa/box_place.h"
 
 #include <array>

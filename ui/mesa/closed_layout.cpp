@@ -32,12 +32,12 @@ Pila PilaDe(double alto, double paso) {
 constexpr double PasoHolgado = 0.24;
 constexpr double PasoPrieto = 0.15;
 
-// Below a pile: the plate and the badges.
+// The height below a pile that the plate and the badges need.
 double DebajoDeLaPila(const Medidas& m) { return (0.6 + ConDistintivos) * m.f; }
 
 double AnchoCompanero(double alto) { return alto * ProporcionCarta * (4 - 3 * 0.38); }
 
-// With a bubble of so many lines above the pile.
+// The height of a side seat with a bubble of that number of lines above the pile.
 double AltoMinimoDelLado(const Medidas& m, int lineas) {
   return PilaDe(m.AltoOtros, PasoHolgado).Altura() + DebajoDeLaPila(m) +
          (AltoGlobo(lineas) + 1.2) * m.f;

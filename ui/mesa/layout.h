@@ -1,6 +1,6 @@
 #pragma once
-// The drawn table: a scene laid out on a rectangle. Everything hangs on the size of the letter and
-// on the height of the player's cards; nothing that has to be read covers anything else.
+// The drawn table: a scene laid out on a rectangle. All lengths derive from the font size and the
+// height of the player's cards. Pieces that are read never overlap.
 #include <vector>
 
 #include "scene/scene.h"

@@ -1,4 +1,4 @@
-// The lengths, one from the other.
+// Computes the lengths of the drawn table.
 #include "ui/mesa/measures.h"
 
 #include <algorithm>

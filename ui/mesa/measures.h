@@ -1,5 +1,5 @@
 #pragma once
-// The lengths of a drawn table, before anything is laid on it.
+// The lengths of the drawn table, from which the layout places its pieces.
 #include "scene/scene.h"
 #include "ui/mesa/layout.h"
 #include "ui/mesa/rect.h"
@@ -7,14 +7,14 @@
 namespace tasca {
 
 struct Medidas {
-  double f = 0;              // the letter
+  double f = 0;              // the font size in pixels, the unit of most lengths
   bool Baja = false;         // a low picture: ornaments and piles have no room
   bool Abierta = false;      // hands of seats 2 to 4 lie open
   bool Apretada = false;     // they lie open in a picture with no room for the slate
   bool PlacaEncima = false;  // the player's plate lies above the cards instead of beside them
   Rect Madera;
   Rect Pano;
-  Rect Util;         // the part of the cloth where things may lie
+  Rect Util;         // the part of the cloth where pieces may lie
   double Hueco = 0;  // between two cards
   Rect Mano;         // the player's cards
   Rect Fila;         // above them, when PlacaEncima
@@ -26,7 +26,7 @@ struct Medidas {
 
 Medidas MedidasDe(const Escena& escena, const Rect& donde, double letra);
 
-// The table in the making.
+// The inputs and the output of the layout functions.
 struct Composicion {
   const Escena& Vista;
   const Medidas& M;

@@ -40,7 +40,7 @@ Rect PonerFilaDelCompanero(const Composicion& c) {
   return fila;
 }
 
-// With room: every plate below its cards.
+// If the slate fits: every plate lies below its cards.
 void PonerHolgados(const Composicion& c) {
   const double f = c.M.f;
   const Rect fila = PonerFilaDelCompanero(c);
@@ -95,7 +95,7 @@ void PonerLadoApretado(const Composicion& c, Seat asiento, const Rect& lado) {
   PonerPlacaYDistintivos(c, asiento, sitio, izquierda ? Alineado::Izquierda : Alineado::Derecha);
 }
 
-// Without: the partner's plate in the strip between the two rows of cards.
+// If not (Apretada): the partner's plate lies in the strip between the two rows of cards.
 void PonerApretados(const Composicion& c) {
   const double f = c.M.f;
   const Rect fila = PonerFilaDelCompanero(c);

@@ -1,5 +1,5 @@
 #pragma once
-// The table's own words: whatever stands on it, or is spoken of it, that the rules do not write.
+// The words shown or spoken for the table that do not come from the rules.
 #include <string>
 #include <string_view>
 
@@ -33,7 +33,7 @@ std::u16string CambioEscrito(int cartas);
 // "Pareja 1: nosotros".
 std::u16string ParejaEscrita(Pareja pareja);
 
-// "× 7": so many stones of five beside the one that is drawn.
+// "× 7": the number of amarracos, written beside a single drawn one.
 std::u16string VecesEscritas(int veces);
 
 // "Rey de copas"; cards are numbered 1 to 40.

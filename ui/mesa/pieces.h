@@ -1,6 +1,6 @@
 #pragma once
-// What lies on the drawn table, piece by piece, each with its place. A painter paints the pieces in
-// their order and needs to know nothing of the game.
+// The pieces of the drawn table, each with its place. They are painted in their order, without any
+// knowledge of the game.
 #include <optional>
 #include <string>
 #include <variant>
@@ -94,7 +94,7 @@ enum class ClaseFicha {
 struct Ficha {
   Rect Donde;
   ClaseFicha Clase = ClaseFicha::Piedra;
-  int Forma = 0;  // stones that lie together differ
+  int Forma = 0;  // variant of the shape, so that adjacent stones look different
 
   bool operator==(const Ficha&) const = default;
 };
@@ -116,7 +116,7 @@ struct TeclaPuesta {
   bool operator==(const TeclaPuesta&) const = default;
 };
 
-// Says that the player is asked.
+// The sign "le toca": the player must answer.
 struct AvisoTurno {
   Rect Donde;
 

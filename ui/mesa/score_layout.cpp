@@ -1,4 +1,4 @@
-// The score, drawn: amarracos of five stones, single stones, juegos and vacas.
+// Places the score: amarracos of five stones, single stones, juegos and vacas.
 #include <algorithm>
 
 #include "ui/mesa/layout.h"

@@ -1,5 +1,5 @@
 #pragma once
-// What belongs to a seat: its plate, its badges and its bubble, each put into a given place.
+// Places what belongs to a seat: its plate, its badges and its bubble.
 #include "ui/mesa/measures.h"
 
 namespace tasca {
@@ -12,13 +12,14 @@ inline constexpr double AltoDistintivo = 1.45;
 inline constexpr double BajoPlaca = 0.4;  // between a plate and the badges below it
 inline constexpr double ConDistintivos = AltoPlaca + BajoPlaca + AltoDistintivo;
 
-// The plate in the top of `sitio`, no wider than that; what it covers.
+// Places the plate at the top of `sitio`, not wider than it. Returns the covered rectangle.
 Rect PonerPlaca(const Composicion& c, Seat asiento, const Rect& sitio, Alineado a);
 
-// The badges in one row in the top of `sitio`, made smaller where they do not fit; what they cover.
+// Places the badges in one row at the top of `sitio`, smaller if they do not fit. Returns the
+// covered rectangle. The spoken badges are in spoken.cpp.
 Rect PonerDistintivos(const Composicion& c, Seat asiento, const Rect& sitio, Alineado a);
 
-// The plate, with the badges below it.
+// Places the plate with the badges below it.
 void PonerPlacaYDistintivos(const Composicion& c, Seat asiento, const Rect& sitio, Alineado a);
 
 // The last words of a seat, broken into lines for `sitio`; no lines when it has said nothing or
@@ -30,14 +31,14 @@ struct Globo {
 };
 Globo GloboPara(const Composicion& c, Seat asiento, double ancho, double alto);
 
-// How high a bubble with so many lines is, in letters.
+// The height of a bubble with that number of lines, in letters.
 constexpr double AltoGlobo(int lineas) { return 1.4 * lineas + 1.05; }
 
-// The bubble with its top left corner at `x`, `y`, and its point towards a place.
+// Places the bubble with its top left corner at `x`, `y`, and its tip towards `puntaX`, `puntaY`.
 void PonerGlobo(const Composicion& c, Seat asiento, const Globo& globo, double x, double y,
                 Lado punta, double puntaX, double puntaY);
 
-// The letter of bubbles.
+// The font of bubbles.
 Letra LetraDeGlobo(const Composicion& c);
 
 }  // namespace tasca

@@ -1,5 +1,5 @@
 #pragma once
-// The table told in words, for those who hear it: a list in speaking order, built from the scene.
+// The table as sentences for screen readers, in the order in which they are read.
 #include <string>
 #include <vector>
 
@@ -7,7 +7,7 @@
 
 namespace tasca {
 
-// What a sentence is about, so that it can be found on the picture.
+// The subject of a sentence, which locates it on the picture.
 enum class Parte {
   Asiento,  // Indice: the seat
   Carta,    // Indice: the player's card 1 to 4
@@ -23,8 +23,8 @@ struct Frase {
   bool operator==(const Frase&) const = default;
 };
 
-// The seats from the player's own, each of the player's cards, the lances, and both scores. A card
-// that lies face down has no name.
+// Seats 1 to 4, each of the player's cards, the lances, and both scores. A face-down card has no
+// name.
 std::vector<Frase> LaMesaHablada(const Escena& escena);
 
 }  // namespace tasca

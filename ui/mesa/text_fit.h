@@ -1,5 +1,5 @@
 #pragma once
-// Text made to fit a width, measured by whoever draws it.
+// Breaks and cuts text to fit a width. The caller measures.
 #include <functional>
 #include <string>
 #include <string_view>

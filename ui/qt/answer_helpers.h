@@ -1,6 +1,6 @@
 #pragma once
-// What stands beside the text field of an input box, for those who answer by mouse. It writes into
-// the field; what stands there in the end is the answer.
+// Controls beside the text field of an input box, for answers by mouse. They write into the field;
+// the field's text is the answer.
 #include <QLineEdit>
 
 #include "base/array.h"

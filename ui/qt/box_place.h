@@ -1,5 +1,5 @@
 #pragma once
-// A box that is about to open over the main window is put where it hides nothing that it is about.
+// Places a box before it opens over the main window, so that it hides nothing of its subject.
 #include <QDialog>
 #include <functional>
 

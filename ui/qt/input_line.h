@@ -15,7 +15,7 @@ class InputLine : public QPlainTextEdit {
 
   // Replaces the text, including what was typed. Keeps the cursor if the text is the same.
   void ShowText(const QString& texto);
-  // It grows no higher than that; it scrolls then.
+  // Sets the greatest height; a longer text scrolls.
   void LimitHeight(int maximo);
 
  protected:
@@ -25,11 +25,11 @@ class InputLine : public QPlainTextEdit {
   void changeEvent(QEvent* suceso) override;
 
  private:
-  // Sets the height to that of the text, up to half of the window's.
+  // Sets the height to that of the text, up to the limit.
   void FitHeight();
 
   KeyHandler alPulsar_;
-  int maximo_ = 0;  // 0 until it is limited
+  int maximo_ = 0;  // 0 for no limit
 };
 
 }  // namespace tasca

@@ -1,4 +1,4 @@
-// The accessible tree of the drawn table, always that of the scene that is shown.
+// The accessible tree of the drawn table, built from the scene on every query.
 #include "ui/qt/mesa_accessible.h"
 
 #include <QAccessibleWidget>
@@ -47,7 +47,7 @@ class Sentence : public QAccessibleInterface {
   void setText(QAccessible::Text /*clase*/, const QString& /*texto*/) override {}
   QAccessible::Role role() const override { return QAccessible::StaticText; }
 
-  // That of the piece that it is about; the whole picture where there is none.
+  // The rectangle of the sentence's piece, or of the whole picture if it has none.
   QRect rect() const override {
     const std::optional<Frase> frase = Said();
     Rect donde = vista_.Sheet().Suelo;

@@ -1,11 +1,11 @@
 #pragma once
-// The drawn table for screen readers: a group "La mesa" of sentences that can be asked for. It says
-// nothing of its own accord, for the three texts say everything already.
+// The drawn table for screen readers: a group "La mesa" of sentences that a screen reader can
+// query. It announces nothing, because the three texts are announced already.
 
 namespace tasca {
 
-// From now on every MesaView has such a description. Wants the application to stand; to be called
-// again does nothing.
+// Installs the description for every MesaView. Requires a QApplication. Further calls have no
+// effect.
 void DescribeMesaViews();
 
 }  // namespace tasca

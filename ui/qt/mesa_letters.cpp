@@ -1,4 +1,4 @@
-// Fonts and their measures, kept by size.
+// A cache of fonts and their metrics by size.
 #include "ui/qt/mesa_letters.h"
 
 #include <QFontInfo>

@@ -1,5 +1,5 @@
 #pragma once
-// The letters of the drawn table: the system's font in the sizes that the layout asks for.
+// The fonts of the drawn table: the system's font in the sizes of the layout.
 #include <QFont>
 #include <QFontMetricsF>
 #include <map>

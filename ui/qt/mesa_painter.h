@@ -1,5 +1,5 @@
 #pragma once
-// Paints what the layout has laid on the table.
+// Paints the pieces that the layout has placed.
 #include <QPainter>
 #include <QRegion>
 

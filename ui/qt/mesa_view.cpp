@@ -1,4 +1,4 @@
-// The control of the drawn table.
+// Paints the scene, only what has changed of it.
 #include "ui/qt/mesa_view.h"
 
 #include <QHelpEvent>

@@ -1,6 +1,5 @@
 #pragma once
-// The drawn table as a control of the main window: it takes neither the focus nor any key. Its key
-// cap can be clicked.
+// The drawn table as a widget. It takes neither focus nor keys. Its key cap can be clicked.
 #include <QWidget>
 #include <functional>
 #include <optional>

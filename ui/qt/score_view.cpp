@@ -1,4 +1,4 @@
-// The control of the drawn score.
+// Paints the score.
 #include "ui/qt/score_view.h"
 
 #include <QEvent>

@@ -1,5 +1,5 @@
 #pragma once
-// The drawn score as a control of the main window, on the window's own colour.
+// The drawn score as a widget with the window's background.
 #include <QWidget>
 #include <optional>
 
