@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QTest>
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -20,13 +21,14 @@ void Click(QWidget* control) { QTest::mouseClick(control, Qt::LeftButton); }
 
 // Clicks the button with those words, if the window has it.
 bool ClickButton(const QWidget* ventana, const char* texto) {
-  for (auto* const boton : ventana->findChildren<QAbstractButton*>()) {
-    if (!boton->isVisible() || !boton->isEnabled()) continue;
-    if (boton->text().remove(QLatin1Char{'&'}) != QString::fromUtf8(texto)) continue;
-    Click(boton);
-    return true;
-  }
-  return false;
+  const auto botones = ventana->findChildren<QAbstractButton*>();
+  const auto boton = std::ranges::find_if(botones, [texto](const QAbstractButton* uno) {
+    return uno->isVisible() && uno->isEnabled() &&
+           uno->text().remove(QLatin1Char{'&'}) == QString::fromUtf8(texto);
+  });
+  if (boton == botones.end()) return false;
+  Click(*boton);
+  return true;
 }
 
 // Wants mus every other time and throws the second card; raises every third bet.
@@ -54,22 +56,32 @@ class MousePlayer {
   std::set<std::string> cajas_;
 
  private:
-  void Answer(QWidget* caja) {
+  void Answer(const QWidget* caja) {
+    cajas_.insert(Utf8(caja->objectName()));
+    EXPECT_TRUE(Answers(caja)) << "every button is there";
+  }
+
+  bool Answers(const QWidget* caja) {
     const std::string nombre = Utf8(caja->objectName());
-    cajas_.insert(nombre);
-    if (nombre == "Dialog") {
-      const bool sube = ++envites_ % 3 == 1;
-      if (sube && ClickButton(caja, "Envido Más")) return;
-      EXPECT_TRUE(ClickButton(caja, "Paso"));
-    } else if (nombre == "InputBox") {
-      EXPECT_TRUE(ClickButton(caja, "2") || ClickButton(caja, "+")) << "a card, or a step";
-      EXPECT_TRUE(ClickButton(caja, "Aceptar"));
-    } else if (nombre == "YesNoBox") {
-      const bool mus = caja->windowTitle() == QString::fromUtf8("¿mus?");
-      EXPECT_TRUE(ClickButton(caja, mus && ++preguntas_ % 2 == 1 ? "Sí" : "No"));
-    } else {
-      EXPECT_TRUE(ClickButton(caja, "Aceptar"));
-    }
+    if (nombre == "Dialog") return Bids(caja);
+    if (nombre == "InputBox") return FillsIn(caja);
+    if (nombre == "YesNoBox") return SaysYesOrNo(caja);
+    return ClickButton(caja, "Aceptar");
+  }
+
+  bool Bids(const QWidget* caja) {
+    const bool sube = ++envites_ % 3 == 1;
+    return (sube && ClickButton(caja, "Envido Más")) || ClickButton(caja, "Paso");
+  }
+
+  // The second card, or one stone more.
+  static bool FillsIn(const QWidget* caja) {
+    return (ClickButton(caja, "2") || ClickButton(caja, "+")) && ClickButton(caja, "Aceptar");
+  }
+
+  bool SaysYesOrNo(const QWidget* caja) {
+    const bool mus = caja->windowTitle() == QString::fromUtf8("¿mus?");
+    return ClickButton(caja, mus && ++preguntas_ % 2 == 1 ? "Sí" : "No");
   }
 
   Program& programa_;
