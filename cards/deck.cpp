@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/exchange_sort.h"
+#include "base/text.h"
 
 namespace tasca {
 namespace {
@@ -87,6 +88,11 @@ int PuntosJuego(const Table& t, Seat asiento) {
   int puntos = 0;
   for (int hueco = 1; hueco <= 4; ++hueco) puntos += CartaDe(t, asiento, hueco).ValorJuego;
   return puntos;
+}
+
+std::u16string NombreDeCarta(int carta) {
+  const auto orden = static_cast<std::size_t>(carta - 1);
+  return Join(Rangos.at(orden % CartasPorPalo).Figura, u" de ", Palos.at(orden / CartasPorPalo));
 }
 
 void CrearBaraja(Table& t, Rnd& rnd) {

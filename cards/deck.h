@@ -18,6 +18,9 @@ int CuentaCartas(const Table& t, Seat asiento, int valor);
 // The points of a seat: the sum of its four ValorJuego, 4 to 40.
 int PuntosJuego(const Table& t, Seat asiento);
 
+// "Rey de copas", without padding. Cards are numbered 1 to 40.
+std::u16string NombreDeCarta(int carta);
+
 // Sets Cartas and Baraja to a new deck with no discards, and shuffles it. Draws 40,001 times.
 void CrearBaraja(Table& t, Rnd& rnd);
 

@@ -12,12 +12,6 @@ std::u16string TextoManoDe(const Table& t, Seat asiento) {
   return texto;
 }
 
-std::u16string Encabezado(const Table& t, Seat asiento) {
-  if (asiento == AsientoHumano) return t.NombreJugador;
-  if (t.UsarNombres) return std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()};
-  return Join(u"Jugador ", asiento);
-}
-
 }  // namespace
 
 std::u16string TextoCarta(const Table& t, Seat asiento, int hueco) {
@@ -35,7 +29,7 @@ void MostrarManos(Table& t, Integer asiento) {
   }
   t.Text1.clear();
   for (Seat s = 1; s <= 4; ++s) {
-    t.Text1 += Join(Encabezado(t, s), CrLf, TextoManoDe(t, s), CrLf);
+    t.Text1 += Join(NombreAsiento(t, s), CrLf, TextoManoDe(t, s), CrLf);
   }
   t.CartasVistas = t.Manos;
 }

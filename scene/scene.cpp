@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "base/text.h"
 #include "scene/slate.h"
 
 namespace tasca {
@@ -13,12 +12,6 @@ namespace {
 bool EstaAbierta(const Table& t, Seat asiento, int hueco) {
   const Integer carta = t.Manos[asiento][hueco];
   return carta != 0 && carta == t.CartasVistas[asiento][hueco];
-}
-
-std::u16string NombreDe(const Table& t, Seat asiento) {
-  if (asiento == AsientoHumano) return t.NombreJugador;
-  if (t.UsarNombres) return std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()};
-  return Join(u"Jugador ", asiento);
 }
 
 // The human's empty slots stay where they are.
@@ -78,7 +71,7 @@ void Escuchar(const Table& t, Array<AsientoVisto, 1, 4>& asientos) {
 
 AsientoVisto AsientoDe(const Table& t, Momento momento, Seat asiento) {
   AsientoVisto visto;
-  visto.Nombre = NombreDe(t, asiento);
+  visto.Nombre = NombreAsiento(t, asiento);
   visto.EsMano = !t.ManoPorDecidir && t.OrdenAsiento[1] == asiento;
   visto.Naipes = asiento == AsientoHumano ? ManoDelJugador(t) : ManoDeOtro(t, asiento);
   visto.Pares = LoDeclarado(HaDeclarado(t, momento, DePares, asiento), t.OrdenPares[asiento] > 0);

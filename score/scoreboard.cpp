@@ -16,11 +16,8 @@ int LimiteAlMejorDe(int alMejorDe) { return alMejorDe % 2; }
 
 // The spoken line of an opponent at the end of the match, with its label.
 std::u16string Comentario(const Table& t, Seat asiento, MessageCategory categoria) {
-  const std::u16string nombre = t.UsarNombres
-                                    ? std::u16string{PersonajeDe(t, asiento).Nombre.Trimmed()}
-                                    : Join(u"Jugador ", asiento);
   const auto& frase = Mensaje(t, t.PersonajeAsiento[asiento - 1], categoria, 1);
-  return Join(nombre, u": ", frase.Trimmed());
+  return Join(NombreAsiento(t, asiento), u": ", frase.Trimmed());
 }
 
 void OfrecenLaMano(Game& g, std::u16string_view resultado, MessageCategory categoria) {

@@ -185,6 +185,10 @@ struct Table : Form1State, Module1State {
 // The character at a seat; record 0 for the human.
 const Personaje& PersonajeDe(const Table& t, Seat asiento);
 
+// The name at a seat: the player's, the character's without its padding, or "Jugador 2" to
+// "Jugador 4" if the names are not used.
+std::u16string NombreAsiento(const Table& t, Seat asiento);
+
 // Phrase in slot `hueco` (1..3) of character `personaje` (1..100), with its padding.
 const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
                                      int hueco);

@@ -350,5 +350,12 @@ TEST(PuntosJuego, AddsUpTheFourCards) {
   }
 }
 
+TEST(NombreDeCarta, NamesRankAndSuit) {
+  EXPECT_EQ(Utf8(NombreDeCarta(1)), "As de oros");
+  EXPECT_EQ(Utf8(NombreDeCarta(20)), "Rey de copas");
+  EXPECT_EQ(Utf8(NombreDeCarta(28)), "Sota de espadas");
+  EXPECT_EQ(Utf8(NombreDeCarta(39)), "Caballo de bastos");
+}
+
 }  // namespace
 }  // namespace tasca::test

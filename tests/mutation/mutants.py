@@ -153,13 +153,11 @@ def _changes(each, i):
 
 def _neighbours(text):
     """An integer plus and minus one; a fraction changed in its second significant digit, by at most
-    1.0. None for a number with an exponent: it stands for infinity."""
+    1.0."""
     hexadecimal = text.lower().startswith("0x")
     digits = text.rstrip("uUlL" if hexadecimal else "uUlLfF")
     suffix = text[len(digits):]
     digits = digits.replace("'", "")
-    if not hexadecimal and "e" in digits.lower():
-        return
     if hexadecimal or "." not in digits:
         octal = len(digits) > 1 and digits[0] == "0"
         base, form = (16, "0x{:X}") if hexadecimal else (8, "0{:o}") if octal else (10, "{}")

@@ -115,6 +115,19 @@ TEST(PersonajeDe, RefusesAnInvalidSeat) {
   EXPECT_THROW(PersonajeDe(t, 5), RunTimeError);
 }
 
+TEST(NombreAsiento, IsThePlayersOrTheCharactersOrTheSeats) {
+  Table t = MesaDePrueba();
+  t.NombreJugador = u"Ana";
+  t.PersonajeAsiento[2] = 7;
+  t.Personajes[7].Nombre = u"el Cojo";
+  t.UsarNombres = true;
+  EXPECT_EQ(Utf8(NombreAsiento(t, 1)), "Ana");
+  EXPECT_EQ(Utf8(NombreAsiento(t, 3)), "el Cojo");
+  t.UsarNombres = false;
+  EXPECT_EQ(Utf8(NombreAsiento(t, 1)), "Ana");
+  EXPECT_EQ(Utf8(NombreAsiento(t, 3)), "Jugador 3");
+}
+
 TEST(Mensaje, FindsAPhraseByItsKindAndSlot) {
   Table t = MesaDePrueba();
   t.Mensajes[4][13][2] = u"¡Ganamos!";

@@ -19,6 +19,7 @@ TEST(EstadoEscrito, TellsHowALanceStands) {
                                         {E::Declaran, "declaran"},
                                         {E::Ordago, "¡órdago!"},
                                         {E::OrdagoQuerido, "órdago querido"},
+                                        {E::NoQuerida, "no querida"},
                                         {E::NoHay, "no hay"},
                                         {E::EnPaso, "en paso"},
                                         {E::SinEnvite, "sin envite"}}) {
@@ -33,24 +34,6 @@ TEST(EstadoEscrito, CountsTheStonesOfABet) {
   EXPECT_EQ(Estado({.Estado = E::Envite, .Piedras = 4, .Vistas = 1}), "1 vista + 4");
   EXPECT_EQ(Estado({.Estado = E::Queridas, .Piedras = 6}), "6 queridas");
   EXPECT_EQ(Estado({.Estado = E::Queridas, .Piedras = 1}), "1 querida");
-}
-
-TEST(EstadoEscrito, AgreesWithTheLance) {
-  const auto no = [](NumeroLance lance) {
-    return Estado({.Lance = lance, .Estado = EstadoLance::NoQuerida});
-  };
-  EXPECT_EQ(no(NumeroLance::Grande), "no querida");
-  EXPECT_EQ(no(NumeroLance::Pequena), "no querida");
-  EXPECT_EQ(no(NumeroLance::Pares), "no queridos");
-  EXPECT_EQ(no(NumeroLance::Juego), "no querido");
-  EXPECT_EQ(no(NumeroLance::Punto), "no querido");
-}
-
-TEST(NombreDeCarta, NamesRankAndSuit) {
-  EXPECT_EQ(Utf8(NombreDeCarta(1)), "As de oros");
-  EXPECT_EQ(Utf8(NombreDeCarta(20)), "Rey de copas");
-  EXPECT_EQ(Utf8(NombreDeCarta(28)), "Sota de espadas");
-  EXPECT_EQ(Utf8(NombreDeCarta(39)), "Caballo de bastos");
 }
 
 TEST(NombreDeLance, NamesTheFive) {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace tasca {
 namespace {
@@ -56,7 +57,7 @@ Rect SitioDeCaja(double ancho, double alto, const Alrededores& donde) {
   const double hastaX = std::max(v.X, v.Derecha() - ancho);
   const double hastaY = std::max(v.Y, v.Abajo() - alto);
   Rect mejor;
-  Coste menor{1e18, 0, 0};
+  Coste menor{std::numeric_limits<double>::infinity(), 0, 0};
   for (const double x : Intentos(v.X, hastaX, ideal.X, ancho, verticales)) {
     for (const double y : Intentos(v.Y, hastaY, ideal.Y, alto, horizontales)) {
       const Rect caja{x, y, ancho, alto};

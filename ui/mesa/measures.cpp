@@ -101,8 +101,9 @@ void AbrirManos(Medidas& m) {
   m.AltoOtros = std::floor(std::min({0.8 * m.Mano.Alto, AltoDosFilas(m), AltoOchoAlLado(m)}));
   m.Apretada = !m.PlacaEncima && (m.Baja || m.AltoOtros < std::min(legible, 0.8 * m.Mano.Alto));
   if (!m.Apretada) return;
-  const double alto = std::min({(m.Util.Alto - 3.4 * m.f) / 2, m.Baja ? 1e9 : m.Mano.Alto,
-                                std::max(56.0, (m.Util.Ancho - 25 * m.f) / 2.6)});
+  double alto =
+      std::min((m.Util.Alto - 3.4 * m.f) / 2, std::max(56.0, (m.Util.Ancho - 25 * m.f) / 2.6));
+  if (!m.Baja) alto = std::min(alto, m.Mano.Alto);
   CentrarMano(m, alto);
   m.Pizarra = {};
   m.AltoOtros = m.Mano.Alto;

@@ -8,22 +8,10 @@
 namespace tasca {
 namespace {
 
-constexpr std::array<std::u16string_view, 10> Figuras{
-    u"As", u"Dos", u"Tres", u"Cuatro", u"Cinco", u"Seis", u"Siete", u"Sota", u"Caballo", u"Rey"};
-constexpr std::array<std::u16string_view, 4> Palos{u"oros", u"copas", u"espadas", u"bastos"};
-
-bool EsMasculinoPlural(NumeroLance lance) { return lance == NumeroLance::Pares; }
-
 std::u16string EnviteEscrito(const CeldaPizarra& celda) {
   if (celda.Vistas == 0) return Join(u"envite ", celda.Piedras);
   const std::u16string_view vistas = celda.Vistas == 1 ? u" vista + " : u" vistas + ";
   return Join(celda.Vistas, vistas, celda.Piedras);
-}
-
-std::u16string NoQuerida(NumeroLance lance) {
-  if (EsMasculinoPlural(lance)) return u"no queridos";
-  const bool masculino = lance == NumeroLance::Juego || lance == NumeroLance::Punto;
-  return masculino ? u"no querido" : u"no querida";
 }
 
 std::u16string Afirmado(std::u16string_view de, Declarado que) {
@@ -65,7 +53,7 @@ std::u16string EstadoEscrito(const CeldaPizarra& celda) {
     case EstadoLance::OrdagoQuerido:
       return u"órdago querido";
     case EstadoLance::NoQuerida:
-      return NoQuerida(celda.Lance);
+      return u"no querida";
     case EstadoLance::NoHay:
       return u"no hay";
     case EstadoLance::EnPaso:
@@ -87,11 +75,6 @@ std::u16string ParejaEscrita(Pareja pareja) {
 }
 
 std::u16string VecesEscritas(int veces) { return Join(u"× ", veces); }
-
-std::u16string NombreDeCarta(int carta) {
-  const auto orden = static_cast<std::size_t>(carta - 1);
-  return Join(Figuras.at(orden % 10), u" de ", Palos.at(orden / 10));
-}
 
 std::u16string EnPalabras(int numero) {
   constexpr std::array<std::u16string_view, 5> numeros{u"ninguna", u"una", u"dos", u"tres",

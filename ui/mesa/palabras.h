@@ -36,9 +36,6 @@ std::u16string ParejaEscrita(Pareja pareja);
 // "× 7": the number of amarracos, written beside a single drawn one.
 std::u16string VecesEscritas(int veces);
 
-// "Rey de copas"; cards are numbered 1 to 40.
-std::u16string NombreDeCarta(int carta);
-
 // "una", "dos", ..., "cuatro"; larger numbers in digits.
 std::u16string EnPalabras(int numero);
 

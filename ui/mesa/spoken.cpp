@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "cards/deck.h"
 #include "ui/mesa/palabras.h"
 
 namespace tasca {
@@ -90,17 +91,17 @@ std::u16string LanceHablado(const CeldaPizarra& celda) {
   return Join(NombreDeLance(celda.Lance), marca, u": ", estado);
 }
 
-std::u16string Cuenta(int numero, std::u16string_view una, std::u16string_view uno) {
-  if (numero == 1) return std::u16string{uno};
-  if (numero == 0) return Join(uno.starts_with(u"un ") ? u"ningún " : u"ninguna ", una);
-  return Join(numero, u" ", una, u"s");
+// "ninguna piedra", "una piedra", "2 piedras"; `articulo` is "un" or "una".
+std::u16string Cuenta(int numero, std::u16string_view articulo, std::u16string_view cosa) {
+  if (numero > 1) return Join(numero, u" ", cosa, u"s");
+  const std::u16string_view ninguno = articulo == u"un" ? u"ningún" : u"ninguna";
+  return Join(numero == 1 ? articulo : ninguno, u" ", cosa);
 }
 
 std::u16string ParejaHablada(const Escena& escena, Pareja pareja) {
   const TanteoVisto& tanteo = escena.Tanteo[pareja];
-  return Join(ParejaEscrita(pareja), u". ", Cuenta(tanteo.Piedras, u"piedra", u"una piedra"), u", ",
-              Cuenta(tanteo.Juegos, u"juego", u"un juego"), u", ",
-              Cuenta(tanteo.Vacas, u"vaca", u"una vaca"));
+  return Join(ParejaEscrita(pareja), u". ", Cuenta(tanteo.Piedras, u"una", u"piedra"), u", ",
+              Cuenta(tanteo.Juegos, u"un", u"juego"), u", ", Cuenta(tanteo.Vacas, u"una", u"vaca"));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-#include "ui/mesa/palabras.h"
+#include "cards/deck.h"
 #include "ui/qt/card_painter.h"
 #include "ui/qt/mesa_colors.h"
 #include "ui/qt/qt_text.h"
