@@ -45,6 +45,7 @@ TEST_F(LoudspeakerLimits, AStalledDeviceIsClosed) {
   Pace(1);
   EXPECT_TRUE(Play("Son_DaUnaCarta.wav")) << "the device is opened again";
   EXPECT_TRUE(EndsWithin(seconds{30}));
+  altavoz_.Close();
   EXPECT_EQ(Described(Listen(carpeta_.Recording())),
             (std::vector<std::string>{"Son_DaUnaCarta.wav 0.0 0.0"}));
 }
