@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "ui/mesa/measures.h"
+#include "ui/mesa/seats.h"
 #include "ui/mesa/palabras.h"
 
 namespace tasca {
@@ -12,14 +13,16 @@ namespace {
 
 bool HaDicho(const Escena& escena) { return !escena.Asientos[AsientoHumano].Bocadillo.empty(); }
 
-// The inlay in the middle of the cloth, as large as the free cloth allows.
+// The inlay of the cloth, between the partner and the slate. It stays where it is whatever is
+// played.
 void PonerEstrella(const Composicion& c) {
-  const Rect& libre = c.Hoja.Libre;
-  const double lado = std::min({libre.Ancho, libre.Alto, c.M.Util.Ancho * 0.42}) * 0.98;
+  const double arriba = c.M.Util.Y + std::max(c.M.AltoOtros, ConDistintivos * c.M.f) + 0.4 * c.M.f;
+  const double lado = std::round(std::min(c.M.Techo - arriba, c.M.Util.Ancho * 0.42) * 0.98);
   if (lado < 5 * c.M.f) return;
-  c.Hoja.Piezas.insert(c.Hoja.Piezas.begin(),
-                       Adorno{{libre.CentroX() - lado / 2, libre.CentroY() - lado / 2, lado, lado},
-                              ClaseAdorno::Estrella});
+  const double y = (arriba + c.M.Techo - lado) / 2;
+  c.Hoja.Piezas.insert(c.Hoja.Piezas.begin(), Adorno{{std::round(c.M.Util.CentroX() - lado / 2),
+                                                      std::round(y), lado, lado},
+                                                     ClaseAdorno::Estrella});
 }
 
 void PonerMonton(const Composicion& c, int grosor, std::u16string_view texto, double x, double y,
