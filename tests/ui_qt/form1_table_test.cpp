@@ -190,7 +190,7 @@ TEST_F(BoxOverTheTable, LeavesTheCardsTheSlateAndTheLastLineInView) {
 }
 
 TEST(Form1, OpensWithoutTheTableWhereItWasPutAway) {
-  Form1 ventana{{}, true, false};
+  Form1 ventana{{}, {.Mesa = false}};
   EXPECT_FALSE(Control<QAction>(&ventana, "MesaDibujada")->isChecked());
   ventana.resize(1280, 800);
   ventana.show();

@@ -348,7 +348,7 @@ TEST_F(Form1Window, DescribesTheNextEffectOfF9) {
 }
 
 TEST(Form1, StartsWithTheGivenSoundSetting) {
-  const Form1 ventana{{}, false};
+  const Form1 ventana{{}, {.Sonido = false}};
   EXPECT_FALSE(Control<QAction>(&ventana, "Sonido")->isChecked());
   EXPECT_NE(Control<QWidget>(&ventana, "Text1")
                 ->accessibleDescription()

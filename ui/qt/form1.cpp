@@ -24,6 +24,15 @@ QLabel* Etiqueta(const QString& texto, QWidget* de) {
   return etiqueta;
 }
 
+// An entry that is switched on and off.
+QAction* AddSwitch(QMenu& menu, const char* nombre, const char* texto, bool encendido) {
+  auto* const entrada = menu.addAction(QString::fromUtf8(texto));
+  entrada->setObjectName(QString::fromUtf8(nombre));
+  entrada->setCheckable(true);
+  entrada->setChecked(encendido);
+  return entrada;
+}
+
 // Keys that scroll, select or copy in a read-only box, or move the focus.
 bool EsTeclaDeLectura(const QKeyEvent& suceso) {
   switch (suceso.key()) {
@@ -67,7 +76,7 @@ Rect InWindow(const QWidget& control, const QRect& r) {
 
 }  // namespace
 
-Form1::Form1(Events sucesos, bool conSonido, bool conMesa)
+Form1::Form1(Events sucesos, const Options& opciones)
     : sucesos_{std::move(sucesos)},
       text1_{new InputLine{this, [this](const QKeyEvent& suceso) { return KeyInText1(suceso); }}},
       text2_{new Transcript{this}},
@@ -90,9 +99,10 @@ Form1::Form1(Events sucesos, bool conSonido, bool conMesa)
   text3_->setReadOnly(true);
   text2_->installEventFilter(this);
   text3_->installEventFilter(this);
-  reparto_->setMenuBar(BuildMenu(conSonido, conMesa));
-  reparto_->ShowPicture(conMesa);
-  ShowHelp(conSonido);
+  reparto_->setMenuBar(BuildMenu(opciones));
+  reparto_->ShowPicture(opciones.Mesa);
+  SetMotion(opciones.Movimiento);
+  ShowHelp(opciones.Sonido);
   EnlargeTexts();
   resize(QGuiApplication::primaryScreen()->availableSize() * 0.8);
   text1_->setFocus();
@@ -111,32 +121,37 @@ Form1Layout* Form1::BuildLayout() {
        .Ayuda = ayuda_}};
 }
 
-QMenuBar* Form1::BuildMenu(bool conSonido, bool conMesa) {
+QMenuBar* Form1::BuildMenu(const Options& opciones) {
   auto* const menus = new QMenuBar{this};
-  auto* const opciones = menus->addMenu(QStringLiteral("&Opciones"));
-  auto* const sonido = opciones->addAction(QStringLiteral("&Sonido"));
-  sonido->setObjectName(QStringLiteral("Sonido"));
+  auto* const menu = menus->addMenu(QStringLiteral("&Opciones"));
+  QAction* const sonido = AddSwitch(*menu, "Sonido", "&Sonido", opciones.Sonido);
   sonido->setShortcut(Qt::Key_F9);
   sonido->setAutoRepeat(false);
-  sonido->setCheckable(true);
-  sonido->setChecked(conSonido);
   connect(sonido, &QAction::toggled, this, [this](bool encendido) {
     ShowHelp(encendido);
     sucesos_.Sonido_Click(encendido);
   });
-  AddPictureEntry(*opciones, conMesa);
+  AddPictureEntries(*menu, opciones);
   return menus;
 }
 
-void Form1::AddPictureEntry(QMenu& opciones, bool conMesa) {
-  auto* const mesa = opciones.addAction(QStringLiteral("&Mesa dibujada"));
-  mesa->setObjectName(QStringLiteral("MesaDibujada"));
-  mesa->setCheckable(true);
-  mesa->setChecked(conMesa);
+void Form1::AddPictureEntries(QMenu& menu, const Options& opciones) {
+  const QAction* const mesa = AddSwitch(menu, "MesaDibujada", "&Mesa dibujada", opciones.Mesa);
   connect(mesa, &QAction::toggled, this, [this](bool dibujada) {
     reparto_->ShowPicture(dibujada);
     sucesos_.Mesa_Click(dibujada);
   });
+  const QAction* const movimiento =
+      AddSwitch(menu, "Movimiento", "M&ovimiento", opciones.Movimiento);
+  connect(movimiento, &QAction::toggled, this, [this](bool encendido) {
+    SetMotion(encendido);
+    sucesos_.Movimiento_Click(encendido);
+  });
+}
+
+void Form1::SetMotion(bool encendido) {
+  mesa_->SetMotion(encendido);
+  marcador_->SetMotion(encendido);
 }
 
 void Form1::ShowHelp(bool conSonido) {

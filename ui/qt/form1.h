@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "scene/scene.h"
 #include "ui/mesa/box_place.h"
@@ -29,11 +30,19 @@ class Form1 : public QWidget {
     std::function<void()> Closed;
     // The player puts the drawn table away or back.
     std::function<void(bool dibujada)> Mesa_Click = [](bool) {};
+    // The player has switched the movements on or off.
+    std::function<void(bool encendido)> Movimiento_Click = [](bool) {};
   };
 
-  // `conSonido` and `conMesa` are the initial states of the menu entries "Sonido" and
-  // "Mesa dibujada".
-  explicit Form1(Events sucesos, bool conSonido = true, bool conMesa = true);
+  // The initial states of the entries of the menu "Opciones".
+  struct Options {
+    bool Sonido = true;
+    bool Mesa = true;
+    bool Movimiento = true;
+  };
+
+  explicit Form1(Events sucesos) : Form1{std::move(sucesos), Options{}} {}
+  Form1(Events sucesos, const Options& opciones);
 
   // Shows the three texts. Replaces what the player has typed into Text1.
   void ShowTexts(const Form1State& estado);
@@ -52,8 +61,9 @@ class Form1 : public QWidget {
 
  private:
   Form1Layout* BuildLayout();
-  QMenuBar* BuildMenu(bool conSonido, bool conMesa);
-  void AddPictureEntry(QMenu& opciones, bool conMesa);
+  QMenuBar* BuildMenu(const Options& opciones);
+  void AddPictureEntries(QMenu& menu, const Options& opciones);
+  void SetMotion(bool encendido);
   void ShowHelp(bool conSonido);
   void EnlargeTexts();
   void FitText3();

@@ -1,6 +1,7 @@
 // The pieces, one function each.
 #include "ui/qt/mesa_painter.h"
 
+#include <QPainterPath>
 #include <algorithm>
 
 #include "ui/mesa/palabras.h"
@@ -42,18 +43,29 @@ QRect CoveredBy(const Pieza& pieza, double letra) {
 }
 
 MesaPainter::MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& letras,
-                         CardPainter& cartas)
+                         MesaPictures& dibujos)
     : p_{p},
       c_{colores},
       letras_{letras},
-      cartas_{cartas},
+      dibujos_{dibujos},
       f_{letras.Pixels()},
       dpr_{p.device()->devicePixelRatioF()} {
   p_.setRenderHint(QPainter::Antialiasing);
 }
 
+// Most of what changes lies on the plain cloth, where one colour fills it.
+void MesaPainter::PaintSurfaces(const Lamina& hoja, const QRegion& donde) {
+  const QRegion liso{ToQt(Dentro(hoja.Pano, f_ * 1.6)).toAlignedRect()};
+  for (const QRect& parte : donde& liso) p_.fillRect(parte, c_.Pano);
+  const QRegion resto = donde - liso;
+  if (resto.isEmpty()) return;
+  p_.setClipRegion(resto);
+  PaintBorders(hoja);
+  p_.setClipRegion(donde);
+}
+
 // What lies under the next surface is left out.
-void MesaPainter::PaintSurfaces(const Lamina& hoja) {
+void MesaPainter::PaintBorders(const Lamina& hoja) {
   const QRectF suelo = ToQt(hoja.Suelo);
   const QRectF madera = ToQt(hoja.Madera);
   const QRectF pano = ToQt(hoja.Pano);
@@ -76,13 +88,13 @@ void MesaPainter::PaintSurfaces(const Lamina& hoja) {
 
 void MesaPainter::PaintTiles(const QRectF& suelo) {
   const double losa = f_ * 4.2;
+  constexpr double junta = 1;
   p_.setRenderHint(QPainter::Antialiasing, false);
-  p_.setPen(QPen{c_.Junta, 1});
   for (int i = 1; i * losa < suelo.height(); ++i) {
-    p_.drawLine(suelo.topLeft() + QPointF{0, i * losa}, suelo.topRight() + QPointF{0, i * losa});
+    p_.fillRect(QRectF{suelo.left(), suelo.top() + i * losa, suelo.width(), junta}, c_.Junta);
   }
   for (int i = 1; i * losa < suelo.width(); ++i) {
-    p_.drawLine(suelo.topLeft() + QPointF{i * losa, 0}, suelo.bottomLeft() + QPointF{i * losa, 0});
+    p_.fillRect(QRectF{suelo.left() + i * losa, suelo.top(), junta, suelo.height()}, c_.Junta);
   }
   p_.setRenderHint(QPainter::Antialiasing);
 }
@@ -91,6 +103,17 @@ void MesaPainter::PaintPieces(const std::vector<Pieza>& piezas, const QRegion& d
   for (const Pieza& pieza : piezas) {
     if (donde.intersects(CoveredBy(pieza, f_))) std::visit(*this, pieza);
   }
+}
+
+void MesaPainter::PaintMoving(const Fotograma& fotograma) {
+  p_.save();
+  p_.setOpacity(fotograma.Opacidad);
+  const QPointF centro = ToQt(Lugar(fotograma.Que)).center();
+  p_.translate(centro);
+  p_.scale(fotograma.Estrecho, 1);
+  p_.translate(-centro);
+  std::visit(*this, fotograma.Que);
+  p_.restore();
 }
 
 void MesaPainter::Box(const QRectF& r, double radio, const QBrush& relleno, const QPen& linea) {
@@ -130,22 +153,28 @@ void MesaPainter::Write(const QRectF& r, std::u16string_view texto, Letra letra,
   p_.drawText(r, alineado | Qt::TextSingleLine | Qt::TextDontClip, OneLine(texto));
 }
 
+// The card's shadow, with a hole where the card hides it: blending takes longer than the card.
 void MesaPainter::Shade(const QRectF& r, double alto) {
   const double baja = std::max(1.0, alto * 0.012);
-  Box(r.translated(baja * 0.4, baja), alto * 0.042, QColor{0, 0, 0, 70}, Qt::NoPen);
+  const double radio = alto * 0.042;
+  QPainterPath sombra;
+  sombra.addRoundedRect(r.translated(baja * 0.4, baja), radio, radio);
+  sombra.addRect(r.adjusted(radio, radio, -radio, -radio));
+  p_.fillPath(sombra, QColor{0, 0, 0, 70});
 }
 
 void MesaPainter::PaintBack(const QRectF& r, bool girada) {
   const double alto = girada ? r.width() : r.height();
   Shade(r, alto);
-  DrawSharp(p_, r.topLeft(), cartas_.Back(qRound(alto), dpr_, c_.Oscuro, girada));
+  DrawSharp(p_, r.topLeft(), dibujos_.Cartas.Back(qRound(alto), dpr_, c_.Oscuro, girada));
 }
 
 void MesaPainter::operator()(const CartaPuesta& carta) {
   const QRectF r = ToQt(carta.Donde);
   if (carta.Carta == 0) return PaintBack(r, carta.Girada);
   Shade(r, r.height());
-  DrawSharp(p_, r.topLeft(), cartas_.Card(carta.Carta, qRound(r.height()), dpr_, c_.Oscuro));
+  DrawSharp(p_, r.topLeft(),
+            dibujos_.Cartas.Card(carta.Carta, qRound(r.height()), dpr_, c_.Oscuro));
 }
 
 void MesaPainter::operator()(const Monton& monton) {
@@ -160,9 +189,23 @@ void MesaPainter::operator()(const Monton& monton) {
 void MesaPainter::operator()(const Adorno& adorno) {
   const QRectF r = ToQt(adorno.Donde);
   if (c_.Contraste) return;
-  if (adorno.Clase == ClaseAdorno::Estrella) DrawStar(p_, r, c_);
+  if (adorno.Clase == ClaseAdorno::Estrella) PaintStar(r);
   if (adorno.Clase == ClaseAdorno::Vaso) DrawGlass(p_, r, c_);
   if (adorno.Clase == ClaseAdorno::Aceitunas) DrawOlives(p_, r, c_);
+}
+
+// Kept as a picture: nearly every step repaints a part of it.
+void MesaPainter::PaintStar(const QRectF& r) {
+  QPixmap& estrella = dibujos_.Estrella;
+  if (estrella.deviceIndependentSize() != r.size()) {
+    estrella = QPixmap{(r.size() * dpr_).toSize()};
+    estrella.setDevicePixelRatio(dpr_);
+    estrella.fill(c_.Pano);
+    QPainter pintor{&estrella};
+    pintor.setRenderHint(QPainter::Antialiasing);
+    DrawStar(pintor, QRectF{QPointF{}, r.size()}, c_);
+  }
+  DrawSharp(p_, r.topLeft(), estrella);
 }
 
 void MesaPainter::operator()(const PizarraPuesta& pizarra) {

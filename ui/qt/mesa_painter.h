@@ -4,9 +4,10 @@
 #include <QRegion>
 
 #include "ui/mesa/layout.h"
-#include "ui/qt/card_painter.h"
+#include "ui/mesa/movement.h"
 #include "ui/qt/mesa_colors.h"
 #include "ui/qt/mesa_letters.h"
+#include "ui/qt/mesa_pictures.h"
 
 namespace tasca {
 
@@ -17,12 +18,14 @@ QRect CoveredBy(const Pieza& pieza, double letra);
 
 class MesaPainter {
  public:
-  MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& letras, CardPainter& cartas);
+  MesaPainter(QPainter& p, const MesaColors& colores, MesaLetters& letras, MesaPictures& dibujos);
 
-  // Floor, wood and cloth.
-  void PaintSurfaces(const Lamina& hoja);
+  // Floor, wood and cloth of the region.
+  void PaintSurfaces(const Lamina& hoja, const QRegion& donde);
   // The pieces that touch the region, in their order.
   void PaintPieces(const std::vector<Pieza>& piezas, const QRegion& donde);
+  // A piece on its way.
+  void PaintMoving(const Fotograma& fotograma);
 
   void operator()(const Adorno& adorno);
   void operator()(const Monton& monton);
@@ -40,6 +43,7 @@ class MesaPainter {
   void operator()(const Casilla& casilla);
 
  private:
+  void PaintBorders(const Lamina& hoja);
   void PaintTiles(const QRectF& suelo);
   void Box(const QRectF& r, double radio, const QBrush& relleno, const QPen& linea);
   void BigBox(const QRectF& r, double radio, const QColor& relleno, const QPen& linea,
@@ -47,6 +51,7 @@ class MesaPainter {
   void FillAround(const QRectF& r, const QRectF& hueco, const QColor& relleno);
   void Write(const QRectF& r, std::u16string_view texto, Letra letra, const QColor& color,
              int alineado = Qt::AlignCenter);
+  void PaintStar(const QRectF& r);
   void PaintBack(const QRectF& r, bool girada);
   void Shade(const QRectF& r, double alto);
   void WriteState(const CeldaPuesta& celda, const QRectF& r, const QColor& color);
@@ -54,7 +59,7 @@ class MesaPainter {
   QPainter& p_;
   const MesaColors& c_;
   MesaLetters& letras_;
-  CardPainter& cartas_;
+  MesaPictures& dibujos_;
   double f_;
   qreal dpr_;
 };

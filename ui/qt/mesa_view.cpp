@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QToolTip>
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "ui/qt/mesa_painter.h"
@@ -30,6 +31,18 @@ QRegion Difference(const std::vector<Pieza>& antes, const std::vector<Pieza>& nu
   return distinta;
 }
 
+double AreaOf(const QRegion& region) {
+  return std::accumulate(region.begin(), region.end(), 0.0, [](double suma, const QRect& parte) {
+    return suma + 1.0 * parte.width() * parte.height();
+  });
+}
+
+// Clipping to one rectangle is so much quicker that painting up to twice as much costs less.
+QRegion Simplified(const QRegion& region) {
+  const QRegion entera{region.boundingRect()};
+  return 2 * AreaOf(region) > AreaOf(entera) ? entera : region;
+}
+
 }  // namespace
 
 MesaView::MesaView(QWidget* padre, std::function<void()> alPulsarEnter)
@@ -43,10 +56,22 @@ MesaView::MesaView(QWidget* padre, std::function<void()> alPulsarEnter)
 
 void MesaView::ShowScene(const Escena& escena) {
   if (escena == escena_) return;
-  escena_ = escena;
+  const Escena anterior = std::exchange(escena_, escena);
   const std::vector<Pieza> antes = std::move(hoja_.Piezas);
   hoja_ = LayOut();
-  update(Difference(antes, hoja_.Piezas, hoja_.Letra));
+  update(Simplified(Difference(antes, hoja_.Piezas, hoja_.Letra)));
+  movimiento_.Start(MovementsFrom(anterior, antes), hoja_.Letra);
+}
+
+// Nothing moves under a box: the player has to answer what the table shows.
+std::vector<Movimiento> MesaView::MovementsFrom(const Escena& escena,
+                                                const std::vector<Pieza>& piezas) const {
+  const bool mueve = quiereMovimiento_ && escena_.Toca == Turno::Enter && Motion::IsWanted(*this);
+  if (!mueve) return {};
+  std::vector<Movimiento> movimientos = MovimientosDeCartas(escena, escena_, hoja_.Piezas);
+  const std::vector<Movimiento> fichas = MovimientosDeFichas(piezas, hoja_.Piezas);
+  movimientos.insert(movimientos.end(), fichas.begin(), fichas.end());
+  return movimientos;
 }
 
 Lamina MesaView::LayOut() {
@@ -60,6 +85,8 @@ void MesaView::Restart() {
   colores_ = ColorsFor(palette());
   letras_.reset();
   hoja_ = LayOut();
+  movimiento_.Start({}, hoja_.Letra);
+  dibujos_.Estrella = {};
   ForgetOldCards();
   update();
 }
@@ -73,7 +100,7 @@ void MesaView::ForgetOldCards() {
       altos.push_back(qRound(monton->Donde.Alto));
     }
   }
-  cartas_.ForgetOtherHeights(altos, devicePixelRatioF(), colores_.Oscuro);
+  dibujos_.Cartas.ForgetOtherHeights(altos, devicePixelRatioF(), colores_.Oscuro);
 }
 
 bool MesaView::event(QEvent* suceso) {
@@ -103,10 +130,11 @@ void MesaView::resizeEvent(QResizeEvent* /*suceso*/) { Restart(); }
 
 void MesaView::paintEvent(QPaintEvent* suceso) {
   QPainter p{this};
-  MesaPainter pintor{p, colores_, *letras_, cartas_};
+  MesaPainter pintor{p, colores_, *letras_, dibujos_};
   p.setClipRegion(suceso->region());
-  pintor.PaintSurfaces(hoja_);
-  pintor.PaintPieces(hoja_.Piezas, suceso->region());
+  pintor.PaintSurfaces(hoja_, suceso->region());
+  pintor.PaintPieces(movimiento_.StillAmong(hoja_.Piezas), suceso->region());
+  for (const Fotograma& fotograma : movimiento_.Frames()) pintor.PaintMoving(fotograma);
 }
 
 bool MesaView::IsOnKeyCap(QPointF punto) const {

@@ -6,9 +6,10 @@
 
 #include "scene/scene.h"
 #include "ui/mesa/layout.h"
-#include "ui/qt/card_painter.h"
 #include "ui/qt/mesa_colors.h"
 #include "ui/qt/mesa_letters.h"
+#include "ui/qt/mesa_pictures.h"
+#include "ui/qt/motion.h"
 
 namespace tasca {
 
@@ -17,8 +18,12 @@ class MesaView : public QWidget {
   // `alPulsarEnter` is called for a click on the key cap while it is there.
   MesaView(QWidget* padre, std::function<void()> alPulsarEnter);
 
-  // Shows another scene; paints only what differs.
+  // Shows another scene; paints only what differs. Between two steps cards slide and stones drop,
+  // unless the desktop or SetMotion has switched that off. Nothing waits for it.
   void ShowScene(const Escena& escena);
+  void SetMotion(bool quiere) { quiereMovimiento_ = quiere; }
+  // True while something is on its way.
+  bool Moves() const { return movimiento_.Runs(); }
   const Escena& Scene() const { return escena_; }
   // Where everything lies, in the view's own coordinates.
   const Lamina& Sheet() const { return hoja_; }
@@ -35,6 +40,8 @@ class MesaView : public QWidget {
  private:
   Lamina LayOut();
   void Restart();
+  std::vector<Movimiento> MovementsFrom(const Escena& escena,
+                                        const std::vector<Pieza>& piezas) const;
   void ForgetOldCards();
   bool IsOnKeyCap(QPointF punto) const;
 
@@ -43,7 +50,9 @@ class MesaView : public QWidget {
   Lamina hoja_;
   MesaColors colores_;
   std::optional<MesaLetters> letras_;
-  CardPainter cartas_;
+  MesaPictures dibujos_;
+  Motion movimiento_{*this};
+  bool quiereMovimiento_ = true;
   bool pulsada_ = false;
 };
 

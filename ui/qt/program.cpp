@@ -50,13 +50,15 @@ void Program::CbOK_Click() {
 }
 
 void Program::OpenForm1() {
+  opciones_.Sonido = port_.Mp1().IsOn();
   form1_ = std::make_unique<Form1>(
       Form1::Events{
           .Text1_KeyDown = [this](Integer& tecla, Integer shift) { KeyDown(tecla, shift); },
           .Sonido_Click = [this](bool encendido) { port_.Mp1().TurnOn(encendido); },
           .Closed = [this] { Exit(0); },
-          .Mesa_Click = [this](bool dibujada) { conMesa_ = dibujada; }},
-      port_.Mp1().IsOn(), conMesa_);
+          .Mesa_Click = [this](bool dibujada) { opciones_.Mesa = dibujada; },
+          .Movimiento_Click = [this](bool encendido) { opciones_.Movimiento = encendido; }},
+      opciones_);
   form1_->ShowTable(sesion_.Mesa(), Momento::Reposo);
   form1_->showMaximized();
   port_.SetMainWindow(form1_.get());

@@ -44,7 +44,7 @@ class Program {
   std::unique_ptr<Form1> form1_;
   QTimer cambio_;  // opens the start-up dialog once the key event has been handled
   QSocketNotifier avisoSonido_{port_.Mp1().Descriptor(), QSocketNotifier::Read};
-  bool conMesa_ = true;  // the player wants the table drawn
+  Form1::Options opciones_;  // as the player has left them
   bool enPaso_ = false;
   bool terminando_ = false;
 };

@@ -18,7 +18,10 @@ ScoreView::ScoreView(QWidget* padre) : QWidget{padre} {
 void ScoreView::ShowScene(const Escena& escena) {
   if (escena.Tanteo == escena_.Tanteo) return;
   escena_ = escena;
+  const std::vector<Pieza> antes = piezas_;
   LayOut();
+  const bool mueve = quiereMovimiento_ && escena.Toca == Turno::Enter && Motion::IsWanted(*this);
+  if (mueve) movimiento_.Start(MovimientosDeFichas(antes, piezas_), letras_->Pixels());
 }
 
 void ScoreView::LayOut() {
@@ -26,6 +29,7 @@ void ScoreView::LayOut() {
   if (!letras_) letras_.emplace(font());
   piezas_ = MarcadorDe(escena_, {0, 0, static_cast<double>(width()), static_cast<double>(height())},
                        letras_->Pixels(), letras_->Measure());
+  movimiento_.Start({}, letras_->Pixels());
   update();
 }
 
@@ -39,8 +43,9 @@ void ScoreView::resizeEvent(QResizeEvent* /*suceso*/) { LayOut(); }
 
 void ScoreView::paintEvent(QPaintEvent* suceso) {
   QPainter p{this};
-  MesaPainter pintor{p, colores_, *letras_, cartas_};
-  pintor.PaintPieces(piezas_, suceso->region());
+  MesaPainter pintor{p, colores_, *letras_, dibujos_};
+  pintor.PaintPieces(movimiento_.StillAmong(piezas_), suceso->region());
+  for (const Fotograma& fotograma : movimiento_.Frames()) pintor.PaintMoving(fotograma);
 }
 
 }  // namespace tasca

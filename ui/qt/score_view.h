@@ -5,9 +5,10 @@
 
 #include "scene/scene.h"
 #include "ui/mesa/pieces.h"
-#include "ui/qt/card_painter.h"
 #include "ui/qt/mesa_colors.h"
 #include "ui/qt/mesa_letters.h"
+#include "ui/qt/mesa_pictures.h"
+#include "ui/qt/motion.h"
 
 namespace tasca {
 
@@ -15,7 +16,11 @@ class ScoreView : public QWidget {
  public:
   explicit ScoreView(QWidget* padre);
 
+  // Shows another score. New stones drop as on the table.
   void ShowScene(const Escena& escena);
+  void SetMotion(bool quiere) { quiereMovimiento_ = quiere; }
+  // True while something is on its way.
+  bool Moves() const { return movimiento_.Runs(); }
 
  protected:
   void changeEvent(QEvent* suceso) override;
@@ -29,7 +34,9 @@ class ScoreView : public QWidget {
   std::vector<Pieza> piezas_;
   MesaColors colores_;
   std::optional<MesaLetters> letras_;
-  CardPainter cartas_;
+  MesaPictures dibujos_;
+  Motion movimiento_{*this};
+  bool quiereMovimiento_ = true;
 };
 
 }  // namespace tasca
