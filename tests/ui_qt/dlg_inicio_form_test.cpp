@@ -7,6 +7,9 @@
 #include <QClipboard>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <utility>
 #include <vector>
@@ -16,6 +19,7 @@
 #include "tests/ui_qt/companions.h"
 #include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
+#include "ui/qt/qt_text.h"
 
 namespace tasca::test {
 namespace {
@@ -242,9 +246,11 @@ TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndKeepsItsSize) {
   auto* const historia = Find<QLabel>("Text4");
   const QSize forma = ventana_.size();
   for (const std::u16string& texto :
-       {std::u16string(200, u'x'), u"Dice " + std::u16string(195, u'n')}) {
+       {std::u16string(200, u'x'), u"Dice " + std::u16string(195, u'n'),
+        std::u16string(200, u'W')}) {
     estado_.Text4 = texto;
     ventana_.ShowState();
+    QCoreApplication::processEvents();
     const QRect hueco = historia->contentsRect().marginsRemoved(
         {historia->margin(), historia->margin(), historia->margin(), historia->margin()});
     const QRect ocupado = historia->fontMetrics().boundingRect(QRect{0, 0, hueco.width(), 10000},
@@ -253,6 +259,54 @@ TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndKeepsItsSize) {
     EXPECT_LE(ocupado.height(), hueco.height()) << Utf8(texto);
     EXPECT_EQ(ventana_.size(), forma);
   }
+}
+
+// So large letters that the whole dialog does not fit on the test's screen of 800 pixels.
+class DlgInicioWithLargeLetters : public DlgInicioWindow {
+ protected:
+  class LargeLetters {
+   public:
+    LargeLetters() { QApplication::setFont(Scaled(antes_, 3)); }
+    LargeLetters(const LargeLetters&) = delete;
+    LargeLetters& operator=(const LargeLetters&) = delete;
+    ~LargeLetters() { QApplication::setFont(antes_); }
+
+   private:
+    QFont antes_ = QApplication::font();
+  };
+
+  LargeLetters letras_;
+  DlgInicioForm grande_{estado_, {.Run = {}, .CbOK_Click = [this] { ++aceptadas_; }, .Left = {}}};
+};
+
+TEST_F(DlgInicioWithLargeLetters, StaysOnTheScreenWithItsButtonsInSight) {
+  grande_.ShowState();
+  grande_.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&grande_));
+  const QSize pantalla = grande_.screen()->availableSize();
+  EXPECT_GT(grande_.findChild<QScrollArea*>()->verticalScrollBar()->maximum(), 0);
+  EXPECT_LE(grande_.height(), pantalla.height());
+  for (const char* const nombre : {"CbOK", "CbCancel"}) {
+    const auto* const boton = Control<QPushButton>(&grande_, nombre);
+    EXPECT_TRUE(grande_.rect().contains(boton->geometry())) << nombre;
+  }
+}
+
+TEST_F(DlgInicioWithLargeLetters, ScrollsToTheControlThatGetsTheFocus) {
+  grande_.ShowState();
+  grande_.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&grande_));
+  const auto* const pliego = grande_.findChild<QScrollArea*>()->viewport();
+  auto* const ultimo = Control<QRadioButton>(&grande_, "Option1_0");
+  const auto aLaVista = [&] {
+    return pliego->rect().contains(QRect{ultimo->mapTo(pliego, QPoint{}), ultimo->size()}.center());
+  };
+  EXPECT_FALSE(aLaVista());
+  for (int i = 0; i < 10 && !ultimo->hasFocus(); ++i) {
+    QTest::keyClick(grande_.focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_TRUE(ultimo->hasFocus());
+  EXPECT_TRUE(aLaVista());
 }
 
 TEST_F(DlgInicioWindow, RewritesThePreviewWithTheOptions) {

@@ -6,7 +6,12 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "ui/qt/qt_text.h"
@@ -45,6 +50,39 @@ QString Breakable(const QString& texto, const QLabel& hoja) {
     for (qsizetype i = palabra.size() - 1; i > 0; --i) palabra.insert(i, permisoDeCorte);
   }
   return palabras.join(QChar{u' '});
+}
+
+// As large as what it holds. On a screen too small for that, it scrolls.
+class Pliego : public QScrollArea {
+ public:
+  Pliego(QWidget* padre, QLayout* disposicion) : QScrollArea{padre} {
+    setFrameStyle(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* const contenido = new QWidget;
+    contenido->setLayout(disposicion);
+    setWidget(contenido);
+    setMinimumWidth(contenido->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
+  }
+
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+// What a window can have of the screen, without its own frame and title.
+QSize RoomOnScreen(const QWidget& ventana) {
+  return ventana.screen()->availableSize() - QSize{1, 2} * ventana.fontMetrics().height();
+}
+
+// The characters for which there is room in the left and the right half of the dialog.
+struct Columnas {
+  int Lista;
+  int Historia;
+};
+
+Columnas ColumnsOn(const QWidget& ventana) {
+  const int caben = RoomOnScreen(ventana).width() / ventana.fontMetrics().averageCharWidth();
+  return caben < 90 ? Columnas{.Lista = 10, .Historia = 24} : Columnas{.Lista = 20, .Historia = 40};
 }
 
 void ShowCombo(QComboBox* combo, const ComboBox& lista) {
@@ -93,7 +131,7 @@ void DlgInicioForm::NameControls() {
     combos_.at(i)->setAccessibleName(nombres.at(i));
     combos_.at(i)->view()->setAccessibleName(nombres.at(i));
     combos_.at(i)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combos_.at(i)->setMinimumContentsLength(20);
+    combos_.at(i)->setMinimumContentsLength(ColumnsOn(*this).Lista);
   }
   for (std::size_t i = 0; i < check1_.size(); ++i) {
     check1_.at(i)->setObjectName(QStringLiteral("Check1_%1").arg(i));
@@ -157,19 +195,28 @@ void DlgInicioForm::BuildLayout() {
   cursiva.setItalic(true);
   text3_->setFont(cursiva);
   text4_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text4_->setMinimumWidth(40 * fontMetrics().averageCharWidth());
+  text4_->setMinimumWidth(ColumnsOn(*this).Historia * fontMetrics().averageCharWidth());
+  const int margen = 2 * fontMetrics().averageCharWidth();
   auto* const mesa = new QHBoxLayout;
   mesa->addLayout(BuildChoices(), 1);
   mesa->addWidget(text4_, 1);
+  auto* const pliego = new QVBoxLayout;
+  pliego->setContentsMargins(0, 0, 0, 0);
+  pliego->setSpacing(margen);
+  pliego->addWidget(text1_);
+  pliego->addLayout(mesa, 1);
+  pliego->addLayout(BuildStyle());
+  pliego->addWidget(text3_);
   auto* const ventana = new QVBoxLayout{this};
-  const int margen = 2 * fontMetrics().averageCharWidth();
   ventana->setContentsMargins(margen, margen, margen, margen);
   ventana->setSpacing(margen);
-  ventana->addWidget(text1_);
-  ventana->addLayout(mesa, 1);
-  ventana->addLayout(BuildStyle());
-  ventana->addWidget(text3_);
+  ventana->addWidget(new Pliego{this, pliego}, 1);
   ventana->addLayout(BuildButtons());
+}
+
+void DlgInicioForm::showEvent(QShowEvent* suceso) {
+  if (!suceso->spontaneous()) resize(sizeHint().boundedTo(RoomOnScreen(*this)));
+  QDialog::showEvent(suceso);
 }
 
 QLayout* DlgInicioForm::BuildChoices() {

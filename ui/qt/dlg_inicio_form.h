@@ -37,6 +37,9 @@ class DlgInicioForm : public QDialog {
   // Esc and the close box leave the program.
   void reject() override { sucesos_.Left(); }
 
+ protected:
+  void showEvent(QShowEvent* suceso) override;
+
  private:
   void NameControls();
   void Connect();

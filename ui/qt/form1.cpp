@@ -17,10 +17,10 @@
 namespace tasca {
 namespace {
 
-QLabel* Etiqueta(const QString& texto, QWidget* de) {
-  auto* const etiqueta = new QLabel{texto, de->parentWidget()};
+QLabel* NewLabel(QWidget* control, const QString& rotulo) {
+  auto* const etiqueta = new QLabel{rotulo, control->parentWidget()};
   etiqueta->setTextFormat(Qt::PlainText);
-  etiqueta->setBuddy(de);
+  etiqueta->setBuddy(control);
   return etiqueta;
 }
 
@@ -113,10 +113,10 @@ Form1Layout* Form1::BuildLayout() {
       this,
       {.Mesa = mesa_,
        .Tanteo = marcador_,
-       .RotuloTexto3 = Etiqueta(QStringLiteral("Tanteo (su pareja / la contraria):"), text3_),
+       .RotuloTexto3 = NewLabel(text3_, QStringLiteral("Tanteo (su pareja / la contraria):")),
        .Texto3 = text3_,
        .Texto2 = text2_,
-       .RotuloTexto1 = Etiqueta(QStringLiteral("Sus cartas:"), text1_),
+       .RotuloTexto1 = NewLabel(text1_, QStringLiteral("Sus cartas:")),
        .Texto1 = text1_,
        .Ayuda = ayuda_}};
 }
