@@ -31,6 +31,8 @@ def wait_for(what, look, limit=LIMIT):
 class Session:
     """A context manager: starts the desktop, and removes all its processes and files at the end."""
 
+    screen = "1280x800"
+
     def __enter__(self):
         signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended from outside"))
         _adopt_orphans()
@@ -88,7 +90,7 @@ class Session:
     def _start_display(self):
         # -r turns auto-repeat off: on a loaded machine a short press could repeat.
         number = self._first_line("-displayfd", "Xvfb", "-r", "-noreset", "-nolisten", "tcp",
-                                  "-screen", "0", "1280x800x24")
+                                  "-screen", "0", f"{self.screen}x24")
         return f":{number}"
 
     def _start_bus(self):

@@ -197,7 +197,7 @@ void MesaPainter::operator()(const Adorno& adorno) {
 // Kept as a picture: nearly every step repaints a part of it.
 void MesaPainter::PaintStar(const QRectF& r) {
   QPixmap& estrella = dibujos_.Estrella;
-  if (estrella.deviceIndependentSize() != r.size()) {
+  if (estrella.devicePixelRatio() != dpr_ || estrella.deviceIndependentSize() != r.size()) {
     estrella = QPixmap{(r.size() * dpr_).toSize()};
     estrella.setDevicePixelRatio(dpr_);
     estrella.fill(c_.Pano);

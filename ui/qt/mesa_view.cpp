@@ -129,6 +129,8 @@ void MesaView::changeEvent(QEvent* suceso) {
 void MesaView::resizeEvent(QResizeEvent* /*suceso*/) { Restart(); }
 
 void MesaView::paintEvent(QPaintEvent* suceso) {
+  const bool otraPantalla = std::exchange(dpr_, devicePixelRatioF()) != devicePixelRatioF();
+  if (otraPantalla) ForgetOldCards();
   QPainter p{this};
   MesaPainter pintor{p, colores_, *letras_, dibujos_};
   p.setClipRegion(suceso->region());

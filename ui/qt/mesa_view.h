@@ -54,6 +54,7 @@ class MesaView : public QWidget {
   Motion movimiento_{*this};
   bool quiereMovimiento_ = true;
   bool pulsada_ = false;
+  qreal dpr_ = 0;  // of the last painting
 };
 
 }  // namespace tasca
