@@ -9,8 +9,9 @@ namespace tasca {
 class Rnd {
  public:
   Rnd() = default;
-  // Continues from the state of `motor`.
-  explicit Rnd(const std::mt19937& motor) : motor_{motor} {}
+  // Continues from the state of `motor`, which has given `sacados` draws.
+  explicit Rnd(const std::mt19937& motor, std::uint64_t sacados = 0)
+      : motor_{motor}, sacados_{sacados} {}
 
   // Initializes the whole state from `semilla` and sets the count of draws to 0.
   void Seed(std::uint32_t semilla) {
@@ -26,6 +27,8 @@ class Rnd {
 
   // The number of draws since the last seeding.
   std::uint64_t Draws() const { return sacados_; }
+  // The whole state except the count of draws.
+  const std::mt19937& Engine() const { return motor_; }
 
  private:
   std::mt19937 motor_;

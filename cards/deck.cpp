@@ -48,22 +48,6 @@ Card CartaVacia() {
   return carta;
 }
 
-void CrearCartas(Table& t) {
-  t.Cartas[0] = CartaVacia();
-  int numero = 0;
-  for (const std::u16string_view palo : Palos) {
-    for (const Rango& rango : Rangos) {
-      Card& carta = t.Cartas[++numero];
-      carta.Numero = numero;
-      carta.Palo = palo;
-      carta.Figura = rango.Figura;
-      carta.ValorGrande = rango.ValorGrande;
-      carta.ValorPares = rango.ValorPares;
-      carta.ValorJuego = rango.ValorJuego;
-    }
-  }
-}
-
 void OrdenarMano(Table& t, Seat asiento) {
   OrdenarPorCambios(t.Manos[asiento], [&t](int carta, int otra) {
     return t.Cartas[carta].ValorGrande > t.Cartas[otra].ValorGrande;
@@ -93,6 +77,22 @@ int PuntosJuego(const Table& t, Seat asiento) {
 std::u16string NombreDeCarta(int carta) {
   const auto orden = static_cast<std::size_t>(carta - 1);
   return Join(Rangos.at(orden % CartasPorPalo).Figura, u" de ", Palos.at(orden / CartasPorPalo));
+}
+
+void CrearCartas(Table& t) {
+  t.Cartas[0] = CartaVacia();
+  int numero = 0;
+  for (const std::u16string_view palo : Palos) {
+    for (const Rango& rango : Rangos) {
+      Card& carta = t.Cartas[++numero];
+      carta.Numero = numero;
+      carta.Palo = palo;
+      carta.Figura = rango.Figura;
+      carta.ValorGrande = rango.ValorGrande;
+      carta.ValorPares = rango.ValorPares;
+      carta.ValorJuego = rango.ValorJuego;
+    }
+  }
 }
 
 void CrearBaraja(Table& t, Rnd& rnd) {

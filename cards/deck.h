@@ -21,6 +21,9 @@ int PuntosJuego(const Table& t, Seat asiento);
 // "Rey de copas", without padding. Cards are numbered 1 to 40.
 std::u16string NombreDeCarta(int carta);
 
+// Sets Cartas, which is the same in every game.
+void CrearCartas(Table& t);
+
 // Sets Cartas and Baraja to a new deck with no discards, and shuffles it. Draws 40,001 times.
 void CrearBaraja(Table& t, Rnd& rnd);
 

@@ -1,6 +1,6 @@
 # Fails when a file includes a file of a folder that comes later in `folders` than its own.
 # cmake -DROOT=<the project's folder> -P folders_in_order.cmake
-set(folders base table characters sound cards score lances mus count startup scene match ui tools)
+set(folders base table characters sound cards score lances mus count startup scene keep match ui tools)
 set(upward "")
 set(seen 0)
 set(above ${folders})

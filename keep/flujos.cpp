@@ -1,0 +1,94 @@
+// The encoding of numbers, texts and the generator.
+#include "keep/flujos.h"
+
+#include <algorithm>
+#include <locale>
+#include <sstream>
+
+namespace tasca {
+namespace {
+
+// The standard text form of the engine's state. It is read back by the same standard library.
+std::string TextoMotor(const std::mt19937& motor) {
+  std::ostringstream texto;
+  texto.imbue(std::locale::classic());
+  texto << motor;
+  return texto.str();
+}
+
+}  // namespace
+
+void EscritorPartida::Entero(std::uint64_t numero, int cuantosBytes) {
+  for (int i = 0; i < cuantosBytes; ++i, numero >>= 8U) {
+    bytes_ += static_cast<char>(static_cast<unsigned char>(numero & 0xFFU));
+  }
+}
+
+void EscritorPartida::Texto(std::u16string_view texto) {
+  Entero(texto.size(), 4);
+  for (const char16_t letra : texto) Entero(letra, 2);
+}
+
+void EscritorPartida::Generador(const Rnd& rnd) {
+  const std::string motor = TextoMotor(rnd.Engine());
+  Entero(rnd.Draws(), 8);
+  Entero(motor.size(), 4);
+  bytes_ += motor;
+}
+
+std::string_view LectorPartida::Trozo(std::size_t cuantos) {
+  if (cuantos > resto_.size()) Fallar();
+  if (!bien_) return {};
+  const std::string_view trozo = resto_.substr(0, cuantos);
+  resto_.remove_prefix(cuantos);
+  return trozo;
+}
+
+std::uint64_t LectorPartida::Entero(int cuantosBytes) {
+  const std::string_view trozo = Trozo(static_cast<std::size_t>(cuantosBytes));
+  std::uint64_t numero = 0;
+  for (auto byte = trozo.rbegin(); byte != trozo.rend(); ++byte) {
+    numero = numero << 8U | static_cast<unsigned char>(*byte);
+  }
+  return numero;
+}
+
+int LectorPartida::EnteroEntre(Rango posibles) {
+  constexpr int Vueltas = 1 << 16;
+  const int leido = static_cast<int>(Entero(2));
+  const int numero = leido > INT16_MAX ? leido - Vueltas : leido;
+  if (numero < posibles.Menor || numero > posibles.Mayor) Fallar();
+  return bien_ ? numero : 0;
+}
+
+// Every element takes at least two bytes.
+std::size_t LectorPartida::Longitud() {
+  const std::uint64_t longitud = Entero(4);
+  if (longitud > resto_.size() / 2) Fallar();
+  return bien_ ? longitud : 0;
+}
+
+void LectorPartida::Texto(std::u16string& texto) {
+  texto.clear();
+  const std::string_view bytes = Trozo(2 * Longitud());
+  texto.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const auto menor = static_cast<unsigned char>(bytes[i]);
+    const auto mayor = static_cast<unsigned char>(bytes[i + 1]);
+    texto += static_cast<char16_t>(mayor << 8U | menor);
+  }
+}
+
+// The library's reader accepts other spellings and does not check its position: only the text that
+// it would write itself is valid.
+void LectorPartida::Generador(Rnd& rnd) {
+  const std::uint64_t sacados = Entero(8);
+  const std::string texto{Trozo(Entero(4))};
+  std::istringstream flujo{texto};
+  flujo.imbue(std::locale::classic());
+  std::mt19937 motor;
+  if (!(flujo >> motor) || TextoMotor(motor) != texto) Fallar();
+  rnd = Rnd{motor, sacados};
+}
+
+}  // namespace tasca
