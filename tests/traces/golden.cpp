@@ -10,6 +10,7 @@
 
 #include "tests/support/temp_folder.h"
 #include "tests/traces/compare.h"
+#include "tests/traces/game_folder.h"
 #include "tests/traces/read_file.h"
 #include "ui/trace/session.h"
 
@@ -28,25 +29,6 @@ struct Outcome {
   std::string Out;
   std::string Status;  // one line
 };
-
-// The folder that all games share, without the files that the game does not want, and the game's
-// own files over it.
-void FillFolder(const fs::path& folder, const fs::path& game) {
-  constexpr auto how = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
-  fs::copy(game.parent_path() / "folder", folder, how);
-  if (fs::exists(game / "without")) {
-    for (const std::string& file : LinesOf(ReadFile(game / "without"))) fs::remove(folder / file);
-  }
-  if (fs::exists(game / "folder")) fs::copy(game / "folder", folder, how);
-}
-
-// The errors of a file tell where it lies, which changes from run to run.
-std::string WithoutFolder(std::string out, const std::string& folder) {
-  for (auto at = out.find(folder); at != std::string::npos; at = out.find(folder, at)) {
-    out.replace(at, folder.size(), "FOLDER");
-  }
-  return out;
-}
 
 // Plays in a copy of the folder: the program rewrites the player's name in "mus.ini".
 Outcome PlayGame(const fs::path& game) {
