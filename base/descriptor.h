@@ -12,6 +12,7 @@ namespace tasca {
 // What the system stores about a file.
 struct FileStatus {
   std::uint64_t Inode = 0;
+  std::uint64_t Size = 0;   // in bytes
   std::uint64_t Links = 0;  // 0 once the last name has been removed
   bool IsRegular = false;
   unsigned Permissions = 0;  // the twelve bits of the mode
@@ -25,6 +26,8 @@ enum class OpenMode {
   // Fails for a symbolic link, and does not block on a FIFO.
   ReadItself,
   ReadWrite,
+  // ReadWrite that creates a missing file with mode 0600.
+  ReadWriteOrCreate,
   Folder,
 };
 
@@ -32,7 +35,8 @@ enum class OpenMode {
 // reports write errors.
 class Descriptor {
  public:
-  // Opens an existing file. Check with IsOpen(). A program started later does not inherit it.
+  // Opens a file, which must exist except for ReadWriteOrCreate. Check with IsOpen(). A program
+  // started later does not inherit it.
   Descriptor(const std::filesystem::path& archivo, OpenMode modo);
   // Creates a new file with mode 0600 for reading and writing. Its path is `principio`, six random
   // letters or digits and `final`; it is stored in `ruta`.
@@ -70,6 +74,9 @@ std::optional<FileStatus> StatusOf(const std::filesystem::path& archivo);
 std::optional<FileStatus> StatusOfLink(const std::filesystem::path& archivo);
 // Whether the user may write the file. False also if there is none.
 bool MayWrite(const std::filesystem::path& archivo);
+// Creates the folder and the missing folders above it, with mode 0700. True if it is there already.
+// On failure errno is set.
+bool MakeFolders(const std::filesystem::path& carpeta);
 // Removes a name of a file. Ignores errors.
 void Unlink(const std::filesystem::path& archivo);
 

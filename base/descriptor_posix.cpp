@@ -28,6 +28,8 @@ int FlagsOf(OpenMode modo) {
       return O_RDONLY | O_NOFOLLOW | O_NONBLOCK;
     case OpenMode::ReadWrite:
       return O_RDWR;
+    case OpenMode::ReadWriteOrCreate:
+      return O_RDWR | O_CREAT;
     case OpenMode::Folder:
       return O_RDONLY | O_DIRECTORY;
   }
@@ -40,6 +42,7 @@ std::optional<FileStatus> StatusBy(const Llamada& llamada) {
   struct stat datos {};
   if (llamada(datos) != 0) return std::nullopt;
   return FileStatus{.Inode = datos.st_ino,
+                    .Size = static_cast<std::uint64_t>(datos.st_size),
                     .Links = datos.st_nlink,
                     .IsRegular = S_ISREG(datos.st_mode),
                     .Permissions = datos.st_mode & 07777U,
@@ -51,8 +54,9 @@ std::optional<FileStatus> StatusBy(const Llamada& llamada) {
 
 Descriptor::Descriptor(const std::filesystem::path& archivo, OpenMode modo)
     : numero_{RetryOnEintr([&] {
+        constexpr mode_t SoloDelUsuario = 0600;
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): open() has no other form.
-        return ::open(archivo.c_str(), FlagsOf(modo) | O_CLOEXEC);
+        return ::open(archivo.c_str(), FlagsOf(modo) | O_CLOEXEC, SoloDelUsuario);
       })} {}
 
 Descriptor::~Descriptor() {
@@ -124,6 +128,20 @@ std::optional<FileStatus> StatusOfLink(const std::filesystem::path& archivo) {
 }
 
 bool MayWrite(const std::filesystem::path& archivo) { return ::access(archivo.c_str(), W_OK) == 0; }
+
+bool MakeFolders(const std::filesystem::path& carpeta) {
+  constexpr mode_t SoloDelUsuario = 0700;
+  const auto crear = [&carpeta] {
+    if (::mkdir(carpeta.c_str(), SoloDelUsuario) == 0) return true;
+    if (errno != EEXIST) return false;
+    const Descriptor abierta{carpeta, OpenMode::Folder};
+    return abierta.IsOpen();
+  };
+  if (crear()) return true;
+  const std::filesystem::path madre = carpeta.parent_path();
+  if (errno != ENOENT || madre.empty() || madre == carpeta) return false;
+  return MakeFolders(madre) && crear();
+}
 
 void Unlink(const std::filesystem::path& archivo) { ::unlink(archivo.c_str()); }
 

@@ -35,8 +35,11 @@ class RunTimeError : public std::exception {
   bool mostrado_ = false;
 };
 
-// Thrown when the player declines another match: the program ends at once with exit status 0.
-struct LeaveProgram {};
+// Thrown when the player leaves or declines another match: the program ends at once with exit
+// status 0.
+struct LeaveProgram {
+  bool PartidaAcabada = false;  // the match has been played to its end
+};
 
 // Throws RunTimeError: a number does not fit an Integer.
 [[noreturn]] void ThrowOverflow();

@@ -11,8 +11,18 @@
 
 namespace tasca {
 
-Session::Session(std::filesystem::path carpeta, Port& port) : port_{port} {
+Session::Session(std::filesystem::path carpeta, Port& port,
+                 const std::optional<std::filesystem::path>& estado)
+    : port_{port} {
   t_.Carpeta = std::move(carpeta);
+  if (estado) conservador_.emplace(*estado);
+}
+
+Situacion Session::Retomar() {
+  return Hacer([this] {
+    const bool sigue = conservador_ && conservador_->Ofrecer(g_);
+    return sigue ? Situacion::EnLaMesa : Situacion::EnInicio;
+  });
 }
 
 Situacion Session::AbrirInicio() {
@@ -30,14 +40,21 @@ Situacion Session::Aceptar() {
   return Hacer([this] {
     if (!CbOK_Click(inicio_, g_)) return Situacion::EnInicio;
     Form_Load(g_);
+    Conservar();
     return Situacion::EnLaMesa;
   });
 }
 
 Situacion Session::Tecla(Integer& KeyCode, Integer Shift) {
   return Hacer([&] {
+    if (conservador_) conservador_->Esperar();
     Text1_KeyDown(g_, KeyCode, Shift);
-    return port_.TakeChangePlayers() ? Situacion::OtrosJugadores : Situacion::EnLaMesa;
+    if (port_.TakeChangePlayers()) {
+      Olvidar();
+      return Situacion::OtrosJugadores;
+    }
+    Conservar();
+    return Situacion::EnLaMesa;
   });
 }
 
@@ -63,7 +80,8 @@ Situacion Session::Hacer(const std::function<Situacion()>& paso) {
   try {
     const Situacion siguiente = paso();
     if (situacion_ != Situacion::Fin) situacion_ = siguiente;
-  } catch (const LeaveProgram&) {
+  } catch (const LeaveProgram& salida) {
+    if (salida.PartidaAcabada) Olvidar();
     Acabar({.Estado = EXIT_SUCCESS, .Mensaje = {}});
   } catch (const RunTimeError& error) {
     Acabar({.Estado = EXIT_FAILURE, .Mensaje = error.Message(), .YaMostrado = error.Shown()});
@@ -75,6 +93,14 @@ void Session::Acabar(Desenlace final) {
   if (situacion_ == Situacion::Fin) return;
   final_ = std::move(final);
   situacion_ = Situacion::Fin;
+}
+
+void Session::Conservar() {
+  if (conservador_) conservador_->Guardar(g_);
+}
+
+void Session::Olvidar() {
+  if (conservador_) conservador_->Olvidar();
 }
 
 void Session::LevantarMesa() {

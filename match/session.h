@@ -5,8 +5,10 @@
 // a situation.
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "keep/conservador.h"
 #include "startup/dlg_inicio.h"
 #include "table/game.h"
 
@@ -30,8 +32,11 @@ struct Desenlace {
 // One run of the game, from the start-up dialog to the end.
 class Session {
  public:
-  // `carpeta` is the folder of the game's files. `port` must outlive the session.
-  Session(std::filesystem::path carpeta, Port& port);
+  // `carpeta` is the folder of the game's files. `port` must outlive the session. The match is kept
+  // in `estado` after every step, until it is over; without `estado` it is not, and an empty path
+  // means that the user has no folder for it.
+  Session(std::filesystem::path carpeta, Port& port,
+          const std::optional<std::filesystem::path>& estado = std::nullopt);
 
   // The state of the table, for showing it.
   const Table& Mesa() const { return t_; }
@@ -47,6 +52,9 @@ class Session {
   // Each of the functions below runs one step and returns the situation after it. A LeaveProgram or
   // RunTimeError ends the game and sets Final. After the end they do nothing and return Fin.
 
+  // Offers to go on with the match that was kept the last time. Returns EnLaMesa if the player
+  // does, otherwise EnInicio: then the start-up dialog must be opened.
+  Situacion Retomar();
   // Opens the start-up dialog. Stops the sound of a previous match and clears its table.
   Situacion AbrirInicio();
   // Runs an event of the start-up dialog's controls.
@@ -68,6 +76,10 @@ class Session {
   Situacion Hacer(const std::function<Situacion()>& paso);
   // Ends the game. The first result stays.
   void Acabar(Desenlace final);
+  // Begins to keep the match as it is now.
+  void Conservar();
+  // The kept match is over.
+  void Olvidar();
   // Stops the sound and clears the main window's state.
   void LevantarMesa();
 
@@ -76,6 +88,7 @@ class Session {
   Port& port_;
   Game g_{t_, rnd_, port_};
   DlgInicio inicio_;
+  std::optional<Conservador> conservador_;
   Situacion situacion_ = Situacion::EnInicio;
   Desenlace final_;
 };

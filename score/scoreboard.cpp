@@ -68,7 +68,7 @@ void FinPartida(Game& g, Pareja pareja) {
   };
   if (!pregunta(Pregunta::OtraPartida, u"¿Desea jugar otra partida?")) {
     EmpezarRelato(g.t, u"Hasta pronto");
-    throw LeaveProgram{};
+    throw LeaveProgram{.PartidaAcabada = true};
   }
   if (pregunta(Pregunta::CambiarJugadores, u"¿Desea cambiar de jugadores?")) {
     g.port.ChangePlayers();

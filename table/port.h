@@ -28,6 +28,7 @@ enum class Pregunta {
   Cantidad,          // how many stones to bet or to raise by
   OtraPartida,       // whether to play another match
   CambiarJugadores,  // whether to play it with other companions
+  SeguirPartida,     // whether to go on with the match of the last time
 };
 
 // A question with the buttons Yes and No. An empty title means the application's title.

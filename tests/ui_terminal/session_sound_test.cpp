@@ -57,7 +57,8 @@ class SessionWithSound : public testing::Test {
     KeyboardInput teclado{tubo[0]};
     std::istream in{&teclado};
     std::ostringstream out;
-    EXPECT_EQ(RunTerminal(carpeta_.Path(), {.In = in, .Out = out, .Err = out, .Keyboard = tubo[0]}),
+    EXPECT_EQ(RunTerminal({.Files = carpeta_.Path()},
+                          {.In = in, .Out = out, .Err = out, .Keyboard = tubo[0]}),
               0);
     delante.join();
     ::close(tubo[0]);

@@ -60,8 +60,9 @@ SessionResult Play(const TempFolder& carpeta, std::istream& in, std::ostringstre
                    int teclado = -1) {
   std::ostringstream err;
   SessionResult resultado;
-  resultado.Status = RunTerminal(
-      carpeta.Path(), {.In = in, .Out = out, .Err = err, .Keyboard = teclado}, TenPastNine);
+  resultado.Status =
+      RunTerminal({.Files = carpeta.Path()},
+                  {.In = in, .Out = out, .Err = err, .Keyboard = teclado}, TenPastNine);
   resultado.Out = out.str();
   resultado.Err = err.str();
   return resultado;

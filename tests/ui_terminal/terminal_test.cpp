@@ -303,7 +303,7 @@ TEST_F(Session, EndsWithAnErrorIfItsOutputCannotBeWritten) {
     std::istringstream in{AllDefaults + "?\n"};
     std::ostream out{&buffer};
     std::ostringstream err;
-    const int estado = RunTerminal(Carpeta.Path(), {.In = in, .Out = out, .Err = err});
+    const int estado = RunTerminal({.Files = Carpeta.Path()}, {.In = in, .Out = out, .Err = err});
     error = err.str();
     return estado;
   };

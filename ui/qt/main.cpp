@@ -3,6 +3,7 @@
 #include "ui/program_folder.h"
 #include "ui/qt/application.h"
 #include "ui/qt/program.h"
+#include "ui/state_folder.h"
 
 namespace {
 
@@ -20,6 +21,6 @@ int main(int argc, char** argv) {
   tasca::Application aplicacion{argc, argv};
   // Application has removed the toolkit's own options.
   if (const auto estado = tasca::RefuseOptions(Programa, argc, argv)) return *estado;
-  tasca::Program programa{tasca::ProgramFolder(argv[0])};
-  return aplicacion.Run([&programa] { programa.OpenDlgInicio(); }, programa.AtSessionEnd());
+  tasca::Program programa{tasca::ProgramFolder(argv[0]), tasca::StateFolder()};
+  return aplicacion.Run([&programa] { programa.Open(); }, programa.AtSessionEnd());
 }

@@ -9,7 +9,8 @@
 
 namespace tasca {
 
-Program::Program(std::filesystem::path carpeta) : sesion_{std::move(carpeta), port_} {
+Program::Program(std::filesystem::path carpeta, const std::optional<std::filesystem::path>& estado)
+    : sesion_{std::move(carpeta), port_, estado} {
   cambio_.setSingleShot(true);
   QObject::connect(&cambio_, &QTimer::timeout, &cambio_, [this] {
     enPaso_ = false;
@@ -17,6 +18,12 @@ Program::Program(std::filesystem::path carpeta) : sesion_{std::move(carpeta), po
   });
   QObject::connect(&avisoSonido_, &QSocketNotifier::activated, &avisoSonido_,
                    [this] { AttendSound(); });
+}
+
+void Program::Open() {
+  Situacion situacion{};
+  if (!Run([&] { return situacion = sesion_.Retomar(); })) return;
+  situacion == Situacion::EnLaMesa ? OpenForm1() : OpenDlgInicio();
 }
 
 void Program::OpenDlgInicio() {
@@ -115,6 +122,7 @@ void Program::ShowEnding(const Ending& fin) {
 void Program::Exit(int estado) {
   if (terminando_) return;
   terminando_ = true;
+  port_.ProgramEnds();
   QCoreApplication::exit(estado);
 }
 

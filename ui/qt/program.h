@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "match/session.h"
 #include "ui/qt/application.h"
@@ -18,13 +19,17 @@ namespace tasca {
 
 class Program {
  public:
-  // `carpeta` is the folder of the game's files.
-  explicit Program(std::filesystem::path carpeta);
+  // `carpeta` is the folder of the game's files; the match is kept in `estado`, as Session tells.
+  explicit Program(std::filesystem::path carpeta,
+                   const std::optional<std::filesystem::path>& estado = std::nullopt);
 
+  // Opens the main window with the match of the last time if there is one and the player goes on
+  // with it, otherwise the start-up dialog. Must be called from the event loop.
+  void Open();
   // Opens the start-up dialog and closes the main window if there is one. Must be called from the
   // event loop. The end of the game ends the loop with the exit status.
   void OpenDlgInicio();
-  // The end of the desktop session ends the program at once with status 0; nothing needs saving.
+  // The end of the desktop session ends the program at once with status 0; the match is kept.
   SessionEnd AtSessionEnd();
 
  private:

@@ -55,7 +55,10 @@ std::u16string QtPort::InputBox(const Table& t, Pregunta sobre, const InputQuest
   } else if (sobre == Pregunta::Cantidad) {
     ayuda = Steps;
   }
-  return AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto, ayuda);
+  std::u16string texto =
+      AskText(ventana_, pregunta.Texto, pregunta.Titulo, pregunta.PorDefecto, ayuda);
+  if (acabando_) throw LeaveProgram{};
+  return texto;
 }
 
 void QtPort::OpenSound(const Table& t, std::u16string_view archivo) {

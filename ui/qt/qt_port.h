@@ -19,9 +19,12 @@ class QtPort : public Port {
   QWidget* Window() const { return ventana_; }
   MediaPlayer& Mp1() { return mp1_; }
 
+  // From now on a box that closes was not answered.
+  void ProgramEnds() { acabando_ = true; }
+
   // Every box blocks in a nested event loop until it is answered.
   void MsgBox(const Table& t, std::u16string_view texto) override;
-  // These two throw LeaveProgram if the program is ended while they wait.
+  // These throw LeaveProgram if the program is ended while they wait.
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;
   void ShowDialog(const Table& t, Dialog& dialogo) override;
   std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override;
@@ -34,6 +37,7 @@ class QtPort : public Port {
 
   QWidget* ventana_ = nullptr;
   Form1* form1_ = nullptr;
+  bool acabando_ = false;
   MediaPlayer mp1_;
 };
 

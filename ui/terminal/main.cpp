@@ -4,6 +4,7 @@
 
 #include "ui/options.h"
 #include "ui/program_folder.h"
+#include "ui/state_folder.h"
 #include "ui/terminal/terminal.h"
 #include "ui/terminal/tty.h"
 
@@ -30,10 +31,11 @@ constexpr tasca::ProgramOptions Programa{
 
 int main(int argc, char** argv) {
   if (const auto estado = tasca::TakeOptions(Programa, argc, argv)) return *estado;
-  return tasca::RunTerminal(tasca::ProgramFolder(argv[0]), {.In = std::cin,
-                                                            .Out = std::cout,
-                                                            .Err = std::cerr,
-                                                            .Echoes = tasca::InputIsTerminal(),
-                                                            .Keyboard = Keyboard(),
-                                                            .Width = tasca::TerminalWidth});
+  return tasca::RunTerminal({.Files = tasca::ProgramFolder(argv[0]), .State = tasca::StateFolder()},
+                            {.In = std::cin,
+                             .Out = std::cout,
+                             .Err = std::cerr,
+                             .Echoes = tasca::InputIsTerminal(),
+                             .Keyboard = Keyboard(),
+                             .Width = tasca::TerminalWidth});
 }

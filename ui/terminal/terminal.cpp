@@ -66,17 +66,21 @@ Situacion AttendLine(const Place& lugar) {
   return situacion;
 }
 
+// From the first key to the end of the match. Requires a table.
+Situacion PlayAtTable(const Place& lugar) {
+  lugar.Consola.Line(
+      u"Enter sigue, q abandona la mano, ? repite sus cartas y el tanteo y da ayuda.");
+  Situacion situacion = Situacion::EnLaMesa;
+  while (situacion == Situacion::EnLaMesa) situacion = AttendLine(lugar);
+  return situacion;
+}
+
 // From the start-up prompts to the end of the match.
 Situacion PlayMatch(const Place& lugar) {
   Situacion situacion = lugar.Sesion.AbrirInicio();
   lugar.Pantalla.Show(lugar.Sesion.Mesa());
   if (situacion == Situacion::EnInicio) situacion = AskStartup(lugar.Sesion, lugar.Consola);
-  if (situacion == Situacion::EnLaMesa) {
-    lugar.Consola.Line(
-        u"Enter sigue, q abandona la mano, ? repite sus cartas y el tanteo y da ayuda.");
-  }
-  while (situacion == Situacion::EnLaMesa) situacion = AttendLine(lugar);
-  return situacion;
+  return situacion == Situacion::EnLaMesa ? PlayAtTable(lugar) : situacion;
 }
 
 // Prints the remaining texts or the error. Returns the exit status.
@@ -95,7 +99,7 @@ int Finish(const Place& lugar) {
 
 }  // namespace
 
-int RunTerminal(const std::filesystem::path& carpeta, const TerminalStreams& flujos, Clock reloj) {
+int RunTerminal(const TerminalFolders& carpetas, const TerminalStreams& flujos, Clock reloj) {
   constexpr int parado = 0;
   Console consola{flujos};
   Screen pantalla{consola};
@@ -103,13 +107,16 @@ int RunTerminal(const std::filesystem::path& carpeta, const TerminalStreams& flu
   if (flujos.Keyboard >= 0) mp1.emplace();
   MediaPlayer* const altavoz = mp1 ? &*mp1 : nullptr;
   TerminalPort puerto{consola, pantalla, reloj, altavoz};
-  const auto sesion = std::make_unique<Session>(carpeta, puerto);
+  const auto sesion = std::make_unique<Session>(carpetas.Files, puerto, carpetas.State);
   if (mp1) {
     consola.WaitWith(
         [&] { WaitForLine(flujos.Keyboard, *mp1, [&sesion] { sesion->FinDeSonido(parado); }); });
   }
   const Place lugar{*sesion, consola, pantalla, altavoz};
-  while (PlayMatch(lugar) == Situacion::OtrosJugadores) continue;
+  Situacion situacion = sesion->Retomar();
+  do {
+    situacion = situacion == Situacion::EnLaMesa ? PlayAtTable(lugar) : PlayMatch(lugar);
+  } while (situacion == Situacion::OtrosJugadores);
   return Finish(lugar);
 }
 
