@@ -48,7 +48,7 @@ TEST_P(PartidaGuardada, GivesTheTableAndTheGeneratorBackAfterEveryStep) {
     ASSERT_TRUE(*leida.Mesa == *esperada) << paso;
     ASSERT_EQ(leida.Generador.Draws(), partida.Generador.Draws());
     ASSERT_TRUE(leida.Generador.Engine() == partida.Generador.Engine());
-    ASSERT_EQ(EscribirPartida(*leida.Mesa, leida.Generador), bytes);
+    ASSERT_TRUE(EscribirPartida(*leida.Mesa, leida.Generador) == bytes);
     partida.Paso();
   }
 }

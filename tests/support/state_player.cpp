@@ -18,7 +18,8 @@ int StatePlayer::Below(const Table& t, unsigned n) {
 
 bool StatePlayer::YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& /*pregunta*/) {
   if (sobre == Pregunta::OtraPartida) return OtraPartida;
-  if (sobre == Pregunta::CambiarJugadores) return false;
+  if (sobre == Pregunta::CambiarJugadores) return CambiarJugadores;
+  if (sobre == Pregunta::SeguirPartida) return SeguirPartida;
   return Below(t, 2) == 1;
 }
 

@@ -15,8 +15,11 @@ class StatePlayer : public Port {
   // Must be called before every step.
   void NewStep() { preguntas_ = 0; }
 
-  TimeOfDay Hora;            // what Now returns
-  bool OtraPartida = false;  // whether to play another match, always with the same players
+  TimeOfDay Hora;  // what Now returns
+  // The answers to these questions.
+  bool OtraPartida = false;
+  bool CambiarJugadores = false;
+  bool SeguirPartida = true;
 
   void MsgBox(const Table& /*t*/, std::u16string_view /*texto*/) override {}
   bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override;

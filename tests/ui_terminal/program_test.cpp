@@ -14,7 +14,6 @@ namespace fs = std::filesystem;
 using Words = std::vector<std::string>;
 
 constexpr Sides Terminal{};
-constexpr Sides Pipes{.TypesAtTerminal = false, .ReadsAtTerminal = false};
 
 class TerminalProgramRun : public testing::Test {
  protected:

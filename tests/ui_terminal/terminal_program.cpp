@@ -55,7 +55,8 @@ TerminalProgram::TerminalProgram(const Sides& lados, std::vector<std::string> or
   ::posix_spawn_file_actions_adddup2(&acciones, teclado.There, STDIN_FILENO);
   ::posix_spawn_file_actions_adddup2(&acciones, pantalla.There, STDOUT_FILENO);
   ::posix_spawn_file_actions_addclosefrom_np(&acciones, STDERR_FILENO + 1);
-  orden.insert(orden.begin(), {"env", "-u", "SSH_CONNECTION", "-u", "SSH_TTY"});
+  orden.insert(orden.begin(), {"env", "-u", "SSH_CONNECTION", "-u", "SSH_TTY",
+                               "XDG_STATE_HOME=" + estado_.Path().string()});
   std::vector<char*> argumentos;
   argumentos.reserve(orden.size() + 1);
   for (std::string& argumento : orden) argumentos.push_back(argumento.data());

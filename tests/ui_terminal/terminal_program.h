@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/temp_folder.h"
+
 namespace tasca::test {
 
 // Whether standard input and standard output are a terminal or a pipe.
@@ -14,6 +16,8 @@ struct Sides {
   bool ReadsAtTerminal = true;
   unsigned short Columns = 0;  // the width of the terminal; 0: unknown
 };
+
+inline constexpr Sides Pipes{.TypesAtTerminal = false, .ReadsAtTerminal = false};
 
 // Copies the program into a folder.
 void CopyTerminalProgram(const std::filesystem::path& carpeta);
@@ -45,6 +49,7 @@ class TerminalProgram {
   int salida_ = -1;
   pid_t proceso_ = 0;
   bool alTerminal_;
+  TempFolder estado_;  // where the program keeps the match, unless `orden` names another folder
   std::string mostrado_;
 };
 
