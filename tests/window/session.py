@@ -64,10 +64,15 @@ class Session:
             shutil.copy2(ROOT / "build" / build / "bin" / program, self.bin)
 
     def start(self, *command, extra=(), pass_fds=()):
-        """Starts a program on this desktop. `extra` are additional environment variables."""
+        """Starts a program on this desktop. `extra` are additional environment variables.
+
+        Each program gets a folder of states of its own, so that it is not asked about the match
+        of an earlier one.
+        """
+        state = tempfile.mkdtemp(prefix="state-", dir=self.folder)
         return subprocess.Popen([str(word) for word in command], stdin=subprocess.DEVNULL,
                                 stdout=subprocess.DEVNULL, stderr=self._log, pass_fds=pass_fds,
-                                env={**self.environment, **dict(extra)})
+                                env={**self.environment, "XDG_STATE_HOME": state, **dict(extra)})
 
     def run(self, *command):
         """Runs a program on this desktop; its exit status must be 0."""
