@@ -24,10 +24,11 @@ void QuitarDelDisco(const fs::path& archivo) {
   if (carpeta.IsOpen()) (void)carpeta.Flush();
 }
 
-// Runs `tarea` in a new thread. Without a thread to spare it runs when it is waited for.
+// Runs `tarea` in a new thread. Without a thread to spare it runs when it is waited for; therefore
+// it is not moved into the thread that could not be started.
 template <class Tarea>
-std::future<void> Empezar(Tarea tarea) {
-  return std::async(std::launch::async | std::launch::deferred, std::move(tarea));
+std::future<void> Empezar(const Tarea& tarea) {
+  return std::async(std::launch::async | std::launch::deferred, tarea);
 }
 
 }  // namespace
@@ -47,7 +48,8 @@ ArchivoPartida::ArchivoPartida(fs::path carpeta)
   }
 }
 
-bool ArchivoPartida::Hay() const { return StatusOfLink(ruta_).has_value(); }
+// A file that cannot be examined is there: it must be set aside, not replaced.
+bool ArchivoPartida::Hay() const { return StatusOfLink(ruta_) || errno != ENOENT; }
 
 std::string ArchivoPartida::Leer() const {
   const std::optional<FileStatus> datos = StatusOf(ruta_);

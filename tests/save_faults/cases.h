@@ -8,6 +8,8 @@
 #include "base/code_page.h"
 #include "base/text.h"
 #include "characters/character_file.h"
+#include "keep/partida_guardada.h"
+#include "tests/save_faults/kept_match.h"
 #include "tests/save_faults/tracer.h"
 #include "tests/support/temp_folder.h"
 
@@ -34,6 +36,11 @@ inline std::string Settings(const std::string& nombre, const std::string& anteri
   return "35 piedras\r\n3\r\n3\r\n" + nombre + rotulo + anterior + rotulo;
 }
 
+inline std::string Match(const std::string& nombre, const std::string& /*anterior*/) {
+  return EscribirPartida(*MatchOf(Decode(nombre)), Rnd{});
+}
+
+inline const Saved Partida{"match", "partida", "", "en-uso", Match};
 inline const Saved Personajes{"characters", "Jugadores.dat", "Jugadores.bak", "", Cast};
 inline const Saved Ajustes{"settings", "mus.ini", "", "Jugadores.dat", Settings};
 
@@ -56,6 +63,11 @@ inline const std::string Nada = "-e inject=getppid:delay_enter=0";
 inline const Disk DiscoCorriente{"Ordinary", Nada, TASCA_SAVE_ONCE};
 inline const Disk DiscoSinCerrojos{"WithoutLocks", "-e inject=flock:error=EOPNOTSUPP",
                                    TASCA_SAVE_ONCE};
+// The match is saved by a thread of its own, or by the program's if there is none to spare.
+inline const Disk DiscoSinHilos{"WithoutThreads", "-e inject=clone,clone3:error=EAGAIN",
+                                TASCA_SAVE_ONCE};
+inline const Disk DiscoSinHilosTrasUnFallo{"AfterACrash", DiscoSinHilos.Tracer, TASCA_SAVE_ONCE,
+                                           true};
 inline const Disk DiscoLento{"InBits", Nada, TASCA_SAVE_IN_BITS};
 inline const Disk DiscoTrasUnFallo{"AfterACrash", Nada, TASCA_SAVE_ONCE, true};
 

@@ -1,5 +1,5 @@
-// The saves of the character file and of the settings, with a kill or an error at each of their
-// system calls.
+// The saves of the character file, the settings and the match, with a kill or an error at each of
+// their system calls.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -87,6 +87,9 @@ class SaveFaults : public testing::TestWithParam<Case> {
 
   // The possible messages about a failed save after which the program continues.
   std::set<std::string> Notices(const std::string& motivo) const {
+    if (GetParam().Save.Word == "match") {
+      return {"Esta partida no se guarda para otro día: " + motivo + " Se juega igual."};
+    }
     if (!GetParam().HasCopy()) {
       return {"No se ha podido guardar su nombre en mus.ini: " + motivo +
               " La partida se juega igual."};
@@ -101,7 +104,7 @@ class SaveFaults : public testing::TestWithParam<Case> {
 
   // The possible messages that end the program. The settings are read before they are written.
   std::set<std::string> Endings() const {
-    if (GetParam().HasCopy()) return {};
+    if (GetParam().Save.Word != "settings") return {};
     const std::string motivo = std::string{": no se puede leer el archivo."} + FinDelPrograma;
     return {PathOf("mus.ini") + motivo, PathOf("mus.ini") + ", línea 1" + motivo};
   }
@@ -173,7 +176,8 @@ TEST_P(SaveFaults, SyncsTheFileBeforeTheRenameAndTheFolderAfterIt) {
 TEST_P(SaveFaults, DoesNotOpenTheTemporaryFileOfAnotherSave) {
   const std::vector<Call> llamadas = GetParam().Calls();
   const auto crea = [](const Call& llamada) {
-    return llamada.Text.find("O_CREAT") != std::string::npos;
+    return llamada.Text.find("O_CREAT") != std::string::npos &&
+           llamada.Text.find(".guardando-") != std::string::npos;
   };
   EXPECT_EQ(std::count_if(llamadas.begin(), llamadas.end(), crea),
             std::ssize(GetParam().Written()));
@@ -299,6 +303,38 @@ TEST_P(SaveInBits, WritesAFewBytesAtATime) {
   EXPECT_EQ(escrituras, veces);
 }
 
+// Reading the kept match with faults: it is offered, or set aside, or left where it is.
+class OfferFaults : public SaveFaults {};
+
+TEST_P(OfferFaults, LoseNoMatch) {
+  Case oferta = GetParam();
+  oferta.Save.Word = "offer";
+  int fallos = 0;
+  int apartadas = 0;
+  for (const Call& llamada : oferta.Calls()) {
+    if (!IsAboutFiles(llamada)) continue;
+    for (const char* fallo : {"error=EIO", "error=EACCES", "signal=KILL"}) {
+      SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count) + " " + fallo);
+      const TempFolder carpeta;
+      oferta.Fill(carpeta);
+      const Outcome fin =
+          RunWithFault(oferta.On.Tracer, oferta.SaveIn(carpeta, "nadie"), llamada, fallo);
+      EXPECT_TRUE(fin.Status == 0 || fin.Status == GoesOn || fin.Status == 128 + SIGKILL)
+          << fin.Status << fin.Output;
+      const auto nombres = carpeta.Names();
+      const bool apartada = std::count(nombres.begin(), nombres.end(), "partida-apartada") == 1;
+      EXPECT_TRUE(carpeta.Read(apartada ? "partida-apartada" : "partida") == oferta.Antes());
+      apartadas += apartada ? 1 : 0;
+      ++fallos;
+    }
+  }
+  EXPECT_GE(fallos, 20);
+  EXPECT_GE(apartadas, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Match, OfferFaults, testing::Values(Case{Partida, DiscoCorriente}),
+                         [](const auto& caso) { return std::string{caso.param.On.Name}; });
+
 const auto ByDisk = [](const testing::TestParamInfo<Case>& caso) {
   return std::string{caso.param.On.Name};
 };
@@ -313,6 +349,13 @@ INSTANTIATE_TEST_SUITE_P(Settings, SaveFaults,
                          testing::Values(Case{Ajustes, DiscoCorriente}, Case{Ajustes, DiscoLento},
                                          Case{Ajustes, DiscoTrasUnFallo}),
                          ByDisk);
+INSTANTIATE_TEST_SUITE_P(Match, SaveFaults,
+                         testing::Values(Case{Partida, DiscoSinHilos},
+                                         Case{Partida, DiscoSinHilosTrasUnFallo}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Match, SaveInterrupted, testing::Values(Case{Partida, DiscoSinHilos}),
+                         ByDisk);
+INSTANTIATE_TEST_SUITE_P(Match, SaveRefused, testing::Values(Case{Partida, DiscoSinHilos}), ByDisk);
 INSTANTIATE_TEST_SUITE_P(Characters, SaveInterrupted,
                          testing::Values(Case{Personajes, DiscoCorriente},
                                          Case{Personajes, DiscoLento}),

@@ -1,7 +1,8 @@
-// save-once characters|settings FOLDER NAME: saves a file of one character as the editor does, or
-// accepts the start-up dialog with that player's name. Calls getppid before and after the save, so
-// that the save's calls can be found in a trace. Prints the message to the player. Exit status: 0
-// after a save, 3 if it failed and the program continues, 1 if the program ends, 2 for wrong usage.
+// save-once characters|settings|match|offer FOLDER NAME: saves a file of one character as the
+// editor does, accepts the start-up dialog with that player's name, keeps a match with that name,
+// or goes on with the match that is kept. Calls getppid before and after the save, so that the
+// save's calls can be found in a trace. Prints the message to the player. Exit status: 0 after a
+// save, 3 if it failed and the program continues, 1 if the program ends, 2 for wrong usage.
 #include <unistd.h>
 
 #include <exception>
@@ -13,7 +14,9 @@
 #include "base/code_page.h"
 #include "base/errors.h"
 #include "characters/editor.h"
+#include "keep/conservador.h"
 #include "startup/dlg_inicio.h"
+#include "tests/save_faults/kept_match.h"
 #include "tests/support/quiet_port.h"
 #include "ui/utf8.h"
 
@@ -27,6 +30,10 @@ class GamePort : public tasca::test::QuietPort {
  public:
   std::u16string Told;
   void MsgBox(const tasca::Table& /*t*/, std::u16string_view texto) override { Told += texto; }
+  bool YesNoBox(const tasca::Table& /*t*/, tasca::Pregunta /*sobre*/,
+                const tasca::YesNoQuestion& /*pregunta*/) override {
+    return true;
+  }
 };
 
 class EditorsPort : public tasca::EditorPort {
@@ -65,6 +72,34 @@ int SaveSettings(tasca::Table& t, const std::u16string& nombre) {
   return port.Told.empty() ? Saved : WentOn;
 }
 
+// The second call of Guardar reports an error of the first.
+int SaveMatch(const tasca::Table& t, const std::u16string& nombre) {
+  GamePort port;
+  tasca::Rnd rnd;
+  const auto mesa = tasca::test::MatchOf(nombre);
+  tasca::Game g{*mesa, rnd, port};
+  Mark();
+  tasca::Conservador conservador{t.Carpeta};
+  conservador.Guardar(g);
+  conservador.Esperar();
+  conservador.Guardar(g);
+  Mark();
+  std::cout << tasca::ToUtf8(port.Told);
+  return port.Told.empty() ? Saved : WentOn;
+}
+
+int OfferMatch(tasca::Table& t) {
+  GamePort port;
+  tasca::Rnd rnd;
+  const std::filesystem::path estado = t.Carpeta;
+  tasca::Game g{t, rnd, port};
+  Mark();
+  const bool sigue = tasca::Conservador{estado}.Ofrecer(g);
+  Mark();
+  std::cout << tasca::ToUtf8(port.Told);
+  return sigue ? Saved : WentOn;
+}
+
 int SaveCharacters(tasca::Table& t, const std::u16string& nombre) {
   EditorsPort port;
   tasca::Dialog1 d;
@@ -85,8 +120,10 @@ int main(int argc, char** argv) {
   mesa->Carpeta = argv[2];
   const std::u16string nombre = tasca::Decode(argv[3]);
   try {
-    const bool ajustes = argv[1] == std::string_view{"settings"};
-    return ajustes ? SaveSettings(*mesa, nombre) : SaveCharacters(*mesa, nombre);
+    const std::string_view que = argv[1];
+    if (que == "match") return SaveMatch(*mesa, nombre);
+    if (que == "offer") return OfferMatch(*mesa);
+    return que == "settings" ? SaveSettings(*mesa, nombre) : SaveCharacters(*mesa, nombre);
   } catch (const tasca::RunTimeError& error) {
     std::cout << tasca::ToUtf8(error.Message());
   } catch (const std::exception& error) {

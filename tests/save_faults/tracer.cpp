@@ -60,8 +60,10 @@ Outcome RunCommand(const std::string& orden) {
 bool MachineTraces() { return RunCommand("strace -o /dev/null true").Status == 0; }
 
 bool IsAboutFiles(const Call& llamada) {
-  static const std::set<std::string> deMemoria{"brk", "mmap", "munmap", "madvise", "mprotect"};
-  return !deMemoria.contains(llamada.Name);
+  static const std::set<std::string> otras{"brk",          "mmap",          "munmap", "madvise",
+                                           "mprotect",     "clone",         "clone3", "futex",
+                                           "rt_sigaction", "rt_sigprocmask"};
+  return !otras.contains(llamada.Name);
 }
 
 std::vector<Call> CallsOf(const std::string& opciones, const std::string& orden) {

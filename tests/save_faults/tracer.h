@@ -25,7 +25,7 @@ struct Call {
   std::string Text = {};
 };
 
-// False for calls that only manage memory.
+// False for calls that only manage memory or threads.
 bool IsAboutFiles(const Call& llamada);
 
 // Runs a save without faults and returns the calls between its two marks (getppid). `opciones` are
