@@ -131,16 +131,12 @@ bool MayWrite(const std::filesystem::path& archivo) { return ::access(archivo.c_
 
 bool MakeFolders(const std::filesystem::path& carpeta) {
   constexpr mode_t SoloDelUsuario = 0700;
-  const auto crear = [&carpeta] {
-    if (::mkdir(carpeta.c_str(), SoloDelUsuario) == 0) return true;
-    if (errno != EEXIST) return false;
-    const Descriptor abierta{carpeta, OpenMode::Folder};
-    return abierta.IsOpen();
-  };
-  if (crear()) return true;
-  const std::filesystem::path madre = carpeta.parent_path();
-  if (errno != ENOENT || madre.empty() || madre == carpeta) return false;
-  return MakeFolders(madre) && crear();
+  std::filesystem::path hecha;
+  for (const std::filesystem::path& nombre : carpeta) {
+    hecha /= nombre;
+    if (::mkdir(hecha.c_str(), SoloDelUsuario) != 0 && errno != EEXIST) return false;
+  }
+  return Descriptor{carpeta, OpenMode::Folder}.IsOpen();
 }
 
 void Unlink(const std::filesystem::path& archivo) { ::unlink(archivo.c_str()); }

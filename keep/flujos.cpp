@@ -8,12 +8,29 @@
 namespace tasca {
 namespace {
 
-// The standard text form of the engine's state. It is read back by the same standard library.
+// The standard text form of the engine's state: its words and the position of the next one. It is
+// read back by the same standard library.
 std::string TextoMotor(const std::mt19937& motor) {
   std::ostringstream texto;
   texto.imbue(std::locale::classic());
   texto << motor;
   return texto.str();
+}
+
+// The library's reader keeps words of more than 32 bits, which give draws above 1, and does not
+// check the position.
+bool EsDeUnMotor(std::istringstream texto) {
+  std::vector<std::uint64_t> numeros;
+  for (std::uint64_t numero = 0; texto >> numero;) numeros.push_back(numero);
+  return texto.eof() && numeros.size() == std::mt19937::state_size + 1 &&
+         *std::max_element(numeros.begin(), numeros.end()) <= std::mt19937::max() &&
+         numeros.back() <= std::mt19937::state_size;
+}
+
+std::istringstream Clasico(const std::string& texto) {
+  std::istringstream flujo{texto};
+  flujo.imbue(std::locale::classic());
+  return flujo;
 }
 
 }  // namespace
@@ -53,7 +70,7 @@ std::uint64_t LectorPartida::Entero(int cuantosBytes) {
   return numero;
 }
 
-int LectorPartida::EnteroEntre(Rango posibles) {
+int LectorPartida::EnteroEntre(Intervalo posibles) {
   constexpr int Vueltas = 1 << 16;
   const int leido = static_cast<int>(Entero(2));
   const int numero = leido > INT16_MAX ? leido - Vueltas : leido;
@@ -79,15 +96,11 @@ void LectorPartida::Texto(std::u16string& texto) {
   }
 }
 
-// The library's reader accepts other spellings and does not check its position: only the text that
-// it would write itself is valid.
 void LectorPartida::Generador(Rnd& rnd) {
   const std::uint64_t sacados = Entero(8);
   const std::string texto{Trozo(Entero(4))};
-  std::istringstream flujo{texto};
-  flujo.imbue(std::locale::classic());
   std::mt19937 motor;
-  if (!(flujo >> motor) || TextoMotor(motor) != texto) Fallar();
+  if (!EsDeUnMotor(Clasico(texto)) || !(Clasico(texto) >> motor)) Fallar();
   rnd = Rnd{motor, sacados};
 }
 

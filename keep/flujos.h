@@ -13,7 +13,7 @@
 namespace tasca {
 
 // The values that a number may have, both ends included.
-struct Rango {
+struct Intervalo {
   int Menor = INT16_MIN;
   int Mayor = INT16_MAX;
 };
@@ -23,7 +23,7 @@ class EscritorPartida {
  public:
   // An Integer, a bool or an enumerator.
   template <class T>
-  void Numero(const T& numero, Rango /*posibles*/) {
+  void Numero(const T& numero, Intervalo /*posibles*/) {
     Entero(static_cast<std::uint16_t>(static_cast<int>(numero)), 2);
   }
   void Texto(std::u16string_view texto);
@@ -53,7 +53,7 @@ class LectorPartida {
 
   // Fails for a number outside `posibles`.
   template <class T>
-  void Numero(T& numero, Rango posibles) {
+  void Numero(T& numero, Intervalo posibles) {
     numero = static_cast<T>(EnteroEntre(posibles));
   }
   void Texto(std::u16string& texto);
@@ -79,7 +79,7 @@ class LectorPartida {
  private:
   void Fallar() { bien_ = false; }
   std::uint64_t Entero(int cuantosBytes);
-  int EnteroEntre(Rango posibles);
+  int EnteroEntre(Intervalo posibles);
   std::size_t Longitud();
   std::string_view Trozo(std::size_t cuantos);
 

@@ -27,19 +27,19 @@ std::string SumaDe(std::string_view bytes) {
   return texto;
 }
 
-constexpr Rango Cualquiera{};
-constexpr Rango Natural{0, INT16_MAX};
-constexpr Rango DesdeUno{1, INT16_MAX};
-constexpr Rango UnaCarta{1, CartasBaraja};
-constexpr Rango CartaONinguna{0, CartasBaraja};
-constexpr Rango UnAsiento{1, 4};
-constexpr Rango AsientoONinguno{0, 4};
-constexpr Rango UnaPareja{0, 1};
-constexpr Rango SiONo{0, 1};
+constexpr Intervalo Cualquiera{};
+constexpr Intervalo Natural{0, INT16_MAX};
+constexpr Intervalo Parametro{1, 999};  // as in "mus.ini"
+constexpr Intervalo UnaCarta{1, CartasBaraja};
+constexpr Intervalo CartaONinguna{0, CartasBaraja};
+constexpr Intervalo UnAsiento{1, 4};
+constexpr Intervalo AsientoONinguno{0, 4};
+constexpr Intervalo UnaPareja{0, 1};
+constexpr Intervalo SiONo{0, 1};
 
 // A number or an array of numbers.
 template <class Flujo, class T>
-void Numeros(Flujo& f, T& numeros, Rango posibles) {
+void Numeros(Flujo& f, T& numeros, Intervalo posibles) {
   if constexpr (requires { numeros.begin(); }) {
     for (auto& numero : numeros) Numeros(f, numero, posibles);
   } else {
@@ -96,9 +96,9 @@ void PasarMesa(Flujo& f, Estado& mesa) {
   Numeros(f, piedras, Cualquiera);
   Numeros(f, juegos, Natural);
   Numeros(f, vacas, Natural);
-  Numeros(f, piedrasJuego, DesdeUno);
-  Numeros(f, juegosVaca, DesdeUno);
-  Numeros(f, vacasPartida, DesdeUno);
+  Numeros(f, piedrasJuego, Parametro);
+  Numeros(f, juegosVaca, Parametro);
+  Numeros(f, vacasPartida, Parametro);
   Numeros(f, sonidoActual, {-2, 0});
   Numeros(f, cartasCambiadas, AsientoONinguno);
   Numeros(f, posicionSonido, AsientoONinguno);
@@ -150,8 +150,8 @@ using ComoEn = std::conditional_t<std::is_const_v<Tabla>, const Mitad, Mitad>;
 template <class Flujo, class Tabla, class Generador>
 void PasarPartida(Flujo& f, Tabla& t, Generador& rnd) {
   PasarPrograma<Flujo, ComoEn<Tabla, Module1State>>(f, t);
-  PasarMesa<Flujo, ComoEn<Tabla, Form1State>>(f, t);
   f.Generador(rnd);
+  PasarMesa<Flujo, ComoEn<Tabla, Form1State>>(f, t);
 }
 
 // A set of card numbers.
@@ -197,8 +197,12 @@ bool SonDeUnaBaraja(const Table& t) {
 std::string EscribirPartida(const Table& t, const Rnd& rnd) {
   EscritorPartida escritor;
   PasarPartida(escritor, t, rnd);
+  return ConCabecera(escritor.Bytes());
+}
+
+std::string ConCabecera(std::string_view valores) {
   std::string bytes{Cabecera};
-  return bytes.append(SumaDe(escritor.Bytes())).append(escritor.Bytes());
+  return bytes.append(SumaDe(valores)).append(valores);
 }
 
 bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd) {

@@ -15,6 +15,10 @@ namespace tasca {
 // what belongs to the running program: Carpeta and AvisadoSinNombre.
 std::string EscribirPartida(const Table& t, const Rnd& rnd);
 
+// The bytes of a match from the values in them, as keep/flujos.h writes them: adds the format's
+// name and number and the checksum.
+std::string ConCabecera(std::string_view valores);
+
 // Reads a match back into a table and its generator; Carpeta and AvisadoSinNombre stay. Returns
 // false and changes nothing unless the bytes are a whole and possible match of this format.
 bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd);

@@ -100,6 +100,14 @@ TEST(Descriptor, ReadItselfTakesNoLinkAndDoesNotBlockOnAPipe) {
   EXPECT_TRUE((Descriptor{carpeta.Path() / "tubo", OpenMode::ReadItself}.IsOpen()));
 }
 
+TEST(Descriptor, ReadWriteOrCreateCreatesAMissingFileForTheUserAlone) {
+  const TempFolder carpeta;
+  const std::filesystem::path ruta = carpeta.Path() / "f.txt";
+  EXPECT_TRUE((Descriptor{ruta, OpenMode::ReadWriteOrCreate}.Write("algo")));
+  EXPECT_EQ(PermissionsOf(ruta), 0600U);
+  EXPECT_EQ((Descriptor{ruta, OpenMode::ReadWriteOrCreate}.Read()), "algo");
+}
+
 TEST(Descriptor, FolderTakesNoFile) {
   const TempFolder carpeta;
   carpeta.Write("f.txt", "");
@@ -121,6 +129,38 @@ TEST(Descriptor, CountsTheNamesOfItsFile) {
   Unlink(otro);
   EXPECT_EQ(archivo.Status()->Links, 0U);
   EXPECT_EQ(carpeta.Names().size(), 0U);
+}
+
+TEST(MakeFolders, CreatesAllMissingOnesForTheUserAlone) {
+  const TempFolder carpeta;
+  EXPECT_TRUE(MakeFolders(carpeta.Path() / "a" / "b" / "c"));
+  for (const char* nueva : {"a", "a/b", "a/b/c"}) {
+    EXPECT_EQ(PermissionsOf(carpeta.Path() / nueva), 0700U) << nueva;
+  }
+  EXPECT_TRUE(MakeFolders(carpeta.Path() / "a" / "b" / "c")) << "already there";
+}
+
+TEST(MakeFolders, FailsBelowAFile) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "");
+  EXPECT_FALSE(MakeFolders(carpeta.Path() / "f.txt"));
+  EXPECT_EQ(errno, ENOTDIR);
+  EXPECT_FALSE(MakeFolders(carpeta.Path() / "f.txt" / "a" / "b"));
+  EXPECT_EQ(errno, ENOTDIR);
+}
+
+TEST(MakeFolders, FollowsALinkToAFolder) {
+  const TempFolder carpeta;
+  std::filesystem::create_directory(carpeta.Path() / "a");
+  std::filesystem::create_symlink("a", carpeta.Path() / "enlace");
+  EXPECT_TRUE(MakeFolders(carpeta.Path() / "enlace" / "b"));
+  EXPECT_TRUE(std::filesystem::is_directory(carpeta.Path() / "a" / "b"));
+}
+
+TEST(StatusOf, TellsTheSize) {
+  const TempFolder carpeta;
+  carpeta.Write("f.txt", "12345");
+  EXPECT_EQ(tasca::StatusOf(carpeta.Path() / "f.txt")->Size, 5U);
 }
 
 TEST(StatusOf, FollowsLinksAndStatusOfLinkDoesNot) {

@@ -150,17 +150,32 @@ TEST(LectorPartida, FailsForAGeneratorThatIsNone) {
   }
 }
 
-// The standard library's reader takes a position past the end of the state.
-TEST(LectorPartida, FailsForAnImpossiblePositionOfTheGenerator) {
+// Whether a new generator is read after its text was changed from `antes` to `ahora`, which has the
+// same length.
+bool SeLeeElGenerador(std::string_view antes, std::string_view ahora) {
   EscritorPartida escritor;
   escritor.Generador(Rnd{});
   std::string bytes = escritor.Bytes();
-  ASSERT_TRUE(bytes.ends_with(" 624"));
-  bytes.back() = 'x';
+  const std::size_t lugar = bytes.rfind(antes);
+  EXPECT_NE(lugar, std::string::npos) << antes;
+  bytes.replace(lugar, antes.size(), ahora);
   LectorPartida lector{bytes};
   Rnd leido;
   lector.Generador(leido);
-  EXPECT_FALSE(lector.BienLeido());
+  return lector.BienLeido();
+}
+
+// A new generator has the position 624. The first word of its state is its seed, 5489; the second
+// is 1301868182, and 5301868182 has more than 32 bits.
+TEST(LectorPartida, FailsForAnImpossibleGenerator) {
+  EXPECT_TRUE(SeLeeElGenerador(" 624", " 624"));
+  EXPECT_TRUE(SeLeeElGenerador(" 624", " 623"));
+  EXPECT_FALSE(SeLeeElGenerador(" 624", " 625"));
+  EXPECT_FALSE(SeLeeElGenerador(" 624", " 62x"));
+  EXPECT_FALSE(SeLeeElGenerador(" 624", "-624"));
+  EXPECT_TRUE(SeLeeElGenerador("5489 1301868182", "5489 4294967295"));
+  EXPECT_FALSE(SeLeeElGenerador("5489 1301868182", "5489 4294967296"));
+  EXPECT_FALSE(SeLeeElGenerador("5489 1301868182", "5489 13018681 2"));
 }
 
 }  // namespace

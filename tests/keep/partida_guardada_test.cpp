@@ -186,6 +186,7 @@ TEST(LeerPartida, RefusesNumbersOutsideTheirRange) {
       [](Table& t) { t.PiedrasJuego = 0; },
       [](Table& t) { t.JuegosVaca = 0; },
       [](Table& t) { t.VacasPartida = 0; },
+      [](Table& t) { t.PiedrasJuego = 1000; },
       [](Table& t) { t.SonidoActual = 1; },
       [](Table& t) { t.CartasCambiadas[2] = 5; },
       [](Table& t) { t.PosicionSonido = 5; },

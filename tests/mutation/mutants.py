@@ -7,8 +7,8 @@ from dataclasses import dataclass
 import looks
 import source
 
-RULES = ("base", "cards", "characters", "count", "lances", "match", "mus", "scene", "score", "sound",
-         "startup", "table")
+RULES = ("base", "cards", "characters", "count", "keep", "lances", "match", "mus", "scene", "score",
+         "sound", "startup", "table")
 UI = ("ui", "tools/cast", "tools/check", "ui/loudspeaker", "ui/mesa", "ui/qt", "ui/terminal",
       "ui/trace")
 

@@ -10,8 +10,8 @@ class Rules:
 
     LIBRARIES = ("tasca_rules",)
     PROGRAMS = ("tasca-golden", "tasca-signature", "tasca-check")
-    FOLDERS = ("cards", "mus", "lances", "count", "score", "match", "scene", "table", "sound",
-               "startup", "characters", "base")
+    FOLDERS = ("cards", "mus", "lances", "count", "score", "match", "keep", "scene", "table",
+               "sound", "startup", "characters", "base")
     OTHERS = ("tests_ui_trace", "tests_bad_inputs", "tests_tools_cast", "tests_save_faults")
     # These tests take a minute or two and only cover the saving of files.
     SAVING = ("tests_save_faults", ("base/", "characters/", "startup/"))
