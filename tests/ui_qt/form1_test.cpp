@@ -322,7 +322,7 @@ TEST_F(Form1Window, TurnsTheSoundOffAndOnByF9FromAnyControl) {
 TEST_F(Form1Window, OffersTheSoundInAMenu) {
   const auto* const menu = ventana_.findChild<QMenuBar*>();
   ASSERT_NE(menu, nullptr);
-  ASSERT_EQ(menu->actions().size(), 1);
+  ASSERT_EQ(menu->actions().size(), 2);
   const QMenu* const opciones = menu->actions().constFirst()->menu();
   EXPECT_EQ(Utf8(opciones->title()), "&Opciones");
   QAction* const sonido = opciones->actions().constFirst();

@@ -6,6 +6,7 @@
 #include "characters/editor.h"
 #include "table/table.h"
 #include "ui/qt/dialog1_form.h"
+#include "ui/qt/manual.h"
 #include "ui/qt/session_end.h"
 
 namespace tasca {
@@ -55,6 +56,7 @@ class EditorProgram {
   QtEditorPort port_;
   std::unique_ptr<Dialog1Form> ventana_;
   bool terminando_ = false;
+  Manual manual_{[] { return Asunto::Editor; }};
 };
 
 }  // namespace tasca

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/keys.h"
+#include "ui/qt/help_menu.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/mesa_accessible.h"
 #include "ui/qt/qt_text.h"
@@ -132,6 +133,7 @@ QMenuBar* Form1::BuildMenu(const Options& opciones) {
     sucesos_.Sonido_Click(encendido);
   });
   AddPictureEntries(*menu, opciones);
+  AddHelpMenu(*menus, sucesos_.Manual_Click, sucesos_.AcercaDe_Click);
   return menus;
 }
 
@@ -156,7 +158,8 @@ void Form1::SetMotion(bool encendido) {
 
 void Form1::ShowHelp(bool conSonido) {
   ayuda_->setText(QStringLiteral("Enter: continuar   ·   Q: abandonar la mano   ·   "
-                                 "Re Pág y Av Pág: repasar lo dicho   ·   F9: %1 el sonido")
+                                 "Re Pág y Av Pág: repasar lo dicho   ·   F9: %1 el sonido   ·   "
+                                 "F1: manual")
                       .arg(conSonido ? QStringLiteral("quitar") : QStringLiteral("poner")));
   text1_->setAccessibleDescription(ayuda_->text());
 }

@@ -32,6 +32,9 @@ class Form1 : public QWidget {
     std::function<void(bool dibujada)> Mesa_Click = [](bool) {};
     // The player has switched the movements on or off.
     std::function<void(bool encendido)> Movimiento_Click = [](bool) {};
+    // The entries of the menu "Ayuda".
+    std::function<void()> Manual_Click = [] {};
+    std::function<void()> AcercaDe_Click = [] {};
   };
 
   // The initial states of the entries of the menu "Opciones".

@@ -6,6 +6,7 @@
 
 #include "base/keys.h"
 #include "ui/qt/boxes.h"
+#include "ui/qt/help_menu.h"
 
 namespace tasca {
 
@@ -64,11 +65,19 @@ void Program::OpenForm1() {
           .Sonido_Click = [this](bool encendido) { port_.Mp1().TurnOn(encendido); },
           .Closed = [this] { Exit(0); },
           .Mesa_Click = [this](bool dibujada) { opciones_.Mesa = dibujada; },
-          .Movimiento_Click = [this](bool encendido) { opciones_.Movimiento = encendido; }},
+          .Movimiento_Click = [this](bool encendido) { opciones_.Movimiento = encendido; },
+          .Manual_Click = [this] { manual_.Open(); },
+          .AcercaDe_Click = [this] { ShowMessage(port_.Window(), AboutText()); }},
       opciones_);
   form1_->ShowTable(sesion_.Mesa(), Momento::Reposo);
   form1_->showMaximized();
   port_.SetMainWindow(form1_.get());
+}
+
+Asunto Program::Subject() const {
+  if (!form1_) return Asunto::Inicio;
+  if (const auto pregunta = port_.Asking()) return AsuntoDe(*pregunta);
+  return AsuntoDe(sesion_.Mesa().Fase);
 }
 
 void Program::KeyDown(Integer& KeyCode, Integer Shift) {

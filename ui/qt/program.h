@@ -12,6 +12,7 @@
 #include "ui/qt/application.h"
 #include "ui/qt/dlg_inicio_form.h"
 #include "ui/qt/form1.h"
+#include "ui/qt/manual.h"
 #include "ui/qt/qt_port.h"
 #include "ui/qt/session_end.h"
 
@@ -37,6 +38,8 @@ class Program {
   void OpenForm1();
   void KeyDown(Integer& KeyCode, Integer Shift);
   void AttendSound();
+  // What the player is at, for the manual.
+  Asunto Subject() const;
   // Runs an operation of the session. If the game has ended, shows the error, ends the program and
   // returns false.
   bool Run(const std::function<Situacion()>& paso);
@@ -52,6 +55,7 @@ class Program {
   Form1::Options opciones_;  // as the player has left them
   bool enPaso_ = false;
   bool terminando_ = false;
+  Manual manual_{[this] { return Subject(); }};
 };
 
 }  // namespace tasca

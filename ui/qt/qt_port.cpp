@@ -1,6 +1,7 @@
 // Questions as modal boxes, the clock and the sounds.
 #include "ui/qt/qt_port.h"
 
+#include <QScopedValueRollback>
 #include <QTime>
 #include <utility>
 
@@ -33,8 +34,9 @@ void QtPort::MsgBox(const Table& t, std::u16string_view texto) {
   ShowMessage(ventana_, texto);
 }
 
-bool QtPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
+bool QtPort::YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) {
   ShowTable(t, Momento::Pregunta);
+  const QScopedValueRollback<std::optional<Pregunta>> abierta{preguntando_, sobre};
   const std::optional<bool> respuesta = AskYesNo(ventana_, pregunta);
   if (!respuesta) throw LeaveProgram{};
   return *respuesta;
@@ -49,6 +51,7 @@ void QtPort::ShowDialog(const Table& t, Dialog& dialogo) {
 
 std::u16string QtPort::InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) {
   ShowTable(t, Momento::Pregunta);
+  const QScopedValueRollback<std::optional<Pregunta>> abierta{preguntando_, sobre};
   AnswerHelper ayuda;
   if (sobre == Pregunta::Descarte) {
     ayuda = [&t](QLineEdit& campo) { return CardsToClick(campo, t.Manos[AsientoHumano]); };

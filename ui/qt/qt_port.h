@@ -1,6 +1,7 @@
 #pragma once
 // The port of the windows: the rules' questions as modal boxes.
 #include <QWidget>
+#include <optional>
 
 #include "table/port.h"
 #include "ui/loudspeaker/media_player.h"
@@ -18,6 +19,8 @@ class QtPort : public Port {
   // The parent of the boxes, or nullptr.
   QWidget* Window() const { return ventana_; }
   MediaPlayer& Mp1() { return mp1_; }
+  // What the open Yes/No or input box is about.
+  std::optional<Pregunta> Asking() const { return preguntando_; }
 
   // From now on a box that closes was not answered.
   void ProgramEnds() { acabando_ = true; }
@@ -38,6 +41,7 @@ class QtPort : public Port {
   QWidget* ventana_ = nullptr;
   Form1* form1_ = nullptr;
   bool acabando_ = false;
+  std::optional<Pregunta> preguntando_;
   MediaPlayer mp1_;
 };
 
