@@ -107,19 +107,19 @@ TEST(ChapterMarkdown, WritesExamplesAndPicturesOut) {
       [](std::string_view referencia) { return "<" + std::string{referencia} + ">"; });
   EXPECT_EQ(escrito,
             "Antes <carta:rey-oros> y <carta:as-oros>.\n\n"
-            "| Quién | Cartas | Se llaman |\n|---|---|---|\n"
-            "| **Usted** | <mano:rey-oros> | Rey de oros |\n"
-            "| **Contrario 1** | <mano:rey-copas> | Rey de copas |\n"
-            "| **Compañero** | <mano:as-oros> | As de oros |\n"
-            "| **Contrario 2**, mano | <mano:as-copas> | As de copas |\n\n"
+            "| Quién | Cartas |\n|---|---|\n"
+            "| **Usted** | <mano:rey-oros><br/>Rey de oros |\n"
+            "| **Contrario 1** | <mano:rey-copas><br/>Rey de copas |\n"
+            "| **Compañero** | <mano:as-oros><br/>As de oros |\n"
+            "| **Contrario 2**, mano | <mano:as-copas><br/>As de copas |\n\n"
             "- **Grande.** Contrario 2: «Paso»; Usted: «Envido 4»; Contrario 1: «No quiero». "
             "**1 piedra para la pareja 1.** Por poco.\n\n"
             "El tanteo queda en 1 a 0.\n\nDespués.\n");
 }
 
-TEST(PictureByReference, HasTheNamesAsAlternativeText) {
-  EXPECT_EQ(PictureByReference("mano:rey-oros,as-copas"),
-            "![Rey de oros, As de copas](mano:rey-oros,as-copas)");
+TEST(PicturesOfCards, HaveTheNamesAsAlternativeText) {
+  EXPECT_EQ(PicturesOfCards("mano:rey-oros,as-copas"),
+            "![Rey de oros](carta:rey-oros) ![As de copas](carta:as-copas)");
 }
 
 TEST(Asunto, HasASectionForEverySubject) {

@@ -56,11 +56,11 @@ std::string ReferenceOf(const std::vector<int>& cartas) {
 }
 
 std::string HandsWritten(const Ejemplo& ejemplo, const PictureWriter& dibujo) {
-  std::string tabla = "| Quién | Cartas | Se llaman |\n|---|---|---|\n";
+  std::string tabla = "| Quién | Cartas |\n|---|---|\n";
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
     const std::vector<int>& cartas = ejemplo.Manos[asiento];
     tabla += Text({"| **", NameOfSeat(asiento), "**", asiento == ejemplo.Mano ? ", mano" : "",
-                   " | ", dibujo(ReferenceOf(cartas)), " | ", CardsInWords(cartas), " |\n"});
+                   " | ", dibujo(ReferenceOf(cartas)), "<br/>", CardsInWords(cartas), " |\n"});
   }
   return tabla + "\n";
 }
@@ -129,8 +129,13 @@ std::string ExampleWritten(std::string_view fuente, const PictureWriter& dibujo)
 
 }  // namespace
 
-std::string PictureByReference(std::string_view referencia) {
-  return Text({"![", CardsInWords(CardsOfReference(referencia)), "](", referencia, ")"});
+std::string PicturesOfCards(std::string_view referencia) {
+  std::string dibujos;
+  for (const int carta : CardsOfReference(referencia)) {
+    dibujos += Text({dibujos.empty() ? "" : " ", "![", CardsInWords({carta}),
+                     "](carta:", NameOfCard(carta), ")"});
+  }
+  return dibujos;
 }
 
 std::string ChapterMarkdown(std::string_view capitulo, const PictureWriter& dibujo) {

@@ -10,8 +10,9 @@ namespace tasca {
 // (card_reference.h).
 using PictureWriter = std::function<std::string(std::string_view referencia)>;
 
-// "![Rey de oros, As de copas](mano:rey-oros,as-copas)": the names as alternative text.
-std::string PictureByReference(std::string_view referencia);
+// One picture for each card, "![Rey de oros](carta:rey-oros) ![As de copas](carta:as-copas)", so
+// that a hand can be broken into lines. The names are the alternative text.
+std::string PicturesOfCards(std::string_view referencia);
 
 // All chapters, one after the other.
 std::string ManualMarkdown(const PictureWriter& dibujo);

@@ -1,4 +1,4 @@
-// Rows of cards as text objects.
+// Cards as text objects.
 #include "ui/qt/manual_pictures.h"
 
 #include <QFontMetricsF>
@@ -21,33 +21,29 @@ int CardHeight(const QTextDocument& documento) {
   return qRound(LinesOfText * QFontMetricsF{documento.defaultFont()}.height());
 }
 
-// From the left edge of a card to that of the next.
-double CardStep(int alto) { return alto * (CardAspect + 0.05); }
-
-std::vector<int> CardsOf(const QTextFormat& formato) {
-  return CardsOfReference(formato.toImageFormat().name().toStdString());
+// 0 for an image that is no card.
+int CardOf(const QTextFormat& formato) {
+  const std::vector<int> cartas = CardsOfReference(formato.toImageFormat().name().toStdString());
+  return cartas.size() == 1 ? cartas.front() : 0;
 }
 
 }  // namespace
 
 QSizeF ManualPictures::intrinsicSize(QTextDocument* documento, int /*posicion*/,
                                      const QTextFormat& formato) {
-  const auto cuantas = static_cast<double>(CardsOf(formato).size());
-  if (cuantas == 0) return QSizeF{0, 0};
-  const int alto = CardHeight(*documento);
-  return {(cuantas - 1) * CardStep(alto) + alto * CardAspect, static_cast<double>(alto)};
+  if (CardOf(formato) == 0) return QSizeF{0, 0};
+  const double alto = CardHeight(*documento);
+  return QSizeF{alto * CardAspect, alto};
 }
 
 void ManualPictures::drawObject(QPainter* pintor, const QRectF& donde, QTextDocument* documento,
                                 int /*posicion*/, const QTextFormat& formato) {
+  const int carta = CardOf(formato);
+  if (carta == 0) return;
   const int alto = CardHeight(*documento);
   const qreal dpr = pintor->device()->devicePixelRatioF();
   cartas_.ForgetOtherHeights({alto}, dpr, oscuro_);
-  QPointF esquina = donde.topLeft();
-  for (const int carta : CardsOf(formato)) {
-    DrawSharp(*pintor, esquina, cartas_.Card(carta, alto, dpr, oscuro_));
-    esquina.rx() += CardStep(alto);
-  }
+  DrawSharp(*pintor, donde.topLeft(), cartas_.Card(carta, alto, dpr, oscuro_));
 }
 
 void* ManualPictures::qt_metacast(const char* interfaz) {

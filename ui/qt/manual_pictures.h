@@ -7,8 +7,8 @@
 
 namespace tasca {
 
-// Lays out and paints the images of a document, whose names are references to cards
-// (ui/manual/card_reference.h). An unknown name takes no room.
+// Lays out and paints the images of a document, whose names are references to one card,
+// "carta:rey-oros". Another name takes no room.
 class ManualPictures : public QObject, public QTextObjectInterface {
  public:
   explicit ManualPictures(QObject* padre) : QObject{padre} {}

@@ -120,7 +120,7 @@ QVariant ManualText::loadResource(int tipo, const QUrl& direccion) {
   if (tipo != QTextDocument::MarkdownResource || direccion.scheme() != ManualUrl().scheme()) {
     return {};
   }
-  return QString::fromStdString(ManualMarkdown(PictureByReference));
+  return QString::fromStdString(ManualMarkdown(PicturesOfCards));
 }
 
 void ManualText::doSetSource(const QUrl& direccion, QTextDocument::ResourceType tipo) {

@@ -12,6 +12,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 namespace tasca {
 namespace {
@@ -58,12 +59,12 @@ ManualWindow::ManualWindow()
   aviso_->setTextFormat(Qt::PlainText);
   indice_->setObjectName(QStringLiteral("Indice"));
   indice_->setAccessibleName(QStringLiteral("Índice"));
+  const QSize sitio = QGuiApplication::primaryScreen()->availableSize();
+  resize((QSize{66, 45} * fontMetrics().height()).boundedTo(sitio * 0.9));
   FillContents();
   BuildLayout();
   Connect();
   AddShortcuts();
-  const QSize sitio = QGuiApplication::primaryScreen()->availableSize();
-  resize((QSize{66, 45} * fontMetrics().height()).boundedTo(sitio * 0.9));
   texto_->setFocus();
 }
 
@@ -105,8 +106,9 @@ void ManualWindow::BuildLayout() {
   partes->addWidget(texto_);
   partes->setStretchFactor(1, 1);
   partes->setChildrenCollapsible(false);
-  indice_->setMinimumWidth(18 * letra);
-  partes->setSizes({34 * letra, 80 * letra});
+  indice_->setMinimumWidth(12 * letra);
+  const int ancho = std::min(34 * letra, width() * 3 / 10);
+  partes->setSizes({ancho, width() - ancho});
   auto* const filas = new QVBoxLayout{this};
   filas->addLayout(BuildBar());
   filas->addWidget(partes, 1);
