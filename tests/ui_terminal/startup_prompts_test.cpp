@@ -8,6 +8,7 @@
 #include "tests/support/plain_user.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"
+#include "ui/manual/brief.h"
 #include "ui/terminal/terminal_port.h"
 
 namespace tasca::test {
@@ -171,7 +172,9 @@ TEST(AskStartup, PrintsAllStoriesOnDemand) {
                          "1 Berta: Guisa como nadie.\n"
                          "2 el Cojo: Perdió la pierna en una apuesta.\n"
                          "3 Dora: Prudente como una gata.\n"
-                         "4 el Tuerto: Lo ve todo.\n"
+                         "4 el Tuerto: Lo ve todo.\n" +
+                         Utf8(BriefOf("al-empezar")) +
+                         "\n"
                          "Los compañeros se eligen por su número o por su nombre.\n"
                          "Enter deja lo que está entre corchetes; q sale del juego.\n"
                          "Compañero: [0 Aleatorio] \n"),

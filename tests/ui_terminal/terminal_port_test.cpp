@@ -9,6 +9,7 @@
 #include "table/dialog.h"
 #include "tests/support/tables.h"
 #include "tests/ui_terminal/sessions.h"
+#include "ui/manual/brief.h"
 
 namespace tasca::test {
 namespace {
@@ -120,14 +121,23 @@ TEST(TerminalDialog, PassesForAnEmptyLine) {
   EXPECT_EQ(a.Bid(u"La grande", ModoDialogo::Apertura), 0);
 }
 
+// A section of the manual in short, as lines.
+std::string Brief(std::string_view ancla) {
+  const std::string breve = Utf8(BriefOf(ancla));
+  EXPECT_NE(breve, "") << ancla;
+  return breve + "\n";
+}
+
 TEST(TerminalPort, RepeatsHandAndScoreInAQuestionOnDemand) {
   PortConsole a{"?\n1\n"};
+  a.t.Fase = Fase::RespuestaPequena;
   a.t.Text1 = u"Rey de oros";
   a.t.Text3 = u"Piedras: 0 / 0";
   EXPECT_EQ(a.Bid(u"Envite a grande", ModoDialogo::RespuestaOrdago), 1);
   const std::string pregunta = "Envite a grande: 0 Paso, 1 Quiero [0] \n";
   const std::string mesa = "Rey de oros\nPiedras: 0 / 0\n";
-  EXPECT_EQ(a.Take(), "La grande\n" + mesa + pregunta + mesa +
+  EXPECT_EQ(a.Take(), "La grande\n" + mesa + pregunta + mesa + Brief("la-pequeña") +
+                          Brief("envidar-querer-y-no-querer") +
                           "Escriba uno de los números o el comienzo de uno de los nombres.\n"
                           "Enter da la respuesta que está entre corchetes.\n"
                           "salir, o Ctrl+D, deja el juego.\n" +
@@ -142,6 +152,19 @@ bool AskMus(PortConsole& a) {
 std::u16string AskDiscard(PortConsole& a) {
   return a.Puerto.InputBox(a.t, Pregunta::Descarte,
                            {.Titulo = u"Sustituir cartas", .Texto = u"cuáles:", .PorDefecto = u""});
+}
+
+TEST(TerminalPort, ExplainsTheSubjectOfTheQuestionOnDemand) {
+  PortConsole a{"?\nn\n?\n1 3\n?\n5\n"};
+  EXPECT_FALSE(AskMus(a));
+  EXPECT_NE(a.Take().find(Brief("el-mus")), std::string::npos);
+  EXPECT_EQ(AskDiscard(a), u"1 3");
+  EXPECT_NE(a.Take().find(Brief("los-descartes")), std::string::npos);
+  EXPECT_EQ(a.Puerto.InputBox(
+                a.t, Pregunta::Cantidad,
+                {.Titulo = u"Envite a grande", .Texto = u"¿Cuántas envida?", .PorDefecto = u"2"}),
+            u"5");
+  EXPECT_NE(a.Take().find(Brief("envidar-más")), std::string::npos);
 }
 
 TEST(TerminalPort, ExplainsQInEveryKindOfQuestion) {

@@ -7,8 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/tables.h"
 #include "tests/support/temp_folder.h"
 #include "tests/ui_terminal/sessions.h"
+#include "ui/manual/brief.h"
 
 namespace tasca::test {
 namespace {
@@ -165,12 +167,12 @@ TEST_F(Session, ShowsAllHandsOnManos) {
 TEST_F(Session, PrintsHelpWithoutAStep) {
   LlenarCarpeta(Carpeta);
   const std::string mesa = FromTheTableOn(PlayLines(Carpeta, AllDefaults + "?\n"));
-  EXPECT_TRUE(
-      mesa.ends_with("Enter sigue la mano.\n"
-                     "q abandona la mano y empieza otra.\n"
-                     "manos enseña las cartas de los cuatro.\n"
-                     "sonido quita o pone el sonido.\n"
-                     "salir, o Ctrl+D, deja el juego.\n"))
+  EXPECT_TRUE(mesa.ends_with(Utf8(BriefOf("el-mus")) + "\n"
+                                                       "Enter sigue la mano.\n"
+                                                       "q abandona la mano y empieza otra.\n"
+                                                       "manos enseña las cartas de los cuatro.\n"
+                                                       "sonido quita o pone el sonido.\n"
+                                                       "salir, o Ctrl+D, deja el juego.\n"))
       << mesa;
   EXPECT_EQ(Count(mesa, "Sus cartas son"), 1);
   EXPECT_EQ(Count(mesa, " de oros") + Count(mesa, " de copas") + Count(mesa, " de espadas") +

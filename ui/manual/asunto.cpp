@@ -54,17 +54,10 @@ Asunto AsuntoDe(Pregunta pregunta) {
 
 std::string_view AnchorOf(Asunto asunto) {
   static constexpr std::array<std::string_view, Asuntos> anclas{
-      "al-empezar",
-      "el-mus",
-      "los-descartes",
-      "la-grande",
-      "la-pequeña",
-      "los-pares",
-      "el-juego",
-      "el-punto",
-      "envidar-más",
-      "el-recuento",
-      "juegos-vacas-y-partida",
+      "al-empezar",         "el-mus",      "los-descartes",
+      "la-grande",          "la-pequeña",  "los-pares",
+      "el-juego",           "el-punto",    "envidar-querer-y-no-querer",
+      "envidar-más",        "el-recuento", "juegos-vacas-y-partida",
       "hacer-un-personaje",
   };
   return anclas.at(static_cast<std::size_t>(asunto));

@@ -16,12 +16,13 @@ enum class Asunto {
   Pares,
   Juego,
   Punto,
+  Envite,    // whether to bet, or to accept a bet
   Cantidad,  // how many stones to bet
   Recuento,
   FinDePartida,
   Editor,
 };
-inline constexpr int Asuntos = 12;
+inline constexpr int Asuntos = 13;
 
 // The subject of a phase: the step that Enter runs next, or that has opened a box.
 Asunto AsuntoDe(Fase fase);

@@ -5,6 +5,8 @@
 #include "base/text.h"
 #include "characters/editor.h"
 #include "startup/dlg_inicio.h"
+#include "ui/manual/asunto.h"
+#include "ui/manual/brief.h"
 #include "ui/terminal/prompts.h"
 
 namespace tasca {
@@ -45,6 +47,7 @@ Prompts::Command Commands(const DlgInicio& d, Console& consola) {
     if (orden == u"q" || orden == u"salir") throw LeaveProgram{};
     if (orden != u"?") return false;
     PrintStories(d, consola);
+    consola.Line(BriefOf(AnchorOf(Asunto::Inicio)));
     consola.Line(u"Los compañeros se eligen por su número o por su nombre.");
     consola.Line(u"Enter deja lo que está entre corchetes; q sale del juego.");
     return true;

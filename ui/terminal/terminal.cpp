@@ -7,14 +7,17 @@
 #include "base/errors.h"
 #include "base/keys.h"
 #include "match/session.h"
+#include "ui/manual/asunto.h"
+#include "ui/manual/brief.h"
 #include "ui/terminal/startup_prompts.h"
 #include "ui/terminal/tty.h"
 
 namespace tasca {
 namespace {
 
-void PrintHelp(Console& consola, Screen& pantalla) {
+void PrintHelp(Console& consola, Screen& pantalla, Fase fase) {
   pantalla.Repeat();
+  consola.Line(BriefOf(AnchorOf(AsuntoDe(fase))));
   consola.Line(
       u"Enter sigue la mano.\n"
       u"q abandona la mano y empieza otra.\n"
@@ -44,7 +47,7 @@ struct Place {
 
 // Commands that are no keys of the game.
 void Obey(const Place& lugar, std::u16string_view orden) {
-  if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla);
+  if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla, lugar.Sesion.Mesa().Fase);
   if (orden == u"sonido") return SwitchSound(lugar.Consola, lugar.Mp1);
   lugar.Consola.Line(
       u"Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.");

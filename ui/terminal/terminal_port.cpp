@@ -9,6 +9,7 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "table/dialog.h"
+#include "ui/manual/brief.h"
 
 namespace tasca {
 namespace {
@@ -69,6 +70,7 @@ bool TerminalPort::Obey(const TypedLine& linea) {
 
 void TerminalPort::Help(std::u16string_view seContesta) {
   pantalla_.Repeat();
+  for (const std::string_view ancla : anclas_) consola_.Line(BriefOf(ancla));
   consola_.Line(seContesta);
   consola_.Line(
       u"Enter da la respuesta que está entre corchetes.\n"
@@ -80,20 +82,23 @@ void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
   consola_.Line(Join(u"[", texto, u"]"));
 }
 
-bool TerminalPort::YesNoBox(const Table& t, Pregunta /*sobre*/, const YesNoQuestion& pregunta) {
+bool TerminalPort::YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) {
   pantalla_.Show(t);
+  anclas_ = {AnchorOf(AsuntoDe(sobre))};
   return preguntas_.YesNo(pregunta.Texto.empty() ? pregunta.Titulo : pregunta.Texto,
                           pregunta.PorDefecto);
 }
 
-std::u16string TerminalPort::InputBox(const Table& t, Pregunta /*sobre*/,
+std::u16string TerminalPort::InputBox(const Table& t, Pregunta sobre,
                                       const InputQuestion& pregunta) {
   pantalla_.Show(t);
+  anclas_ = {AnchorOf(AsuntoDe(sobre))};
   return preguntas_.TextOrCancel(Join(pregunta.Titulo, CrLf, pregunta.Texto), pregunta.PorDefecto);
 }
 
 void TerminalPort::ShowDialog(const Table& t, Dialog& dialogo) {
   pantalla_.Show(t);
+  anclas_ = {AnchorOf(AsuntoDe(t.Fase)), AnchorOf(Asunto::Envite)};
   const std::vector<Option> ofrecidos = OfferedButtons(dialogo);
   const int boton = preguntas_.Choose(BiddingPrompt(dialogo, ofrecidos), ofrecidos,
                                       ToText(dialogo.Foco), dialogo.Foco);

@@ -2,6 +2,7 @@
 // The port of the terminal: the rules' questions as prompts.
 #include "table/port.h"
 #include "ui/loudspeaker/media_player.h"
+#include "ui/manual/asunto.h"
 #include "ui/terminal/prompts.h"
 #include "ui/terminal/screen.h"
 
@@ -42,6 +43,7 @@ class TerminalPort : public Port {
   Prompts preguntas_;
   Clock reloj_;
   MediaPlayer* mp1_;
+  std::vector<std::string_view> anclas_;  // the sections of the manual about the open question
 };
 
 }  // namespace tasca
