@@ -32,6 +32,16 @@ std::string_view NameOfLance(NumeroLance lance) {
   return nombres.at(static_cast<std::size_t>(lance) - 1);
 }
 
+// A picture, and under those of a hand the names of its cards: not every reader knows them, or sees
+// them.
+std::string PictureWritten(std::string_view referencia, const PictureWriter& dibujo) {
+  std::string escrita = dibujo(referencia);
+  if (referencia.starts_with("mano:")) {
+    escrita += "<br/>" + CardsInWords(CardsOfReference(referencia));
+  }
+  return escrita;
+}
+
 // Replaces every picture of a line.
 std::string WithPictures(std::string_view linea, const PictureWriter& dibujo) {
   constexpr std::string_view principio = "![](";
@@ -41,7 +51,8 @@ std::string WithPictures(std::string_view linea, const PictureWriter& dibujo) {
     const std::size_t fin = desde == std::string_view::npos ? desde : linea.find(')', desde);
     if (fin == std::string_view::npos) return escrita += linea;
     escrita += linea.substr(0, desde);
-    escrita += dibujo(linea.substr(desde + principio.size(), fin - desde - principio.size()));
+    const std::size_t cual = desde + principio.size();
+    escrita += PictureWritten(linea.substr(cual, fin - cual), dibujo);
     linea.remove_prefix(fin + 1);
   }
 }
@@ -58,9 +69,8 @@ std::string ReferenceOf(const std::vector<int>& cartas) {
 std::string HandsWritten(const Ejemplo& ejemplo, const PictureWriter& dibujo) {
   std::string tabla = "| Quién | Cartas |\n|---|---|\n";
   for (Seat asiento = 1; asiento <= 4; ++asiento) {
-    const std::vector<int>& cartas = ejemplo.Manos[asiento];
     tabla += Text({"| **", NameOfSeat(asiento), "**", asiento == ejemplo.Mano ? ", mano" : "",
-                   " | ", dibujo(ReferenceOf(cartas)), "<br/>", CardsInWords(cartas), " |\n"});
+                   " | ", PictureWritten(ReferenceOf(ejemplo.Manos[asiento]), dibujo), " |\n"});
   }
   return tabla + "\n";
 }
