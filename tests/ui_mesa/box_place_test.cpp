@@ -19,6 +19,13 @@ TEST(SitioDeCaja, IsTheMiddleOfTheFreeCloth) {
   EXPECT_EQ(SitioDeCaja(200, 100, UnaVentana()), (Rect{350, 150, 200, 100}));
 }
 
+// 300.3 + 300.1 - 300.3 is not 300.1.
+TEST(SitioDeCaja, IsTheMiddleOfAFreeClothWithFractions) {
+  Alrededores a = UnaVentana();
+  a.Libre = {300.3, 100, 300.1, 200};
+  EXPECT_EQ(SitioDeCaja(200, 100, a), (Rect{350, 150, 200, 100}));
+}
+
 TEST(SitioDeCaja, CoversNeitherTheCardsNorTheSlate) {
   const Alrededores a = UnaVentana();
   for (const auto& [ancho, alto] : {std::pair{320, 150}, {400, 250}, {500, 300}, {190, 320}}) {

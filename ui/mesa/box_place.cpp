@@ -44,7 +44,7 @@ Rect SitioDeCaja(double ancho, double alto, const Alrededores& donde) {
   const Rect& v = donde.Ventana;
   const Rect centrada{std::round(donde.Libre.CentroX() - ancho / 2),
                       std::round(donde.Libre.CentroY() - alto / 2), ancho, alto};
-  if (Union(donde.Libre, centrada) == donde.Libre) return centrada;
+  if (Contiene(donde.Libre, centrada)) return centrada;
   const Rect ideal{v.Derecha() - ancho, v.Abajo() - alto, ancho, alto};
   std::vector<double> verticales;
   std::vector<double> horizontales;

@@ -37,6 +37,12 @@ constexpr Rect Interseccion(const Rect& a, const Rect& b) {
 // True when they share more than a border.
 constexpr bool SeCruzan(const Rect& a, const Rect& b) { return !Interseccion(a, b).Vacio(); }
 
+// True when no part of `dentro` lies outside `fuera`.
+constexpr bool Contiene(const Rect& fuera, const Rect& dentro) {
+  return dentro.X >= fuera.X && dentro.Y >= fuera.Y && dentro.Derecha() <= fuera.Derecha() &&
+         dentro.Abajo() <= fuera.Abajo();
+}
+
 // The smallest rectangle around both; the other one when one is empty.
 constexpr Rect Union(const Rect& a, const Rect& b) {
   if (a.Vacio()) return b;
