@@ -1,17 +1,19 @@
 """A random player: the answer to each question and the keys for it."""
 import random
 
+import startup_player
 import windows
+from keyboard import Keyboard
 
 BUTTONS = ["Paso", "Envido", "Envido Más", "Órdago"]
 
 
 class Answer:
-    """An answer: its line for `tasca-trace` (None for a message box) and its keys."""
+    """An answer: its line for `tasca-trace` (None for a message box) and its keys or clicks."""
 
-    def __init__(self, line, *keys):
+    def __init__(self, line, *moves):
         self.line = line
-        self.keys = keys
+        self.moves = moves
 
 
 class MatchPlayer:
@@ -22,6 +24,18 @@ class MatchPlayer:
         self._answers = {windows.MAIN: self._key, windows.MESSAGE: self._read,
                          windows.YES_NO: self._yes_no, windows.INPUT: self._input,
                          windows.BETS: self._bet}
+
+    @staticmethod
+    def hand(session):
+        """What carries out the keys."""
+        return Keyboard(session).press
+
+    def choices(self, _):
+        """The choices in the start-up dialog with their keys. Only the last one is valid."""
+        return startup_player.ROUNDS
+
+    def accept(self, _):
+        return ["Return"]
 
     def answer(self, seen):
         return self._answers[seen.kind](seen)

@@ -2,7 +2,6 @@
 import frozen_clock
 import startup_player
 from accessible import Bus
-from keyboard import Keyboard
 from session import wait_for
 from windows import MAIN, Windows
 
@@ -16,7 +15,7 @@ class WindowMatch:
     """
 
     def __init__(self, session, player, watch=lambda seen: None):
-        self._keyboard = Keyboard(session)
+        self._hand = player.hand(session)
         self._player = player
         self._watch = watch
         self.process = session.start(session.bin / "tasca", extra=frozen_clock.environment(*CLOCK))
@@ -31,7 +30,7 @@ class WindowMatch:
             answer = self._player.answer(seen)
             if answer.line:
                 self._tell(answer.line)
-            self._keyboard.press(*answer.keys)
+            self._hand(*answer.moves)
             seen = self._next(seen)
         self.told.append({"end": "quit", "status": self.process.wait()})
 
@@ -42,17 +41,17 @@ class WindowMatch:
         frozen_clock.forget(self.process.pid)
 
     def _start(self):
-        """Plays the start-up dialog: first a choice that is refused, then a valid one."""
+        """Plays the start-up dialog: perhaps a choice that is refused, then a valid one."""
         seen = self._window.next()
         self._watch(seen)
-        for choice, keys in startup_player.ROUNDS:
-            self._keyboard.press(*keys)
+        for choice, moves in self._player.choices(seen):
+            self._hand(*moves)
             self._wait_for_choice(choice, seen)
             self._tell(choice.line(CLOCK))
-            self._keyboard.press("Return")
+            self._hand(*self._player.accept(seen))
             seen = self._next(seen)
             if seen and seen.kind != MAIN:
-                self._keyboard.press("Return")
+                self._hand(*self._player.accept(seen))
                 seen = self._window.next(seen)
         return seen
 
