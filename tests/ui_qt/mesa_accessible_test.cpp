@@ -4,9 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "cards/hand_text.h"
 #include "tests/support/tables.h"
+#include "tests/ui_qt/moments.h"
 #include "tests/ui_qt/player.h"
 #include "ui/mesa/spoken.h"
 #include "ui/qt/form1.h"
@@ -83,6 +87,72 @@ TEST_F(SpokenTable, KeepsInStepWithTheScene) {
                             "bastos."),
             std::string::npos);
   EXPECT_EQ(Heard()[13], "Pareja 1: nosotros. 12 piedras, ningún juego, ninguna vaca");
+}
+
+using Tree = std::vector<std::string>;
+
+// By moment: every seat, the player's cards, the lances and the scores, in this order.
+std::map<std::string, Tree> TreesOfThreeMoments() {
+  return {
+      {"start",
+       {"Ana, usted.",
+        "Salud la del Quejío, de la pareja contraria, a su derecha. Cuatro cartas tapadas.",
+        "el Cojo, de su pareja, enfrente. Cuatro cartas tapadas.",
+        "Dora, de la pareja contraria, a su izquierda, es mano. Cuatro cartas tapadas.",
+        "Su carta 1: Rey de copas", "Su carta 2: Caballo de bastos", "Su carta 3: Sota de copas",
+        "Su carta 4: As de espadas", "Grande: por jugar", "Pequeña: por jugar", "Pares: por jugar",
+        "Juego: por jugar", "Pareja 1: nosotros. 12 piedras, ningún juego, ninguna vaca",
+        "Pareja 0: ellos. 7 piedras, un juego, ninguna vaca"}},
+      {"bet",
+       {"Ana, usted. Dice: «Envido». Le toca.",
+        ("Salud la del Quejío, de la pareja contraria, a su derecha. Cuatro cartas tapadas. Dice: "
+         "«Esas dos y cinco más, que hoy me sobran chicas»."),
+        "el Cojo, de su pareja, enfrente. Cuatro cartas tapadas.",
+        ("Dora, de la pareja contraria, a su izquierda, es mano. Cuatro cartas tapadas. Dice: "
+         "«Paso»."),
+        "Su carta 1: Rey de copas", "Su carta 2: Caballo de bastos", "Su carta 3: Seis de copas",
+        "Su carta 4: As de espadas", "Grande: 2 queridas",
+        "Pequeña, en juego: 5 de la pareja 0 sobre 2 vistas", "Pares: por jugar",
+        "Juego: por jugar", "Pareja 1: nosotros. 12 piedras, ningún juego, ninguna vaca",
+        "Pareja 0: ellos. 7 piedras, un juego, ninguna vaca"}},
+      {"count",
+       {"Ana, usted. Pares no. Juego no.",
+        ("Salud la del Quejío, de la pareja contraria, a su derecha. Cartas: Rey de oros, Rey de "
+         "espadas, Cinco de espadas, Cuatro de bastos. Pares sí. Juego no."),
+        ("el Cojo, de su pareja, enfrente. Cartas: Sota de oros, Siete de oros, Siete de bastos, "
+         "Dos de espadas. Pares sí. Juego no. Dice: «Quiero»."),
+        ("Dora, de la pareja contraria, a su izquierda, es mano. Cartas: Caballo de espadas, "
+         "Caballo de oros, Cinco de copas, Cinco de oros. Pares sí. Juego no."),
+        "Su carta 1: Rey de copas", "Su carta 2: Caballo de bastos", "Su carta 3: Seis de copas",
+        "Su carta 4: As de espadas", "Grande: 2 queridas", "Pequeña: no querida",
+        "Pares: 4 queridas", "Juego: no hay", "Punto: en paso",
+        "Pareja 1: nosotros. 26 piedras, ningún juego, ninguna vaca",
+        "Pareja 0: ellos. 13 piedras, un juego, ninguna vaca"}}};
+}
+
+TEST_F(SpokenTable, IsTheWholeTableAtThreeMoments) {
+  const std::map<std::string, Tree> arboles = TreesOfThreeMoments();
+  std::size_t vistos = 0;
+  for (const Instante& instante : SeisInstantes()) {
+    const auto arbol = arboles.find(instante.Nombre);
+    if (arbol == arboles.end()) continue;
+    Show(instante.Mesa, instante.Cuando);
+    EXPECT_EQ(Heard(), arbol->second) << instante.Nombre;
+    ++vistos;
+  }
+  EXPECT_EQ(vistos, arboles.size());
+}
+
+TEST_F(SpokenTable, HasLeavesInsideThePicture) {
+  for (const Instante& instante : SeisInstantes()) {
+    Show(instante.Mesa, instante.Cuando);
+    for (int i = 0; i < LaMesa()->childCount(); ++i) {
+      const QAccessibleInterface* const hoja = LaMesa()->child(i);
+      const bool enSuSitio = hoja->parent() == LaMesa() && LaMesa()->indexOfChild(hoja) == i;
+      const bool dentro = LaMesa()->rect().contains(hoja->rect());
+      EXPECT_TRUE(hoja->childCount() == 0 && enSuSitio && dentro) << instante.Nombre << ", " << i;
+    }
+  }
 }
 
 TEST_F(SpokenTable, ForgetsWhatIsNoLongerThere) {
