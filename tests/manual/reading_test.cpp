@@ -155,6 +155,7 @@ TEST(Asunto, IsTheLanceOfThePhase) {
 
 TEST(Asunto, IsTheMatterOfTheQuestion) {
   const std::vector<std::pair<Pregunta, std::string_view>> secciones{
+      {Pregunta::SeguirPartida, "al-empezar"},
       {Pregunta::Mus, "el-mus"},
       {Pregunta::Descarte, "los-descartes"},
       {Pregunta::Pares, "los-pares"},

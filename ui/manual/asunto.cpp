@@ -35,6 +35,8 @@ Asunto AsuntoDe(Fase fase) {
 
 Asunto AsuntoDe(Pregunta pregunta) {
   switch (pregunta) {
+    case Pregunta::SeguirPartida:
+      return Asunto::Inicio;
     case Pregunta::Mus:
       return Asunto::Mus;
     case Pregunta::Descarte:
