@@ -65,11 +65,11 @@ std::set<std::string> Anchors() {
 }
 
 std::vector<std::string> LinkTargets() {
-  return FirstGroups(WholeManual(), std::regex{"[^!]\\[[^\\]]*\\]\\(([^)]*)\\)"});
+  return FirstGroups(WholeManual(), std::regex{R"([^!]\[[^\]]*\]\(([^)]*)\))"});
 }
 
 std::vector<std::string> PictureReferences() {
-  return FirstGroups(WholeManual(), std::regex{"!\\[[^\\]]*\\]\\(([^)]*)\\)"});
+  return FirstGroups(WholeManual(), std::regex{R"(!\[[^\]]*\]\(([^)]*)\))"});
 }
 
 std::string SectionOf(std::string_view ancla) {

@@ -40,21 +40,53 @@ TEST(ManualTables, TellTheSeats) {
   }
 }
 
+// The card of the first suit with that rank.
+Card CardOfRank(const std::string& figura) {
+  const Table t = MesaDePrueba();
+  for (const Card& carta : t.Cartas) {
+    if (Utf8(carta.Figura.Trimmed()) == figura) return carta;
+  }
+  ADD_FAILURE() << figura;
+  return {};
+}
+
 TEST(ManualTables, TellTheValuesOfTheCards) {
   const Rows filas = TableWithHeading("| Carta | Orden | Empareja con | Puntos |");
   ASSERT_EQ(filas.size(), 10U);
-  const Table t = MesaDePrueba();
   std::map<std::string, int> pares;  // what a card pairs with, and its value
   for (const auto& fila : filas) {
-    const auto carta = std::ranges::find_if(
-        t.Cartas, [&fila](const Card& una) { return Utf8(una.Figura.Trimmed()) == fila[0]; });
-    ASSERT_NE(carta, t.Cartas.end()) << fila[0];
-    EXPECT_EQ(std::to_string(carta->ValorGrande), fila[1]) << fila[0];
-    EXPECT_EQ(std::to_string(carta->ValorJuego), fila[3]) << fila[0];
-    const auto [otro, esNuevo] = pares.emplace(fila[2], carta->ValorPares);
-    EXPECT_EQ(otro->second, carta->ValorPares) << fila[0];
+    const Card carta = CardOfRank(fila[0]);
+    const std::vector<std::string> valores{std::to_string(carta.ValorGrande),
+                                           std::to_string(carta.ValorJuego)};
+    EXPECT_EQ(valores, (std::vector<std::string>{fila[1], fila[3]})) << fila[0];
+    EXPECT_EQ(pares.emplace(fila[2], carta.ValorPares).first->second, carta.ValorPares) << fila[0];
   }
   EXPECT_EQ(pares.size(), 8U);
+}
+
+// The stones that pareja 1 is paid at the count, when grande and pequeña are settled.
+int StonesCounted(Table t) {
+  t.Apuesta[NumeroLance::Grande] = ApuestaPagada;
+  t.Apuesta[NumeroLance::Pequena] = ApuestaPagada;
+  ToldHand mesa{t};
+  mesa.Count();
+  return t.Piedras[1];
+}
+
+// As if only pareja 1 were paid for its pares, and nobody had juego.
+std::string StonesOfPares(Table t) {
+  t.Apuesta[NumeroLance::Pares] = ApuestaPagada;
+  t.Declaracion[NumeroLance::Pares] = 1;
+  t.SeJuegaPunto = true;
+  return std::to_string(StonesCounted(t));
+}
+
+// As if only pareja 0 were paid for its pares, which it has not.
+std::string StonesOfJuego(Table t) {
+  if (!TieneJuego(t, AsientoHumano)) return "0";
+  t.Apuesta[NumeroLance::Pares] = ApuestaPagada;
+  t.Declaracion[NumeroLance::Pares] = 0;
+  return std::to_string(StonesCounted(t));
 }
 
 TEST(ManualTables, TellTheClassesOfPares) {
@@ -63,35 +95,16 @@ TEST(ManualTables, TellTheClassesOfPares) {
   for (const auto& fila : TableWithHeading("| Cartas | Pares | Piedras |")) {
     const Table t = TableWithHandOf(fila[0]);
     EXPECT_TRUE(clases.at(fila[1]).contains(CartasIguales(t, AsientoHumano).size())) << fila[0];
-    Table solos = t;
-    solos.Declaracion[NumeroLance::Pares] = 1;  // seats 2 and 4 are not paid
-    solos.Apuesta[NumeroLance::Pares] = ApuestaPagada;
-    solos.SeJuegaPunto = true;
-    solos.Apuesta[NumeroLance::Grande] = ApuestaPagada;
-    solos.Apuesta[NumeroLance::Pequena] = ApuestaPagada;
-    ToldHand mesa{solos};
-    mesa.Count();
-    EXPECT_EQ(std::to_string(solos.Piedras[1]), fila[2]) << fila[0];
+    EXPECT_EQ(StonesOfPares(t), fila[2]) << fila[0];
   }
 }
 
 TEST(ManualTables, TellThePointsOfJuego) {
   for (const auto& fila : TableWithHeading("| Cartas | Puntos | Juego | Piedras |")) {
-    Table t = TableWithHandOf(fila[0]);
+    const Table t = TableWithHandOf(fila[0]);
     EXPECT_EQ(std::to_string(PuntosJuego(t, AsientoHumano)), fila[1]) << fila[0];
     EXPECT_EQ(TieneJuego(t, AsientoHumano) ? "sí" : "no", fila[2]) << fila[0];
-    if (fila[2] == "no") {
-      EXPECT_EQ(fila[3], "0");
-      continue;
-    }
-    for (const NumeroLance lance :
-         {NumeroLance::Grande, NumeroLance::Pequena, NumeroLance::Pares}) {
-      t.Apuesta[lance] = ApuestaPagada;
-    }
-    t.Declaracion[NumeroLance::Pares] = 0;  // the hand's own pares are not paid
-    ToldHand mesa{t};
-    mesa.Count();
-    EXPECT_EQ(std::to_string(t.Piedras[1]), fila[3]) << fila[0];
+    EXPECT_EQ(StonesOfJuego(t), fila[3]) << fila[0];
   }
 }
 
@@ -111,6 +124,7 @@ bool WinsJuego(int uno, int otro) {
 
 TEST(ManualTables, TellTheOrderOfJuegos) {
   std::vector<int> orden;
+  orden.reserve(ManosDeJuego.size());
   for (const auto& [puntos, mano] : ManosDeJuego) orden.push_back(puntos);
   std::ranges::sort(orden, WinsJuego);
   std::string dicho;
@@ -187,29 +201,35 @@ std::vector<Habla> PuntoTold(const std::string& dicho) {
   return hablas;
 }
 
+// Before the punto, with this record. The last bet that was refused was of pareja 1.
+Table BeforePunto(int libreta) {
+  Table t = MesaDePrueba();
+  for (const NumeroLance lance : {NumeroLance::Grande, NumeroLance::Pequena, NumeroLance::Pares}) {
+    t.Apuesta[lance] = ApuestaPagada;
+  }
+  t.SeJuegaPunto = true;
+  t.Fase = Fase::Punto;
+  t.Apuesta[NumeroLance::Punto] = libreta;
+  t.Declaracion[NumeroLance::Punto] = 1;
+  return t;
+}
+
 TEST(ManualTables, TellWhatThePuntoRemembers) {
   const Rows filas = TableWithHeading(
       "| La libreta decía | El punto | Al envidar | Al contar | La libreta dirá |");
   ASSERT_EQ(filas.size(), 11U);
   for (const auto& fila : filas) {
-    Table t = MesaDePrueba();
-    for (const NumeroLance lance :
-         {NumeroLance::Grande, NumeroLance::Pequena, NumeroLance::Pares}) {
-      t.Apuesta[lance] = ApuestaPagada;
-    }
-    t.SeJuegaPunto = true;
-    t.Fase = Fase::Punto;
-    t.Apuesta[NumeroLance::Punto] = *WholeNumber(fila[0]);
-    t.Declaracion[NumeroLance::Punto] = 1;  // the last bet that was refused was of pareja 1
+    SCOPED_TRACE(fila[0] + ", " + fila[1]);
+    Table t = BeforePunto(*WholeNumber(fila[0]));
     ToldHand mesa{t};
     mesa.Bet(NumeroLance::Punto, PuntoTold(fila[1]));
-    const std::string caso = fila[0] + ", " + fila[1];
-    EXPECT_EQ(int{t.Piedras[1]}, *WholeNumber(fila[2])) << caso;
-    const int antes = t.Piedras[1];
+    const int alEnvidar = t.Piedras[1];
     mesa.Count();
-    EXPECT_EQ(t.Piedras[1] - antes, *WholeNumber(fila[3])) << caso;
-    EXPECT_EQ(int{t.Apuesta[NumeroLance::Punto]}, *WholeNumber(fila[4])) << caso;
-    EXPECT_EQ(int{t.Piedras[0]}, 0) << caso;
+    const std::vector<int> pasa{alEnvidar, t.Piedras[1] - alEnvidar, t.Apuesta[NumeroLance::Punto]};
+    const std::vector<int> dicho{*WholeNumber(fila[2]), *WholeNumber(fila[3]),
+                                 *WholeNumber(fila[4])};
+    EXPECT_EQ(pasa, dicho);
+    EXPECT_EQ(int{t.Piedras[0]}, 0);
   }
 }
 

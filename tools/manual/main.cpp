@@ -15,8 +15,8 @@ std::string FilesOf(std::string_view referencia) {
   std::string dibujos;
   for (const int carta : tasca::CardsOfReference(referencia)) {
     if (!dibujos.empty()) dibujos += ' ';
-    dibujos += "<img src=\"../art/cards/" + tasca::NameOfCard(carta) + ".svg\" alt=\"" +
-               tasca::CardsInWords({carta}) + "\" height=\"92\">";
+    dibujos += R"(<img src="../art/cards/)" + tasca::NameOfCard(carta) + R"(.svg" alt=")" +
+               tasca::CardsInWords({carta}) + R"(" height="92">)";
   }
   return dibujos;
 }
