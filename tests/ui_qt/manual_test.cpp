@@ -34,7 +34,7 @@ std::string OpenAt() {
 // Presses F1 in a window, notes where the manual opens, and closes it.
 std::string AnchorOnF1(QWidget* ventana) {
   Press(ventana, Qt::Key_F1);
-  const std::string ancla = OpenAt();
+  std::string ancla = OpenAt();
   if (QWidget* const manual = VisibleWindow("Manual")) manual->close();
   return ancla;
 }
