@@ -27,6 +27,8 @@ class JugadorQueSeVa : public StatePlayer {
   }
 };
 
+const Form1State& VentanaDe(const Session& sesion) { return sesion.Mesa(); }
+
 struct PartidaDeSesion : testing::Test {
   PartidaDeSesion() {
     fs::copy(TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat",
@@ -65,7 +67,7 @@ struct PartidaDeSesion : testing::Test {
   Form1State Retomada() {
     const auto sesion = NuevaSesion();
     EXPECT_EQ(sesion->Retomar(), Situacion::EnLaMesa);
-    return sesion->Mesa();
+    return VentanaDe(*sesion);
   }
   bool HayPartida() const { return fs::exists(Estado.Path() / "partida"); }
 
@@ -77,7 +79,7 @@ struct PartidaDeSesion : testing::Test {
 TEST_F(PartidaDeSesion, IsKeptAfterEveryStep) {
   for (int pasos = 0; pasos < 12; ++pasos) {
     auto sesion = EnLaMesa(pasos);
-    const Form1State mesa = sesion->Mesa();
+    const Form1State mesa = VentanaDe(*sesion);
     sesion.reset();
     EXPECT_TRUE(Retomada() == mesa) << pasos;
     fs::remove(Estado.Path() / "partida");
@@ -91,7 +93,7 @@ TEST_F(PartidaDeSesion, GoesOnToTheSameEnd) {
   auto entera = EnLaMesa();
   const Situacion fin = Acabar(*entera);
   ASSERT_EQ(fin, Situacion::OtrosJugadores);
-  const Form1State mesa = entera->Mesa();
+  const Form1State mesa = VentanaDe(*entera);
   entera.reset();
   EnLaMesa(3).reset();
   auto sesion = NuevaSesion();
@@ -112,7 +114,7 @@ TEST_F(PartidaDeSesion, NeedsNoCharacterFileToGoOn) {
 
 TEST_F(PartidaDeSesion, IsKeptWhenThePlayerLeaves) {
   auto sesion = EnLaMesa(4);
-  const Form1State mesa = sesion->Mesa();
+  const Form1State mesa = VentanaDe(*sesion);
   sesion->Salir();
   sesion.reset();
   EXPECT_TRUE(Retomada() == mesa);
@@ -120,7 +122,7 @@ TEST_F(PartidaDeSesion, IsKeptWhenThePlayerLeaves) {
 
 TEST_F(PartidaDeSesion, IsKeptAsBeforeAStepThatThePlayerLeaves) {
   auto sesion = EnLaMesa();
-  const Form1State mesa = sesion->Mesa();
+  const Form1State mesa = VentanaDe(*sesion);
   Jugador.AlPreguntar = [] { throw LeaveProgram{}; };
   EXPECT_EQ(Pulsar(*sesion), Situacion::Fin);
   Jugador.AlPreguntar = [] {};
@@ -130,7 +132,7 @@ TEST_F(PartidaDeSesion, IsKeptAsBeforeAStepThatThePlayerLeaves) {
 
 TEST_F(PartidaDeSesion, IsKeptAsBeforeAStepThatFails) {
   auto sesion = EnLaMesa();
-  const Form1State mesa = sesion->Mesa();
+  const Form1State mesa = VentanaDe(*sesion);
   Jugador.AlPreguntar = [] { throw RunTimeError{u"Roto."}; };
   EXPECT_EQ(Pulsar(*sesion), Situacion::Fin);
   Jugador.AlPreguntar = [] {};
@@ -144,7 +146,7 @@ TEST_F(PartidaDeSesion, IsNotKeptWhenASoundEndsInTheMiddleOfAStep) {
   std::string antes;
   Jugador.AlPreguntar = [&] {
     antes = Estado.Read("partida");
-    const Form1State mesa = sesion->Mesa();
+    const Form1State mesa = VentanaDe(*sesion);
     sesion->FinDeSonido(0);
     EXPECT_FALSE(sesion->Mesa() == mesa);
     throw LeaveProgram{};
