@@ -64,8 +64,8 @@ std::string_view LectorPartida::Trozo(std::size_t cuantos) {
 std::uint64_t LectorPartida::Entero(int cuantosBytes) {
   const std::string_view trozo = Trozo(static_cast<std::size_t>(cuantosBytes));
   std::uint64_t numero = 0;
-  for (auto byte = trozo.rbegin(); byte != trozo.rend(); ++byte) {
-    numero = numero << 8U | static_cast<unsigned char>(*byte);
+  for (std::size_t i = trozo.size(); i > 0; --i) {
+    numero = numero << 8U | static_cast<unsigned char>(trozo[i - 1]);
   }
   return numero;
 }

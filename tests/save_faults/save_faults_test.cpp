@@ -304,7 +304,23 @@ TEST_P(SaveInBits, WritesAFewBytesAtATime) {
 }
 
 // Reading the kept match with faults: it is offered, or set aside, or left where it is.
-class OfferFaults : public SaveFaults {};
+class OfferFaults : public SaveFaults {
+ protected:
+  // Offers the match with a fault at that call. Returns whether it was set aside.
+  static bool OfferWith(const Case& oferta, const Call& llamada, const std::string& fallo) {
+    SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count) + " " + fallo);
+    const TempFolder carpeta;
+    oferta.Fill(carpeta);
+    const Outcome fin =
+        RunWithFault(oferta.On.Tracer, oferta.SaveIn(carpeta, "nadie"), llamada, fallo);
+    EXPECT_TRUE(fin.Status == 0 || fin.Status == GoesOn || fin.Status == 128 + SIGKILL)
+        << fin.Status << fin.Output;
+    const auto nombres = carpeta.Names();
+    const bool apartada = std::count(nombres.begin(), nombres.end(), "partida-apartada") == 1;
+    EXPECT_TRUE(carpeta.Read(apartada ? "partida-apartada" : "partida") == oferta.Antes());
+    return apartada;
+  }
+};
 
 TEST_P(OfferFaults, LoseNoMatch) {
   Case oferta = GetParam();
@@ -314,17 +330,7 @@ TEST_P(OfferFaults, LoseNoMatch) {
   for (const Call& llamada : oferta.Calls()) {
     if (!IsAboutFiles(llamada)) continue;
     for (const char* fallo : {"error=EIO", "error=EACCES", "signal=KILL"}) {
-      SCOPED_TRACE(llamada.Name + " " + std::to_string(llamada.Count) + " " + fallo);
-      const TempFolder carpeta;
-      oferta.Fill(carpeta);
-      const Outcome fin =
-          RunWithFault(oferta.On.Tracer, oferta.SaveIn(carpeta, "nadie"), llamada, fallo);
-      EXPECT_TRUE(fin.Status == 0 || fin.Status == GoesOn || fin.Status == 128 + SIGKILL)
-          << fin.Status << fin.Output;
-      const auto nombres = carpeta.Names();
-      const bool apartada = std::count(nombres.begin(), nombres.end(), "partida-apartada") == 1;
-      EXPECT_TRUE(carpeta.Read(apartada ? "partida-apartada" : "partida") == oferta.Antes());
-      apartadas += apartada ? 1 : 0;
+      apartadas += OfferWith(oferta, llamada, fallo) ? 1 : 0;
       ++fallos;
     }
   }

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -14,8 +16,8 @@ namespace {
 class Variable {
  public:
   Variable(const char* nombre, const char* valor) : nombre_{nombre} {
-    if (const char* const antes = ::getenv(nombre))
-      antes_ = antes;  // NOLINT(concurrency-mt-unsafe)
+    const char* const antes = ::getenv(nombre);  // NOLINT(concurrency-mt-unsafe)
+    if (antes != nullptr) antes_ = antes;
     Put(valor);
   }
   Variable(const Variable&) = delete;
