@@ -53,8 +53,8 @@ std::vector<std::string> PlayedMatches() {
   return played;
 }
 
-// Changes bytes of a match. Positions count from the end, where the table is; the characters and the
-// generator come before it.
+// Changes bytes of a match. Positions count from the end, where the table is; the characters and
+// the generator come before it.
 std::string Changed(std::string values, Bytes& bytes) {
   constexpr int Positions = 0x10000;
   while (!bytes.Empty()) {
