@@ -134,18 +134,29 @@ TEST(FotogramaDe, ACardSlowsDown) {
   EXPECT_EQ(Lugar(FotogramaDe(Una(ClaseMovimiento::Desliza), 100).Que), (Rect{90, 55, 20, 30}));
 }
 
-TEST(FotogramaDe, ACardTurnsFromItsBackToItsFaceWithoutLeavingItsPlace) {
-  const Movimiento m = Una(ClaseMovimiento::Voltea);
-  const auto carta = [&](double ms) { return std::get<CartaPuesta>(FotogramaDe(m, ms).Que); };
-  EXPECT_EQ(carta(30).Carta, 0);
-  EXPECT_DOUBLE_EQ(FotogramaDe(m, 30).Estrecho, 1);
-  EXPECT_EQ(carta(65).Carta, 0);
-  EXPECT_DOUBLE_EQ(FotogramaDe(m, 65).Estrecho, 0.5);
-  EXPECT_EQ(carta(135).Carta, 7);
-  EXPECT_DOUBLE_EQ(FotogramaDe(m, 135).Estrecho, 0.5);
-  EXPECT_EQ(carta(170).Carta, 7);
-  EXPECT_DOUBLE_EQ(FotogramaDe(m, 170).Estrecho, 1);
-  EXPECT_EQ(carta(65).Donde, (Rect{100, 50, 20, 30}));
+// The card that is seen then.
+CartaPuesta Volviendose(double milisegundos) {
+  return std::get<CartaPuesta>(FotogramaDe(Una(ClaseMovimiento::Voltea), milisegundos).Que);
+}
+
+double Estrechez(double milisegundos) {
+  return FotogramaDe(Una(ClaseMovimiento::Voltea), milisegundos).Estrecho;
+}
+
+TEST(FotogramaDe, ACardTurnsFromItsBackToItsFace) {
+  EXPECT_EQ(Volviendose(30).Carta, 0);
+  EXPECT_EQ(Volviendose(65).Carta, 0);
+  EXPECT_EQ(Volviendose(135).Carta, 7);
+  EXPECT_EQ(Volviendose(170).Carta, 7);
+  EXPECT_EQ(Volviendose(65).Donde, (Rect{100, 50, 20, 30})) << "it stays at its place";
+}
+
+TEST(FotogramaDe, ACardIsSeenFromItsEdgeInTheMiddleOfItsTurn) {
+  EXPECT_DOUBLE_EQ(Estrechez(30), 1);
+  EXPECT_DOUBLE_EQ(Estrechez(65), 0.5);
+  EXPECT_DOUBLE_EQ(Estrechez(100), 0);
+  EXPECT_DOUBLE_EQ(Estrechez(135), 0.5);
+  EXPECT_DOUBLE_EQ(Estrechez(170), 1);
 }
 
 TEST(FotogramaDe, AStoneAppearsWhileItDrops) {

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QProxyStyle>
+#include <memory>
 
 namespace {
 
@@ -22,7 +23,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
   const QApplication aplicacion{argc, argv};
-  QApplication::setStyle(new StillStyle);
+  QApplication::setStyle(std::make_unique<StillStyle>().release());
   QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();
 }

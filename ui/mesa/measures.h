@@ -24,6 +24,8 @@ struct Medidas {
   double Techo = 0;      // the lowest line of the upper half: the slate, or the player's cards
 };
 
+// The lengths for a picture in `donde`, with letters `letra` pixels high. Of the scene only
+// two things count: whether hands of seats 2 to 4 lie open, and how many lances there are.
 Medidas MedidasDe(const Escena& escena, const Rect& donde, double letra);
 
 // The inputs and the output of the layout functions.
@@ -34,7 +36,11 @@ struct Composicion {
   Lamina& Hoja;
 };
 
+// Each of these appends pieces to Hoja.Piezas.
+
+// The slate with its lances and the stones of the bets.
 void PonerPizarra(const Composicion& c);
+// The player's cards, plate, badges and bubble, and the key cap or the sign that it is their turn.
 void PonerJugador(const Composicion& c);
 // Seats 2 to 4, their cards face down or lying open; what is left free goes to Hoja.Libre.
 void PonerOtrosTapados(const Composicion& c);

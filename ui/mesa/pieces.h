@@ -12,6 +12,7 @@
 
 namespace tasca {
 
+// A card of a hand.
 struct CartaPuesta {
   Rect Donde;
   int Carta = 0;        // 1..40; 0 lies face down
@@ -50,8 +51,10 @@ struct Bocadillo {
   bool operator==(const Bocadillo&) const = default;
 };
 
+// What a badge says: that the seat is mano, or that it has, or has not, pares or juego.
 enum class ClaseDistintivo { Mano, Si, No };
 
+// A badge below a name plate.
 struct Distintivo {
   Rect Donde;
   std::u16string Texto;
@@ -91,6 +94,7 @@ enum class ClaseFicha {
   Suya,      // a stone of a bet of pareja 0
 };
 
+// A stone, on the slate or in the score.
 struct Ficha {
   Rect Donde;
   ClaseFicha Clase = ClaseFicha::Piedra;

@@ -12,8 +12,10 @@ namespace tasca {
 
 class InputLine;
 
+// The geometry of its parts comes from PartesDe. Parts without a place are hidden.
 class Form1Layout : public QLayout {
  public:
+  // The widgets of the window, which owns them.
   struct Parts {
     QWidget* Mesa;
     QWidget* Tanteo;
@@ -33,6 +35,7 @@ class Form1Layout : public QLayout {
   // Whether the player wants the picture.
   void ShowPicture(bool quiere);
 
+  // The interface of QLayout. It owns the items, not the widgets.
   void addItem(QLayoutItem* elemento) override;
   int count() const override;
   QLayoutItem* itemAt(int indice) const override;
@@ -42,12 +45,13 @@ class Form1Layout : public QLayout {
   void setGeometry(const QRect& sitio) override;
 
  private:
+  // What PartesDe needs to know of the window and its controls.
   MedidasVentana Measures(const QRect& sitio) const;
 
   Parts partes_;
   QList<QLayoutItem*> elementos_;
   bool quiereMesa_ = true;
-  bool colocando_ = false;
+  bool colocando_ = false;  // setGeometry runs: the controls' own resizes must not start it again
 };
 
 }  // namespace tasca

@@ -22,6 +22,7 @@ class ManualWindow : public QWidget {
   bool event(QEvent* suceso) override;
 
  private:
+  // Search bar above, contents at the left, text at the right.
   void BuildLayout();
   QLayout* BuildBar();
   void Connect();
@@ -29,6 +30,7 @@ class ManualWindow : public QWidget {
   void FillContents();
   // Selects the section that is being read in the contents.
   void FollowText();
+  // Selects the next place of the searched text, or says that there is none.
   void Search(bool haciaAtras);
 
   // The declaration order is the tab order.

@@ -10,12 +10,14 @@
 
 namespace tasca {
 
+// Fonts are made when they are first asked for, and kept.
 class MesaLetters {
  public:
   explicit MesaLetters(const QFont& sistema);
 
   // The size of the system's font in pixels.
   double Pixels() const { return pixeles_; }
+  // The font of these letters; valid as long as this lives.
   const QFont& Font(Letra letra);
   // Measures for the layout; valid as long as this lives.
   AnchoDeTexto Measure();

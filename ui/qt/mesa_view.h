@@ -21,6 +21,7 @@ class MesaView : public QWidget {
   // Shows another scene; paints only what differs. Between two steps cards slide and stones drop,
   // unless the desktop or SetMotion has switched that off. Nothing waits for it.
   void ShowScene(const Escena& escena);
+  // Whether the player wants movements.
   void SetMotion(bool quiere) { quiereMovimiento_ = quiere; }
   // True while something is on its way.
   bool Moves() const { return movimiento_.Runs(); }
@@ -38,10 +39,12 @@ class MesaView : public QWidget {
   void mouseMoveEvent(QMouseEvent* suceso) override;
 
  private:
+  // The scene laid out for the size and the font of the widget.
   Lamina LayOut();
   void Restart();
   std::vector<Movimiento> MovementsFrom(const Escena& escena,
                                         const std::vector<Pieza>& piezas) const;
+  // Keeps only the pictures of cards in the sizes of this sheet.
   void ForgetOldCards();
   bool IsOnKeyCap(QPointF punto) const;
 

@@ -12,6 +12,7 @@
 
 namespace tasca {
 
+// Belongs to the view, which must outlive it.
 class Motion : public QObject {
  public:
   explicit Motion(QWidget& vista) : vista_{vista} {}
@@ -24,7 +25,7 @@ class Motion : public QObject {
   void Start(std::vector<Movimiento> movimientos, double letra);
   bool Runs() const { return reloj_.isActive(); }
 
-  // The pieces that do not move now.
+  // Without the pieces that move now.
   std::vector<Pieza> StillAmong(std::vector<Pieza> piezas) const;
   // The moving pieces at this instant.
   std::vector<Fotograma> Frames() const;

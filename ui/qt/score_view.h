@@ -12,12 +12,14 @@
 
 namespace tasca {
 
+// It takes neither focus nor keys. Its height decides whether the parejas stand side by side.
 class ScoreView : public QWidget {
  public:
   explicit ScoreView(QWidget* padre);
 
   // Shows another score. New stones drop as on the table.
   void ShowScene(const Escena& escena);
+  // Whether the player wants movements.
   void SetMotion(bool quiere) { quiereMovimiento_ = quiere; }
   // True while something is on its way.
   bool Moves() const { return movimiento_.Runs(); }
@@ -28,6 +30,7 @@ class ScoreView : public QWidget {
   void resizeEvent(QResizeEvent* suceso) override;
 
  private:
+  // Places the pieces for the size, the font and the colours of the widget, and repaints it.
   void LayOut();
 
   Escena escena_;
