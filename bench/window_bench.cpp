@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <fstream>
+#include <iomanip>
+#include <iostream>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -77,16 +80,15 @@ void Print(const char* nombre, std::vector<double> tiempos) {
   const auto en = [&](double parte) {
     return tiempos[static_cast<std::size_t>(parte * static_cast<double>(tiempos.size() - 1))];
   };
-  std::printf("%-28s median %6.2f ms, 99th %6.2f ms, slowest %6.2f ms, of %zu\n", nombre, en(0.5),
-              en(0.99), tiempos.back(), tiempos.size());
+  std::cout << nombre << ": median " << en(0.5) << " ms, 99th " << en(0.99) << " ms, slowest "
+            << tiempos.back() << " ms, of " << tiempos.size() << '\n';
 }
 
 void PlayMatch(const std::string& carpeta, QSize tamano, unsigned semilla, Times& tiempos) {
   RandomPort port{semilla};
   Session sesion{carpeta, port};
   if (sesion.AbrirInicio() == Situacion::Fin || sesion.Aceptar() != Situacion::EnLaMesa) {
-    (void)std::fprintf(stderr, "bench_window: no game starts in %s\n", carpeta.c_str());
-    std::exit(EXIT_FAILURE);
+    throw std::runtime_error{"no game starts in " + carpeta};
   }
   const auto antes = Clock::now();
   Form1 ventana{Form1::Events{.Text1_KeyDown = {}, .Sonido_Click = {}, .Closed = [] {}}};
@@ -94,8 +96,9 @@ void PlayMatch(const std::string& carpeta, QSize tamano, unsigned semilla, Times
   ventana.resize(tamano);
   ventana.show();
   QCoreApplication::processEvents();
-  if (semilla == 1)
-    std::printf("%-28s %6.2f ms\n", "first painted frame", MillisecondsSince(antes));
+  if (semilla == 1) {
+    std::cout << "first painted frame: " << MillisecondsSince(antes) << " ms\n";
+  }
   while (true) {
     const bool tapadas = !HayManosAbiertas(sesion.Mesa());
     const auto pulsada = Clock::now();
@@ -109,30 +112,35 @@ void PlayMatch(const std::string& carpeta, QSize tamano, unsigned semilla, Times
   }
 }
 
-int Measure(const std::string& carpeta, QSize tamano, unsigned partidas) {
-  std::printf("%d x %d\n", tamano.width(), tamano.height());
+void Measure(const std::string& carpeta, QSize tamano, unsigned partidas) {
+  std::cout << std::fixed << std::setprecision(1) << tamano.width() << " x " << tamano.height()
+            << '\n';
   Times tiempos;
   for (unsigned semilla = 1; semilla <= partidas; ++semilla) {
     PlayMatch(carpeta, tamano, semilla, tiempos);
   }
   Print("key to painted frame", tiempos.Steps);
   Print("laying the hands open", tiempos.Openings);
-  std::printf("%-28s %6.1f MB\n", "memory (PSS)", static_cast<double>(Pss()) / 1024);
-  return EXIT_SUCCESS;
+  std::cout << "memory (PSS): " << static_cast<double>(Pss()) / 1024 << " MB\n";
 }
 
 }  // namespace
 }  // namespace tasca
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication aplicacion{argc, argv};
-  const QStringList dichos = QCoreApplication::arguments();
-  if (dichos.size() < 3 || dichos.size() > 4) {
-    (void)std::fputs("usage: bench_window WIDTH HEIGHT [MATCHES]\n", stderr);
-    return 2;
+  try {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication aplicacion{argc, argv};
+    const QStringList dichos = QCoreApplication::arguments();
+    if (dichos.size() < 3 || dichos.size() > 4) {
+      throw std::runtime_error{"usage: bench_window WIDTH HEIGHT [MATCHES]"};
+    }
+    const unsigned partidas = dichos.size() > 3 ? dichos[3].toUInt() : 1;
+    tasca::Measure(QCoreApplication::applicationDirPath().toStdString(),
+                   {dichos[1].toInt(), dichos[2].toInt()}, partidas);
+    return EXIT_SUCCESS;
+  } catch (const std::exception& error) {
+    std::cerr << "bench_window: " << error.what() << '\n';
+    return EXIT_FAILURE;
   }
-  const unsigned partidas = dichos.size() > 3 ? dichos[3].toUInt() : 1;
-  return tasca::Measure(QCoreApplication::applicationDirPath().toStdString(),
-                        {dichos[1].toInt(), dichos[2].toInt()}, partidas);
 }

@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "ui/mesa/measures.h"
-#include "ui/mesa/seats.h"
 #include "ui/mesa/palabras.h"
+#include "ui/mesa/seats.h"
 
 namespace tasca {
 namespace {

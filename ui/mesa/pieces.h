@@ -27,6 +27,7 @@ struct CartaPuesta {
 struct Placa {
   Rect Donde;
   std::u16string Nombre;
+  Letra Tipo;  // of Nombre
   Seat De = AsientoHumano;
   bool EsMano = false;
   bool LeToca = false;

@@ -9,8 +9,6 @@
 namespace tasca {
 namespace {
 
-constexpr Letra LetraDePlaca{1.06, true};
-
 double Alinear(const Rect& sitio, double ancho, Alineado a) {
   if (a == Alineado::Izquierda) return sitio.X;
   return a == Alineado::Derecha ? sitio.Derecha() - ancho : sitio.CentroX() - ancho / 2;
@@ -108,6 +106,15 @@ void PonerJugadorAlLado(const Composicion& c) {
 
 Letra LetraDeGlobo(const Composicion& c) { return {c.M.Baja ? 1.0 : 1.06, false}; }
 
+// A long name gets smaller letters before it is shortened.
+Letra LetraDePlaca(const Composicion& c, std::u16string_view nombre, double ancho) {
+  Letra letra{1.06, true};
+  for (const double menor : {0.96, 0.86}) {
+    if (c.Mide(nombre, letra) > ancho) letra.Factor = menor;
+  }
+  return letra;
+}
+
 Rect PonerPlaca(const Composicion& c, Seat asiento, const Rect& sitio, Alineado a) {
   const double f = c.M.f;
   const AsientoVisto& visto = c.Vista.Asientos[asiento];
@@ -116,8 +123,9 @@ Rect PonerPlaca(const Composicion& c, Seat asiento, const Rect& sitio, Alineado 
   placa.De = asiento;
   placa.EsMano = visto.EsMano;
   placa.LeToca = asiento == AsientoHumano && c.Vista.Toca == Turno::Jugador;
-  placa.Nombre = Abreviado(visto.Nombre, LetraDePlaca, sitio.Ancho - adornos, c.Mide);
-  const double ancho = std::min(sitio.Ancho, adornos + c.Mide(placa.Nombre, LetraDePlaca));
+  placa.Tipo = LetraDePlaca(c, visto.Nombre, sitio.Ancho - adornos);
+  placa.Nombre = Abreviado(visto.Nombre, placa.Tipo, sitio.Ancho - adornos, c.Mide);
+  const double ancho = std::min(sitio.Ancho, adornos + c.Mide(placa.Nombre, placa.Tipo));
   placa.Donde = {Alinear(sitio, ancho, a), sitio.Y, ancho, AltoPlaca * f};
   c.Hoja.Piezas.emplace_back(placa);
   return placa.Donde;

@@ -273,7 +273,7 @@ void MesaPainter::operator()(const Placa& placa) {
   Box(r, r.height() / 2, c_.Placa, linea);
   DrawPareja(p_, {r.left() + f_ * 1.05, r.center().y()}, f_ * 0.42, ParejaDe(placa.De),
              c_.De(ParejaDe(placa.De)));
-  Write(r.adjusted(f_ * 1.8, 0, 0, 0), placa.Nombre, {1.06, true}, c_.PlacaTexto, ALaIzquierda);
+  Write(r.adjusted(f_ * 1.8, 0, 0, 0), placa.Nombre, placa.Tipo, c_.PlacaTexto, ALaIzquierda);
   if (placa.EsMano) DrawHand(p_, {r.right() - f_ * 1.25, r.center().y()}, f_ * 1.6, c_);
 }
 
