@@ -117,11 +117,12 @@ TEST_F(ProgramKeepsMatch, IsLeftAloneIfTheDesktopSessionEndsAtTheQuestion) {
 }
 
 // An input box that closes with the program was not cancelled by the player: the step is not kept.
+// Enter wants mus and passes, hand after hand, until everybody wants mus.
 TEST_F(ProgramKeepsMatch, KeepsTheStepBeforeAnInputBoxThatTheDesktopSessionEnds) {
   std::string antes;
   enLaMesa_ = [](QWidget* ventana) { Press(ventana, Qt::Key_Return); };
   enCaja_ = [&](QWidget* caja) {
-    if (qobject_cast<QInputDialog*>(caja) == nullptr) return Press(caja, Qt::Key_S);
+    if (qobject_cast<QInputDialog*>(caja) == nullptr) return Press(caja, Qt::Key_Return);
     antes = estado_.Read("partida");
     programa_->AtSessionEnd().Comes();
   };
