@@ -60,9 +60,9 @@ Outcome RunCommand(const std::string& orden) {
 bool MachineTraces() { return RunCommand("strace -o /dev/null true").Status == 0; }
 
 bool IsAboutFiles(const Call& llamada) {
-  static const std::set<std::string> otras{"brk",          "mmap",          "munmap", "madvise",
-                                           "mprotect",     "clone",         "clone3", "futex",
-                                           "rt_sigaction", "rt_sigprocmask"};
+  static const std::set<std::string> otras{
+      "brk",    "mmap",  "munmap",      "madvise",      "mprotect",      "clone",
+      "clone3", "futex", "sigaltstack", "rt_sigaction", "rt_sigprocmask"};
   return !otras.contains(llamada.Name);
 }
 
