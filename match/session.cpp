@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/errors.h"
+#include "base/keys.h"
 #include "match/phase_machine.h"
 #include "match/start.h"
 #include "sound/effects.h"
@@ -21,7 +22,12 @@ Session::Session(std::filesystem::path carpeta, Port& port,
 Situacion Session::Retomar() {
   return Hacer([this] {
     const bool sigue = conservador_ && conservador_->Ofrecer(g_);
-    return sigue ? Situacion::EnLaMesa : Situacion::EnInicio;
+    if (!sigue) return Situacion::EnInicio;
+    cronica_.Empezar(
+        u"La partida viene de otra vez: la crónica empieza por esta mano y cuenta desde ella.");
+    if (t_.Fase != Fase::EmpezarMano) cronica_.EmpezarMano();
+    AnotarPaso();
+    return Situacion::EnLaMesa;
   });
 }
 
@@ -40,6 +46,9 @@ Situacion Session::Aceptar() {
   return Hacer([this] {
     if (!CbOK_Click(inicio_, g_)) return Situacion::EnInicio;
     Form_Load(g_);
+    cronica_.Empezar();
+    cronica_.EmpezarMano();
+    AnotarPaso();
     Conservar();
     return Situacion::EnLaMesa;
   });
@@ -48,8 +57,13 @@ Situacion Session::Aceptar() {
 Situacion Session::Tecla(Integer& KeyCode, Integer Shift) {
   return Hacer([&] {
     if (conservador_) conservador_->Esperar();
+    const bool abreMano =
+        KeyCode == TeclaQ || (KeyCode == TeclaEnter && t_.Fase == Fase::EmpezarMano);
+    if (abreMano) cronica_.EmpezarMano();
     Text1_KeyDown(g_, KeyCode, Shift);
+    AnotarPaso();
     if (port_.TakeChangePlayers()) {
+      cronica_.Cerrar();
       Olvidar();
       return Situacion::OtrosJugadores;
     }
@@ -93,6 +107,11 @@ void Session::Acabar(Desenlace final) {
   if (situacion_ == Situacion::Fin) return;
   final_ = std::move(final);
   situacion_ = Situacion::Fin;
+}
+
+void Session::AnotarPaso() {
+  cronica_.Anotar(t_);
+  if (t_.Fase == Fase::EmpezarMano) cronica_.TerminarMano(t_);
 }
 
 void Session::Conservar() {

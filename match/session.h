@@ -9,6 +9,8 @@
 #include <string>
 
 #include "keep/conservador.h"
+#include "match/cronica.h"
+#include "match/cronista.h"
 #include "startup/dlg_inicio.h"
 #include "table/game.h"
 
@@ -42,6 +44,9 @@ class Session {
   const Table& Mesa() const { return t_; }
   // The random generator, for the count of draws.
   const Rnd& Generador() const { return rnd_; }
+  // All that has been said in the match, which may be the last one while the start-up dialog is
+  // open.
+  const Cronica& Relato() const { return cronica_; }
   // The state of the start-up dialog. Change it only inside EnInicio.
   DlgInicio& Inicio() { return inicio_; }
   // True once the situation is Fin.
@@ -76,6 +81,8 @@ class Session {
   Situacion Hacer(const std::function<Situacion()>& paso);
   // Ends the game. The first result stays.
   void Acabar(Desenlace final);
+  // Writes what a step has said into the chronicle.
+  void AnotarPaso();
   // Begins to keep the match as it is now.
   void Conservar();
   // The kept match is over.
@@ -86,7 +93,9 @@ class Session {
   Table t_;
   Rnd rnd_;
   Port& port_;
-  Game g_{t_, rnd_, port_};
+  Cronica cronica_;
+  Cronista cronista_{port_, cronica_};
+  Game g_{t_, rnd_, cronista_};
   DlgInicio inicio_;
   std::optional<Conservador> conservador_;
   Situacion situacion_ = Situacion::EnInicio;

@@ -28,11 +28,13 @@ void OfrecenLaMano(Game& g, std::u16string_view resultado, MessageCategory categ
 
 }  // namespace
 
-void MostrarTanteo(Table& t) {
-  t.Text3 = Join(u"Piedras: ", t.Piedras[1], u" / ", t.Piedras[0],    //
-                 u";    juegos: ", t.Juegos[1], u" / ", t.Juegos[0],  //
-                 u";    Vacas: ", t.Vacas[1], u" / ", t.Vacas[0]);
+std::u16string TextoTanteo(const Table& t) {
+  return Join(u"Piedras: ", t.Piedras[1], u" / ", t.Piedras[0],    //
+              u";    juegos: ", t.Juegos[1], u" / ", t.Juegos[0],  //
+              u";    Vacas: ", t.Vacas[1], u" / ", t.Vacas[0]);
 }
+
+void MostrarTanteo(Table& t) { t.Text3 = TextoTanteo(t); }
 
 void ComprobarVaca(Game& g) {
   constexpr Pareja Ninguna = -2;

@@ -1,11 +1,16 @@
 #pragma once
 // The scoreboard, and the end of a juego, a vaca and the match. Juegos add up to a vaca, vacas to
 // the match.
+#include <string>
+
 #include "table/game.h"
 
 namespace tasca {
 
-// Rewrites Text3: stones, juegos and vacas of both parejas, the human's first.
+// Stones, juegos and vacas of both parejas, the human's first.
+std::u16string TextoTanteo(const Table& t);
+
+// Rewrites Text3 with TextoTanteo.
 void MostrarTanteo(Table& t);
 
 // Checks the juegos after one has been added. A pareja with enough juegos wins the vaca: a message

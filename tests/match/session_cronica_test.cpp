@@ -1,0 +1,140 @@
+// The chronicle of a session: a whole match, the next one, and a match of another time.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "base/keys.h"
+#include "base/text.h"
+#include "match/session.h"
+#include "tests/support/state_player.h"
+#include "tests/support/tables.h"
+#include "tests/support/temp_folder.h"
+
+namespace tasca::test {
+namespace {
+
+// The whole lines of a text. The prompts are no whole lines, or stand before a line end.
+std::vector<std::u16string> Lineas(std::u16string_view texto) {
+  std::vector<std::u16string> lineas;
+  for (std::size_t fin = texto.find_first_of(CrLf); fin != texto.npos;
+       fin = texto.find_first_of(CrLf)) {
+    const std::u16string_view linea = texto.substr(0, fin);
+    if (!linea.empty() && !linea.starts_with(u"Pulse enter para")) lineas.emplace_back(linea);
+    texto.remove_prefix(fin + 1);
+  }
+  return lineas;
+}
+
+// A player who writes down what stands on the table at each question, and the messages.
+class Testigo : public StatePlayer {
+ public:
+  std::vector<std::u16string> Visto;
+
+  void Mirar(const Table& t) {
+    for (const std::u16string& linea : Lineas(t.Text2)) Visto.push_back(linea);
+  }
+  void MsgBox(const Table& t, std::u16string_view texto) override {
+    Mirar(t);
+    for (const std::u16string& linea : Lineas(Join(texto, CrLf))) Visto.push_back(linea);
+  }
+  bool YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) override {
+    Mirar(t);
+    return StatePlayer::YesNoBox(t, sobre, pregunta);
+  }
+  std::u16string InputBox(const Table& t, Pregunta sobre, const InputQuestion& pregunta) override {
+    Mirar(t);
+    return StatePlayer::InputBox(t, sobre, pregunta);
+  }
+  void ShowDialog(const Table& t, Dialog& dialogo) override {
+    Mirar(t);
+    StatePlayer::ShowDialog(t, dialogo);
+  }
+};
+
+struct CronicaDeSesion : testing::Test {
+  CronicaDeSesion() {
+    std::filesystem::copy(TASCA_SOURCE_DIR "/tests/traces/folder/Jugadores.dat",
+                          Carpeta.Path() / "Jugadores.dat");
+    Carpeta.Write("mus.ini", "20\r\n1\r\n1\r\nAna>\r\n");
+    Jugador.Hora = {.Hora = 9, .Minuto = 10, .Segundo = 11};
+    Sesion = NuevaSesion();
+  }
+  std::unique_ptr<Session> NuevaSesion() {
+    return std::make_unique<Session>(Carpeta.Path(), Jugador, Estado.Path());
+  }
+  void Sentarse() const {
+    Sesion->AbrirInicio();
+    ASSERT_EQ(Sesion->Aceptar(), Situacion::EnLaMesa);
+  }
+  Situacion Pulsar(int tecla = TeclaEnter) {
+    Jugador.NewStep();
+    Integer codigo = tecla;
+    return Sesion->Tecla(codigo, 0);
+  }
+  bool Cuenta(std::u16string_view que) const { return Contains(Sesion->Relato().Texto(), que); }
+  int Veces(std::u16string_view que) const {
+    const std::u16string texto = Sesion->Relato().Texto();
+    int veces = 0;
+    for (std::size_t i = texto.find(que); i != texto.npos; i = texto.find(que, i + 1)) ++veces;
+    return veces;
+  }
+
+  TempFolder Carpeta;
+  TempFolder Estado;
+  Testigo Jugador;
+  std::unique_ptr<Session> Sesion;
+};
+
+TEST_F(CronicaDeSesion, HasEveryLineThatStoodInTheTranscript) {
+  Sentarse();
+  Jugador.OtraPartida = true;
+  Jugador.CambiarJugadores = true;
+  int manos = 1;
+  Situacion situacion = Situacion::EnLaMesa;
+  for (int pasos = 0; situacion == Situacion::EnLaMesa && pasos < 10'000; ++pasos) {
+    Jugador.Mirar(Sesion->Mesa());
+    if (Sesion->Mesa().Fase == Fase::EmpezarMano) ++manos;
+    situacion = Pulsar();
+  }
+  ASSERT_EQ(situacion, Situacion::OtrosJugadores);
+  EXPECT_GT(manos, 1);
+  EXPECT_EQ(Veces(u"— Mano "), manos);
+  EXPECT_EQ(Veces(u"Tanteo: "), manos);
+  ASSERT_GT(Jugador.Visto.size(), 50U);
+  for (const std::u16string& linea : Jugador.Visto) EXPECT_TRUE(Cuenta(linea)) << Utf8(linea);
+  const std::u16string texto = Sesion->Relato().Texto();
+  EXPECT_EQ(Sesion->AbrirInicio(), Situacion::EnInicio);
+  EXPECT_EQ(Sesion->Relato().Texto(), texto) << "it stays until the next match";
+  EXPECT_EQ(Veces(u"Pulse enter"), 0);
+  EXPECT_EQ(Veces(u"Partida de"), 1);
+  EXPECT_GE(Veces(u"Sus cartas son"), manos);
+}
+
+TEST_F(CronicaDeSesion, BelongsToOneMatch) {
+  Sentarse();
+  Pulsar(TeclaQ);
+  EXPECT_TRUE(Cuenta(u"La mano se abandona sin contarla."));
+  EXPECT_TRUE(Cuenta(u"— Mano 2 —"));
+  Sentarse();
+  EXPECT_TRUE(Cuenta(u"— Mano 1 —"));
+  EXPECT_FALSE(Cuenta(u"— Mano 2 —"));
+}
+
+TEST_F(CronicaDeSesion, TellsThatTheMatchIsOfAnotherTime) {
+  Sentarse();
+  Pulsar();
+  Sesion.reset();
+  Sesion = NuevaSesion();
+  EXPECT_EQ(Sesion->Relato().Texto(), u"");
+  ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
+  EXPECT_TRUE(Sesion->Relato().Texto().starts_with(u"La partida viene de otra vez: "));
+  for (const std::u16string& linea : Lineas(Sesion->Mesa().Text2)) {
+    EXPECT_TRUE(Cuenta(linea)) << Utf8(linea);
+  }
+  EXPECT_TRUE(Cuenta(u"— Mano 1 —"));
+}
+
+}  // namespace
+}  // namespace tasca::test
