@@ -322,8 +322,8 @@ TEST_F(Form1Window, TurnsTheSoundOffAndOnByF9FromAnyControl) {
 TEST_F(Form1Window, OffersTheSoundInAMenu) {
   const auto* const menu = ventana_.findChild<QMenuBar*>();
   ASSERT_NE(menu, nullptr);
-  ASSERT_EQ(menu->actions().size(), 2);
-  const QMenu* const opciones = menu->actions().constFirst()->menu();
+  ASSERT_EQ(menu->actions().size(), 3);
+  const QMenu* const opciones = menu->actions().at(1)->menu();
   EXPECT_EQ(Utf8(opciones->title()), "&Opciones");
   QAction* const sonido = opciones->actions().constFirst();
   EXPECT_EQ(Utf8(sonido->text()), "&Sonido");
@@ -331,6 +331,18 @@ TEST_F(Form1Window, OffersTheSoundInAMenu) {
   EXPECT_EQ(sonido->shortcut(), QKeySequence{Qt::Key_F9});
   sonido->trigger();
   EXPECT_EQ(sonidos_, std::vector<bool>{false});
+}
+
+TEST(Form1, OffersTheChronicleInAMenu) {
+  int pedida = 0;
+  Form1::Events sucesos;
+  sucesos.Cronica_Click = [&pedida] { ++pedida; };
+  const Form1 ventana{sucesos};
+  const QMenu* const juego = ventana.findChild<QMenuBar*>()->actions().constFirst()->menu();
+  EXPECT_EQ(Utf8(juego->title()), "&Juego");
+  EXPECT_EQ(Utf8(juego->actions().constFirst()->text()), "&Crónica\tF6");
+  juego->actions().constFirst()->trigger();
+  EXPECT_EQ(pedida, 1);
 }
 
 TEST_F(Form1Window, DescribesTheNextEffectOfF9) {

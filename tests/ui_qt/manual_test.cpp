@@ -15,6 +15,7 @@
 #include "tests/ui_qt/player.h"
 #include "ui/manual/chapters.h"
 #include "ui/manual/pieces.h"
+#include "ui/qt/chronicle_window.h"
 #include "ui/qt/editor_program.h"
 #include "ui/qt/form1.h"
 #include "ui/qt/help_menu.h"
@@ -193,16 +194,20 @@ std::set<std::string> KeysTold() {
 TEST(ManualKeys, AreAllThatTheWindowsHave) {
   const std::set<std::string> contadas = KeysTold();
   const Form1 form1{{}};
-  std::set<std::string> teclas{"F1"};
+  std::set<std::string> teclas{"F1", "F6"};
   for (const QAction* const accion : form1.findChildren<QAction*>()) {
     if (!accion->shortcut().isEmpty()) teclas.insert(KeysInSpanish(accion->shortcut()));
   }
   for (const QAction* const menu : form1.findChild<QMenuBar*>()->actions()) {
     teclas.insert(KeysInSpanish(QKeySequence::mnemonic(menu->text())));
   }
-  const ManualWindow ventana;
-  for (const QShortcut* const atajo : ventana.findChildren<QShortcut*>()) {
-    teclas.insert(KeysInSpanish(atajo->key()));
+  const ManualWindow manual;
+  const ChronicleWindow cronica{[] { return std::u16string{}; }};
+  for (const QWidget* const ventana :
+       {static_cast<const QWidget*>(&manual), static_cast<const QWidget*>(&cronica)}) {
+    for (const QShortcut* const atajo : ventana->findChildren<QShortcut*>()) {
+      teclas.insert(KeysInSpanish(atajo->key()));
+    }
   }
   EXPECT_GE(teclas.size(), 12U);
   for (const std::string& tecla : teclas) EXPECT_TRUE(contadas.contains(tecla)) << tecla;

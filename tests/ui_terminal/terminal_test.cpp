@@ -55,6 +55,26 @@ TEST_F(Session, ReportsThatAPipeHasNoSound) {
   EXPECT_EQ(Count(sesion.Out, "En esta terminal no hay sonido.\n"), 1);
 }
 
+TEST_F(Session, TellsTheChronicleWithAndWithoutTheAccent) {
+  LlenarCarpeta(Carpeta);
+  const SessionResult sesion = PlayLines(Carpeta, AllDefaults + "Crónica\ncronica\n?\n");
+  EXPECT_EQ(Count(sesion.Out, "— Mano 1 —\n\nPartida de\nAna y "), 2);
+  EXPECT_EQ(Count(sesion.Out, "crónica cuenta la partida desde el principio.\n"), 1);
+}
+
+TEST_F(Session, TellsTheChronicleInAQuestionAndRepeatsIt) {
+  LlenarCarpeta(Carpeta);
+  int veces = 0;
+  const SessionResult sesion =
+      PlayWith(Carpeta, [&veces](const std::string& pregunta) -> std::optional<std::string> {
+        if (!Contains(pregunta, "¿mus?")) return "";
+        if (++veces == 1) return "crónica";
+        return std::nullopt;
+      });
+  EXPECT_EQ(veces, 2) << "the question is asked again";
+  EXPECT_EQ(Count(sesion.Out, "— Mano 1 —\n"), 1);
+}
+
 TEST_F(Session, AcceptsWindowsLineEnds) {
   LlenarCarpeta(Carpeta);
   const SessionResult sesion = PlayLines(Carpeta, "Eva\r\n3\r\n\r\n\r\n\r\n\r\n\r\nsalir\r\n");
@@ -167,12 +187,14 @@ TEST_F(Session, ShowsAllHandsOnManos) {
 TEST_F(Session, PrintsHelpWithoutAStep) {
   LlenarCarpeta(Carpeta);
   const std::string mesa = FromTheTableOn(PlayLines(Carpeta, AllDefaults + "?\n"));
-  EXPECT_TRUE(mesa.ends_with(Utf8(BriefOf("el-mus")) + "\n"
-                                                       "Enter sigue la mano.\n"
-                                                       "q abandona la mano y empieza otra.\n"
-                                                       "manos enseña las cartas de los cuatro.\n"
-                                                       "sonido quita o pone el sonido.\n"
-                                                       "salir, o Ctrl+D, deja el juego.\n"))
+  EXPECT_TRUE(mesa.ends_with(Utf8(BriefOf("el-mus")) +
+                             "\n"
+                             "Enter sigue la mano.\n"
+                             "q abandona la mano y empieza otra.\n"
+                             "manos enseña las cartas de los cuatro.\n"
+                             "crónica cuenta la partida desde el principio.\n"
+                             "sonido quita o pone el sonido.\n"
+                             "salir, o Ctrl+D, deja el juego.\n"))
       << mesa;
   EXPECT_EQ(Count(mesa, "Sus cartas son"), 1);
   EXPECT_EQ(Count(mesa, " de oros") + Count(mesa, " de copas") + Count(mesa, " de espadas") +

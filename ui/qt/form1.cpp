@@ -124,6 +124,7 @@ Form1Layout* Form1::BuildLayout() {
 
 QMenuBar* Form1::BuildMenu(const Options& opciones) {
   auto* const menus = new QMenuBar{this};
+  AddGameMenu(*menus);
   auto* const menu = menus->addMenu(QStringLiteral("&Opciones"));
   QAction* const sonido = AddSwitch(*menu, "Sonido", "&Sonido", opciones.Sonido);
   sonido->setShortcut(Qt::Key_F9);
@@ -135,6 +136,15 @@ QMenuBar* Form1::BuildMenu(const Options& opciones) {
   AddPictureEntries(*menu, opciones);
   AddHelpMenu(*menus, sucesos_.Manual_Click, sucesos_.AcercaDe_Click);
   return menus;
+}
+
+// F6 itself is Chronicle's (ui/qt/chronicle.h), which has it in every window; the entry only tells
+// it.
+void Form1::AddGameMenu(QMenuBar& menus) {
+  auto* const cronica =
+      menus.addMenu(QStringLiteral("&Juego"))->addAction(QStringLiteral("&Crónica\tF6"));
+  cronica->setObjectName(QStringLiteral("VerCronica"));
+  connect(cronica, &QAction::triggered, this, [this] { sucesos_.Cronica_Click(); });
 }
 
 void Form1::AddPictureEntries(QMenu& menu, const Options& opciones) {

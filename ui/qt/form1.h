@@ -32,6 +32,8 @@ class Form1 : public QWidget {
     std::function<void(bool dibujada)> Mesa_Click = [](bool) {};
     // The player has switched the movements on or off.
     std::function<void(bool encendido)> Movimiento_Click = [](bool) {};
+    // The entry of the menu "Juego".
+    std::function<void()> Cronica_Click = [] {};
     // The entries of the menu "Ayuda".
     std::function<void()> Manual_Click = [] {};
     std::function<void()> AcercaDe_Click = [] {};
@@ -65,6 +67,7 @@ class Form1 : public QWidget {
  private:
   Form1Layout* BuildLayout();
   QMenuBar* BuildMenu(const Options& opciones);
+  void AddGameMenu(QMenuBar& menus);
   void AddPictureEntries(QMenu& menu, const Options& opciones);
   void SetMotion(bool encendido);
   void ShowHelp(bool conSonido);

@@ -16,6 +16,7 @@
 #include "ui/manual/pieces.h"
 #include "ui/qt/mesa_colors.h"
 #include "ui/qt/qt_text.h"
+#include "ui/qt/text_search.h"
 
 namespace tasca {
 namespace {
@@ -25,17 +26,6 @@ namespace {
 const QUrl& ManualUrl() {
   static const QUrl direccion{QStringLiteral("manual:")};
   return direccion;
-}
-
-// One character for each of `texto`: in lower case and without its accent.
-QString FoldForSearch(const QString& texto) {
-  QString plegado = texto;
-  for (QChar& letra : plegado) {
-    const QString partes = letra.decomposition();
-    if (!partes.isEmpty() && letra.decompositionTag() == QChar::Canonical) letra = partes.at(0);
-    letra = letra.toLower();
-  }
-  return plegado;
 }
 
 // The size of the letters after so many steps of the zoom, compared with those of the menus.
@@ -147,22 +137,9 @@ QString ManualText::CurrentAnchor() const {
 }
 
 bool ManualText::Find(const QString& buscado, bool haciaAtras) {
-  const QString texto = FoldForSearch(document()->toPlainText());
-  const QString que = FoldForSearch(buscado);
-  const QTextCursor aqui = textCursor();
-  qsizetype donde = -1;
-  if (haciaAtras) {
-    if (aqui.selectionStart() > 0) donde = texto.lastIndexOf(que, aqui.selectionStart() - 1);
-    if (donde < 0) donde = texto.lastIndexOf(que);
-  } else {
-    donde = texto.indexOf(que, aqui.selectionEnd());
-    if (donde < 0) donde = texto.indexOf(que);
-  }
-  if (que.isEmpty() || donde < 0) return false;
-  QTextCursor hallado{document()};
-  hallado.setPosition(static_cast<int>(donde));
-  hallado.setPosition(static_cast<int>(donde + que.size()), QTextCursor::KeepAnchor);
-  setTextCursor(hallado);
+  const std::optional<QTextCursor> hallado = FindText(textCursor(), buscado, haciaAtras);
+  if (!hallado) return false;
+  setTextCursor(*hallado);
   ensureCursorVisible();
   return true;
 }

@@ -1,7 +1,6 @@
 // The manual's window.
 #include "ui/qt/manual_window.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -11,24 +10,12 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <QWindow>
 #include <algorithm>
 
 namespace tasca {
 namespace {
 
 constexpr int AnchorRole = Qt::UserRole;
-
-QToolButton* ToolButton(QWidget* padre, const char* nombre, Qt::ArrowType flecha,
-                        const QString& dicho) {
-  auto* const boton = new QToolButton{padre};
-  boton->setObjectName(QString::fromLatin1(nombre));
-  boton->setArrowType(flecha);
-  boton->setAccessibleName(dicho);
-  boton->setToolTip(dicho);
-  boton->setFocusPolicy(Qt::TabFocus);
-  return boton;
-}
 
 QTreeWidgetItem* ItemOf(QTreeWidget* indice, const QString& ancla) {
   for (QTreeWidgetItemIterator i{indice}; *i != nullptr; ++i) {
@@ -40,23 +27,15 @@ QTreeWidgetItem* ItemOf(QTreeWidget* indice, const QString& ancla) {
 }  // namespace
 
 ManualWindow::ManualWindow()
-    : atras_{ToolButton(this, "Atras", Qt::LeftArrow, QStringLiteral("Atrás"))},
-      adelante_{ToolButton(this, "Adelante", Qt::RightArrow, QStringLiteral("Adelante"))},
-      buscado_{new QLineEdit{this}},
-      anterior_{ToolButton(this, "Anterior", Qt::UpArrow, QStringLiteral("Buscar la anterior"))},
-      siguiente_{
-          ToolButton(this, "Siguiente", Qt::DownArrow, QStringLiteral("Buscar la siguiente"))},
-      aviso_{new QLabel{this}},
+    : atras_{ArrowButton(this, "Atras", Qt::LeftArrow, QStringLiteral("Atrás"))},
+      adelante_{ArrowButton(this, "Adelante", Qt::RightArrow, QStringLiteral("Adelante"))},
+      busqueda_{new SearchBar{
+          this, QStringLiteral("Buscar en el manual"),
+          [this](const QString& que, bool haciaAtras) { return texto_->Find(que, haciaAtras); }}},
       indice_{new QTreeWidget{this}},
       texto_{new ManualText{this}} {
   setObjectName(QStringLiteral("Manual"));
   setWindowTitle(QStringLiteral("Manual de la tasca"));
-  buscado_->setObjectName(QStringLiteral("Buscado"));
-  buscado_->setAccessibleName(QStringLiteral("Buscar en el manual"));
-  buscado_->setPlaceholderText(QStringLiteral("Buscar"));
-  buscado_->setClearButtonEnabled(true);
-  aviso_->setObjectName(QStringLiteral("Aviso"));
-  aviso_->setTextFormat(Qt::PlainText);
   indice_->setObjectName(QStringLiteral("Indice"));
   indice_->setAccessibleName(QStringLiteral("Índice"));
   const QSize sitio = QGuiApplication::primaryScreen()->availableSize();
@@ -91,16 +70,12 @@ QLayout* ManualWindow::BuildBar() {
   barra->addWidget(atras_);
   barra->addWidget(adelante_);
   barra->addStretch();
-  barra->addWidget(aviso_);
-  barra->addWidget(buscado_);
-  barra->addWidget(anterior_);
-  barra->addWidget(siguiente_);
+  barra->addWidget(busqueda_);
   return barra;
 }
 
 void ManualWindow::BuildLayout() {
   const int letra = fontMetrics().averageCharWidth();
-  buscado_->setMinimumWidth(24 * letra);
   auto* const partes = new QSplitter{this};
   partes->addWidget(indice_);
   partes->addWidget(texto_);
@@ -121,10 +96,6 @@ void ManualWindow::Connect() {
   connect(texto_, &QTextBrowser::forwardAvailable, adelante_, &QWidget::setEnabled);
   atras_->setEnabled(false);
   adelante_->setEnabled(false);
-  connect(buscado_, &QLineEdit::textChanged, aviso_, &QLabel::clear);
-  connect(buscado_, &QLineEdit::returnPressed, this, [this] { Search(false); });
-  connect(siguiente_, &QToolButton::clicked, this, [this] { Search(false); });
-  connect(anterior_, &QToolButton::clicked, this, [this] { Search(true); });
   connect(indice_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* entrada) {
     if (entrada != nullptr) texto_->GoTo(entrada->data(0, AnchorRole).toString());
   });
@@ -135,13 +106,6 @@ void ManualWindow::AddShortcuts() {
   const auto alPulsar = [this](const QKeySequence& teclas, auto hace) {
     connect(new QShortcut{teclas, this}, &QShortcut::activated, this, hace);
   };
-  alPulsar(Qt::Key_Escape, [this] { close(); });
-  alPulsar(Qt::CTRL | Qt::Key_F, [this] {
-    buscado_->setFocus();
-    buscado_->selectAll();
-  });
-  alPulsar(Qt::Key_F3, [this] { Search(false); });
-  alPulsar(Qt::SHIFT | Qt::Key_F3, [this] { Search(true); });
   alPulsar(Qt::ALT | Qt::Key_Left, [this] { texto_->backward(); });
   alPulsar(Qt::ALT | Qt::Key_Right, [this] { texto_->forward(); });
   alPulsar(Qt::CTRL | Qt::Key_Plus, [this] { texto_->Zoom(1); });
@@ -160,21 +124,6 @@ void ManualWindow::FollowText() {
   const QSignalBlocker callado{indice_};
   indice_->setCurrentItem(entrada);
   indice_->scrollToItem(entrada);
-}
-
-void ManualWindow::Search(bool haciaAtras) {
-  if (buscado_->text().isEmpty()) return buscado_->setFocus();
-  const bool hallado = texto_->Find(buscado_->text(), haciaAtras);
-  aviso_->setText(hallado ? QString{} : QStringLiteral("No se encuentra."));
-}
-
-// A modal box blocks every window but its children. The manual becomes one for as long as the box
-// is open.
-bool ManualWindow::event(QEvent* suceso) {
-  if (suceso->type() == QEvent::WindowBlocked && windowHandle() != nullptr) {
-    windowHandle()->setTransientParent(QGuiApplication::modalWindow());
-  }
-  return QWidget::event(suceso);
 }
 
 }  // namespace tasca

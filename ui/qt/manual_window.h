@@ -1,25 +1,20 @@
 #pragma once
-// The window of the manual: its contents, its text, and a search. It is a window of its own that
-// can be used beside the game, also while a modal box is open.
-#include <QLabel>
-#include <QLineEdit>
+// The window of the manual: its contents, its text, and a search.
 #include <QToolButton>
 #include <QTreeWidget>
-#include <QWidget>
 
+#include "ui/qt/beside_window.h"
 #include "ui/qt/manual_text.h"
+#include "ui/qt/search_bar.h"
 
 namespace tasca {
 
-class ManualWindow : public QWidget {
+class ManualWindow : public BesideWindow {
  public:
   ManualWindow();
 
   // Shows the section with this anchor.
   void ShowSection(const QString& ancla);
-
- protected:
-  bool event(QEvent* suceso) override;
 
  private:
   // Search bar above, contents at the left, text at the right.
@@ -30,16 +25,11 @@ class ManualWindow : public QWidget {
   void FillContents();
   // Selects the section that is being read in the contents.
   void FollowText();
-  // Selects the next place of the searched text, or says that there is none.
-  void Search(bool haciaAtras);
 
   // The declaration order is the tab order.
   QToolButton* atras_;
   QToolButton* adelante_;
-  QLineEdit* buscado_;
-  QToolButton* anterior_;
-  QToolButton* siguiente_;
-  QLabel* aviso_;
+  SearchBar* busqueda_;
   QTreeWidget* indice_;
   ManualText* texto_;
 };

@@ -66,6 +66,7 @@ void Program::OpenForm1() {
           .Closed = [this] { Exit(0); },
           .Mesa_Click = [this](bool dibujada) { opciones_.Mesa = dibujada; },
           .Movimiento_Click = [this](bool encendido) { opciones_.Movimiento = encendido; },
+          .Cronica_Click = [this] { cronica_.Open(); },
           .Manual_Click = [this] { manual_.Open(); },
           .AcercaDe_Click = [this] { ShowMessage(port_.Window(), AboutText()); }},
       opciones_);
@@ -96,6 +97,7 @@ void Program::KeyDown(Integer& KeyCode, Integer Shift) {
   const bool haJugado = KeyCode == 0 || EsTeclaDeVerManos(KeyCode, Shift);
   if (haJugado) form1_->ShowTable(sesion_.Mesa(), Momento::Reposo);
   form1_->FocusInput();
+  cronica_.Refresh();
   if (situacion != Situacion::OtrosJugadores) return;
   enPaso_ = true;
   cambio_.start();

@@ -10,6 +10,7 @@
 
 #include "match/session.h"
 #include "ui/qt/application.h"
+#include "ui/qt/chronicle.h"
 #include "ui/qt/dlg_inicio_form.h"
 #include "ui/qt/form1.h"
 #include "ui/qt/manual.h"
@@ -55,6 +56,7 @@ class Program {
   Form1::Options opciones_;  // as the player has left them
   bool enPaso_ = false;
   bool terminando_ = false;
+  Chronicle cronica_{[this] { return sesion_.Relato().Texto(); }};
   Manual manual_{[this] { return Subject(); }};
 };
 

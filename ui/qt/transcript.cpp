@@ -8,6 +8,16 @@
 
 namespace tasca {
 
+void ReplaceDifference(QTextDocument& documento, const QString& texto) {
+  const QString anterior = documento.toPlainText();
+  const QChar* const distinto =
+      std::mismatch(anterior.begin(), anterior.end(), texto.begin(), texto.end()).first;
+  QTextCursor cambio{&documento};
+  cambio.setPosition(static_cast<int>(distinto - anterior.begin()));
+  cambio.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+  cambio.insertText(texto.mid(distinto - anterior.begin()));
+}
+
 Transcript::Transcript(QWidget* padre) : QPlainTextEdit{padre} {
   setReadOnly(true);
   setUndoRedoEnabled(false);
@@ -16,13 +26,7 @@ Transcript::Transcript(QWidget* padre) : QPlainTextEdit{padre} {
 }
 
 void Transcript::ShowText(const QString& texto) {
-  const QString anterior = toPlainText();
-  const QChar* const distinto =
-      std::mismatch(anterior.begin(), anterior.end(), texto.begin(), texto.end()).first;
-  QTextCursor cambio{document()};
-  cambio.setPosition(static_cast<int>(distinto - anterior.begin()));
-  cambio.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-  cambio.insertText(texto.mid(distinto - anterior.begin()));
+  ReplaceDifference(*document(), texto);
   moveCursor(QTextCursor::End);
   ScrollToEnd();
 }

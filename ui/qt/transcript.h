@@ -4,12 +4,14 @@
 
 namespace tasca {
 
+// Replaces the text from the first difference on, so that screen readers announce only what is new.
+void ReplaceDifference(QTextDocument& documento, const QString& texto);
+
 class Transcript : public QPlainTextEdit {
  public:
   explicit Transcript(QWidget* padre);
 
-  // Replaces the text from the first difference on, so that screen readers announce only what is
-  // new. Scrolls to the end.
+  // Replaces the text from the first difference on. Scrolls to the end.
   void ShowText(const QString& texto);
   // Scrolls one page forwards (1) or backwards (-1).
   void ScrollPages(int paginas);

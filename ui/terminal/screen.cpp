@@ -37,4 +37,8 @@ void Screen::Repeat() {
   PrintIfAny(consola_, text3_);
 }
 
+void PrintChronicle(Console& consola, std::u16string_view cronica) {
+  consola.Line(cronica.empty() ? u"Todavía no se ha dicho nada en la mesa." : cronica);
+}
+
 }  // namespace tasca

@@ -1,6 +1,7 @@
 #pragma once
 // Prints the main window's texts as lines: transcript, hand and score.
 #include <string>
+#include <string_view>
 
 #include "table/table.h"
 #include "ui/terminal/console.h"
@@ -25,5 +26,8 @@ class Screen {
   std::u16string text2_;
   std::u16string text3_;
 };
+
+// Prints the chronicle of the match, or that it is empty.
+void PrintChronicle(Console& consola, std::u16string_view cronica);
 
 }  // namespace tasca

@@ -22,6 +22,7 @@ void PrintHelp(Console& consola, Screen& pantalla, Fase fase) {
       u"Enter sigue la mano.\n"
       u"q abandona la mano y empieza otra.\n"
       u"manos enseña las cartas de los cuatro.\n"
+      u"crónica cuenta la partida desde el principio.\n"
       u"sonido quita o pone el sonido.\n"
       u"salir, o Ctrl+D, deja el juego.");
 }
@@ -49,6 +50,7 @@ struct Place {
 void Obey(const Place& lugar, std::u16string_view orden) {
   if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla, lugar.Sesion.Mesa().Fase);
   if (orden == u"sonido") return SwitchSound(lugar.Consola, lugar.Mp1);
+  if (orden == u"cronica") return PrintChronicle(lugar.Consola, lugar.Sesion.Relato().Texto());
   lugar.Consola.Line(
       u"Pulse Enter para seguir, o escriba q para abandonar la mano o ? para la ayuda.");
 }
@@ -111,6 +113,7 @@ int RunTerminal(const TerminalFolders& carpetas, const TerminalStreams& flujos, 
   MediaPlayer* const altavoz = mp1 ? &*mp1 : nullptr;
   TerminalPort puerto{consola, pantalla, reloj, altavoz};
   const auto sesion = std::make_unique<Session>(carpetas.Files, puerto, carpetas.State);
+  puerto.TellFrom([&sesion] { return sesion->Relato().Texto(); });
   if (mp1) {
     consola.WaitWith(
         [&] { WaitForLine(flujos.Keyboard, *mp1, [&sesion] { sesion->FinDeSonido(parado); }); });

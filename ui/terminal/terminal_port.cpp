@@ -62,6 +62,10 @@ bool TerminalPort::Obey(const TypedLine& linea) {
     Help(linea.SeContesta);
     return true;
   }
+  if (orden == u"cronica" && !linea.EsOpcion) {
+    PrintChronicle(consola_, cronica_());
+    return true;
+  }
   // In the answer to a bet "q" is short for "Quiero".
   if (orden != u"q" || linea.EsOpcion) return false;
   consola_.Line(Join(linea.SeContesta, u" Para abandonar la mano con q, conteste antes."));

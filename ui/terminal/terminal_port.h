@@ -1,5 +1,9 @@
 #pragma once
 // The port of the terminal: the rules' questions as prompts.
+#include <functional>
+#include <string>
+#include <utility>
+
 #include "table/port.h"
 #include "ui/loudspeaker/media_player.h"
 #include "ui/manual/asunto.h"
@@ -12,13 +16,16 @@ using Clock = TimeOfDay (*)();
 // The time of day in the local time zone.
 TimeOfDay LocalTime();
 
-// Prints what is new at the table before every question. Every question also accepts "?" for help
-// and "salir", which throws LeaveProgram. "q" is refused with an explanation: the question must be
-// answered first.
+// Prints what is new at the table before every question. Every question also accepts "?" for help,
+// "crónica", and "salir", which throws LeaveProgram. "q" is refused with an explanation: the
+// question must be answered first.
 class TerminalPort : public Port {
  public:
   // Without a media player sounds are ignored.
   TerminalPort(Console& consola, Screen& pantalla, Clock reloj, MediaPlayer* mp1 = nullptr);
+
+  // Sets the function that returns the chronicle, for the word "crónica".
+  void TellFrom(std::function<std::u16string()> cronica) { cronica_ = std::move(cronica); }
 
   // The media player, or nullptr without sound.
   MediaPlayer* Mp1() const { return mp1_; }
@@ -43,6 +50,7 @@ class TerminalPort : public Port {
   Prompts preguntas_;
   Clock reloj_;
   MediaPlayer* mp1_;
+  std::function<std::u16string()> cronica_ = [] { return std::u16string{}; };
   std::vector<std::string_view> anclas_;  // the sections of the manual about the open question
 };
 
