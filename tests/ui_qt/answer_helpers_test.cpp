@@ -86,6 +86,24 @@ TEST(Steps, CountUpAndDown) {
             "5");
 }
 
+TEST(Steps, CountByTheKeysUpAndDown) {
+  EXPECT_EQ(Utf8(AskForAnAmount([](QWidget* caja) {
+              for (int i = 0; i < 4; ++i) Press(caja, Qt::Key_Up);
+              EXPECT_EQ(Utf8(FieldOf(caja)), "6");
+              Press(caja, Qt::Key_Down);
+              Press(caja, Qt::Key_Return);
+            })),
+            "5");
+}
+
+TEST(Steps, StopAtOneByTheKeyDownToo) {
+  EXPECT_EQ(Utf8(AskForAnAmount([](QWidget* caja) {
+              for (int i = 0; i < 4; ++i) Press(caja, Qt::Key_Down);
+              Press(caja, Qt::Key_Return);
+            })),
+            "1");
+}
+
 TEST(Steps, StopAtOne) {
   EXPECT_EQ(Utf8(AskForAnAmount([](QWidget* caja) {
               for (int i = 0; i < 4; ++i) Click(caja, "Menos");

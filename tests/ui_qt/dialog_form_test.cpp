@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <array>
+#include <utility>
+#include <vector>
 
 #include "tests/support/tables.h"
 #include "tests/ui_qt/player.h"
@@ -124,6 +127,57 @@ TEST_F(DialogWindow, EnterAndSpacePressTheFocusedButton) {
       EXPECT_FALSE(ventana.isVisible());
     }
   }
+}
+
+TEST_F(DialogWindow, TheLettersPressTheButtonsOfAnOpening) {
+  const std::array<std::pair<Qt::Key, int>, 4> letras{
+      {{Qt::Key_P, 0}, {Qt::Key_E, 1}, {Qt::Key_M, 2}, {Qt::Key_O, 3}}};
+  for (const auto& [tecla, resultado] : letras) {
+    DialogForm& ventana = Open(ModoDialogo::Apertura);
+    Boton(resultado == 0 ? 1 : 0)->setFocus();
+    dialogo_.Resultado = -1;
+    Press(&ventana, tecla);
+    EXPECT_EQ(dialogo_.Resultado, resultado);
+    EXPECT_FALSE(ventana.isVisible());
+  }
+}
+
+TEST_F(DialogWindow, TheLettersPressTheButtonsOfAnAnswer) {
+  const std::array<std::pair<Qt::Key, int>, 4> letras{
+      {{Qt::Key_P, 0}, {Qt::Key_Q, 1}, {Qt::Key_M, 2}, {Qt::Key_O, 3}}};
+  for (const auto& [tecla, resultado] : letras) {
+    DialogForm& ventana = Open(ModoDialogo::Respuesta);
+    Boton(resultado == 0 ? 1 : 0)->setFocus();
+    dialogo_.Resultado = -1;
+    Press(&ventana, tecla, Qt::ShiftModifier);
+    EXPECT_EQ(dialogo_.Resultado, resultado);
+    EXPECT_FALSE(ventana.isVisible());
+  }
+}
+
+TEST_F(DialogWindow, ALetterWithoutAVisibleButtonAnswersNothing) {
+  const std::array<std::pair<ModoDialogo, std::vector<Qt::Key>>, 3> casos{
+      {{ModoDialogo::Apertura, {Qt::Key_Q, Qt::Key_S, Qt::Key_N, Qt::Key_X}},
+       {ModoDialogo::Respuesta, {Qt::Key_E, Qt::Key_S, Qt::Key_N, Qt::Key_X}},
+       {ModoDialogo::RespuestaOrdago, {Qt::Key_E, Qt::Key_M, Qt::Key_O}}}};
+  for (const auto& [modo, teclas] : casos) {
+    DialogForm& ventana = Open(modo);
+    for (const Qt::Key tecla : teclas) {
+      Press(&ventana, tecla);
+      EXPECT_TRUE(ventana.isVisible()) << tecla;
+    }
+    Press(&ventana, Qt::Key_P);
+    EXPECT_FALSE(ventana.isVisible());
+  }
+}
+
+TEST_F(DialogWindow, ALetterWithCtrlOrAltAnswersNothing) {
+  DialogForm& ventana = Open(ModoDialogo::Respuesta);
+  Press(&ventana, Qt::Key_Q, Qt::ControlModifier);
+  Press(&ventana, Qt::Key_P, Qt::AltModifier);
+  EXPECT_TRUE(ventana.isVisible());
+  Press(&ventana, Qt::Key_Q);
+  EXPECT_EQ(dialogo_.Resultado, 1);
 }
 
 TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {

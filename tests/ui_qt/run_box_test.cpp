@@ -174,6 +174,22 @@ TEST(HeldKey, BidsNothing) {
   EXPECT_TRUE(jugador.Done());
 }
 
+TEST(HeldKey, BidsNothingByALetterEither) {
+  std::size_t pulsadas = 0;
+  constexpr std::array letras{Qt::Key_P, Qt::Key_E, Qt::Key_M, Qt::Key_O};
+  const BoxAnswerer jugador{[&](QWidget* caja) {
+    if (pulsadas == letras.size()) return Press(caja, Qt::Key_E);
+    Repeat(caja, letras.at(pulsadas++));
+  }};
+  QtPort port;
+  Dialog dialogo;
+  dialogo.Modo = ModoDialogo::Apertura;
+  Form_Activate(dialogo);
+  port.ShowDialog(MesaDePrueba(), dialogo);
+  EXPECT_EQ(pulsadas, letras.size());
+  EXPECT_EQ(dialogo.Resultado, 1);
+}
+
 TEST(HeldKey, TypesIntoAnInputBoxButDoesNotCloseIt) {
   const KeyHolder jugador{Qt::Key_Return};
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "snn");

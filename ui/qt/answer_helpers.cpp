@@ -2,6 +2,7 @@
 #include "ui/qt/answer_helpers.h"
 
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QToolButton>
 #include <algorithm>
 #include <array>
@@ -72,9 +73,10 @@ QWidget* Steps(QLineEdit& campo) {
     const char* Texto;
     const char* Dicho;
     int Cuanto;
+    Qt::Key Flecha;
   };
   constexpr std::array<Way, 2> sentidos{
-      {{"Menos", "−", "Una menos", -1}, {"Mas", "+", "Una más", 1}}};
+      {{"Menos", "−", "Una menos", -1, Qt::Key_Down}, {"Mas", "+", "Una más", 1, Qt::Key_Up}}};
   auto* const fila = new QWidget{campo.parentWidget()};
   auto* const sitio = new QHBoxLayout{fila};
   sitio->setContentsMargins(0, 0, 0, 0);
@@ -84,8 +86,11 @@ QWidget* Steps(QLineEdit& campo) {
     boton->setAccessibleName(QString::fromUtf8(sentido.Dicho));
     boton->setAutoRepeat(true);
     boton->setMinimumSize(QSize{3, 2} * boton->fontMetrics().height());
-    QObject::connect(boton, &QToolButton::clicked, &campo,
-                     [&campo, cuanto = sentido.Cuanto] { Step(campo, cuanto); });
+    const auto paso = [&campo, cuanto = sentido.Cuanto] { Step(campo, cuanto); };
+    QObject::connect(boton, &QToolButton::clicked, &campo, paso);
+    auto* const flecha = new QShortcut{sentido.Flecha, &campo};
+    flecha->setContext(Qt::WidgetShortcut);
+    QObject::connect(flecha, &QShortcut::activated, &campo, paso);
     sitio->addWidget(boton);
   }
   sitio->addStretch();

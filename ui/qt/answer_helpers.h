@@ -12,7 +12,8 @@ namespace tasca {
 // cards that the field names are marked.
 QWidget* CardsToClick(QLineEdit& campo, const Array<Integer, 1, 4>& mano);
 
-// Two buttons that make the number in the field smaller and larger, down to 1.
+// Two buttons that make the number in the field smaller and larger, down to 1. In the field the
+// keys Down and Up do the same.
 QWidget* Steps(QLineEdit& campo);
 
 }  // namespace tasca

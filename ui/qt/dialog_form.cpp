@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScreen>
 #include <algorithm>
 #include <optional>
 
@@ -17,6 +18,26 @@ constexpr QSize Boton{1500, 500};
 constexpr std::array<QPoint, 4> Esquinas{QPoint{500, 500}, QPoint{2500, 500}, QPoint{500, 1500},
                                          QPoint{2500, 1500}};
 constexpr double Unidad = 1.0 / 15;
+
+struct ButtonLetter {
+  Qt::Key Tecla;
+  std::u16string_view Caption;
+};
+constexpr std::array<ButtonLetter, 5> Letras{{{Qt::Key_P, u"Paso"},
+                                              {Qt::Key_E, u"Envido"},
+                                              {Qt::Key_M, u"Envido Más"},
+                                              {Qt::Key_O, u"Órdago"},
+                                              {Qt::Key_Q, u"Quiero"}}};
+
+// The caption of the button that a key presses; "" if it presses none.
+std::u16string_view CaptionFor(const QKeyEvent& suceso) {
+  const bool sola = suceso.modifiers() == Qt::NoModifier || suceso.modifiers() == Qt::ShiftModifier;
+  if (!sola) return {};
+  for (const ButtonLetter& letra : Letras) {
+    if (letra.Tecla == suceso.key()) return letra.Caption;
+  }
+  return {};
+}
 
 // The index of the button next to `indice` in the direction of an arrow key. The buttons form two
 // rows of two.
@@ -53,11 +74,15 @@ void DialogForm::BuildButton(int indice) {
   command1_.at(static_cast<std::size_t>(indice)) = nuevo;
 }
 
-// The layout is made for a font of 13 pixels. A larger font scales the whole form, so that every
-// caption fits.
+// The layout is made for a font of 13 pixels. A larger font scales the whole form, as far as the
+// screen allows it and every caption needs it.
 void DialogForm::Place() {
   constexpr double letraDelDibujo = 13;
-  double escala = std::max(Unidad, Unidad * fontMetrics().height() / letraDelDibujo);
+  const QSize pantalla = screen()->availableSize() * 0.9;
+  const double cabe = std::min(static_cast<double>(pantalla.width()) / Superficie.width(),
+                               static_cast<double>(pantalla.height()) / Superficie.height());
+  double escala =
+      std::max(Unidad, std::min(Unidad * fontMetrics().height() / letraDelDibujo, cabe));
   for (const QPushButton* const boton : command1_) {
     const QSize falta = boton->sizeHint();
     escala = std::max({escala, static_cast<double>(falta.width()) / Boton.width(),
@@ -69,7 +94,22 @@ void DialogForm::Place() {
   }
 }
 
+void DialogForm::changeEvent(QEvent* suceso) {
+  QDialog::changeEvent(suceso);
+  if (suceso->type() == QEvent::FontChange && command1_.back() != nullptr) Place();
+}
+
 void DialogForm::closeEvent(QCloseEvent* suceso) { suceso->ignore(); }
+
+// The letters arrive here because buttons ignore them.
+void DialogForm::keyPressEvent(QKeyEvent* suceso) {
+  const std::u16string_view rotulo = CaptionFor(*suceso);
+  if (rotulo.empty()) return QDialog::keyPressEvent(suceso);
+  for (int indice = 0; indice < 4; ++indice) {
+    QPushButton* const boton = command1_.at(static_cast<std::size_t>(indice));
+    if (dialogo_.Command1[indice].Caption == rotulo && boton->isVisible()) return boton->click();
+  }
+}
 
 bool DialogForm::eventFilter(QObject* objeto, QEvent* suceso) {
   if (const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso)) {

@@ -1,5 +1,6 @@
 #pragma once
 // The bidding dialog's window: modal, of fixed size, answered only by its buttons.
+// The letters P, E, M, O and Q press "Paso", "Envido", "Envido Más", "Órdago" and "Quiero".
 #include <QDialog>
 #include <QPushButton>
 #include <array>
@@ -18,6 +19,8 @@ class DialogForm : public QDialog {
 
  protected:
   void closeEvent(QCloseEvent* suceso) override;
+  void changeEvent(QEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
