@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <algorithm>
 
 #include "ui/qt/qt_text.h"
 #include "ui/qt/run_box.h"
@@ -43,11 +45,12 @@ QString TituloDe(std::u16string_view titulo) {
 }
 
 // Makes the box wide enough for its title and the window's buttons. Some questions have no text but
-// their title.
+// their title. Not wider than the screen.
 QSpacerItem* RoomForTitle(const QDialog& caja) {
   const int letra = caja.fontMetrics().averageCharWidth();
   const int ancho = caja.fontMetrics().horizontalAdvance(caja.windowTitle()) + 20 * letra;
-  return new QSpacerItem{ancho, 0, QSizePolicy::Minimum, QSizePolicy::Minimum};
+  const int cabe = caja.screen()->availableSize().width() * 4 / 5;
+  return new QSpacerItem{std::min(ancho, cabe), 0, QSizePolicy::Minimum, QSizePolicy::Minimum};
 }
 
 void LeaveRoomForTitle(QMessageBox& caja) {

@@ -26,17 +26,21 @@ QLabel* Texto(QWidget* padre) {
   return texto;
 }
 
-// A text in a sunken frame with room for `lineas` lines.
-QLabel* Hoja(QWidget* padre, int lineas) {
+// A text in a sunken frame.
+QLabel* Hoja(QWidget* padre) {
   auto* const hoja = Texto(padre);
   hoja->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   hoja->setAutoFillBackground(true);
   hoja->setBackgroundRole(QPalette::Base);
   hoja->setForegroundRole(QPalette::Text);
-  const int letra = hoja->fontMetrics().averageCharWidth();
-  hoja->setMargin(letra);
-  hoja->setMinimumHeight(lineas * hoja->fontMetrics().lineSpacing() + 3 * letra);
   return hoja;
+}
+
+// Makes room for `lineas` lines.
+void FitHoja(QLabel& hoja, int lineas) {
+  const int letra = hoja.fontMetrics().averageCharWidth();
+  hoja.setMargin(letra);
+  hoja.setMinimumHeight(lineas * hoja.fontMetrics().lineSpacing() + 3 * letra);
 }
 
 // Inserts zero-width spaces into words wider than the minimum width of `hoja`, so that they can be
@@ -52,6 +56,11 @@ QString Breakable(const QString& texto, const QLabel& hoja) {
   return palabras.join(QChar{u' '});
 }
 
+// What a window can have of the screen, without its own frame and title.
+QSize RoomOnScreen(const QWidget& ventana) {
+  return ventana.screen()->availableSize() - QSize{1, 2} * ventana.fontMetrics().height();
+}
+
 // As large as what it holds. On a screen too small for that, it scrolls.
 class Pliego : public QScrollArea {
  public:
@@ -59,20 +68,23 @@ class Pliego : public QScrollArea {
     setFrameStyle(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* const contenido = new QWidget;
     contenido->setLayout(disposicion);
     setWidget(contenido);
-    setMinimumWidth(contenido->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
   }
 
   QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override {
+    const int ancho = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {std::min(ancho, RoomOnScreen(*window()).width() * 9 / 10),
+            QScrollArea::minimumSizeHint().height()};
+  }
+  // The contents have got another size.
+  bool eventFilter(QObject* objeto, QEvent* suceso) override {
+    if (objeto == widget() && suceso->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(objeto, suceso);
+  }
 };
-
-// What a window can have of the screen, without its own frame and title.
-QSize RoomOnScreen(const QWidget& ventana) {
-  return ventana.screen()->availableSize() - QSize{1, 2} * ventana.fontMetrics().height();
-}
 
 // The characters for which there is room in the left and the right half of the dialog.
 struct Columnas {
@@ -101,8 +113,8 @@ DlgInicioForm::DlgInicioForm(DlgInicio& estado, Events sucesos)
       text1_{Texto(this)},
       text2_{new NameEdit{this, [this](std::u16string_view reparo) { RefuseName(reparo); }}},
       estadoTexto_{new StatusLine{this}},
-      text3_{Hoja(this, 1)},
-      text4_{Hoja(this, 7)},
+      text3_{Hoja(this)},
+      text4_{Hoja(this)},
       combos_{new QComboBox{this}, new QComboBox{this}, new QComboBox{this}},
       check1_{new QCheckBox{QStringLiteral("Usar los nombres de los jugadores"), this},
               new QCheckBox{QStringLiteral("Usar las expresiones de los jugadores"), this}},
@@ -131,7 +143,6 @@ void DlgInicioForm::NameControls() {
     combos_.at(i)->setAccessibleName(nombres.at(i));
     combos_.at(i)->view()->setAccessibleName(nombres.at(i));
     combos_.at(i)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combos_.at(i)->setMinimumContentsLength(ColumnsOn(*this).Lista);
   }
   for (std::size_t i = 0; i < check1_.size(); ++i) {
     check1_.at(i)->setObjectName(QStringLiteral("Check1_%1").arg(i));
@@ -190,12 +201,8 @@ void DlgInicioForm::RefuseName(std::u16string_view reparo) {
 
 void DlgInicioForm::BuildLayout() {
   text1_->setAlignment(Qt::AlignHCenter);
-  text1_->setFont(Scaled(text1_->font(), 1.2));
-  QFont cursiva = text3_->font();
-  cursiva.setItalic(true);
-  text3_->setFont(cursiva);
   text4_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text4_->setMinimumWidth(ColumnsOn(*this).Historia * fontMetrics().averageCharWidth());
+  FitToFont();
   const int margen = 2 * fontMetrics().averageCharWidth();
   auto* const mesa = new QHBoxLayout;
   mesa->addLayout(BuildChoices(), 1);
@@ -214,9 +221,29 @@ void DlgInicioForm::BuildLayout() {
   ventana->addLayout(BuildButtons());
 }
 
+void DlgInicioForm::FitToFont() {
+  text1_->setFont(Scaled(font(), 1.2));
+  QFont cursiva = font();
+  cursiva.setItalic(true);
+  text3_->setFont(cursiva);
+  FitHoja(*text3_, 1);
+  FitHoja(*text4_, 7);
+  const Columnas columnas = ColumnsOn(*this);
+  text4_->setMinimumWidth(columnas.Historia * fontMetrics().averageCharWidth());
+  for (QComboBox* const combo : combos_) combo->setMinimumContentsLength(columnas.Lista);
+}
+
 void DlgInicioForm::showEvent(QShowEvent* suceso) {
   if (!suceso->spontaneous()) resize(sizeHint().boundedTo(RoomOnScreen(*this)));
   QDialog::showEvent(suceso);
+}
+
+void DlgInicioForm::changeEvent(QEvent* suceso) {
+  QDialog::changeEvent(suceso);
+  if (suceso->type() != QEvent::FontChange || !isVisible()) return;
+  FitToFont();
+  ShowState();
+  resize(sizeHint().boundedTo(RoomOnScreen(*this)));
 }
 
 QLayout* DlgInicioForm::BuildChoices() {

@@ -39,6 +39,7 @@ class DlgInicioForm : public QDialog {
 
  protected:
   void showEvent(QShowEvent* suceso) override;
+  void changeEvent(QEvent* suceso) override;
 
  private:
   void NameControls();
@@ -47,6 +48,8 @@ class DlgInicioForm : public QDialog {
   // Beeps and shows the reason in the status line.
   void RefuseName(std::u16string_view reparo);
   void BuildLayout();
+  // Sets the sizes that depend on the font.
+  void FitToFont();
   QLayout* BuildChoices();
   QLayout* BuildStyle();
   QLayout* BuildButtons();

@@ -134,6 +134,7 @@ QMenuBar* Form1::BuildMenu(const Options& opciones) {
     sucesos_.Sonido_Click(encendido);
   });
   AddPictureEntries(*menu, opciones);
+  AddLetterEntries(*menu);
   AddHelpMenu(*menus, sucesos_.Manual_Click, sucesos_.AcercaDe_Click);
   return menus;
 }
@@ -159,6 +160,19 @@ void Form1::AddPictureEntries(QMenu& menu, const Options& opciones) {
     SetMotion(encendido);
     sucesos_.Movimiento_Click(encendido);
   });
+}
+
+// The normal size has no key: Ctrl+0 could be taken for the key that shows all hands.
+void Form1::AddLetterEntries(QMenu& menu) {
+  menu.addSeparator();
+  auto* const mayor = menu.addAction(QStringLiteral("Letra m&ayor"), sucesos_.LetraMayor_Click);
+  mayor->setObjectName(QStringLiteral("LetraMayor"));
+  mayor->setShortcut(Qt::CTRL | Qt::Key_Plus);
+  auto* const menor = menu.addAction(QStringLiteral("Letra m&enor"), sucesos_.LetraMenor_Click);
+  menor->setObjectName(QStringLiteral("LetraMenor"));
+  menor->setShortcut(Qt::CTRL | Qt::Key_Minus);
+  auto* const normal = menu.addAction(QStringLiteral("Letra &normal"), sucesos_.LetraNormal_Click);
+  normal->setObjectName(QStringLiteral("LetraNormal"));
 }
 
 void Form1::SetMotion(bool encendido) {

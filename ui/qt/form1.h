@@ -34,6 +34,10 @@ class Form1 : public QWidget {
     std::function<void(bool encendido)> Movimiento_Click = [](bool) {};
     // The entry of the menu "Juego".
     std::function<void()> Cronica_Click = [] {};
+    // The entries of the menu "Opciones" for the size of the letters.
+    std::function<void()> LetraMayor_Click = [] {};
+    std::function<void()> LetraMenor_Click = [] {};
+    std::function<void()> LetraNormal_Click = [] {};
     // The entries of the menu "Ayuda".
     std::function<void()> Manual_Click = [] {};
     std::function<void()> AcercaDe_Click = [] {};
@@ -69,6 +73,7 @@ class Form1 : public QWidget {
   QMenuBar* BuildMenu(const Options& opciones);
   void AddGameMenu(QMenuBar& menus);
   void AddPictureEntries(QMenu& menu, const Options& opciones);
+  void AddLetterEntries(QMenu& menu);
   void SetMotion(bool encendido);
   void ShowHelp(bool conSonido);
   void EnlargeTexts();

@@ -2,6 +2,7 @@
 #include "ui/qt/form1_layout.h"
 
 #include <QFontInfo>
+#include <QScreen>
 #include <utility>
 
 #include "ui/qt/input_line.h"
@@ -53,7 +54,7 @@ QSize Form1Layout::sizeHint() const { return minimumSize() * 3; }
 
 QSize Form1Layout::minimumSize() const {
   const int letra = parentWidget()->fontMetrics().height();
-  return {18 * letra, 14 * letra};
+  return QSize{18 * letra, 14 * letra}.boundedTo(parentWidget()->screen()->availableSize() * 0.8);
 }
 
 MedidasVentana Form1Layout::Measures(const QRect& sitio) const {

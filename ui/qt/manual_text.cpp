@@ -65,7 +65,7 @@ ManualText::ManualText(QWidget* padre) : QTextBrowser{padre}, dibujos_{new Manua
   setUndoRedoEnabled(false);
   document()->setDocumentMargin(14);
   document()->documentLayout()->registerHandler(QTextFormat::ImageObject, dibujos_);
-  setFont(Scaled(QApplication::font(), LetterScale(aumento_)));
+  FitFont();
   Load();
 }
 
@@ -154,13 +154,15 @@ void ManualText::ScrollTo(int posicion) {
   verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(cursor).top());
 }
 
+void ManualText::FitFont() { setFont(Scaled(QApplication::font(), LetterScale(aumento_))); }
+
 void ManualText::Zoom(int pasos) {
   constexpr int menor = -4;
   constexpr int mayor = 14;
   const int antes = std::exchange(aumento_, std::clamp(aumento_ + pasos, menor, mayor));
   if (antes == aumento_) return;
   const int posicion = FirstVisible();
-  setFont(Scaled(QApplication::font(), LetterScale(aumento_)));
+  FitFont();
   ScrollTo(posicion);
 }
 

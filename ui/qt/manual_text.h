@@ -28,6 +28,8 @@ class ManualText : public QTextBrowser {
   bool Find(const QString& buscado, bool haciaAtras);
   // Makes the letters larger or smaller, within limits, and keeps the place.
   void Zoom(int pasos);
+  // Sets the size of the letters from the application's and the zoom.
+  void FitFont();
 
  protected:
   QVariant loadResource(int tipo, const QUrl& direccion) override;

@@ -126,4 +126,9 @@ void ManualWindow::FollowText() {
   indice_->scrollToItem(entrada);
 }
 
+void ManualWindow::changeEvent(QEvent* suceso) {
+  BesideWindow::changeEvent(suceso);
+  if (suceso->type() == QEvent::FontChange) texto_->FitFont();
+}
+
 }  // namespace tasca

@@ -16,6 +16,9 @@ class ManualWindow : public BesideWindow {
   // Shows the section with this anchor.
   void ShowSection(const QString& ancla);
 
+ protected:
+  void changeEvent(QEvent* suceso) override;
+
  private:
   // Search bar above, contents at the left, text at the right.
   void BuildLayout();

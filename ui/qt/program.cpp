@@ -67,6 +67,9 @@ void Program::OpenForm1() {
           .Mesa_Click = [this](bool dibujada) { opciones_.Mesa = dibujada; },
           .Movimiento_Click = [this](bool encendido) { opciones_.Movimiento = encendido; },
           .Cronica_Click = [this] { cronica_.Open(); },
+          .LetraMayor_Click = [this] { letra_.Larger(); },
+          .LetraMenor_Click = [this] { letra_.Smaller(); },
+          .LetraNormal_Click = [this] { letra_.Normal(); },
           .Manual_Click = [this] { manual_.Open(); },
           .AcercaDe_Click = [this] { ShowMessage(port_.Window(), AboutText()); }},
       opciones_);

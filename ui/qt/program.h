@@ -16,6 +16,7 @@
 #include "ui/qt/manual.h"
 #include "ui/qt/qt_port.h"
 #include "ui/qt/session_end.h"
+#include "ui/qt/zoom.h"
 
 namespace tasca {
 
@@ -47,6 +48,7 @@ class Program {
   void ShowEnding(const Ending& fin);
   void Exit(int estado);
 
+  Zoom letra_;  // before the windows, which must not outlive it
   QtPort port_;
   Session sesion_;
   std::unique_ptr<DlgInicioForm> dlgInicio_;
