@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/keys.h"
+#include "ui/qt/game_menu.h"
 #include "ui/qt/help_menu.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/mesa_accessible.h"
@@ -124,7 +125,7 @@ Form1Layout* Form1::BuildLayout() {
 
 QMenuBar* Form1::BuildMenu(const Options& opciones) {
   auto* const menus = new QMenuBar{this};
-  AddGameMenu(*menus);
+  AddGameMenu(*menus, sucesos_.Cronica_Click, sucesos_.Salir_Click);
   auto* const menu = menus->addMenu(QStringLiteral("&Opciones"));
   QAction* const sonido = AddSwitch(*menu, "Sonido", "&Sonido", opciones.Sonido);
   sonido->setShortcut(Qt::Key_F9);
@@ -137,15 +138,6 @@ QMenuBar* Form1::BuildMenu(const Options& opciones) {
   AddLetterEntries(*menu);
   AddHelpMenu(*menus, sucesos_.Manual_Click, sucesos_.AcercaDe_Click);
   return menus;
-}
-
-// F6 itself is Chronicle's (ui/qt/chronicle.h), which has it in every window; the entry only tells
-// it.
-void Form1::AddGameMenu(QMenuBar& menus) {
-  auto* const cronica =
-      menus.addMenu(QStringLiteral("&Juego"))->addAction(QStringLiteral("&Crónica\tF6"));
-  cronica->setObjectName(QStringLiteral("VerCronica"));
-  connect(cronica, &QAction::triggered, this, [this] { sucesos_.Cronica_Click(); });
 }
 
 void Form1::AddPictureEntries(QMenu& menu, const Options& opciones) {

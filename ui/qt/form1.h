@@ -38,6 +38,8 @@ class Form1 : public QWidget {
     std::function<void()> LetraMayor_Click = [] {};
     std::function<void()> LetraMenor_Click = [] {};
     std::function<void()> LetraNormal_Click = [] {};
+    // The entries of the menu "Juego".
+    std::function<void()> Salir_Click = [] {};
     // The entries of the menu "Ayuda".
     std::function<void()> Manual_Click = [] {};
     std::function<void()> AcercaDe_Click = [] {};
@@ -71,7 +73,6 @@ class Form1 : public QWidget {
  private:
   Form1Layout* BuildLayout();
   QMenuBar* BuildMenu(const Options& opciones);
-  void AddGameMenu(QMenuBar& menus);
   void AddPictureEntries(QMenu& menu, const Options& opciones);
   void AddLetterEntries(QMenu& menu);
   void SetMotion(bool encendido);

@@ -7,7 +7,7 @@
 
 namespace tasca {
 
-KeyEverywhere::KeyEverywhere(Qt::Key tecla, std::function<void()> alPulsar,
+KeyEverywhere::KeyEverywhere(QKeyCombination tecla, std::function<void()> alPulsar,
                              std::function<const QWidget*()> suVentana)
     : tecla_{tecla}, alPulsar_{std::move(alPulsar)}, suVentana_{std::move(suVentana)} {
   QCoreApplication::instance()->installEventFilter(this);
@@ -16,9 +16,7 @@ KeyEverywhere::KeyEverywhere(Qt::Key tecla, std::function<void()> alPulsar,
 bool KeyEverywhere::eventFilter(QObject* objeto, QEvent* suceso) {
   if (suceso->type() != QEvent::KeyPress || !objeto->isWidgetType()) return false;
   const auto* const pulsada = dynamic_cast<QKeyEvent*>(suceso);
-  const bool esEsta =
-      pulsada != nullptr && pulsada->key() == tecla_ && pulsada->modifiers() == Qt::NoModifier;
-  if (!esEsta) return false;
+  if (pulsada == nullptr || pulsada->keyCombination() != tecla_) return false;
   const bool esLaSuya = qobject_cast<QWidget*>(objeto)->window() == suVentana_();
   if (!esLaSuya && !pulsada->isAutoRepeat()) alPulsar_();
   return true;

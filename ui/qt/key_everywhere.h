@@ -1,6 +1,7 @@
 #pragma once
-// A key that opens a window from every window and box of the application. A shortcut would not work
-// in a modal box.
+// A key that works in every window, box and menu of the application. A shortcut would not work in a
+// modal box.
+#include <QKeyCombination>
 #include <QObject>
 #include <QWidget>
 #include <functional>
@@ -10,14 +11,14 @@ namespace tasca {
 class KeyEverywhere : public QObject {
  public:
   // Calls `alPulsar`, except in the window that `suVentana` returns, if any. The key's auto-repeat
-  // does nothing, and with a modifier it is another key.
-  KeyEverywhere(Qt::Key tecla, std::function<void()> alPulsar,
-                std::function<const QWidget*()> suVentana);
+  // does nothing, and with other modifiers it is another key.
+  KeyEverywhere(QKeyCombination tecla, std::function<void()> alPulsar,
+                std::function<const QWidget*()> suVentana = [] { return nullptr; });
 
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
-  Qt::Key tecla_;
+  QKeyCombination tecla_;
   std::function<void()> alPulsar_;
   std::function<const QWidget*()> suVentana_;
 };

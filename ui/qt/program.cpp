@@ -70,6 +70,7 @@ void Program::OpenForm1() {
           .LetraMayor_Click = [this] { letra_.Larger(); },
           .LetraMenor_Click = [this] { letra_.Smaller(); },
           .LetraNormal_Click = [this] { letra_.Normal(); },
+          .Salir_Click = [this] { Exit(0); },
           .Manual_Click = [this] { manual_.Open(); },
           .AcercaDe_Click = [this] { ShowMessage(port_.Window(), AboutText()); }},
       opciones_);

@@ -13,6 +13,7 @@
 #include "ui/qt/chronicle.h"
 #include "ui/qt/dlg_inicio_form.h"
 #include "ui/qt/form1.h"
+#include "ui/qt/key_everywhere.h"
 #include "ui/qt/manual.h"
 #include "ui/qt/qt_port.h"
 #include "ui/qt/session_end.h"
@@ -60,6 +61,7 @@ class Program {
   bool terminando_ = false;
   Chronicle cronica_{[this] { return sesion_.Relato().Texto(); }};
   Manual manual_{[this] { return Subject(); }};
+  KeyEverywhere salida_{Qt::CTRL | Qt::ALT | Qt::Key_Q, [this] { Exit(0); }};
 };
 
 }  // namespace tasca
