@@ -49,6 +49,15 @@ void ExpectLetters(const QWidget* control, double puntos) {
 
 // Letters of 10 points, and the main window with its menu.
 class ZoomedWindow : public testing::Test {
+ public:
+  ZoomedWindow(const ZoomedWindow&) = delete;
+  ZoomedWindow& operator=(const ZoomedWindow&) = delete;
+  ~ZoomedWindow() override {
+    form1_.reset();
+    zoom_.reset();
+    QApplication::setFont(antes_);
+  }
+
  protected:
   ZoomedWindow() {
     QFont fuente = antes_;
@@ -65,14 +74,6 @@ class ZoomedWindow : public testing::Test {
     form1_->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form1_.get()));
   }
-  ~ZoomedWindow() override {
-    form1_.reset();
-    zoom_.reset();
-    QApplication::setFont(antes_);
-  }
-  ZoomedWindow(const ZoomedWindow&) = delete;
-  ZoomedWindow& operator=(const ZoomedWindow&) = delete;
-
   QFont antes_ = QApplication::font();
   std::unique_ptr<Zoom> zoom_;
   std::unique_ptr<Form1> form1_;

@@ -22,6 +22,7 @@ void Zoom::Normal() {
 
 // A font that is outside the limits from the start does not jump to them.
 void Zoom::Step(int puntos) {
+  rueda_ = 0;
   constexpr double menor = 6;
   constexpr double mayor = 32;
   QFont fuente = QApplication::font();
@@ -43,7 +44,6 @@ bool Zoom::eventFilter(QObject* objeto, QEvent* suceso) {
   rueda_ += rueda->angleDelta().y();
   constexpr int muesca = QWheelEvent::DefaultDeltasPerStep;
   if (const int muescas = rueda_ / muesca; muescas != 0) Step(muescas);
-  rueda_ %= muesca;
   return true;
 }
 
