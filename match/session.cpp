@@ -23,8 +23,7 @@ Situacion Session::Retomar() {
   return Hacer([this] {
     const bool sigue = conservador_ && conservador_->Ofrecer(g_);
     if (!sigue) return Situacion::EnInicio;
-    cronica_.Empezar(
-        u"La partida viene de otra vez: la crónica empieza por esta mano y cuenta desde ella.");
+    cronica_.Empezar(u"Se sigue con una partida de otra vez. La crónica empieza en esta mano.");
     if (t_.Fase != Fase::EmpezarMano) cronica_.EmpezarMano();
     AnotarPaso();
     return Situacion::EnLaMesa;

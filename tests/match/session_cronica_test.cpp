@@ -141,7 +141,7 @@ TEST_F(CronicaDeSesion, TellsThatTheMatchIsOfAnotherTime) {
   Sesion = NuevaSesion();
   EXPECT_EQ(Sesion->Relato().Texto(), u"");
   ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
-  EXPECT_TRUE(Sesion->Relato().Texto().starts_with(u"La partida viene de otra vez: "));
+  EXPECT_TRUE(Sesion->Relato().Texto().starts_with(u"Se sigue con una partida de otra vez. "));
   for (const std::u16string& linea : Lineas(Sesion->Mesa().Text2)) {
     EXPECT_TRUE(Cuenta(linea)) << Utf8(linea);
   }
