@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QFontDatabase>
 #include <functional>
 #include <map>

@@ -5,6 +5,8 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>

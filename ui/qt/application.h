@@ -8,11 +8,13 @@
 #include <optional>
 #include <string>
 
+#include "ui/qt/early_fonts.h"
 #include "ui/qt/session_end.h"
 
 namespace tasca {
 
-class Application : public QApplication {
+// EarlyFonts is a base so that it starts before QApplication.
+class Application : private EarlyFonts, public QApplication {
  public:
   // Removes the toolkit's own options from the arguments. Without a display it ends the program
   // with status 1 and a line on standard error.

@@ -223,9 +223,6 @@ void DlgInicioForm::BuildLayout() {
 
 void DlgInicioForm::FitToFont() {
   text1_->setFont(Scaled(font(), 1.2));
-  QFont cursiva = font();
-  cursiva.setItalic(true);
-  text3_->setFont(cursiva);
   FitHoja(*text3_, 1);
   FitHoja(*text4_, 7);
   const Columnas columnas = ColumnsOn(*this);
