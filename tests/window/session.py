@@ -38,6 +38,7 @@ class Session:
         _adopt_orphans()
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tasca-window-"))
         self.bin = self.folder / "bin"
+        self._servers = {}
         self._log = open(self.folder / "log", "wb")
         try:
             self.environment = self._environment()
@@ -74,6 +75,10 @@ class Session:
                                 stdout=subprocess.DEVNULL, stderr=self._log, pass_fds=pass_fds,
                                 env={**self.environment, "XDG_STATE_HOME": state, **dict(extra)})
 
+    def lose_screen(self):
+        """Kills the display server."""
+        self._servers["Xvfb"].kill()
+
     def run(self, *command):
         """Runs a program on this desktop; its exit status must be 0."""
         if self.start(*command).wait() != 0:
@@ -106,7 +111,7 @@ class Session:
         """Starts a server that writes its address to a descriptor when it is ready; returns it."""
         reading, writing = os.pipe()
         value = [f"{option}={writing}"] if option.startswith("--") else [option, writing]
-        self.start(*command, *value, pass_fds=[writing])
+        self._servers[command[0]] = self.start(*command, *value, pass_fds=[writing])
         os.close(writing)
         with open(reading) as answer:
             line = answer.readline().strip()
