@@ -39,20 +39,33 @@ void Conservador::Apartar(Game& g) {
                           PathText(apartada), u"."));
 }
 
-void Conservador::Guardar(Game& g) {
+std::optional<std::u16string> Conservador::Cronica() const {
+  return archivoCronica_.Leer(SumaDePartida(ultima_));
+}
+
+// The chronicle comes first: what it holds of a step that is not kept is left out when it is read.
+void Conservador::Guardar(Game& g, const Apunte& apunte) {
   Anotar(archivo_.PorQueNo());
   if (archivo_.PorQueNo().empty()) {
     std::string bytes = EscribirPartida(g.t, g.rnd);
-    if (bytes != ultima_) archivo_.Guardar(ultima_ = std::move(bytes));
+    const bool cambia = bytes != ultima_;
+    if (cambia || apunte.Nuevo || !apunte.Texto.empty()) {
+      archivoCronica_.Anotar(apunte, SumaDePartida(bytes));
+    }
+    if (cambia) archivo_.Guardar(ultima_ = std::move(bytes));
   }
   if (motivo_.empty() || std::exchange(avisado_, true)) return;
   g.port.MsgBox(g.t,
                 Join(u"Esta partida no se guarda para otro día: ", motivo_, u" Se juega igual."));
 }
 
+// The chronicle must not be missing while the match is there.
 void Conservador::Olvidar() {
   ultima_.clear();
-  if (archivo_.PorQueNo().empty()) archivo_.Quitar();
+  if (!archivo_.PorQueNo().empty()) return;
+  archivo_.Quitar();
+  Esperar();
+  archivoCronica_.Quitar();
 }
 
 void Conservador::Anotar(const std::u16string& motivo) {

@@ -73,6 +73,8 @@ class LectorPartida {
   }
   void Generador(Rnd& rnd);
 
+  // True if every value so far was valid.
+  bool VaBien() const { return bien_; }
   // True if every value was valid and all bytes have been read.
   bool BienLeido() const { return bien_ && resto_.empty(); }
 

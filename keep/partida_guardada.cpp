@@ -205,6 +205,10 @@ std::string ConCabecera(std::string_view valores) {
   return bytes.append(SumaDe(valores)).append(valores);
 }
 
+std::string_view SumaDePartida(std::string_view bytes) {
+  return bytes.substr(0, Cabecera.size() + LargoSuma).substr(Cabecera.size());
+}
+
 bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd) {
   if (!bytes.starts_with(Cabecera)) return false;
   bytes.remove_prefix(Cabecera.size());

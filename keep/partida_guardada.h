@@ -19,6 +19,9 @@ std::string EscribirPartida(const Table& t, const Rnd& rnd);
 // name and number and the checksum.
 std::string ConCabecera(std::string_view valores);
 
+// What tells a match, in the bytes of EscribirPartida, from others: its checksum.
+std::string_view SumaDePartida(std::string_view bytes);
+
 // Reads a match back into a table and its generator; Carpeta and AvisadoSinNombre stay. Returns
 // false and changes nothing unless the bytes are a whole and possible match of this format.
 bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd);

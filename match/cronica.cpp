@@ -12,6 +12,8 @@
 namespace tasca {
 namespace {
 
+constexpr char16_t NuevaMano = u'\f';
+
 bool EsAviso(std::u16string_view linea) {
   constexpr std::array<std::u16string_view, 4> Avisos{AvisoContinuar, AvisoContar,
                                                       u"Pulse enter para empezar",
@@ -57,6 +59,7 @@ bool SeCuenta(const Table& t) {
 
 void Cronica::Empezar(std::u16string_view comienzo) {
   *this = {};
+  apunte_.Nuevo = true;
   abierta_ = true;
   if (!comienzo.empty()) EscribirLineas(comienzo);
 }
@@ -64,9 +67,8 @@ void Cronica::Empezar(std::u16string_view comienzo) {
 void Cronica::EmpezarMano() {
   if (!abierta_) return;
   if (enMano_) EscribirLineas(u"La mano se abandona sin contarla.");
-  Pagina().shrink_to_fit();
-  const int numero = olvidadas_ + static_cast<int>(manos_.size()) + 1;
-  manos_.emplace_back();
+  AbrirMano();
+  const int numero = olvidadas_ + static_cast<int>(manos_.size());
   Escribir(Join(u"— Mano ", numero, u" —", CrLf, CrLf));
   enMano_ = true;
   conCartas_ = false;
@@ -100,6 +102,22 @@ void Cronica::TerminarMano(const Table& t) {
 
 void Cronica::Cerrar() { abierta_ = false; }
 
+// What happens to be written and seen in the step follows from its table.
+void Cronica::Reanudar(std::u16string_view escrito, const Table& t) {
+  Empezar();
+  std::size_t fin = escrito.find(NuevaMano);
+  Escribir(escrito.substr(0, fin));
+  while (fin != escrito.npos) {
+    escrito.remove_prefix(fin + 1);
+    fin = escrito.find(NuevaMano);
+    AbrirMano();
+    Escribir(escrito.substr(0, fin));
+  }
+  visto_ = t.Text2;
+  enMano_ = t.Fase != Fase::EmpezarMano;
+  conCartas_ = SeCuenta(t);
+}
+
 std::u16string Cronica::Texto() const {
   std::u16string texto;
   texto.reserve(comienzo_.size() + letras_);
@@ -116,8 +134,15 @@ std::size_t Cronica::Bytes() const {
   return letras * sizeof(char16_t) + manos_.size() * sizeof(std::u16string);
 }
 
+void Cronica::AbrirMano() {
+  Pagina().shrink_to_fit();
+  manos_.emplace_back();
+  apunte_.Texto += NuevaMano;
+}
+
 void Cronica::Escribir(std::u16string_view texto) {
   Pagina() += texto;
+  apunte_.Texto += texto;
   if (!manos_.empty()) letras_ += texto.size();
   while (letras_ > LetrasMaximas && manos_.size() > 1) {
     letras_ -= manos_.front().size();

@@ -5,7 +5,9 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "keep/archivo_cronica.h"
 #include "table/table.h"
 
 namespace tasca {
@@ -29,6 +31,12 @@ class Cronica {
   // The match is over. Nothing more is noted until the next Empezar; the text stays.
   void Cerrar();
 
+  // What has been written since the last call, for a file. Each hand begins with a form feed.
+  Apunte TomarApunte() { return std::exchange(apunte_, {}); }
+  // Goes on with the chronicle of a match: `escrito` are the texts of TomarApunte since it began,
+  // up to the step after which the table is t.
+  void Reanudar(std::u16string_view escrito, const Table& t);
+
   // The whole chronicle, without the prompts, in lines that end in CR LF. "" if nothing has been
   // noted yet.
   std::u16string Texto() const;
@@ -40,6 +48,7 @@ class Cronica {
  private:
   // Where the match is being noted.
   std::u16string& Pagina() { return manos_.empty() ? comienzo_ : manos_.back(); }
+  void AbrirMano();
   void Escribir(std::u16string_view texto);
   // Notes complete lines, beginning with a new one.
   void EscribirLineas(std::u16string_view texto);
@@ -49,6 +58,7 @@ class Cronica {
   std::deque<std::u16string> manos_;
   std::size_t letras_ = 0;  // in manos_
   int olvidadas_ = 0;
+  Apunte apunte_;
   std::u16string visto_;    // Text2 as last noted
   bool abierta_ = false;    // a match is being noted
   bool enMano_ = false;     // a hand is being noted

@@ -23,9 +23,8 @@ Situacion Session::Retomar() {
   return Hacer([this] {
     const bool sigue = conservador_ && conservador_->Ofrecer(g_);
     if (!sigue) return Situacion::EnInicio;
-    cronica_.Empezar(u"Se sigue con una partida de otra vez. La crónica empieza en esta mano.");
-    if (t_.Fase != Fase::EmpezarMano) cronica_.EmpezarMano();
-    AnotarPaso();
+    ReanudarCronica();
+    Conservar();
     return Situacion::EnLaMesa;
   });
 }
@@ -108,13 +107,21 @@ void Session::Acabar(Desenlace final) {
   situacion_ = Situacion::Fin;
 }
 
+void Session::ReanudarCronica() {
+  if (const auto escrito = conservador_->Cronica()) return cronica_.Reanudar(*escrito, t_);
+  cronica_.Empezar(u"Se sigue con una partida de otra vez. La crónica empieza en esta mano.");
+  if (t_.Fase != Fase::EmpezarMano) cronica_.EmpezarMano();
+  AnotarPaso();
+}
+
 void Session::AnotarPaso() {
   cronica_.Anotar(t_);
   if (t_.Fase == Fase::EmpezarMano) cronica_.TerminarMano(t_);
 }
 
 void Session::Conservar() {
-  if (conservador_) conservador_->Guardar(g_);
+  const Apunte apunte = cronica_.TomarApunte();
+  if (conservador_) conservador_->Guardar(g_, apunte);
 }
 
 void Session::Olvidar() {

@@ -81,6 +81,8 @@ class Session {
   Situacion Hacer(const std::function<Situacion()>& paso);
   // Ends the game. The first result stays.
   void Acabar(Desenlace final);
+  // Goes on with the chronicle of the match that goes on. If it is lost, begins a new one.
+  void ReanudarCronica();
   // Writes what a step has said into the chronicle.
   void AnotarPaso();
   // Begins to keep the match as it is now.

@@ -1,7 +1,8 @@
 // keep-on FOLDER STATE: goes on with the match that is kept in STATE, or starts one with the files
 // of FOLDER, and plays it to its end. The answers depend on the table only. Prints a line for each
-// state of the match: "from" or "new" for the first, then "step", with the match's checksum; and
-// "end". Exit status: 0 at the end of the match, 1 after anything else.
+// state of the match: "from" or "new" for the first, then "step", with the checksums of the match
+// and of its chronicle; and "end". Exit status: 0 at the end of the match, 1 after anything else.
+#include <functional>
 #include <iostream>
 #include <memory>
 
@@ -28,7 +29,8 @@ std::string ChecksumOf(const tasca::Session& sesion) {
 }
 
 void Tell(const char* what, const tasca::Session& sesion) {
-  std::cout << what << ' ' << ChecksumOf(sesion) << std::endl;
+  const std::size_t cronica = std::hash<std::u16string>{}(sesion.Relato().Texto());
+  std::cout << what << ' ' << ChecksumOf(sesion) << '/' << cronica << std::endl;
 }
 
 Situacion Start(tasca::Session& sesion) {

@@ -134,18 +134,49 @@ TEST_F(CronicaDeSesion, BelongsToOneMatch) {
   EXPECT_FALSE(Cuenta(u"— Mano 2 —"));
 }
 
-TEST_F(CronicaDeSesion, TellsThatTheMatchIsOfAnotherTime) {
+TEST_F(CronicaDeSesion, GoesOnWithTheMatch) {
+  JugarLaPartida();
+  const std::u16string seguida = Sesion->Relato().Texto();
+  Sesion.reset();
+  Sesion = NuevaSesion();
+  Sentarse();
+  Situacion situacion = Situacion::EnLaMesa;
+  for (int pasos = 0; situacion == Situacion::EnLaMesa && pasos < 10'000; ++pasos) {
+    const std::u16string antes = Sesion->Relato().Texto();
+    Sesion.reset();
+    Sesion = NuevaSesion();
+    EXPECT_EQ(Sesion->Relato().Texto(), u"");
+    ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
+    ASSERT_EQ(Utf8(Sesion->Relato().Texto()), Utf8(antes));
+    situacion = Pulsar();
+  }
+  EXPECT_EQ(Utf8(Sesion->Relato().Texto()), Utf8(seguida));
+  EXPECT_FALSE(std::filesystem::exists(Estado.Path() / "cronica"));
+}
+
+TEST_F(CronicaDeSesion, TellsWhereItBeginsIfItIsLost) {
   Sentarse();
   Pulsar();
   Sesion.reset();
+  ASSERT_TRUE(std::filesystem::remove(Estado.Path() / "cronica"));
   Sesion = NuevaSesion();
-  EXPECT_EQ(Sesion->Relato().Texto(), u"");
   ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
   EXPECT_TRUE(Sesion->Relato().Texto().starts_with(u"Se sigue con una partida de otra vez. "));
   for (const std::u16string& linea : Lineas(Sesion->Mesa().Text2)) {
     EXPECT_TRUE(Cuenta(linea)) << Utf8(linea);
   }
   EXPECT_TRUE(Cuenta(u"— Mano 1 —"));
+}
+
+TEST_F(CronicaDeSesion, HasAFileOfItsOwnForAnotherMatch) {
+  Sentarse();
+  Pulsar(TeclaQ);
+  Sentarse();
+  Sesion.reset();
+  Sesion = NuevaSesion();
+  ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
+  EXPECT_TRUE(Cuenta(u"— Mano 1 —"));
+  EXPECT_FALSE(Cuenta(u"— Mano 2 —"));
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 namespace tasca {
 
-// Starts a thread that has the fonts' settings and lists read, which takes several milliseconds. The
-// toolkit would read them only when the first text is measured.
+// Starts a thread that has the fonts' settings and lists read, which takes several milliseconds.
+// The toolkit would read them only when the first text is measured.
 class EarlyFonts {
  public:
   EarlyFonts();
