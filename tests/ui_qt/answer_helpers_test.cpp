@@ -79,6 +79,8 @@ std::u16string AskForAnAmount(const std::function<void(QWidget*)>& jugar) {
 
 TEST(Steps, CountUpAndDown) {
   EXPECT_EQ(Utf8(AskForAnAmount([](QWidget* caja) {
+              EXPECT_EQ(Utf8(Control<QToolButton>(caja, "Mas")->text()), "+");
+              EXPECT_EQ(Utf8(Control<QToolButton>(caja, "Menos")->text()), "−");
               for (int i = 0; i < 4; ++i) Click(caja, "Mas");
               Click(caja, "Menos");
               Press(caja, Qt::Key_Return);

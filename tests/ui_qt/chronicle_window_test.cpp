@@ -57,6 +57,7 @@ constexpr auto Leido = "— Mano 1 —\nGrande \nBerta: Envido\nAna: No quiero\n
 TEST_F(OpenChronicle, ShowsTheChronicleReadOnly) {
   EXPECT_EQ(Utf8(Text()->toPlainText()), Leido);
   EXPECT_TRUE(Text()->isReadOnly());
+  EXPECT_FALSE(Text()->isUndoRedoEnabled()) << "it would remember every step";
   EXPECT_EQ(Nameless(&ventana_), std::vector<std::string>{});
 }
 

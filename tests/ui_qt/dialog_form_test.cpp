@@ -192,6 +192,16 @@ TEST_F(DialogWindow, ArrowKeysMoveBetweenNeighbours) {
   EXPECT_TRUE(Boton(0)->hasFocus());
 }
 
+TEST_F(DialogWindow, ArrowKeysGoAroundInTheirRow) {
+  DialogForm& ventana = Open(ModoDialogo::Apertura);
+  Press(&ventana, Qt::Key_Left);
+  EXPECT_TRUE(Boton(1)->hasFocus());
+  Press(&ventana, Qt::Key_Right);
+  EXPECT_TRUE(Boton(0)->hasFocus());
+  Press(&ventana, Qt::Key_Up);
+  EXPECT_TRUE(Boton(2)->hasFocus());
+}
+
 TEST_F(DialogWindow, ArrowKeysStayOnVisibleButtons) {
   DialogForm& ventana = Open(ModoDialogo::RespuestaOrdago);
   Press(&ventana, Qt::Key_Down);

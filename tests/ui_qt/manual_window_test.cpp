@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTest>
@@ -58,6 +59,17 @@ TEST(ManualWindow, ListsEveryHeadingInItsContents) {
 TEST(ManualWindow, NamesAllItsControls) {
   OpenManual a;
   EXPECT_EQ(Nameless(&a.ventana), std::vector<std::string>{});
+}
+
+TEST(ManualWindow, GivesTheKeysToTheTextThatItShows) {
+  OpenManual a;
+  a.ventana.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&a.ventana));
+  auto* const buscado = Control<QLineEdit>(&a.ventana, "Buscado");
+  buscado->setFocus();
+  EXPECT_TRUE(buscado->isClearButtonEnabled());
+  a.ventana.ShowSection(QStringLiteral("la-baraja"));
+  EXPECT_TRUE(a.texto->hasFocus());
 }
 
 TEST(ManualWindow, GoesToTheEntryThatIsChosenAndBack) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QTest>
 #include <map>
 #include <string>
 #include <vector>
@@ -54,6 +55,21 @@ TEST_F(SpokenTable, IsAGroupOfItsOwn) {
   EXPECT_EQ(Utf8(LaMesa()->text(QAccessible::Name)), "La mesa");
   EXPECT_FALSE(LaMesa()->state().focusable);
   EXPECT_EQ(LaMesa()->parent()->object(), &ventana_);
+}
+
+TEST_F(SpokenTable, IsSeenWithItsWindowAndPlacedWhereItIsDrawn) {
+  const auto cell = [this](int indice) { return LaMesa()->child(indice); };
+  Show(MesaDePrueba(), Momento::Reposo);
+  ventana_.hide();
+  EXPECT_TRUE(cell(0)->state().invisible);
+  ventana_.resize(1000, 800);
+  ventana_.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&ventana_));
+  EXPECT_FALSE(cell(0)->state().invisible);
+  const int grande = 8;  // after four seats and four cards
+  for (int lance = grande; lance < grande + 3; ++lance) {
+    EXPECT_LE(cell(lance)->rect().right(), cell(lance + 1)->rect().left()) << lance;
+  }
 }
 
 // The start of a hand, a bet to be answered, the count.

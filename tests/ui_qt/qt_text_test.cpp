@@ -40,6 +40,7 @@ TEST(FromInput, ConvertsLineBreaksToBlanks) {
 
 TEST(FromInput, KeepsUndefinedCodes) {
   EXPECT_EQ(FromInput(QStringLiteral("a\u0081b")), u"a\u0081b");
+  EXPECT_EQ(FromInput(QStringLiteral("a\u007Fb")), u"a b") << "the last control code below them";
 }
 
 TEST(Scaled, EnlargesPointsAndPixels) {

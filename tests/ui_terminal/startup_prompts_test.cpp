@@ -259,6 +259,13 @@ TEST(AskStartup, LetsThePlayerLeaveAtEveryPrompt) {
   }
 }
 
+TEST(AskStartup, LeavesAtOnceAndReadsNothingMore) {
+  for (const std::string orden : {"q", "salir"}) {
+    StartupConsole a{orden + std::string(20, '\n')};
+    EXPECT_TRUE(Leaves(a)) << orden;
+  }
+}
+
 TEST(AskStartup, ReportsAMissingCharacterFile) {
   StartupConsole a{"\n"};
   std::filesystem::remove(a.Carpeta.Path() / "Jugadores.dat");
