@@ -8,9 +8,8 @@
 #include "ui/mesa/palabras.h"
 
 namespace tasca {
-namespace {
 
-std::u16string_view Lugar(Seat asiento) {
+std::u16string_view SitioHablado(Seat asiento) {
   switch (asiento) {
     case 2:
       return u", de la pareja contraria, a su derecha";
@@ -22,6 +21,8 @@ std::u16string_view Lugar(Seat asiento) {
       return u", usted";
   }
 }
+
+namespace {
 
 std::u16string ConMayuscula(std::u16string texto) {
   if (!texto.empty() && texto[0] >= u'a' && texto[0] <= u'z') {
@@ -65,7 +66,7 @@ std::u16string DistintivosHablados(const AsientoVisto& asiento) {
 std::u16string AsientoHablado(const Escena& escena, Seat asiento) {
   const AsientoVisto& visto = escena.Asientos[asiento];
   std::u16string frase = visto.Nombre;
-  frase += Lugar(asiento);
+  frase += SitioHablado(asiento);
   frase += visto.EsMano ? u", es mano." : u".";
   if (asiento != AsientoHumano) frase += CartasHabladas(visto);
   frase += DistintivosHablados(visto);

@@ -1,6 +1,7 @@
 #pragma once
 // The table as sentences for screen readers, in the order in which they are read.
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "scene/scene.h"
@@ -22,6 +23,9 @@ struct Frase {
 
   bool operator==(const Frase&) const = default;
 };
+
+// What follows the name of a seat: ", de su pareja, enfrente".
+std::u16string_view SitioHablado(Seat asiento);
 
 // Seats 1 to 4, each of the player's cards, the lances, and both scores. A face-down card has no
 // name.

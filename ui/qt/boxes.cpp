@@ -14,6 +14,7 @@
 
 #include "ui/qt/qt_text.h"
 #include "ui/qt/run_box.h"
+#include "ui/spoken/sentences.h"
 
 namespace tasca {
 namespace {
@@ -66,6 +67,11 @@ void SkipEmptyText(const QMessageBox& caja) {
   if (etiqueta != nullptr) etiqueta->setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
+// Screen readers get the text without the padding of its cards.
+void TellText(QLabel* etiqueta, std::u16string_view texto) {
+  if (etiqueta != nullptr) etiqueta->setAccessibleName(ToDisplay(SinRelleno(texto)));
+}
+
 void Prepare(QMessageBox& caja, const char* nombre, std::u16string_view titulo,
              std::u16string_view texto) {
   caja.setObjectName(QString::fromLatin1(nombre));
@@ -73,6 +79,7 @@ void Prepare(QMessageBox& caja, const char* nombre, std::u16string_view titulo,
   caja.setTextFormat(Qt::PlainText);
   caja.setText(ToDisplay(texto));
   SkipEmptyText(caja);
+  TellText(caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")), texto);
 }
 
 void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {
@@ -130,7 +137,10 @@ std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string
   caja.setTextValue(ToDisplay(porDefecto));
   caja.setOkButtonText(QStringLiteral("Aceptar"));
   caja.setCancelButtonText(QStringLiteral("Cancelar"));
-  if (auto* const etiqueta = caja.findChild<QLabel*>()) etiqueta->setTextFormat(Qt::PlainText);
+  if (auto* const etiqueta = caja.findChild<QLabel*>()) {
+    etiqueta->setTextFormat(Qt::PlainText);
+    TellText(etiqueta, texto);
+  }
   for (QPushButton* const boton : caja.findChildren<QPushButton*>()) boton->setIcon({});
   auto* const campo = caja.findChild<QLineEdit*>();
   if (auto* const filas = qobject_cast<QBoxLayout*>(caja.layout())) {

@@ -13,6 +13,7 @@
 
 #include "base/keys.h"
 #include "characters/character_file.h"
+#include "ui/qt/accessible.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/qt_text.h"
 
@@ -117,6 +118,7 @@ Dialog1Form::Dialog1Form(Table& t, EditorPort& port, Events sucesos)
       command3_{NewButtons<2>(this, QStringLiteral("Command3_"),
                               {u"&Guardar en disco", u"&Cargar de disco"})},
       cbOK_{Named(new QPushButton{QStringLiteral("Aceptar"), this}, QStringLiteral("CbOK"))} {
+  DescribeTexts();
   setObjectName(QStringLiteral("Dialog1"));
   setWindowTitle(QStringLiteral("Dialog Caption"));
   BuildLayout();

@@ -55,8 +55,18 @@ DialogForm::DialogForm(QWidget* padre, Dialog& dialogo)
   setObjectName(QStringLiteral("Dialog"));
   setWindowTitle(ToDisplay(dialogo.Caption));
   for (int indice = 0; indice < 4; ++indice) BuildButton(indice);
+  TellButtons();
   Place();
   command1_.at(static_cast<std::size_t>(dialogo.Foco))->setFocus();
+}
+
+// Screen readers say the title, this, and the button that has the focus.
+void DialogForm::TellButtons() {
+  QStringList rotulos;
+  for (const DialogButton& boton : dialogo_.Command1) {
+    if (boton.Visible && boton.Enabled) rotulos += ToDisplay(boton.Caption);
+  }
+  setAccessibleDescription(rotulos.join(QStringLiteral(", ")));
 }
 
 void DialogForm::BuildButton(int indice) {

@@ -24,6 +24,7 @@ class DialogForm : public QDialog {
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
+  void TellButtons();
   void BuildButton(int indice);
   // Sets the size of the window and of its buttons from the font.
   void Place();

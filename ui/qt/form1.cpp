@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTextBlock>
@@ -10,11 +11,14 @@
 #include <utility>
 
 #include "base/keys.h"
+#include "ui/qt/accessible.h"
 #include "ui/qt/game_menu.h"
 #include "ui/qt/help_menu.h"
 #include "ui/qt/keys.h"
 #include "ui/qt/mesa_accessible.h"
 #include "ui/qt/qt_text.h"
+#include "ui/spoken/on_demand.h"
+#include "ui/spoken/sentences.h"
 
 namespace tasca {
 namespace {
@@ -86,8 +90,10 @@ Form1::Form1(Events sucesos, const Options& opciones)
       ayuda_{new QLabel{this}},
       mesa_{new MesaView{this, [this] { PressEnter(); }}},
       marcador_{new ScoreView{this}},
-      reparto_{BuildLayout()} {
+      reparto_{BuildLayout()},
+      conSonido_{opciones.Sonido} {
   DescribeMesaViews();
+  DescribeTexts();
   ayuda_->setTextFormat(Qt::PlainText);
   ayuda_->setWordWrap(true);
   setObjectName(QStringLiteral("Form1"));
@@ -104,7 +110,7 @@ Form1::Form1(Events sucesos, const Options& opciones)
   reparto_->setMenuBar(BuildMenu(opciones));
   reparto_->ShowPicture(opciones.Mesa);
   SetMotion(opciones.Movimiento);
-  ShowHelp(opciones.Sonido);
+  ShowHelp();
   EnlargeTexts();
   resize(QGuiApplication::primaryScreen()->availableSize() * 0.8);
   text1_->setFocus();
@@ -125,13 +131,16 @@ Form1Layout* Form1::BuildLayout() {
 
 QMenuBar* Form1::BuildMenu(const Options& opciones) {
   auto* const menus = new QMenuBar{this};
-  AddGameMenu(*menus, sucesos_.Cronica_Click, sucesos_.Salir_Click);
+  AddGameMenu(*menus, sucesos_.Cronica_Click, [this](Escucha que) { Listen(que); },
+              sucesos_.Salir_Click);
   auto* const menu = menus->addMenu(QStringLiteral("&Opciones"));
   QAction* const sonido = AddSwitch(*menu, "Sonido", "&Sonido", opciones.Sonido);
   sonido->setShortcut(Qt::Key_F9);
   sonido->setAutoRepeat(false);
   connect(sonido, &QAction::toggled, this, [this](bool encendido) {
-    ShowHelp(encendido);
+    conSonido_ = encendido;
+    ShowHelp();
+    voz_.Say(encendido ? QStringLiteral("Con sonido.") : QStringLiteral("Sin sonido."));
     sucesos_.Sonido_Click(encendido);
   });
   AddPictureEntries(*menu, opciones);
@@ -172,17 +181,47 @@ void Form1::SetMotion(bool encendido) {
   marcador_->SetMotion(encendido);
 }
 
-void Form1::ShowHelp(bool conSonido) {
+void Form1::ShowHelp() {
   ayuda_->setText(QStringLiteral("Enter: continuar   ·   Q: abandonar la mano   ·   "
                                  "Re Pág y Av Pág: repasar lo dicho   ·   F9: %1 el sonido   ·   "
                                  "F1: manual")
-                      .arg(conSonido ? QStringLiteral("quitar") : QStringLiteral("poner")));
-  text1_->setAccessibleDescription(ayuda_->text());
+                      .arg(conSonido_ ? QStringLiteral("quitar") : QStringLiteral("poner")));
+}
+
+std::u16string Form1::Asked(Escucha que) const {
+  switch (que) {
+    case Escucha::Ultimo:
+      return Seguido(recital_.Ultimos());
+    case Escucha::Mano:
+      return ManoDicha(mesa_->Scene());
+    case Escucha::Tanteo:
+      return TanteoDicho(mesa_->Scene());
+    case Escucha::QuienEsMano:
+      return ManoDichaPorNombre(mesa_->Scene());
+  }
+  return {};
+}
+
+void Form1::Listen(Escucha que) {
+  const QString dicho = ToDisplay(Asked(que));
+  ayuda_->setText(dicho);
+  voz_.Say(dicho);
+}
+
+void Form1::FinishSaying() {
+  constexpr int limite = 500;  // milliseconds
+  const QDeadlineTimer hasta{limite};
+  while (voz_.Waits() && isVisible() && !hasta.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, limite / 20);
 }
 
 void Form1::ShowTexts(const Form1State& estado) {
   text1_->ShowText(ToDisplay(estado.Text1));
-  if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
+  ShowHelp();
+  if (Renovar(copiado2_, estado.Text2)) {
+    text2_->ShowText(ToDisplay(estado.Text2));
+    voz_.Say(ToDisplay(Seguido(recital_.Nuevos(estado.Text2))));
+  }
   if (!Renovar(copiado3_, estado.Text3)) return;
   text3_->setText(ToDisplay(estado.Text3));
   FitText3();
@@ -289,6 +328,7 @@ bool Form1::KeyInText1(const QKeyEvent& suceso) {
   const Tecla tecla = TeclaDe(suceso);
   const bool juega = tecla.KeyCode == TeclaEnter || tecla.KeyCode == TeclaQ;
   if (juega && suceso.isAutoRepeat()) return true;  // A held key takes one step only.
+  if (juega) recital_.EmpiezaPaso();
   Integer codigo = tecla.KeyCode;
   sucesos_.Text1_KeyDown(codigo, tecla.Shift);
   return codigo == 0;

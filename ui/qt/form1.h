@@ -11,11 +11,14 @@
 
 #include "scene/scene.h"
 #include "ui/mesa/box_place.h"
+#include "ui/qt/announcer.h"
 #include "ui/qt/form1_layout.h"
 #include "ui/qt/input_line.h"
+#include "ui/qt/listening_keys.h"
 #include "ui/qt/mesa_view.h"
 #include "ui/qt/score_view.h"
 #include "ui/qt/transcript.h"
+#include "ui/spoken/recital.h"
 
 namespace tasca {
 
@@ -55,10 +58,15 @@ class Form1 : public QWidget {
   explicit Form1(Events sucesos) : Form1{std::move(sucesos), Options{}} {}
   Form1(Events sucesos, const Options& opciones);
 
-  // Shows the three texts. Replaces what the player has typed into Text1.
+  // Shows the three texts. Replaces what the player has typed into Text1. Screen readers say the
+  // new lines of Text2.
   void ShowTexts(const Form1State& estado);
   // The same, with the table drawn at that moment.
   void ShowTable(const Table& t, Momento momento);
+  // Waits until the new lines have been handed to the screen reader, which takes the focus: a box
+  // that opens meanwhile would be said first. Returns after a limit of time, and at once without a
+  // screen reader.
+  void FinishSaying();
   // Moves the focus to Text1.
   void FocusInput();
   // What a box over this window must not cover, and better does not.
@@ -76,7 +84,10 @@ class Form1 : public QWidget {
   void AddPictureEntries(QMenu& menu, const Options& opciones);
   void AddLetterEntries(QMenu& menu);
   void SetMotion(bool encendido);
-  void ShowHelp(bool conSonido);
+  void ShowHelp();
+  // Says what the player asks for, and shows it instead of the help until the next step.
+  void Listen(Escucha que);
+  std::u16string Asked(Escucha que) const;
   void EnlargeTexts();
   void FitText3();
   void PressEnter();
@@ -92,6 +103,10 @@ class Form1 : public QWidget {
   MesaView* mesa_;
   ScoreView* marcador_;
   Form1Layout* reparto_;
+  Recital recital_;
+  Announcer voz_;
+  ListeningKeys escucha_{*this, [this](Escucha que) { Listen(que); }};
+  bool conSonido_;
   // As last shown in Text2 and Text3.
   std::u16string copiado2_;
   std::u16string copiado3_;
