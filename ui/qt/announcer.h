@@ -1,25 +1,31 @@
 #pragma once
-// Makes screen readers say a text at once. Qt 6.4 has no event for that; a new description of the
-// control that has the focus is spoken as soon as it comes.
-#include <QObject>
+// Makes screen readers say a text at once, whatever has the focus. Qt 6.4 has no event for that, and
+// its event of a changed description does not carry the description. So each text becomes a
+// notification in a status bar that only screen readers see: they say it when it is shown, without
+// the name of its role, and keep it on the braille line for a moment.
+#include <QAccessible>
 #include <QString>
+#include <QWidget>
+#include <deque>
 
 namespace tasca {
 
-class Announcer : public QObject {
+class Announcer {
  public:
-  Announcer();
+  // The status bar belongs to `ventana`, which must outlive the announcer.
+  explicit Announcer(QWidget& ventana) : ventana_{ventana} {}
+  Announcer(const Announcer&) = delete;
+  Announcer& operator=(const Announcer&) = delete;
+  ~Announcer();
 
-  // Says `texto`, or as soon as a control has the focus: a box that opens or closes leaves none for
-  // a moment. Does nothing without an assistive technology.
+  // Says `texto`. Does nothing without an assistive technology.
   void Say(const QString& texto);
-  // True while a text waits for a control with the focus.
-  bool Waits() const { return !espera_.isEmpty(); }
 
  private:
-  void SayWaiting();
-
-  QString espera_;
+  QWidget& ventana_;
+  QAccessible::Id barra_ = 0;  // 0 until something is said
+  // The last texts: screen readers ask for them after a while.
+  std::deque<QAccessible::Id> dichos_;
 };
 
 }  // namespace tasca

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTextBlock>
@@ -206,13 +205,6 @@ void Form1::Listen(Escucha que) {
   const QString dicho = ToDisplay(Asked(que));
   ayuda_->setText(dicho);
   voz_.Say(dicho);
-}
-
-void Form1::FinishSaying() {
-  constexpr int limite = 500;  // milliseconds
-  const QDeadlineTimer hasta{limite};
-  while (voz_.Waits() && isVisible() && !hasta.hasExpired())
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, limite / 20);
 }
 
 void Form1::ShowTexts(const Form1State& estado) {

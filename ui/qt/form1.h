@@ -63,10 +63,6 @@ class Form1 : public QWidget {
   void ShowTexts(const Form1State& estado);
   // The same, with the table drawn at that moment.
   void ShowTable(const Table& t, Momento momento);
-  // Waits until the new lines have been handed to the screen reader, which takes the focus: a box
-  // that opens meanwhile would be said first. Returns after a limit of time, and at once without a
-  // screen reader.
-  void FinishSaying();
   // Moves the focus to Text1.
   void FocusInput();
   // What a box over this window must not cover, and better does not.
@@ -104,7 +100,7 @@ class Form1 : public QWidget {
   ScoreView* marcador_;
   Form1Layout* reparto_;
   Recital recital_;
-  Announcer voz_;
+  Announcer voz_{*this};
   ListeningKeys escucha_{*this, [this](Escucha que) { Listen(que); }};
   bool conSonido_;
   // As last shown in Text2 and Text3.

@@ -26,9 +26,7 @@ void QtPort::SetMainWindow(Form1* form1) {
 
 // The player must see the current texts to answer a question.
 void QtPort::ShowTable(const Table& t, Momento momento) {
-  if (form1_ == nullptr) return;
-  form1_->ShowTable(t, momento);
-  form1_->FinishSaying();
+  if (form1_ != nullptr) form1_->ShowTable(t, momento);
 }
 
 void QtPort::MsgBox(const Table& t, std::u16string_view texto) {
