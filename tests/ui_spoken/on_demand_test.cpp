@@ -18,8 +18,7 @@ Escena ConMano() {
 }
 
 TEST(ManoDicha, IsOneSentenceInTheOrderOfTheHand) {
-  EXPECT_EQ(Utf8(ManoDicha(ConMano())),
-            "Rey de copas, sota de copas, seis de copas, as de oros.");
+  EXPECT_EQ(Utf8(ManoDicha(ConMano())), "Rey de copas, sota de copas, seis de copas, as de oros.");
 }
 
 TEST(ManoDicha, SaysThatThereIsNone) {
@@ -50,7 +49,8 @@ TEST(TanteoDicho, TellsTheBetsAfterTheScore) {
                      .De = 0},
                     {.Lance = NumeroLance::Pares}};
   const std::string tanteo = Utf8(TanteoDicho(escena));
-  const std::string lances = "Grande: 2 queridas. Pequeña, en juego: 5 de la pareja 0 sobre 2 vistas.";
+  const std::string lances =
+      "Grande: 2 queridas. Pequeña, en juego: 5 de la pareja 0 sobre 2 vistas.";
   ASSERT_GE(tanteo.size(), lances.size());
   EXPECT_EQ(tanteo.substr(tanteo.size() - lances.size()), lances) << tanteo;
 }

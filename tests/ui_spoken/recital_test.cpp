@@ -24,7 +24,8 @@ TEST(Recital, SaysEverythingAfterAReplacement) {
 TEST(Recital, KnowsALineWhosePromptWasTakenAway) {
   Recital recital;
   recital.Nuevos(u"La grande\r\nAna: envido\r\nPulse enter para continuar");
-  EXPECT_EQ(recital.Nuevos(u"La grande\r\nAna: envido\r\nDora: quiero\r\n"), Lines{u"Dora: quiero"});
+  EXPECT_EQ(recital.Nuevos(u"La grande\r\nAna: envido\r\nDora: quiero\r\n"),
+            Lines{u"Dora: quiero"});
 }
 
 TEST(Recital, RepeatsAllLinesOfTheLastStep) {

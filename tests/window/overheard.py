@@ -5,7 +5,7 @@ from accessible import GLib, Gone
 
 _ENDING = (signal.SIGINT, signal.SIGTERM)
 _BEGINNING = "Partida de\n"  # only a transcript begins like this
-_TABLE = "filler"  # the role of the main window
+_TABLE = "frame"  # the role of the main window
 
 
 class Overheard:

@@ -54,4 +54,4 @@ def _question(event, title):
 
 def _shown(texts):
     """Converts all line breaks to LF, as the window does."""
-    return [text.replace("\r\n", "\n").replace("\r", "\n") for text in texts]
+    return [windows.plain(text.replace("\r\n", "\n").replace("\r", "\n")) for text in texts]

@@ -1,4 +1,6 @@
 """The windows of a program that wait for input: a question or the main window."""
+import re
+
 from accessible import Gone
 from session import wait_for
 
@@ -7,7 +9,17 @@ MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS = "message", "yes-no", "ok-cancel", "inp
 KINDS = (STARTUP, MAIN, MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS)
 
 _BOXES = {("Aceptar",): MESSAGE, ("Sí", "No"): YES_NO, ("Aceptar", "Cancelar"): OK_CANCEL}
+_TABLE = "frame"  # the role of the main window
 _SHEETS = ("Sus cartas", "Lo que pasa en la mesa", "Tanteo, primero su pareja")
+
+
+def plain(text):
+    """The text without padding, as the window gives it to screen readers.
+
+    Of a run of blanks one is kept, none at the ends of a line nor before a comma or a full stop.
+    """
+    text = re.sub(r" +(?=[\n,.]|\Z)", "", text)
+    return re.sub(r"(?m)^ +", "", re.sub(r" +", " ", text))
 
 
 class Windows:
@@ -58,8 +70,8 @@ class Windows:
 
     def _texts(self, windows):
         for window in windows:
-            if window.role() == "filler":
-                return [sheet.text() for sheet in self._sheets_of(window)]
+            if window.role() == _TABLE:
+                return [plain(sheet.text()) for sheet in self._sheets_of(window)]
         return ["", "", ""]
 
     def _sheets_of(self, window):
@@ -112,7 +124,7 @@ class Seen:
         return {**asked, **self._details(), "texts": self.texts}
 
     def _kind(self):
-        if self.window.role() == "filler":
+        if self.window.role() == _TABLE:
             return MAIN
         if self.window.role() == "alert":
             return _BOXES.get(tuple(self.names("push button")), "other")
@@ -126,6 +138,6 @@ class Seen:
                     "focus": self.names("push button", "focused")}
         if self.kind == INPUT:
             (field,) = self.having("text")
-            return {"text": self.text(), "default": field.node.text()}
+            return {"text": plain(self.text()), "default": field.node.text()}
         icon = "question" if self.names("image") else "none"
-        return {"text": self.text(), "icon": icon, "default": self.names("push button", "default")}
+        return {"text": plain(self.text()), "icon": icon, "default": self.names("push button", "default")}

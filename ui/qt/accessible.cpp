@@ -79,9 +79,7 @@ class UnpaddedText : public QAccessibleWidget, public QAccessibleTextInterface {
   QString All() const {
     return QString::fromStdU16String(SinRelleno(caja_.toPlainText().toStdU16String()));
   }
-  std::vector<int> Places() const {
-    return SitiosSinRelleno(caja_.toPlainText().toStdU16String());
-  }
+  std::vector<int> Places() const { return SitiosSinRelleno(caja_.toPlainText().toStdU16String()); }
   int ToSpoken(int sitio) const {
     const std::vector<int> sitios = Places();
     return static_cast<int>(std::lower_bound(sitios.begin(), sitios.end(), sitio) - sitios.begin());
@@ -105,8 +103,8 @@ class UnpaddedText : public QAccessibleWidget, public QAccessibleTextInterface {
 QAccessibleInterface* DescribeText(const QString& /*clase*/, QObject* objeto) {
   if (objeto == nullptr || !objeto->isWidgetType()) return nullptr;
   auto* const caja = dynamic_cast<QPlainTextEdit*>(objeto);
-  const bool esDelJuego = dynamic_cast<Transcript*>(objeto) != nullptr ||
-                          dynamic_cast<InputLine*>(objeto) != nullptr;
+  const bool esDelJuego =
+      dynamic_cast<Transcript*>(objeto) != nullptr || dynamic_cast<InputLine*>(objeto) != nullptr;
   if (esDelJuego) return new UnpaddedText{*caja};
   const bool esVentana =
       dynamic_cast<Form1*>(objeto) != nullptr || dynamic_cast<Dialog1Form*>(objeto) != nullptr;

@@ -2,6 +2,7 @@
 #include "ui/qt/announcer.h"
 
 #include <QAccessibleInterface>
+#include <QCoreApplication>
 #include <utility>
 
 namespace tasca {
@@ -38,7 +39,8 @@ class Unseen : public QAccessibleInterface {
   QString nombre_;
 };
 
-// A text that was said, as a label: a name of the notification itself would not be shown in braille.
+// A text that was said, as a label: a name of the notification itself would not be shown in
+// braille.
 class SaidText : public Unseen {
  public:
   SaidText(QAccessibleInterface* barra, const QString& texto)
@@ -69,7 +71,13 @@ Announcer::~Announcer() {
 }
 
 void Announcer::Say(const QString& texto) {
-  if (texto.isEmpty() || !QAccessible::isActive()) return;
+  if (texto.isEmpty()) return;
+  SaidEvent dicho{texto};
+  QCoreApplication::sendEvent(&ventana_, &dicho);
+  if (QAccessible::isActive()) Notify(texto);
+}
+
+void Announcer::Notify(const QString& texto) {
   if (barra_ == 0) {
     barra_ = QAccessible::registerAccessibleInterface(
         new Unseen{QAccessible::queryAccessibleInterface(&ventana_), QAccessible::StatusBar, {}});

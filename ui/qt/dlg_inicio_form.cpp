@@ -14,7 +14,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/text.h"
 #include "ui/qt/qt_text.h"
+#include "ui/spoken/sentences.h"
 
 namespace tasca {
 namespace {
@@ -165,8 +167,9 @@ void DlgInicioForm::Connect() {
   };
   ConnectName();
   const auto elegir = [this, pasar](QComboBox* combo, ComboClick clic) {
-    connect(combo, &QComboBox::activated, this, [this, pasar, clic](int posicion) {
+    connect(combo, &QComboBox::activated, this, [this, combo, pasar, clic](int posicion) {
       pasar([this, clic, posicion] { clic(estado_, posicion); });
+      TellCompanion(*combo);
     });
   };
   elegir(combos_[0], Combo1_Click);
@@ -182,6 +185,13 @@ void DlgInicioForm::Connect() {
   }
   connect(cbOK_, &QPushButton::clicked, this, [this] { sucesos_.CbOK_Click(); });
   connect(cbCancel_, &QPushButton::clicked, this, [this] { sucesos_.Left(); });
+}
+
+// The name again: the story interrupts the screen reader, which is saying the new entry.
+void DlgInicioForm::TellCompanion(const QComboBox& combo) {
+  if (Trim(estado_.Text4).empty()) return;
+  voz_.Say(ToDisplay(
+      Join(Seguido({FromInput(combo.currentText())}), u" ", Seguido(Renglones(estado_.Text4)))));
 }
 
 // QLineEdit truncates a pasted text that is too long. The message about that stays until the name

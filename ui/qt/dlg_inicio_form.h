@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "startup/dlg_inicio.h"
+#include "ui/qt/announcer.h"
 #include "ui/qt/name_edit.h"
 #include "ui/qt/repeat_guard.h"
 #include "ui/qt/status_line.h"
@@ -45,6 +46,8 @@ class DlgInicioForm : public QDialog {
   void NameControls();
   void Connect();
   void ConnectName();
+  // Screen readers say who was chosen and the story.
+  void TellCompanion(const QComboBox& combo);
   // Beeps and shows the reason in the status line.
   void RefuseName(std::u16string_view reparo);
   void BuildLayout();
@@ -67,6 +70,7 @@ class DlgInicioForm : public QDialog {
   std::array<QRadioButton*, 2> option1_;
   QPushButton* cbOK_;
   QPushButton* cbCancel_;
+  Announcer voz_{*this};
   // The Enter that asked for other companions may still be held down.
   RepeatGuard repeticiones_{*this};
 };

@@ -11,6 +11,7 @@
 
 #include "base/keys.h"
 #include "ui/qt/accessible.h"
+#include "ui/qt/desktop_motion.h"
 #include "ui/qt/game_menu.h"
 #include "ui/qt/help_menu.h"
 #include "ui/qt/keys.h"
@@ -90,6 +91,7 @@ Form1::Form1(Events sucesos, const Options& opciones)
       mesa_{new MesaView{this, [this] { PressEnter(); }}},
       marcador_{new ScoreView{this}},
       reparto_{BuildLayout()},
+      escritorioMueve_{DesktopShowsMotion()},
       conSonido_{opciones.Sonido} {
   DescribeMesaViews();
   DescribeTexts();
@@ -130,8 +132,8 @@ Form1Layout* Form1::BuildLayout() {
 
 QMenuBar* Form1::BuildMenu(const Options& opciones) {
   auto* const menus = new QMenuBar{this};
-  AddGameMenu(*menus, sucesos_.Cronica_Click, [this](Escucha que) { Listen(que); },
-              sucesos_.Salir_Click);
+  AddGameMenu(
+      *menus, sucesos_.Cronica_Click, [this](Escucha que) { Listen(que); }, sucesos_.Salir_Click);
   auto* const menu = menus->addMenu(QStringLiteral("&Opciones"));
   QAction* const sonido = AddSwitch(*menu, "Sonido", "&Sonido", opciones.Sonido);
   sonido->setShortcut(Qt::Key_F9);
@@ -176,8 +178,8 @@ void Form1::AddLetterEntries(QMenu& menu) {
 }
 
 void Form1::SetMotion(bool encendido) {
-  mesa_->SetMotion(encendido);
-  marcador_->SetMotion(encendido);
+  mesa_->SetMotion(encendido && escritorioMueve_);
+  marcador_->SetMotion(encendido && escritorioMueve_);
 }
 
 void Form1::ShowHelp() {

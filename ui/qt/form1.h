@@ -102,6 +102,7 @@ class Form1 : public QWidget {
   Recital recital_;
   Announcer voz_{*this};
   ListeningKeys escucha_{*this, [this](Escucha que) { Listen(que); }};
+  const bool escritorioMueve_;  // the desktop shows movements
   bool conSonido_;
   // As last shown in Text2 and Text3.
   std::u16string copiado2_;

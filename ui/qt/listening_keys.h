@@ -24,8 +24,8 @@ inline constexpr std::array<ListeningEntry, 4> ListeningEntries{
      {Escucha::Tanteo, Qt::Key_F4, "EscucharTanteo", "Decir el &tanteo y los envites\tF4"},
      {Escucha::QuienEsMano, Qt::Key_F5, "EscucharQuienEsMano", "Decir quién es &mano\tF5"}}};
 
-// Filters the keys in `ventana` and in the boxes over it: a shortcut would not work there. The other
-// windows keep theirs.
+// Filters the keys in `ventana` and in the boxes over it: a shortcut would not work there. The
+// other windows keep theirs.
 class ListeningKeys : public QObject {
  public:
   ListeningKeys(QWidget& ventana, std::function<void(Escucha)> alPedir);

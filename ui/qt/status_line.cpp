@@ -1,8 +1,6 @@
 // The status line.
 #include "ui/qt/status_line.h"
 
-#include <QAccessible>
-
 #include "ui/qt/qt_text.h"
 
 namespace tasca {
@@ -15,9 +13,7 @@ StatusLine::StatusLine(QWidget* padre) : QLabel{padre} {
 
 void StatusLine::ShowText(std::u16string_view texto) {
   setText(ToDisplay(texto));
-  if (texto.empty()) return;
-  QAccessibleEvent aviso{this, QAccessible::Alert};
-  QAccessible::updateAccessibility(&aviso);
+  voz_.Say(text());
 }
 
 }  // namespace tasca

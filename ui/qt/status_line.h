@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <string_view>
 
+#include "ui/qt/announcer.h"
+
 namespace tasca {
 
 class StatusLine : public QLabel {
@@ -11,6 +13,9 @@ class StatusLine : public QLabel {
 
   // Replaces the text. A text other than "" is announced by screen readers at once.
   void ShowText(std::u16string_view texto);
+
+ private:
+  Announcer voz_{*this};
 };
 
 }  // namespace tasca

@@ -43,7 +43,8 @@ std::u16string Seguido(const std::vector<std::u16string>& renglones) {
   for (const std::u16string& renglon : renglones) {
     if (!seguido.empty()) seguido += u' ';
     seguido += renglon;
-    const bool pausa = !renglon.empty() && Contains(pausas, std::u16string_view{&renglon.back(), 1});
+    const bool pausa =
+        !renglon.empty() && Contains(pausas, std::u16string_view{&renglon.back(), 1});
     if (!pausa) seguido += u'.';
   }
   return seguido;

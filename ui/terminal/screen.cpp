@@ -2,7 +2,9 @@
 #include "ui/terminal/screen.h"
 
 #include "base/text.h"
+#include "scene/scene.h"
 #include "ui/plain_text.h"
+#include "ui/spoken/on_demand.h"
 #include "ui/terminal/new_text.h"
 
 namespace tasca {
@@ -27,6 +29,7 @@ void Screen::Show(const Table& t) {
   PrintIfAny(consola_, nuevo.Replaces ? lineas : mano);
   if (t.Text3 != text3_) PrintIfAny(consola_, t.Text3);
   if (!aviso.empty()) consola_.Prompt(aviso);
+  recital_.Nuevos(t.Text2);
   text1_ = t.Text1;
   text2_ = t.Text2;
   text3_ = t.Text3;
@@ -35,6 +38,24 @@ void Screen::Show(const Table& t) {
 void Screen::Repeat() {
   PrintIfAny(consola_, text1_);
   PrintIfAny(consola_, text3_);
+}
+
+bool Screen::Tell(const Table& t, std::u16string_view orden) {
+  if (orden == u"repite") {
+    for (const std::u16string& linea : recital_.Ultimos()) consola_.Line(linea);
+    return true;
+  }
+  const Escena escena = EscenaDe(t, Momento::Pregunta);
+  if (orden == u"cartas") {
+    consola_.Line(ManoDicha(escena));
+  } else if (orden == u"tanteo") {
+    consola_.Line(TanteoDicho(escena));
+  } else if (orden == u"mano") {
+    consola_.Line(ManoDichaPorNombre(escena));
+  } else {
+    return false;
+  }
+  return true;
 }
 
 void PrintChronicle(Console& consola, std::u16string_view cronica) {

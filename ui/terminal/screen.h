@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "table/table.h"
+#include "ui/spoken/recital.h"
 #include "ui/terminal/console.h"
 
 namespace tasca {
@@ -19,8 +20,15 @@ class Screen {
   // Prints the last hand and score again.
   void Repeat();
 
+  // A step begins: its lines take the place of those that "repite" prints.
+  void StepBegins() { recital_.EmpiezaPaso(); }
+  // Carries out one of the words for listening: "repite", "cartas", "tanteo" and "mano". False for
+  // any other text.
+  bool Tell(const Table& t, std::u16string_view orden);
+
  private:
   Console& consola_;
+  Recital recital_;
   // As last printed.
   std::u16string text1_;
   std::u16string text2_;

@@ -23,6 +23,8 @@ void PrintHelp(Console& consola, Screen& pantalla, Fase fase) {
       u"q abandona la mano y empieza otra.\n"
       u"manos enseña las cartas de los cuatro.\n"
       u"crónica cuenta la partida desde el principio.\n"
+      u"repite dice otra vez lo último.\n"
+      u"cartas dice las suyas, tanteo el tanteo y los envites, y mano quién es mano.\n"
       u"sonido quita o pone el sonido.\n"
       u"salir, o Ctrl+D, deja el juego.");
 }
@@ -49,6 +51,7 @@ struct Place {
 // Commands that are no keys of the game.
 void Obey(const Place& lugar, std::u16string_view orden) {
   if (orden == u"?") return PrintHelp(lugar.Consola, lugar.Pantalla, lugar.Sesion.Mesa().Fase);
+  if (lugar.Pantalla.Tell(lugar.Sesion.Mesa(), orden)) return;
   if (orden == u"sonido") return SwitchSound(lugar.Consola, lugar.Mp1);
   if (orden == u"cronica") return PrintChronicle(lugar.Consola, lugar.Sesion.Relato().Texto());
   lugar.Consola.Line(
@@ -63,6 +66,7 @@ Situacion AttendLine(const Place& lugar) {
     orden = Fold(lugar.Consola.ReadLine());
   });
   if (situacion != Situacion::EnLaMesa) return situacion;
+  lugar.Pantalla.StepBegins();
   if (orden.empty()) return Press(lugar.Sesion, TeclaEnter);
   if (orden == u"q") return Press(lugar.Sesion, TeclaQ);
   if (orden == u"manos") return Press(lugar.Sesion, Tecla0, MayusculasYControl);

@@ -66,6 +66,8 @@ bool TerminalPort::Obey(const TypedLine& linea) {
     PrintChronicle(consola_, cronica_());
     return true;
   }
+  const bool seAtiende = !linea.EsOpcion && mesa_ != nullptr && pantalla_.Tell(*mesa_, orden);
+  if (seAtiende) return true;
   // In the answer to a bet "q" is short for "Quiero".
   if (orden != u"q" || linea.EsOpcion) return false;
   consola_.Line(Join(linea.SeContesta, u" Para abandonar la mano con q, conteste antes."));
@@ -81,13 +83,18 @@ void TerminalPort::Help(std::u16string_view seContesta) {
       u"salir, o Ctrl+D, deja el juego.");
 }
 
-void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
+void TerminalPort::ShowTable(const Table& t) {
   pantalla_.Show(t);
+  mesa_ = &t;
+}
+
+void TerminalPort::MsgBox(const Table& t, std::u16string_view texto) {
+  ShowTable(t);
   consola_.Line(Join(u"[", texto, u"]"));
 }
 
 bool TerminalPort::YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion& pregunta) {
-  pantalla_.Show(t);
+  ShowTable(t);
   anclas_ = {AnchorOf(AsuntoDe(sobre))};
   return preguntas_.YesNo(pregunta.Texto.empty() ? pregunta.Titulo : pregunta.Texto,
                           pregunta.PorDefecto);
@@ -95,13 +102,13 @@ bool TerminalPort::YesNoBox(const Table& t, Pregunta sobre, const YesNoQuestion&
 
 std::u16string TerminalPort::InputBox(const Table& t, Pregunta sobre,
                                       const InputQuestion& pregunta) {
-  pantalla_.Show(t);
+  ShowTable(t);
   anclas_ = {AnchorOf(AsuntoDe(sobre))};
   return preguntas_.TextOrCancel(Join(pregunta.Titulo, CrLf, pregunta.Texto), pregunta.PorDefecto);
 }
 
 void TerminalPort::ShowDialog(const Table& t, Dialog& dialogo) {
-  pantalla_.Show(t);
+  ShowTable(t);
   anclas_ = {AnchorOf(AsuntoDe(t.Fase)), AnchorOf(Asunto::Envite)};
   const std::vector<Option> ofrecidos = OfferedButtons(dialogo);
   const int boton = preguntas_.Choose(BiddingPrompt(dialogo, ofrecidos), ofrecidos,

@@ -17,8 +17,8 @@ using Clock = TimeOfDay (*)();
 TimeOfDay LocalTime();
 
 // Prints what is new at the table before every question. Every question also accepts "?" for help,
-// "crónica", and "salir", which throws LeaveProgram. "q" is refused with an explanation: the
-// question must be answered first.
+// "crónica", the words for listening, and "salir", which throws LeaveProgram. "q" is refused with
+// an explanation: the question must be answered first.
 class TerminalPort : public Port {
  public:
   // Without a media player sounds are ignored.
@@ -44,6 +44,8 @@ class TerminalPort : public Port {
   // Carries out a command of the class comment. False if the line is an answer.
   bool Obey(const TypedLine& linea);
   void Help(std::u16string_view seContesta);
+  // Prints what is new before a question.
+  void ShowTable(const Table& t);
 
   Console& consola_;
   Screen& pantalla_;
@@ -51,6 +53,7 @@ class TerminalPort : public Port {
   Clock reloj_;
   MediaPlayer* mp1_;
   std::function<std::u16string()> cronica_ = [] { return std::u16string{}; };
+  const Table* mesa_ = nullptr;           // of the open question
   std::vector<std::string_view> anclas_;  // the sections of the manual about the open question
 };
 
