@@ -13,7 +13,8 @@ DefaultLanguage es
 """
 # The debug file is read while Orca writes it.
 _CUSTOM = "import orca.debug\norca.debug.debugFile.reconfigure(line_buffering=True)\n"
-_SPOKEN = re.compile(r"- SPEECH OUTPUT: '(.*?)' ?\[?\{'established'", re.DOTALL)
+_SPOKEN = re.compile(r"- SPEECH OUTPUT: '(.*?)' ?\[?\{'established'|"
+                     r"EVENT MANAGER: (Queueing|Dequeued) ", re.DOTALL)
 
 
 class ScreenReader:
@@ -22,6 +23,9 @@ class ScreenReader:
     def __init__(self, session):
         self._session = session
         self.log = session.folder / "orca.log"
+        self._place = 0  # in the debug file: what is before it has been read
+        self._said = []
+        self._queued = 0
         address = self._start_speech_server()
         session.start("orca", "--user-prefs", self._preferences(), "--debug-file", self.log,
                       extra={"SPEECHD_ADDRESS": f"unix_socket:{address}"})
@@ -29,8 +33,29 @@ class ScreenReader:
 
     def said(self):
         """Everything that it has said, in order, without the indentation of its log."""
-        text = self.log.read_text(errors="replace") if self.log.exists() else ""
-        return [re.sub(r"\n *", "\n", spoken) for spoken in _SPOKEN.findall(text)]
+        self._read()
+        return self._said
+
+    def is_idle(self):
+        """Whether it has handled every event that it knows of."""
+        self._read()
+        return self._queued <= 0
+
+    def _read(self):
+        """Reads what has been added to the debug file."""
+        if not self.log.exists():
+            return
+        with self.log.open("rb") as file:
+            file.seek(self._place)
+            text = file.read().decode(errors="replace")
+        last = 0
+        for found in _SPOKEN.finditer(text):
+            last = found.end()
+            if found[1] is not None:
+                self._said.append(re.sub(r"\n *", "\n", found[1]))
+            else:
+                self._queued += 1 if found[2] == "Queueing" else -1
+        self._place += len(text[:last].encode())
 
     def _start_speech_server(self):
         folder = self._session.folder / "speechd"
