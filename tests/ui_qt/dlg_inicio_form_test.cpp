@@ -17,6 +17,7 @@
 #include "tests/support/scripted_port.h"
 #include "tests/support/tables.h"
 #include "tests/ui_qt/companions.h"
+#include "tests/ui_qt/ear.h"
 #include "tests/ui_qt/nameless.h"
 #include "tests/ui_qt/player.h"
 #include "ui/qt/qt_text.h"
@@ -240,6 +241,18 @@ TEST_F(DlgInicioWindow, PassesEachChoiceToItsSeatAndShowsTheStory) {
   EXPECT_EQ(estado_.Combo3.ListIndex, 2);
   EXPECT_EQ(LabelText("Text4"), "El Cojo corre.");
   EXPECT_EQ(estado_.Combo1.ListIndex, 1);
+}
+
+TEST_F(DlgInicioWindow, SaysWhoWasChosenAndTheStory) {
+  Ear oido;
+  auto* const combo1 = Find<QComboBox>("Combo1");
+  combo1->setFocus();
+  Press(&ventana_, Qt::Key_Down);
+  const std::string primero = Utf8(combo1->currentText());
+  EXPECT_EQ(oido.TakeHeard(), std::vector<std::string>{primero + ". Berta cuida cabras."});
+  Press(&ventana_, Qt::Key_Up);
+  Find<QCheckBox>("Check1_0")->click();
+  EXPECT_EQ(oido.TakeHeard(), std::vector<std::string>{}) << "\"Aleatorio\" has no story";
 }
 
 TEST_F(DlgInicioWindow, ShowsAStoryWithoutBlanksInFullAndKeepsItsSize) {

@@ -193,6 +193,9 @@ TEST_F(Session, PrintsHelpWithoutAStep) {
                              "q abandona la mano y empieza otra.\n"
                              "manos enseña las cartas de los cuatro.\n"
                              "crónica cuenta la partida desde el principio.\n"
+                             "repite dice otra vez lo último.\n"
+                             "cartas dice las suyas, tanteo el tanteo y los envites, y mano quién "
+                             "es mano.\n"
                              "sonido quita o pone el sonido.\n"
                              "salir, o Ctrl+D, deja el juego.\n"))
       << mesa;
@@ -205,7 +208,7 @@ TEST_F(Session, PrintsHelpWithoutAStep) {
 
 TEST_F(Session, PrintsAHintForAnythingElse) {
   LlenarCarpeta(Carpeta);
-  for (const std::string otra : {"x", "0", "13", "envido", "qq", "mano"}) {
+  for (const std::string otra : {"x", "0", "13", "envido", "qq", "manojo"}) {
     const std::string mesa = FromTheTableOn(PlayLines(Carpeta, AllDefaults + otra + "\n"));
     EXPECT_TRUE(mesa.ends_with(
         "Pulse enter para empezar\n"
@@ -213,6 +216,22 @@ TEST_F(Session, PrintsAHintForAnythingElse) {
         << otra << "\n"
         << mesa;
   }
+}
+
+// At the table and at a question, which stays open.
+TEST_F(Session, TellsWhatThePlayerAsksFor) {
+  LlenarCarpeta(Carpeta);
+  const std::string words = "repite\nCartas\ntanteo\nmano\n";
+  const std::string atTheTable = FromTheTableOn(PlayLines(Carpeta, AllDefaults + words));
+  EXPECT_EQ(Count(atTheTable, "Sus cartas son"), 2) << atTheTable;
+  EXPECT_EQ(Count(atTheTable, ", as de espadas.\n"), 1) << atTheTable;
+  EXPECT_EQ(Count(atTheTable, "Pareja 1: nosotros. ninguna piedra, ningún juego, ninguna vaca. "),
+            1);
+  EXPECT_EQ(Count(atTheTable, "Todavía no se sabe quién es mano"), 1);
+  const std::string asked = FromTheTableOn(PlayLines(Carpeta, AllDefaults + "\n" + words));
+  EXPECT_EQ(Count(asked, "¿mus? [S/n]"), 5) << asked;
+  EXPECT_EQ(Count(asked, ", as de espadas.\n"), 1) << asked;
+  EXPECT_EQ(Count(asked, "Todavía no se sabe quién es mano"), 1) << asked;
 }
 
 TEST_F(Session, LeavesOnSalir) {
