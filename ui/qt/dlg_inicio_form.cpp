@@ -187,9 +187,10 @@ void DlgInicioForm::Connect() {
   connect(cbCancel_, &QPushButton::clicked, this, [this] { sucesos_.Left(); });
 }
 
-// The name again: the story interrupts the screen reader, which is saying the new entry.
+// The name again: the story interrupts the screen reader, which is saying the new entry. The first
+// entry is "Aleatorio", which leaves the last story in place.
 void DlgInicioForm::TellCompanion(const QComboBox& combo) {
-  if (Trim(estado_.Text4).empty()) return;
+  if (combo.currentIndex() <= 0) return;
   voz_.Say(ToDisplay(
       Join(Seguido({FromInput(combo.currentText())}), u" ", Seguido(Renglones(estado_.Text4)))));
 }
