@@ -2,7 +2,9 @@
 #include "ui/qt/input_line.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QAccessible>
 #include <QMimeData>
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QtMath>
@@ -20,7 +22,21 @@ InputLine::InputLine(QWidget* padre, KeyHandler alPulsar)
 }
 
 void InputLine::ShowText(const QString& texto) {
-  if (toPlainText() != texto) setPlainText(texto);
+  if (toPlainText() == texto) return;
+  QAccessible::isActive() ? ExchangeDocument(texto) : setPlainText(texto);
+}
+
+// An insertion after Enter would be spoken as it stands, with the padding of the cards.
+void InputLine::ExchangeDocument(const QString& texto) {
+  auto* const nuevo = new QTextDocument{this};
+  nuevo->setDocumentLayout(new QPlainTextDocumentLayout{nuevo});
+  nuevo->setDefaultFont(document()->defaultFont());
+  nuevo->setDocumentMargin(document()->documentMargin());
+  nuevo->setPlainText(texto);
+  const QPointer<QTextDocument> anterior{document()};
+  setDocument(nuevo);
+  if (anterior && anterior->parent() == this) anterior->deleteLater();
+  FitHeight();
 }
 
 void InputLine::keyPressEvent(QKeyEvent* suceso) {

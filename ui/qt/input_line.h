@@ -25,6 +25,8 @@ class InputLine : public QPlainTextEdit {
   void changeEvent(QEvent* suceso) override;
 
  private:
+  // Replaces the text without an event about it.
+  void ExchangeDocument(const QString& texto);
   // Sets the height to that of the text, up to the limit.
   void FitHeight();
 
