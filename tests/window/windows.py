@@ -140,4 +140,5 @@ class Seen:
             (field,) = self.having("text")
             return {"text": plain(self.text()), "default": field.node.text()}
         icon = "question" if self.names("image") else "none"
-        return {"text": plain(self.text()), "icon": icon, "default": self.names("push button", "default")}
+        return {"text": plain(self.text()), "icon": icon,
+                "default": self.names("push button", "default")}
