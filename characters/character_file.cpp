@@ -81,7 +81,14 @@ std::u16string TextoPersonaje(const Table& t, int numero) {
 
 }  // namespace
 
-std::filesystem::path ArchivoPersonajes(const Table& t) { return t.Carpeta / "Jugadores.dat"; }
+std::filesystem::path ArchivoPersonajes(const Table& t) {
+  return t.Carpeta / t.ArchivoDePersonajes;
+}
+
+std::filesystem::path CopiaDeSeguridad(std::filesystem::path archivo) {
+  if (archivo.extension() == ".dat") return archivo.replace_extension(".bak");
+  return archivo += ".bak";
+}
 
 Integer ValorOrdaguero(std::u16string_view texto) {
   constexpr std::size_t Bastantes = 9;
@@ -110,7 +117,8 @@ std::string TextoPersonajes(const Table& t, int cuantos) {
 
 void EscribirPersonajes(const Table& t, int cuantos) {
   const std::filesystem::path archivo = ArchivoPersonajes(t);
-  BackUpFile(archivo, t.Carpeta / "Jugadores.bak");
+  ExigirQueSeGuarde(t, archivo);
+  BackUpFile(archivo, CopiaDeSeguridad(archivo));
   ReplaceFile(archivo, TextoPersonajes(t, cuantos));
 }
 

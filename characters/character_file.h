@@ -12,8 +12,12 @@
 
 namespace tasca {
 
-// The path of the character file in the program's folder.
+// The path of the character file in the folder of the game's files.
 std::filesystem::path ArchivoPersonajes(const Table& t);
+
+// Where a save keeps the character file that it replaces: "Jugadores.bak" for "Jugadores.dat",
+// "otros.txt.bak" for a name that does not end in ".dat".
+std::filesystem::path CopiaDeSeguridad(std::filesystem::path archivo);
 
 // The propensity to the órdago in a text: the integer at its start, 0 without one. Reads at most
 // nine characters. Throws RunTimeError (overflow) outside -32768..32767.
@@ -41,8 +45,9 @@ int LeerPersonajesSinMayusculas(Table& t);
 // never filled is omitted, so later phrases of the same kind move to a lower slot.
 std::string TextoPersonajes(const Table& t, int cuantos);
 
-// Copies the character file to "Jugadores.bak" and replaces it by characters 1 to `cuantos`. Both
-// files are replaced atomically. Throws WriteError on failure.
+// Copies the character file to its CopiaDeSeguridad and replaces it by characters 1 to `cuantos`.
+// Both files are replaced atomically. Throws WriteError on failure, and for a table whose files may
+// not be written.
 void EscribirPersonajes(const Table& t, int cuantos);
 
 }  // namespace tasca

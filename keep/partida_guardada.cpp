@@ -127,7 +127,7 @@ void PasarPersonaje(Flujo& f, UnPersonaje& personaje, Frases& categorias) {
 template <class Flujo, class Estado>
 void PasarPrograma(Flujo& f, Estado& programa) {
   auto& [personajes, mensajes, personajeAsiento, nombreJugador, estiloDirecto, usarNombres,
-         usarExpresiones, avisadoSinNombre, carpeta] = programa;
+         usarExpresiones, avisadoSinNombre, carpeta, archivoDePersonajes, sinGuardar] = programa;
   for (Seat asiento = 2; asiento <= 4; ++asiento) {
     Numeros(f, personajeAsiento[asiento - 1], {1, MaximoPersonajes});
   }
@@ -226,6 +226,8 @@ bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd) {
   }
   leida->Personajes[0].Nombre = leida->NombreJugador;
   leida->Carpeta = t.Carpeta;
+  leida->ArchivoDePersonajes = t.ArchivoDePersonajes;
+  leida->SinGuardar = t.SinGuardar;
   leida->AvisadoSinNombre = t.AvisadoSinNombre;
   t = *leida;
   rnd = generador;

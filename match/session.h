@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "keep/conservador.h"
 #include "match/cronica.h"
@@ -39,6 +40,10 @@ class Session {
   // means that the user has no folder for it.
   Session(std::filesystem::path carpeta, Port& port,
           const std::optional<std::filesystem::path>& estado = std::nullopt);
+
+  // From now on nothing is written to the folder of the game's files, for this reason; "" allows
+  // it.
+  void NoGuardar(std::u16string motivo) { t_.SinGuardar = std::move(motivo); }
 
   // The state of the table, for showing it.
   const Table& Mesa() const { return t_; }

@@ -41,6 +41,7 @@ std::u16string LeerIni(const Table& t) {
 }
 
 void GuardarIni(const Table& t, std::u16string_view nombre) {
+  ExigirQueSeGuarde(t, ArchivoAjustes(t));
   if (!FileExists(ArchivoAjustes(t))) return;
   LineReader archivo{ArchivoAjustes(t)};
   std::string contenido;

@@ -17,8 +17,9 @@ void LeerParametrosPartida(Table& t);
 std::u16string LeerIni(const Table& t);
 
 // Writes `nombre` to line 4 and the old line 4 to line 5. Lines 1 to 3 are kept byte for byte;
-// later lines are dropped. Throws WriteError if the file can be read but not written; callers may
-// ignore it, since the game does not need the file.
+// later lines are dropped. Throws WriteError if the file can be read but not written, and for a
+// table whose files may not be written; callers may ignore it, since the game does not need the
+// file.
 void GuardarIni(const Table& t, std::u16string_view nombre);
 
 }  // namespace tasca

@@ -2,6 +2,7 @@
 #include "table/table.h"
 
 #include "base/text.h"
+#include "base/write_error.h"
 
 namespace tasca {
 
@@ -18,6 +19,10 @@ std::u16string NombreAsiento(const Table& t, Seat asiento) {
 const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
                                      int hueco) {
   return t.Mensajes[personaje][categoria][hueco];
+}
+
+void ExigirQueSeGuarde(const Table& t, const std::filesystem::path& archivo) {
+  if (!t.SinGuardar.empty()) throw WriteError{archivo, t.SinGuardar};
 }
 
 }  // namespace tasca

@@ -172,7 +172,11 @@ struct Module1State {
   bool UsarNombres = false;               // shows names instead of "Jugador 2"
   bool UsarExpresiones = false;           // characters speak their own phrases
   bool AvisadoSinNombre = false;          // the player was told that the name cannot be saved
-  std::filesystem::path Carpeta;          // the program's folder, which holds its files
+  std::filesystem::path Carpeta;          // holds the game's files
+  // The character file's name in it.
+  std::filesystem::path ArchivoDePersonajes = "Jugadores.dat";
+  // Why no file of Carpeta may be written, as the reason of a WriteError; "" if they may.
+  std::u16string SinGuardar;
 
   bool operator==(const Module1State&) const = default;
 };
@@ -192,5 +196,8 @@ std::u16string NombreAsiento(const Table& t, Seat asiento);
 // Phrase in slot `hueco` (1..3) of character `personaje` (1..100), with its padding.
 const FixedText<AnchoFrase>& Mensaje(const Table& t, int personaje, MessageCategory categoria,
                                      int hueco);
+
+// Throws WriteError if the files of Carpeta, such as this one, may not be written.
+void ExigirQueSeGuarde(const Table& t, const std::filesystem::path& archivo);
 
 }  // namespace tasca

@@ -117,6 +117,34 @@ TEST(EscribirPersonajes, CreatesTheFileWithoutACopy) {
   EXPECT_EQ(c.carpeta.Names(), (Archivos{"Jugadores.dat"}));
 }
 
+TEST(EscribirPersonajes, WritesNothingToATableThatMayNotBeSaved) {
+  const TempFolder carpeta;
+  Table t = ConPersonaje(u"Berta", 50, u"");
+  t.Carpeta = carpeta.Path();
+  t.SinGuardar = u"no hay sitio.";
+  EXPECT_EQ(ErrorOf([&] { EscribirPersonajes(t, 1); }),
+            "No se ha podido escribir el archivo " + (carpeta.Path() / "Jugadores.dat").string() +
+                ": no hay sitio. El programa va a terminar su ejecución.");
+  EXPECT_EQ(carpeta.Names(), Archivos{});
+}
+
+TEST(EscribirPersonajes, WritesTheFileOfAnotherName) {
+  const TempFolder carpeta;
+  Table t = ConPersonaje(u"Berta", 50, u"");
+  t.Carpeta = carpeta.Path();
+  t.ArchivoDePersonajes = "otros.dat";
+  EscribirPersonajes(t, 1);
+  EscribirPersonajes(t, 1);
+  EXPECT_EQ(carpeta.Names(), (Archivos{"otros.bak", "otros.dat"}));
+  EXPECT_EQ(LeerPersonajesSinMayusculas(t), 1);
+}
+
+TEST(CopiaDeSeguridad, IsNeverTheFileItself) {
+  EXPECT_EQ(CopiaDeSeguridad("/a/Jugadores.dat"), "/a/Jugadores.bak");
+  EXPECT_EQ(CopiaDeSeguridad("/a/Jugadores.bak"), "/a/Jugadores.bak.bak");
+  EXPECT_EQ(CopiaDeSeguridad("/a.dat/otros"), "/a.dat/otros.bak");
+}
+
 TEST(EscribirPersonajes, KeepsOneBackupCopy) {
   const Carpeta c;
   c.carpeta.Write("Jugadores.dat", "uno");

@@ -80,9 +80,13 @@ TEST(LeerPartida, KeepsWhatBelongsToTheRunningProgram) {
   Table t;
   Rnd rnd;
   t.Carpeta = "/otra";
+  t.ArchivoDePersonajes = "otros.dat";
+  t.SinGuardar = u"no.";
   t.AvisadoSinNombre = true;
   ASSERT_TRUE(LeerPartida(Escrita(partida), t, rnd));
   EXPECT_EQ(t.Carpeta, "/otra");
+  EXPECT_EQ(t.ArchivoDePersonajes, "otros.dat");
+  EXPECT_EQ(t.SinGuardar, u"no.");
   EXPECT_TRUE(t.AvisadoSinNombre);
 }
 

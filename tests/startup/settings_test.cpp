@@ -180,6 +180,15 @@ TEST(LeerIni, EndsTheProgramWithFewerThanFourLines) {
   }
 }
 
+TEST(GuardarIni, ThrowsForATableThatMayNotBeSaved) {
+  Ajustes a;
+  a.t.SinGuardar = u"no hay sitio.";
+  EXPECT_THROW(GuardarIni(a.t, u"Ana"), WriteError);
+  a.Write("1\r\n2\r\n3\r\nEva> x\r\n");
+  EXPECT_THROW(GuardarIni(a.t, u"Ana"), WriteError);
+  EXPECT_EQ(a.Read(), "1\r\n2\r\n3\r\nEva> x\r\n");
+}
+
 TEST(GuardarIni, NeverCreatesTheFile) {
   const Ajustes a;
   GuardarIni(a.t, u"Ana");

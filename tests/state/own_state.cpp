@@ -1,5 +1,5 @@
-// Gives every test program, and the programs that it starts, a folder of states of their own. The
-// user's matches must not be touched.
+// Gives every test program, and the programs that it starts, folders of states and data of their
+// own. The user's matches and characters must not be touched.
 #include <unistd.h>
 
 #include <cstdio>
@@ -15,8 +15,11 @@ class OwnState {
     std::error_code error;
     carpeta_ = (std::filesystem::temp_directory_path(error) / "tasca-state-XXXXXX").string();
     const bool creada = !error && ::mkdtemp(carpeta_.data()) != nullptr;
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): before main
-    if (creada && ::setenv("XDG_STATE_HOME", carpeta_.c_str(), 1) == 0) return;
+    // NOLINTBEGIN(concurrency-mt-unsafe): before main
+    if (creada && ::setenv("XDG_STATE_HOME", carpeta_.c_str(), 1) == 0 &&
+        ::setenv("XDG_DATA_HOME", carpeta_.c_str(), 1) == 0 && ::unsetenv("TASCA_CARPETA") == 0)
+      return;
+    // NOLINTEND(concurrency-mt-unsafe)
     (void)std::fputs("no folder for the tests' state\n", stderr);
     std::_Exit(EXIT_FAILURE);
   }

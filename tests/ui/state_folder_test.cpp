@@ -1,41 +1,22 @@
-// The folder of the kept match, by the environment.
+// The folders of the user, by the environment.
 #include "ui/state_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
+
+#include "tests/support/temp_folder.h"
+#include "tests/ui/variable.h"
 
 namespace tasca::test {
 namespace {
 
-// Sets or unsets a variable, and restores it at the end.
-class Variable {
- public:
-  Variable(const char* nombre, const char* valor) : nombre_{nombre} {
-    const char* const antes = ::getenv(nombre);  // NOLINT(concurrency-mt-unsafe)
-    if (antes != nullptr) antes_ = antes;
-    Put(valor);
-  }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-  ~Variable() { Put(antes_ ? antes_->c_str() : nullptr); }
-
- private:
-  void Put(const char* valor) const {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the test has one thread
-    EXPECT_EQ(valor == nullptr ? ::unsetenv(nombre_) : ::setenv(nombre_, valor, 1), 0);
-  }
-
-  const char* nombre_;
-  std::optional<std::string> antes_;
-};
-
 struct Case {
-  const char* State;
+  const char* Data;  // or state
   const char* Home;
   const char* Folder;
 };
@@ -52,13 +33,44 @@ TEST(StateFolder, IsThatOfTheEnvironment) {
       {"./estados", "casa", ""},
   }};
   for (const Case& c : cases) {
-    const Variable estados{"XDG_STATE_HOME", c.State};
+    const Variable estados{"XDG_STATE_HOME", c.Data};
     const Variable casa{"HOME", c.Home};
     EXPECT_EQ(StateFolder(), c.Folder);
   }
 }
 
+TEST(DataFolder, IsThatOfTheEnvironment) {
+  constexpr std::array<Case, 6> cases{{
+      {"/datos", "/casa", "/datos/tasca"},
+      {nullptr, "/casa", "/casa/.local/share/tasca"},
+      {"datos", "/casa", "/casa/.local/share/tasca"},
+      {"", "/casa", "/casa/.local/share/tasca"},
+      {nullptr, nullptr, ""},
+      {"./datos", "casa", ""},
+  }};
+  for (const Case& c : cases) {
+    const Variable datos{"XDG_DATA_HOME", c.Data};
+    const Variable casa{"HOME", c.Home};
+    EXPECT_EQ(DataFolder(), c.Folder);
+  }
+}
+
+TEST(DataFolder, OfAnotherUserIsNotRoots) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root may write to everybody's folders";
+  constexpr uid_t otro = 65534;
+  const TempFolder casa;
+  const Variable datos{"XDG_DATA_HOME", nullptr};
+  const Variable personal{"HOME", casa.Path().c_str()};
+  EXPECT_EQ(DataFolder(), casa.Path() / ".local/share/tasca");
+  ASSERT_EQ(::chown(casa.Path().c_str(), otro, otro), 0);
+  EXPECT_EQ(DataFolder(), "");
+  const Variable estados{"XDG_STATE_HOME", (casa.Path() / "estados").c_str()};
+  EXPECT_EQ(StateFolder(), "");
+}
+
 // The tests' programs run with the environment of the test.
+TEST(DataFolder, IsNotTheUsersInATest) { EXPECT_EQ(DataFolder(), StateFolder()); }
+
 TEST(StateFolder, IsNotTheUsersInATest) {
   const std::filesystem::path propia = StateFolder().parent_path();
   EXPECT_TRUE(propia.filename().string().starts_with("tasca-state-")) << propia;

@@ -40,6 +40,23 @@ TEST_F(Mp1, PlaysWithCountBalanceAndVolumeAndReportsOneEnd) {
   EXPECT_EQ(Recorded(), Oidos(3, "Son_DaUnaCarta.wav -8.0 -5.0"));
 }
 
+TEST_F(Mp1, PlaysTheShippedSoundThatAFolderLacks) {
+  const TempFolder otra;
+  mp1_.Use({.Program = carpeta_.Path() / "tasca-sound", .Shipped = carpeta_.Path()});
+  mp1_.Open(otra.Path(), u"Son_DaUnaCarta.wav", {});
+  EXPECT_TRUE(WaitForEnd(mp1_));
+  EXPECT_EQ(Recorded(), Oidos{"Son_DaUnaCarta.wav 0.0 0.0"});
+}
+
+TEST_F(Mp1, PrefersTheSoundOfTheFolder) {
+  const TempFolder otra;
+  std::filesystem::copy(carpeta_.Path() / "Son_DaUnaCarta.wav", otra.Path() / "Son_aplauso.wav");
+  mp1_.Use({.Program = carpeta_.Path() / "tasca-sound", .Shipped = carpeta_.Path()});
+  mp1_.Open(otra.Path(), u"Son_aplauso.wav", {});
+  EXPECT_TRUE(WaitForEnd(mp1_));
+  EXPECT_EQ(Recorded(), Oidos{"Son_DaUnaCarta.wav 0.0 0.0"});
+}
+
 TEST_F(Mp1, ReportsTheEndOfZeroRepetitions) {
   Open(u"Son_DaUnaCarta.wav", {.Veces = 0});
   EXPECT_TRUE(WaitForEnd(mp1_));

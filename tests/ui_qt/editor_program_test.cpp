@@ -22,8 +22,8 @@ class EditorInWindows : public testing::Test {
 
   // Runs the program and the steps, each with the active window, until the program ends. Returns
   // the exit status.
-  int Work(const std::vector<Step>& pasos) {
-    EditorProgram programa{carpeta_.Path()};
+  int Work(const std::vector<Step>& pasos, const EditorStart& comienzo = {}) {
+    EditorProgram programa{carpeta_.Path(), comienzo};
     programa_ = &programa;
     bool abierto = false;
     std::size_t dados = 0;
@@ -188,6 +188,50 @@ TEST_F(EditorInWindows, KeepsTheFileWhenItEndsWithAnError) {
       Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_M), Key(Qt::Key_F2),
             Reads("El índice está fuera del intervalo. El programa va a terminar su ejecución.")}),
       1);
+  EXPECT_EQ(carpeta_.Read("Jugadores.dat"), antes);
+}
+
+TEST_F(EditorInWindows, LoadsAndSavesTheGivenFile) {
+  std::filesystem::rename(carpeta_.Path() / "Jugadores.dat", carpeta_.Path() / "otros.dat");
+  EXPECT_EQ(Work({Reads("se han cargado 5 jugadores"),
+                  [](QWidget* v) {
+                    EXPECT_EQ(Control<QListWidget>(v, "List1")->count(), 5);
+                    Press(v, Qt::Key_N, Qt::AltModifier);
+                  },
+                  [](QWidget* v) { Type(v->focusWidget(), "Lola"); }, Alt(Qt::Key_U),
+                  Alt(Qt::Key_G), Reads("Se han guardado datos de 6 jugadores"), Close},
+                 {.File = "otros.dat"}),
+            0);
+  EXPECT_EQ(carpeta_.Names(), (std::vector<std::string>{"mus.ini", "otros.bak", "otros.dat"}));
+  EXPECT_NE(carpeta_.Read("otros.dat").find("Datos>\r\nLola\r\n"), std::string::npos);
+}
+
+TEST_F(EditorInWindows, EndsWithoutTheGivenFile) {
+  const std::string mensaje =
+      (carpeta_.Path() / "nada.dat").string() +
+      ": no se encuentra el archivo. El programa va a terminar su ejecución.";
+  EXPECT_EQ(Work({Reads(mensaje.c_str())}, {.File = "nada.dat"}), 1);
+}
+
+TEST_F(EditorInWindows, TellsOfNewFilesThatLieBesideTheUsersOwn) {
+  EXPECT_EQ(
+      Work(
+          {Reads("Esta versión del juego trae un archivo nuevo. Como usted había cambiado el suyo, "
+                 "el suyo se queda como está; el nuevo está a su lado: /a/Jugadores.dat.nuevo"),
+           Close},
+          {.News = {"/a/Jugadores.dat.nuevo"}}),
+      0);
+}
+
+TEST_F(EditorInWindows, RefusesASaveWithTheReason) {
+  const std::string antes = carpeta_.Read("Jugadores.dat");
+  const std::string mensaje = "No se ha podido escribir el archivo " +
+                              (carpeta_.Path() / "Jugadores.dat").string() +
+                              ": no hay sitio. Los cambios siguen aquí: puede intentarlo otra vez.";
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_G), Reads(mensaje.c_str()), Close},
+           {.NotSaved = u"no hay sitio."}),
+      0);
   EXPECT_EQ(carpeta_.Read("Jugadores.dat"), antes);
 }
 

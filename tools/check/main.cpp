@@ -1,10 +1,12 @@
-// tasca-check FILE: prints every fault of a character file. Exit status: 0 without faults, 1 with
+// tasca-check [FILE]: prints every fault of a character file. Exit status: 0 without faults, 1 with
 // faults, 2 if the file cannot be read.
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/errors.h"
 #include "base/path_text.h"
@@ -22,15 +24,25 @@ constexpr int NoSePuedeLeer = 2;
 
 constexpr ProgramOptions Programa{
     .Name = "tasca-check",
-    .Usage = " ARCHIVO (el de los personajes)",
+    .Usage = " ARCHIVO (el de los personajes) o --carpeta CARPETA",
     .About =
         "Dice cada falta de un archivo de personajes, con su línea. Termina con 0 si no hay\n"
         "ninguna, con 1 si las hay y con 2 si el archivo no se puede leer.\n",
-    .TakesArguments = true};
+    .TakesArguments = true,
+    .TakesFolder = true};
 
 // Prints exactly one line: line breaks in the text or in the file's name are replaced.
 void PrintLine(std::ostream& salida, std::u16string_view texto) {
   salida << PlainLine(texto) << '\n';
+}
+
+// The file that is given, or else that of the chosen folder; nothing if it is not clear.
+std::optional<std::filesystem::path> File(int argc, const char* const* argv) {
+  const std::vector<std::string_view> dados = Operands(Programa, argc, argv);
+  if (dados.size() > 1) return std::nullopt;
+  if (!dados.empty()) return dados.front();
+  const std::optional<std::filesystem::path> carpeta = ChosenFolder(argc, argv);
+  return carpeta ? std::optional{*carpeta / "Jugadores.dat"} : std::nullopt;
 }
 
 int Check(const std::filesystem::path& archivo) {
@@ -54,8 +66,8 @@ int Check(const std::filesystem::path& archivo) {
 int main(int argc, char** argv) {
   try {
     if (const auto estado = tasca::TakeOptions(tasca::Programa, argc, argv)) return *estado;
-    if (argc != 2) return tasca::UsageError(tasca::Programa);
-    return tasca::Check(argv[1]);
+    const std::optional<std::filesystem::path> archivo = tasca::File(argc, argv);
+    return archivo ? tasca::Check(*archivo) : tasca::UsageError(tasca::Programa);
   } catch (const tasca::RunTimeError& error) {
     tasca::PrintLine(std::cerr, error.Message());
   } catch (const std::exception& error) {

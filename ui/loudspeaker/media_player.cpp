@@ -2,6 +2,7 @@
 #include "ui/loudspeaker/media_player.h"
 
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "ui/loudspeaker/order.h"
@@ -18,9 +19,10 @@ void MediaPlayer::Open(const std::filesystem::path& carpeta, std::u16string_view
   ++numero_;
   pendiente_ = true;
   const std::string orden =
-      ToPacket({.Numero = numero_, .Ajustes = ajustes, .Archivo = carpeta / archivo});
-  if (encendido_ &&
-      (conexion_.Send(orden) || (conexion_.Start(carpeta / Programa) && conexion_.Send(orden))))
+      ToPacket({.Numero = numero_, .Ajustes = ajustes, .Archivo = FileOf(carpeta, archivo)});
+  const std::filesystem::path programa =
+      lugares_.Program.empty() ? carpeta / Programa : lugares_.Program;
+  if (encendido_ && (conexion_.Send(orden) || (conexion_.Start(programa) && conexion_.Send(orden))))
     return;
   conexion_.HangUp();
 }
@@ -41,6 +43,13 @@ bool MediaPlayer::TakeEnd() {
   const bool hubo = pendiente_;
   while (const std::optional<std::string> paquete = conexion_.Receive()) Hear(*paquete);
   return hubo && !pendiente_;
+}
+
+std::filesystem::path MediaPlayer::FileOf(const std::filesystem::path& carpeta,
+                                          std::u16string_view archivo) const {
+  std::error_code error;
+  const bool esta = lugares_.Shipped.empty() || std::filesystem::exists(carpeta / archivo, error);
+  return (esta ? carpeta : lugares_.Shipped) / archivo;
 }
 
 // An empty packet means that the connection has been closed.

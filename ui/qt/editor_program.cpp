@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <utility>
 
+#include "base/path_text.h"
+#include "base/text.h"
 #include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/phrase_box.h"
@@ -28,7 +30,12 @@ std::u16string QtEditorPort::InputBox(std::u16string_view texto, std::u16string_
 
 void QtEditorPort::Beep() { QApplication::beep(); }
 
-EditorProgram::EditorProgram(std::filesystem::path carpeta) { t_.Carpeta = std::move(carpeta); }
+EditorProgram::EditorProgram(std::filesystem::path carpeta, EditorStart comienzo)
+    : comienzo_{std::move(comienzo)} {
+  t_.Carpeta = std::move(carpeta);
+  t_.SinGuardar = comienzo_.NotSaved;
+  if (!comienzo_.File.empty()) t_.ArchivoDePersonajes = comienzo_.File;
+}
 
 void EditorProgram::Open() {
   ventana_ = std::make_unique<Dialog1Form>(
@@ -37,6 +44,18 @@ void EditorProgram::Open() {
                           .Closed = [this] { Close(); }});
   port_.SetWindow(ventana_.get());
   ventana_->show();
+  Run([this] { Begin(); });
+}
+
+// The boxes copy the state to the window when they open.
+void EditorProgram::Begin() {
+  for (const std::filesystem::path& nuevo : comienzo_.News) {
+    port_.MsgBox(
+        Join(u"Esta versión del juego trae un archivo nuevo. Como usted había cambiado el "
+             u"suyo, el suyo se queda como está; el nuevo está a su lado: ",
+             PathText(nuevo)));
+  }
+  if (!comienzo_.File.empty()) CargarPersonajes(ventana_->State(), t_, port_);
 }
 
 void EditorProgram::Run(const std::function<void()>& suceso) {

@@ -2,6 +2,8 @@
 // The character editor's program: opens its window, shows its boxes and ends it.
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "characters/editor.h"
 #include "table/table.h"
@@ -28,10 +30,17 @@ class QtEditorPort : public EditorPort {
   Dialog1Form* ventana_ = nullptr;
 };
 
+// What the editor edits and tells at its start.
+struct EditorStart {
+  std::filesystem::path File = {};  // name of a character file that is loaded at once; "" for none
+  std::u16string NotSaved = {};     // why nothing may be written to the folder; "" if it may
+  std::vector<std::filesystem::path> News = {};  // new files that lie beside the user's own
+};
+
 class EditorProgram {
  public:
   // `carpeta` is the folder of the character file.
-  explicit EditorProgram(std::filesystem::path carpeta);
+  explicit EditorProgram(std::filesystem::path carpeta, EditorStart comienzo = {});
 
   // Opens the window. Must be called from the event loop. Closing the window ends the loop with the
   // exit status.
@@ -41,6 +50,7 @@ class EditorProgram {
   SessionEnd AtSessionEnd();
 
  private:
+  void Begin();
   // Runs `suceso`. If it throws, shows the error and ends the program.
   void Run(const std::function<void()>& suceso);
   // Ends the program, after asking if there are unsaved changes. Texts that have been typed but not
@@ -53,6 +63,7 @@ class EditorProgram {
   void Exit(int estado);
 
   Table t_;
+  EditorStart comienzo_;
   QtEditorPort port_;
   std::unique_ptr<Dialog1Form> ventana_;
   bool terminando_ = false;

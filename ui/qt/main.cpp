@@ -1,4 +1,5 @@
 // tasca: the game in windows.
+#include "ui/game_folder.h"
 #include "ui/options.h"
 #include "ui/program_folder.h"
 #include "ui/qt/application.h"
@@ -9,10 +10,11 @@ namespace {
 
 constexpr tasca::ProgramOptions Programa{
     .Name = "tasca",
-    .Usage = "",
+    .Usage = " [--carpeta CARPETA]",
     .About =
         "Abre la tasca en una ventana: el mus de cuatro, usted y tres personajes.\n"
-        "Donde no hay pantalla se juega con tasca-terminal.\n"};
+        "Donde no hay pantalla se juega con tasca-terminal.\n",
+    .TakesFolder = true};
 
 }  // namespace
 
@@ -21,6 +23,8 @@ int main(int argc, char** argv) {
   tasca::Application aplicacion{argc, argv};
   // Application has removed the toolkit's own options.
   if (const auto estado = tasca::RefuseOptions(Programa, argc, argv)) return *estado;
-  tasca::Program programa{tasca::ProgramFolder(argv[0]), tasca::StateFolder()};
+  const tasca::GameFolder carpeta = tasca::FindGameFolder(
+      tasca::ProgramFolder(argv[0]), tasca::ChosenFolder(argc, argv), tasca::DataFolder());
+  tasca::Program programa{carpeta, tasca::StateFolder()};
   return aplicacion.Run([&programa] { programa.Open(); }, programa.AtSessionEnd());
 }

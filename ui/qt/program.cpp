@@ -21,6 +21,12 @@ Program::Program(std::filesystem::path carpeta, const std::optional<std::filesys
                    [this] { AttendSound(); });
 }
 
+Program::Program(const GameFolder& carpeta, const std::optional<std::filesystem::path>& estado)
+    : Program{carpeta.Files, estado} {
+  port_.Mp1().Use({.Program = carpeta.SoundProgram, .Shipped = carpeta.Shipped});
+  sesion_.NoGuardar(carpeta.NotSaved);
+}
+
 void Program::Open() {
   Situacion situacion{};
   if (!Run([&] { return situacion = sesion_.Retomar(); })) return;

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "match/session.h"
+#include "ui/game_folder.h"
 #include "ui/qt/application.h"
 #include "ui/qt/chronicle.h"
 #include "ui/qt/dlg_inicio_form.h"
@@ -23,7 +24,9 @@ namespace tasca {
 
 class Program {
  public:
-  // `carpeta` is the folder of the game's files; the match is kept in `estado`, as Session tells.
+  // The match is kept in `estado`, as Session tells.
+  Program(const GameFolder& carpeta, const std::optional<std::filesystem::path>& estado);
+  // The same with all files in one folder.
   explicit Program(std::filesystem::path carpeta,
                    const std::optional<std::filesystem::path>& estado = std::nullopt);
 

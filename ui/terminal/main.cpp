@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "ui/game_folder.h"
 #include "ui/options.h"
 #include "ui/program_folder.h"
 #include "ui/state_folder.h"
@@ -24,18 +25,27 @@ int Keyboard() {
 
 constexpr tasca::ProgramOptions Programa{
     .Name = "tasca-terminal",
-    .Usage = "",
-    .About = "Abre la tasca en la terminal: el mus de cuatro, usted y tres personajes.\n"};
+    .Usage = " [--carpeta CARPETA]",
+    .About = "Abre la tasca en la terminal: el mus de cuatro, usted y tres personajes.\n",
+    .TakesFolder = true};
+
+tasca::TerminalFolders Folders(int argc, const char* const* argv) {
+  const tasca::GameFolder carpeta = tasca::FindGameFolder(
+      tasca::ProgramFolder(argv[0]), tasca::ChosenFolder(argc, argv), tasca::DataFolder());
+  return {.Files = carpeta.Files,
+          .State = tasca::StateFolder(),
+          .Sound = {.Program = carpeta.SoundProgram, .Shipped = carpeta.Shipped},
+          .NotSaved = carpeta.NotSaved};
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (const auto estado = tasca::TakeOptions(Programa, argc, argv)) return *estado;
-  return tasca::RunTerminal({.Files = tasca::ProgramFolder(argv[0]), .State = tasca::StateFolder()},
-                            {.In = std::cin,
-                             .Out = std::cout,
-                             .Err = std::cerr,
-                             .Echoes = tasca::InputIsTerminal(),
-                             .Keyboard = Keyboard(),
-                             .Width = tasca::TerminalWidth});
+  return tasca::RunTerminal(Folders(argc, argv), {.In = std::cin,
+                                                  .Out = std::cout,
+                                                  .Err = std::cerr,
+                                                  .Echoes = tasca::InputIsTerminal(),
+                                                  .Keyboard = Keyboard(),
+                                                  .Width = tasca::TerminalWidth});
 }

@@ -113,10 +113,11 @@ int RunTerminal(const TerminalFolders& carpetas, const TerminalStreams& flujos, 
   Console consola{flujos};
   Screen pantalla{consola};
   std::optional<MediaPlayer> mp1;
-  if (flujos.Keyboard >= 0) mp1.emplace();
+  if (flujos.Keyboard >= 0) mp1.emplace().Use(carpetas.Sound);
   MediaPlayer* const altavoz = mp1 ? &*mp1 : nullptr;
   TerminalPort puerto{consola, pantalla, reloj, altavoz};
   const auto sesion = std::make_unique<Session>(carpetas.Files, puerto, carpetas.State);
+  sesion->NoGuardar(carpetas.NotSaved);
   puerto.TellFrom([&sesion] { return sesion->Relato().Texto(); });
   if (mp1) {
     consola.WaitWith(

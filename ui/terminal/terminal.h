@@ -2,7 +2,9 @@
 // The whole game at a text terminal.
 #include <filesystem>
 #include <optional>
+#include <string>
 
+#include "ui/loudspeaker/media_player.h"
 #include "ui/terminal/console.h"
 #include "ui/terminal/terminal_port.h"
 
@@ -12,6 +14,8 @@ namespace tasca {
 struct TerminalFolders {
   std::filesystem::path Files;
   std::optional<std::filesystem::path> State = std::nullopt;
+  SoundPlaces Sound = {};
+  std::u16string NotSaved = {};  // why nothing may be written to Files; "" if it may
 };
 
 // Plays until the player leaves or the input ends. Returns the exit status: 0, or 1 after a
