@@ -17,6 +17,8 @@ const IconDrawing& DrawingFor(int lado) {
                        [lado](const IconDrawing& dibujo) { return dibujo.Side >= lado; });
 }
 
+}  // namespace
+
 QPixmap PaintIcon(int lado) {
   QPixmap icono{lado, lado};
   icono.fill(Qt::transparent);
@@ -25,8 +27,6 @@ QPixmap PaintIcon(int lado) {
   PaintDrawing(pintor, dibujo.Picture, QSizeF(dibujo.Side, dibujo.Side), icono.rect(), false);
   return icono;
 }
-
-}  // namespace
 
 QIcon WindowIcon() {
   QIcon icono;
