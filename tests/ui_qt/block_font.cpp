@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QDataStream>
-#include <QIODevice>
 #include <QFontDatabase>
+#include <QIODevice>
 #include <functional>
 #include <map>
 

@@ -12,8 +12,9 @@ class KeyEverywhere : public QObject {
  public:
   // Calls `alPulsar`, except in the window that `suVentana` returns, if any. The key's auto-repeat
   // does nothing, and with other modifiers it is another key.
-  KeyEverywhere(QKeyCombination tecla, std::function<void()> alPulsar,
-                std::function<const QWidget*()> suVentana = [] { return nullptr; });
+  KeyEverywhere(
+      QKeyCombination tecla, std::function<void()> alPulsar,
+      std::function<const QWidget*()> suVentana = [] { return nullptr; });
 
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
