@@ -12,17 +12,26 @@ LINES = re.compile(
     r"|set(Column|Row)Stretch|setFieldGrowthPolicy|setSizePolicy|setSizeAdjustPolicy"
     r"|setUniformItemSizes|boton->setIcon|averageCharWidth"
     r"|availableSize\(\) \*|constexpr Q(Size|Point)|QPoint\{|double (Unidad|letraDelDibujo)"
-    r"|rejilla->(addItem|rowCount)|setWordWrap")
+    r"|rejilla->(addItem|rowCount)|setWordWrap|setRightMargin|setUniformRowHeights|setStretchFactor"
+    r"|setChildrenCollapsible")
 # Here only changes of numbers and sums do: the size of a control, but not its presence.
 NUMBERS = re.compile(r"->add(Widget|Layout|Item)\(|Hoja\(this|documentMargin\(\)|frameWidth\(\)"
                      r"|setMinimumHeight|lineSpacing\(\)")
 # Sources that only paint: one number more or less, or a stroke's last letter, is a length or a tint
 # that the pictures of tests/ui_qt may not tell apart. Every other change must show in them.
 PAINTERS = re.compile(r"ui/qt/mesa_(painter|signs|colors)\.cpp")
+# Sources that place the pieces of the table: a number with decimals is a distance in letters, and a
+# number with a boolean is a text's size and weight.
+PLACERS = re.compile(r"ui/mesa/(\w*layout|measures|pieces|seats)\.cpp")
+DISTANCES = re.compile(r"\d\.\d|margen / \d")
+WEIGHTS = re.compile(r"\{[\d.]+, (true|false)\}")
 STROKES = "ui/qt/mesa_signs.cpp"
 
 
 def is_of_looks(mutant):
+    if PLACERS.fullmatch(mutant.path):
+        return bool(mutant.operator == "number" and DISTANCES.search(mutant.before)
+                    or mutant.operator == "constant" and WEIGHTS.search(mutant.before))
     if not mutant.path.startswith("ui/qt/"):
         return False
     if PAINTERS.fullmatch(mutant.path) and mutant.operator == "number":

@@ -214,7 +214,8 @@ class Worker:
         status = self.build.processes.run(
             command, patience, cwd=self.folder, stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL,
-            env={**os.environ, "LD_LIBRARY_PATH": libraries, "TMPDIR": str(temporary)})
+            env={**os.environ, "LD_LIBRARY_PATH": libraries, "TMPDIR": str(temporary),
+                 "TASCA_PROGRAMS": str(self.mutant / "bin")})
         if any(temporary.iterdir()):
             shutil.rmtree(temporary, ignore_errors=True)
             temporary.mkdir(exist_ok=True)

@@ -17,6 +17,8 @@
 #include <sstream>
 #include <utility>
 
+#include "tests/support/program_path.h"
+
 namespace tasca::test {
 namespace {
 
@@ -255,7 +257,7 @@ SoundFolder::SoundFolder() {
   for (const char* const archivo : Archivos) {
     fs::copy_file(fs::path{TASCA_SOURCE_DIR} / "data" / archivo, Path() / archivo);
   }
-  fs::create_symlink(TASCA_SOUND_PROGRAM, Path() / "tasca-sound");
+  fs::create_symlink(ProgramPath(TASCA_SOUND_PROGRAM), Path() / "tasca-sound");
   const auto poner = [](const char* nombre, const std::string& valor) {
     EXPECT_EQ(::setenv(nombre, valor.c_str(), 1), 0);  // NOLINT(concurrency-mt-unsafe)
   };

@@ -57,6 +57,7 @@ TEST_F(Form1Window, ShowsTheThreeTexts) {
   EXPECT_EQ(Utf8(Text1()->toPlainText()), "Rey        de Oros");
   EXPECT_EQ(Utf8(Text2()->toPlainText()), "La grande\nPulse enter");
   EXPECT_EQ(Utf8(Text3()->text()), "Piedras: 1 / 2;    juegos: 0 / 0");
+  EXPECT_FALSE(Text3()->hasSelectedText());
 }
 
 TEST_F(Form1Window, StartsWithTheFocusInTheInputLine) { EXPECT_TRUE(Text1()->hasFocus()); }

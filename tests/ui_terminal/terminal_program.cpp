@@ -13,6 +13,8 @@
 #include <chrono>
 #include <csignal>
 
+#include "tests/support/program_path.h"
+
 namespace tasca::test {
 namespace {
 
@@ -39,7 +41,7 @@ Ends NewPipe(bool haciaElPrograma) {
 }  // namespace
 
 void CopyTerminalProgram(const std::filesystem::path& carpeta) {
-  std::filesystem::copy_file(TASCA_TERMINAL_PROGRAM, carpeta / "tasca-terminal");
+  std::filesystem::copy_file(ProgramPath(TASCA_TERMINAL_PROGRAM), carpeta / "tasca-terminal");
 }
 
 TerminalProgram::TerminalProgram(const Sides& lados, std::vector<std::string> orden)
