@@ -107,7 +107,7 @@ void Cronica::Reanudar(std::u16string_view escrito, const Table& t) {
   Empezar();
   std::size_t fin = escrito.find(NuevaMano);
   Escribir(escrito.substr(0, fin));
-  while (fin != escrito.npos) {
+  while (fin != std::u16string_view::npos) {
     escrito.remove_prefix(fin + 1);
     fin = escrito.find(NuevaMano);
     AbrirMano();

@@ -18,7 +18,7 @@ namespace {
 // The whole lines of a text. The prompts are no whole lines, or stand before a line end.
 std::vector<std::u16string> Lineas(std::u16string_view texto) {
   std::vector<std::u16string> lineas;
-  for (std::size_t fin = texto.find_first_of(CrLf); fin != texto.npos;
+  for (std::size_t fin = texto.find_first_of(CrLf); fin != std::u16string_view::npos;
        fin = texto.find_first_of(CrLf)) {
     const std::u16string_view linea = texto.substr(0, fin);
     if (!linea.empty() && !linea.starts_with(u"Pulse enter para")) lineas.emplace_back(linea);
@@ -92,7 +92,8 @@ struct CronicaDeSesion : testing::Test {
   int Veces(std::u16string_view que) const {
     const std::u16string texto = Sesion->Relato().Texto();
     int veces = 0;
-    for (std::size_t i = texto.find(que); i != texto.npos; i = texto.find(que, i + 1)) ++veces;
+    for (std::size_t i = texto.find(que); i != std::u16string::npos; i = texto.find(que, i + 1))
+      ++veces;
     return veces;
   }
 

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QTest>
+#include <algorithm>
 
 #include "cards/hand_text.h"
 #include "tests/support/tables.h"
@@ -90,10 +91,10 @@ TEST_F(HeardForm1, AnswersTheListeningKeys) {
 
 TEST_F(HeardForm1, ShowsWhatWasAskedUntilTheNextStep) {
   const auto seLee = [this](const char* texto) {
-    for (const QLabel* const etiqueta : ventana_.findChildren<QLabel*>()) {
-      if (etiqueta->text().startsWith(QString::fromUtf8(texto))) return true;
-    }
-    return false;
+    const auto etiquetas = ventana_.findChildren<QLabel*>();
+    return std::any_of(etiquetas.begin(), etiquetas.end(), [texto](const QLabel* etiqueta) {
+      return etiqueta->text().startsWith(QString::fromUtf8(texto));
+    });
   };
   EXPECT_TRUE(seLee("Enter: continuar"));
   Press(&ventana_, Qt::Key_F3);

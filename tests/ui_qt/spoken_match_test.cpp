@@ -30,9 +30,11 @@ const std::filesystem::path Folder{TASCA_SOURCE_DIR};
 // The names of the visible parts of a box that have this role.
 QStringList NamesOf(const QAccessibleInterface& caja, QAccessible::Role clase) {
   QStringList nombres;
-  for (int i = 0; i < caja.childCount(); ++i) {
-    const QAccessibleInterface& parte = *caja.child(i);
-    nombres += NamesOf(parte, clase);
+  std::vector<const QAccessibleInterface*> porVer{&caja};
+  while (!porVer.empty()) {
+    const QAccessibleInterface& parte = *porVer.back();
+    porVer.pop_back();
+    for (int i = parte.childCount() - 1; i >= 0; --i) porVer.push_back(parte.child(i));
     const QAccessible::State estado = parte.state();
     if (parte.role() != clase || estado.invisible || estado.disabled) continue;
     const QString nombre = parte.text(QAccessible::Name);

@@ -70,8 +70,11 @@ Application::Application(int& argc, char** argv) : QApplication{Quietly(argc), a
 
 int Application::Run(const std::function<void()>& abrir, SessionEnd fin) {
   fin_ = std::move(fin);
+  QTimer comienzo;
+  comienzo.setSingleShot(true);
+  QObject::connect(&comienzo, &QTimer::timeout, &comienzo, abrir);
+  comienzo.start();
   Wait();
-  QMetaObject::invokeMethod(this, abrir, Qt::QueuedConnection);
   return QApplication::exec();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QStandardPaths>
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <initializer_list>
@@ -43,10 +44,8 @@ bool DesktopShowsMotion(const std::filesystem::path& carpeta) {
       {{"gtk-3.0/settings.ini", "gtk-enable-animations=", {"0", "false"}},
        {"gtk-4.0/settings.ini", "gtk-enable-animations=", {"0", "false"}},
        {"kdeglobals", "AnimationDurationFactor=", {"0", "0.0"}}}};
-  for (const SwitchedOff& entrada : entradas) {
-    if (HasLine(carpeta, entrada)) return false;
-  }
-  return true;
+  return std::none_of(entradas.begin(), entradas.end(),
+                      [&carpeta](const SwitchedOff& entrada) { return HasLine(carpeta, entrada); });
 }
 
 bool DesktopShowsMotion() {

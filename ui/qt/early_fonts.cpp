@@ -5,7 +5,7 @@
 
 namespace tasca {
 
-EarlyFonts::EarlyFonts() : hilo_{[] { (void)FcInit(); }} {}
+EarlyFonts::EarlyFonts() : hilo_{[] { static_cast<void>(FcInit()); }} {}
 
 void EarlyFonts::Wait() {
   if (hilo_.joinable()) hilo_.join();

@@ -35,7 +35,7 @@ void InputLine::ExchangeDocument(const QString& texto) {
   nuevo->setPlainText(texto);
   const QPointer<QTextDocument> anterior{document()};
   setDocument(nuevo);
-  if (anterior && anterior->parent() == this) anterior->deleteLater();
+  if (anterior != nullptr && anterior->parent() == this) anterior->deleteLater();
   FitHeight();
 }
 

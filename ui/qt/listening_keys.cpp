@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <algorithm>
 #include <utility>
 
 namespace tasca {
@@ -18,12 +19,12 @@ bool ListeningKeys::eventFilter(QObject* objeto, QEvent* suceso) {
   if (pulsada == nullptr || pulsada->modifiers() != Qt::NoModifier) return false;
   const QWidget* const suya = qobject_cast<QWidget*>(objeto)->window();
   if (suya != &ventana_ && suya->parentWidget() != &ventana_) return false;
-  for (const ListeningEntry& entrada : ListeningEntries) {
-    if (pulsada->key() != entrada.Tecla) continue;
-    if (!pulsada->isAutoRepeat()) alPedir_(entrada.Que);
-    return true;
-  }
-  return false;
+  const auto* const entrada =
+      std::find_if(ListeningEntries.begin(), ListeningEntries.end(),
+                   [pulsada](const ListeningEntry& una) { return una.Tecla == pulsada->key(); });
+  if (entrada == ListeningEntries.end()) return false;
+  if (!pulsada->isAutoRepeat()) alPedir_(entrada->Que);
+  return true;
 }
 
 }  // namespace tasca
