@@ -43,7 +43,10 @@ constexpr auto NoCabe = "El archivo no tiene sitio para ese carácter.";
 constexpr auto EsSeparador = "El signo > no puede guardarse: separa las partes del archivo.";
 constexpr auto Largo = "El texto no puede ser más largo.";
 
-TEST_F(TextBox, LeavesTabForGoingOn) { EXPECT_TRUE(caja_->tabChangesFocus()); }
+TEST_F(TextBox, LeavesTabForGoingOn) {
+  Show(20);
+  EXPECT_TRUE(caja_->tabChangesFocus());
+}
 
 TEST_F(TextBox, AcceptsCharactersOfWindows1252) {
   Show(20);
