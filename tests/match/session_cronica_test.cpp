@@ -64,6 +64,13 @@ struct CronicaDeSesion : testing::Test {
   std::unique_ptr<Session> NuevaSesion() {
     return std::make_unique<Session>(Carpeta.Path(), Jugador, Estado.Path());
   }
+  // Ends the program, starts it again, and goes on with the match.
+  void EmpezarDeNuevo() {
+    Sesion.reset();
+    Sesion = NuevaSesion();
+    EXPECT_EQ(Sesion->Relato().Texto(), u"");
+    EXPECT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
+  }
   void Sentarse() const {
     Sesion->AbrirInicio();
     ASSERT_EQ(Sesion->Aceptar(), Situacion::EnLaMesa);
@@ -144,11 +151,8 @@ TEST_F(CronicaDeSesion, GoesOnWithTheMatch) {
   Situacion situacion = Situacion::EnLaMesa;
   for (int pasos = 0; situacion == Situacion::EnLaMesa && pasos < 10'000; ++pasos) {
     const std::u16string antes = Sesion->Relato().Texto();
-    Sesion.reset();
-    Sesion = NuevaSesion();
-    EXPECT_EQ(Sesion->Relato().Texto(), u"");
-    ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
-    ASSERT_EQ(Utf8(Sesion->Relato().Texto()), Utf8(antes));
+    EmpezarDeNuevo();
+    EXPECT_EQ(Utf8(Sesion->Relato().Texto()), Utf8(antes)) << pasos;
     situacion = Pulsar();
   }
   EXPECT_EQ(Utf8(Sesion->Relato().Texto()), Utf8(seguida));
@@ -173,9 +177,7 @@ TEST_F(CronicaDeSesion, HasAFileOfItsOwnForAnotherMatch) {
   Sentarse();
   Pulsar(TeclaQ);
   Sentarse();
-  Sesion.reset();
-  Sesion = NuevaSesion();
-  ASSERT_EQ(Sesion->Retomar(), Situacion::EnLaMesa);
+  EmpezarDeNuevo();
   EXPECT_TRUE(Cuenta(u"— Mano 1 —"));
   EXPECT_FALSE(Cuenta(u"— Mano 2 —"));
 }
