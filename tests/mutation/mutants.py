@@ -10,7 +10,7 @@ import source
 RULES = ("base", "cards", "characters", "count", "keep", "lances", "match", "mus", "scene", "score",
          "sound", "startup", "table")
 UI = ("ui", "tools/cast", "tools/check", "ui/loudspeaker", "ui/manual", "ui/mesa", "ui/qt",
-      "ui/terminal", "ui/trace")
+      "ui/spoken", "ui/terminal", "ui/trace")
 
 RELATIONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
              "==": ("!=",), "!=": ("==",)}

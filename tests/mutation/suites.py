@@ -52,16 +52,19 @@ class Ui:
 
     LIBRARIES = ("tasca_rules", "tasca_utf8", "tasca_options", "tasca_program_folder",
                  "tasca_cast_source", "tasca_trace_face", "tasca_media_player",
-                 "tasca_loudspeaker", "tasca_mesa", "tasca_manual", "tasca_terminal_face", "tasca_qt")
+                 "tasca_loudspeaker", "tasca_mesa", "tasca_spoken", "tasca_manual",
+                 "tasca_terminal_face", "tasca_qt")
     PROGRAMS = ("tasca", "tasca-editor", "tasca-terminal", "tasca-sound", "tasca-trace",
                 "tasca-cast", "tasca-check", "tasca-golden")
     TESTS = ("tests_ui_qt_start", "tests_ui_qt", "tests_ui_loudspeaker", "tests_ui_terminal",
-             "tests_ui_trace", "tests_tools_cast", "tests_ui", "tests_ui_mesa", "tests_manual")
+             "tests_ui_trace", "tests_tools_cast", "tests_ui", "tests_ui_mesa", "tests_ui_spoken",
+             "tests_manual")
     # From a prefix of a path to its tests, in order.
     BY_PATH = {
         "ui/qt/": ("tests_ui_qt_start", "start of tasca", "start of tasca-editor", "tests_ui_qt"),
         "ui/loudspeaker/": ("tests_ui_loudspeaker", "tests_ui_terminal", "tests_ui_qt"),
         "ui/mesa/": ("tests_ui_mesa", "tests_ui_qt"),
+        "ui/spoken/": ("tests_ui_spoken", "tests_ui_terminal", "tests_ui_qt"),
         "ui/manual/": ("tests_manual", "tests_ui_terminal", "tests_ui_qt"),
         "ui/terminal/": ("tests_ui_terminal",),
         "tools/check/": ("checker",),
@@ -69,6 +72,8 @@ class Ui:
         "ui/trace/": ("tests_ui_trace", "traces/"),
         "ui/program_folder": ("tests_ui_qt_start", "tests_ui_terminal", "tests_ui_qt"),
         "ui/state_folder": ("tests_ui",),
+        "ui/game_folder": ("tests_ui",),
+        "ui/own_files": ("tests_ui",),
         "ui/options": ("options/",),
         "ui/plain_text": ("tests_ui", "tests_ui_terminal", "checker"),
         "ui/utf8": ("tests_ui", "tests_tools_cast", "tests_ui_terminal", "tests_ui_trace", "traces/",
