@@ -67,9 +67,9 @@ class Ui:
         "ui/spoken/": ("tests_ui_spoken", "tests_ui_terminal", "tests_ui_qt"),
         "ui/manual/": ("tests_manual", "tests_ui_terminal", "tests_ui_qt"),
         "ui/terminal/": ("tests_ui_terminal",),
-        "tools/check/": ("checker",),
-        "tools/cast/": ("tests_tools_cast", "cast"),
-        "ui/trace/": ("tests_ui_trace", "traces/"),
+        "tools/check/": ("checker", "options/tasca-check"),
+        "tools/cast/": ("tests_tools_cast", "cast", "options/tasca-cast"),
+        "ui/trace/": ("tests_ui_trace", "options/tasca-trace", "traces/"),
         "ui/program_folder": ("tests_ui_qt_start", "tests_ui_terminal", "tests_ui_qt"),
         "ui/state_folder": ("tests_ui",),
         "ui/game_folder": ("tests_ui",),
@@ -94,10 +94,11 @@ class Ui:
         for name in ("tasca", "tasca-editor"):
             script = self._tests / "ui_qt_start" / "without-a-screen"
             found[f"start of {name}"] = ["sh", script, place(name)]
-        for name, language, arguments in (("tasca", "es", "none"), ("tasca-trace", "en", "some"),
-                                          ("tasca-check", "es", "some")):
-            script = self._tests / "ui" / "check-options"
-            found[f"options/{name}"] = ["sh", script, place(name), language, arguments, "1.0"]
+        script = self._tests / "ui" / "check-options"
+        for name, *kinds in (("tasca", "es", "none", "folder"), ("tasca-cast", "en", "some", "none"),
+                             ("tasca-check", "es", "some", "folder"),
+                             ("tasca-trace", "en", "some", "folder")):
+            found[f"options/{name}"] = ["sh", script, place(name), *kinds, "1.0"]
         found["checker"] = ["sh", self._tests / "tools_check" / "check-program", place("tasca-check"),
                             self._data / "Jugadores.dat"]
         found["cast"] = ["sh", "-c", '"$0" "$1/personajes.txt" written && '

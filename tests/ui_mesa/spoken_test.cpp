@@ -63,6 +63,8 @@ TEST(LaMesaHablada, NamesThePlayersCardsInTheirPlaces) {
   EXPECT_EQ(Said(escena, Parte::Carta, 1), "Su carta 1: Rey de copas");
   EXPECT_EQ(Said(escena, Parte::Carta, 2), "");
   EXPECT_EQ(Said(escena, Parte::Carta, 4), "Su carta 4: As de oros");
+  escena.Asientos[1].Naipes[4].Carta = 0;
+  EXPECT_EQ(Said(escena, Parte::Carta, 4), "") << "it lies face down";
 }
 
 TEST(LaMesaHablada, TellsTheSlate) {

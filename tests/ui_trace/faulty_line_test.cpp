@@ -199,7 +199,20 @@ TEST(TraceFaultyLine, InsteadOfAButtonOfTheDialog) {
 TEST(TraceFaultyLine, AnOrdagoOffersNeitherARaiseNorAnother) {
   // One stone before the end of the juego seat 2 bets an órdago after the human's paso.
   const Lines before{Start, Enter, No, Enter, Result(0)};
-  EveryOneIsRefused(TraceFolder{1, 3, 3}, before, {Result(2), Result(3)});
+  const TraceFolder folder{1, 3, 3};
+  EveryOneIsRefused(folder, before, {Result(2), Result(3)});
+  EXPECT_EQ(folder.Play({Start, Enter, No, Enter, Result(0), Result(2)}).Err,
+            "line 6: the dialog does not offer that button now\n");
+}
+
+TEST(TraceFaultyLine, SaysWhatIsWaitedFor) {
+  const TraceFolder folder{35, 3, 3};
+  EXPECT_EQ(folder.Play({Start, Enter, "{}"}).Err,
+            "line 3: button \"yes\" or \"no\" is waited for\n");
+  EXPECT_EQ(folder.Play({Start, Enter, No, Enter, "{}"}).Err,
+            "line 5: a result of the dialog is waited for\n");
+  EXPECT_EQ(folder.Play({Start, Enter, No, Enter, Result(2), "{}"}).Err,
+            "line 6: text or button \"cancel\" is waited for\n");
 }
 
 TEST(TraceFaultyLine, TheEndOfTheInputWhileAQuestionIsOpen) {
