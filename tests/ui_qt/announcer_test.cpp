@@ -29,10 +29,27 @@ TEST(Announcer, TellsItsWindowEachText) {
   const Ear oido;
   QWidget ventana;
   Announcer voz{ventana};
+  ventana.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
   voz.Say(QStringLiteral("Ana: paso."));
   voz.Say({});
   voz.Say(QStringLiteral("Ana: paso."));
   EXPECT_EQ(oido.Heard(), (Spoken{"Ana: paso.", "Ana: paso."}));
+}
+
+TEST(Announcer, WaitsUntilItsWindowIsActive) {
+  Ear oido;
+  QWidget ventana;
+  Announcer voz{ventana};
+  voz.Say(QStringLiteral("Partida de"));
+  voz.Say(QStringLiteral("Sus cartas son"));
+  EXPECT_EQ(oido.Heard(), Spoken{});
+  ventana.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+  EXPECT_EQ(oido.TakeHeard(), (Spoken{"Partida de", "Sus cartas son"}));
+  ventana.hide();
+  voz.Say(QStringLiteral("Ana: paso."));
+  EXPECT_EQ(oido.TakeHeard(), Spoken{"Ana: paso."}) << "only the first time";
 }
 
 // Rey and sota of copas, the six of copas, the as of oros; Dora is mano.

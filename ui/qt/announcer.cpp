@@ -67,6 +67,8 @@ class SaidText : public Unseen {
 
 }  // namespace
 
+Announcer::Announcer(QWidget& ventana) : ventana_{ventana} { ventana.installEventFilter(this); }
+
 Announcer::~Announcer() {
   for (const QAccessible::Id dicho : dichos_) QAccessible::deleteAccessibleInterface(dicho);
   if (barra_ != 0) QAccessible::deleteAccessibleInterface(barra_);
@@ -74,6 +76,19 @@ Announcer::~Announcer() {
 
 void Announcer::Say(const QString& texto) {
   if (texto.isEmpty()) return;
+  haLlegado_ = haLlegado_ || ventana_.isActiveWindow();
+  if (!haLlegado_) return porDecir_.append(texto);
+  Tell(texto);
+}
+
+bool Announcer::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (objeto != &ventana_ || suceso->type() != QEvent::WindowActivate) return false;
+  haLlegado_ = true;
+  for (const QString& texto : std::exchange(porDecir_, {})) Tell(texto);
+  return false;
+}
+
+void Announcer::Tell(const QString& texto) {
   SaidEvent dicho{texto};
   QCoreApplication::sendEvent(&ventana_, &dicho);
   if (QAccessible::isActive()) Notify(texto);

@@ -5,7 +5,9 @@
 // the name of its role, and keep it on the braille line for a moment.
 #include <QAccessible>
 #include <QEvent>
+#include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <deque>
 #include <utility>
@@ -25,22 +27,28 @@ class SaidEvent : public QEvent {
   QString Texto;
 };
 
-class Announcer {
+class Announcer : public QObject {
  public:
   // The status bar belongs to `ventana`, which must outlive the announcer.
-  explicit Announcer(QWidget& ventana) : ventana_{ventana} {}
+  explicit Announcer(QWidget& ventana);
   Announcer(const Announcer&) = delete;
   Announcer& operator=(const Announcer&) = delete;
-  ~Announcer();
+  ~Announcer() override;
 
-  // Says `texto`. "" says nothing.
+  // Says `texto`. "" says nothing. Before the window has been active for the first time the text
+  // waits for that: screen readers stop speaking when the window before it is deactivated.
   void Say(const QString& texto);
 
+  bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
  private:
+  void Tell(const QString& texto);
   // Shows the notification. Requires an assistive technology.
   void Notify(const QString& texto);
 
   QWidget& ventana_;
+  bool haLlegado_ = false;  // the window has been active
+  QStringList porDecir_;
   QAccessible::Id barra_ = 0;  // 0 until something is said
   // The last texts: screen readers ask for them after a while.
   std::deque<QAccessible::Id> dichos_;
