@@ -1,11 +1,11 @@
 #pragma once
-// The texts of the game and the main windows for screen readers: the texts without the padding of
-// their cards, and the windows as windows.
+// What screen readers get of the windows: texts without padding, main windows as windows, and no
+// event that would make them say something too early or once more.
 
 namespace tasca {
 
-// Installs the description for the transcript, the input line and both main windows. Requires a
-// QApplication. Further calls have no effect.
+// Installs the descriptions of the transcript, the input line, every line of text and both main
+// windows, and the filter of the events. Requires a QApplication. Further calls have no effect.
 void DescribeTexts();
 
 }  // namespace tasca

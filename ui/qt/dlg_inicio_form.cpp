@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "ui/qt/accessible.h"
 #include "ui/qt/qt_text.h"
 #include "ui/spoken/sentences.h"
 
@@ -124,6 +125,7 @@ DlgInicioForm::DlgInicioForm(DlgInicio& estado, Events sucesos)
                new QRadioButton{QStringLiteral("Estilo indirecto"), this}},
       cbOK_{new QPushButton{QStringLiteral("&Aceptar"), this}},
       cbCancel_{new QPushButton{QStringLiteral("&Salir del juego"), this}} {
+  DescribeTexts();
   setWindowTitle(ToDisplay(TituloAplicacion));
   NameControls();
   BuildLayout();

@@ -3,6 +3,8 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QAccessible>
+#include <QApplication>
+#include <QFocusEvent>
 #include <QMimeData>
 #include <QPointer>
 #include <QTextBlock>
@@ -56,6 +58,18 @@ void InputLine::resizeEvent(QResizeEvent* suceso) {
 void InputLine::changeEvent(QEvent* suceso) {
   QPlainTextEdit::changeEvent(suceso);
   if (suceso->type() == QEvent::FontChange) FitHeight();
+}
+
+void InputLine::focusInEvent(QFocusEvent* suceso) {
+  const bool vuelve = std::exchange(enUnaCaja_, false);
+  focoSabido_ = vuelve && suceso->reason() == Qt::ActiveWindowFocusReason;
+  QPlainTextEdit::focusInEvent(suceso);
+}
+
+void InputLine::focusOutEvent(QFocusEvent* suceso) {
+  enUnaCaja_ = suceso->reason() == Qt::ActiveWindowFocusReason &&
+               QApplication::activeModalWidget() != nullptr;
+  QPlainTextEdit::focusOutEvent(suceso);
 }
 
 void InputLine::LimitHeight(int maximo) {

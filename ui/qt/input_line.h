@@ -17,8 +17,13 @@ class InputLine : public QPlainTextEdit {
   void ShowText(const QString& texto);
   // Sets the greatest height; a longer text scrolls.
   void LimitHeight(int maximo);
+  // Whether the focus came with the window's first activation, or back from a box over the window:
+  // what is in the line has been said before.
+  bool FocusIsKnown() const { return focoSabido_; }
 
  protected:
+  void focusInEvent(QFocusEvent* suceso) override;
+  void focusOutEvent(QFocusEvent* suceso) override;
   void keyPressEvent(QKeyEvent* suceso) override;
   void insertFromMimeData(const QMimeData* datos) override;
   void resizeEvent(QResizeEvent* suceso) override;
@@ -31,7 +36,9 @@ class InputLine : public QPlainTextEdit {
   void FitHeight();
 
   KeyHandler alPulsar_;
-  int maximo_ = 0;  // 0 for no limit
+  int maximo_ = 0;         // 0 for no limit
+  bool enUnaCaja_ = true;  // the focus is in a box over the window, or has not been here yet
+  bool focoSabido_ = false;
 };
 
 }  // namespace tasca
