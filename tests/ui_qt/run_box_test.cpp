@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <array>
+#include <functional>
 #include <utility>
 
 #include "table/dialog.h"
@@ -114,6 +115,30 @@ TEST(RunBox, AcceptsTheKeyAfterOneThatCameTooEarly) {
   RunBox(caja, inicial);
   EXPECT_EQ(caja.clickedButton(), inicial);
   EXPECT_EQ(teclas, 2);
+}
+
+// A step of the game follows the answer. What it says must come before the activation of the main
+// window, which the event loop handles.
+TEST(RunBox, HidesEveryBoxAfterItsEventLoop) {
+  QtPort port;
+  Dialog dialogo;
+  Form_Activate(dialogo);
+  const std::array<std::function<void()>, 5> cajas{
+      [] { ShowMessage(nullptr, u"hola"); },
+      [] { AskYesNo(nullptr, {.Titulo = u"¿mus?", .Texto = u""}); },
+      [] { AskOkCancel(nullptr, u"¿Fuera?", u""); },
+      [] { AskText(nullptr, u"¿Cuántas?", u"Envite", u"2"); },
+      [&] { port.ShowDialog(MesaDePrueba(), dialogo); }};
+  for (std::size_t i = 0; i < cajas.size(); ++i) {
+    bool trasContestar = false;
+    const BoxAnswerer jugador{[&trasContestar](QWidget* caja) {
+      Press(caja, Qt::Key_Return);
+      trasContestar = caja->isVisible();
+    }};
+    cajas.at(i)();
+    EXPECT_TRUE(trasContestar) << i;
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << i;
+  }
 }
 
 TEST(RunBox, LetsThePlayerMoveTheFocus) {

@@ -9,6 +9,7 @@ MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS = "message", "yes-no", "ok-cancel", "inp
 KINDS = (STARTUP, MAIN, MESSAGE, YES_NO, OK_CANCEL, INPUT, BETS)
 
 _BOXES = {("Aceptar",): MESSAGE, ("Sí", "No"): YES_NO, ("Aceptar", "Cancelar"): OK_CANCEL}
+_BUTTONS = "Sí, s; No, n"  # after the text of a Yes/No box
 _TABLE = "frame"  # the role of the main window
 _SHEETS = ("Sus cartas", "Lo que pasa en la mesa", "Tanteo, primero su pareja")
 
@@ -114,7 +115,8 @@ class Seen:
         return [part.name for part in self.having(role, state)]
 
     def text(self):
-        return "".join(self.names("label"))
+        """The text of a box, without what only screen readers get."""
+        return re.sub(rf"\n?{_BUTTONS}\Z", "", "".join(self.names("label")))
 
     def event(self):
         """The window as an event of the transcript."""

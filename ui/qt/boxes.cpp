@@ -3,6 +3,7 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "base/text.h"
 #include "ui/qt/qt_text.h"
 #include "ui/qt/run_box.h"
 #include "ui/spoken/sentences.h"
@@ -19,12 +21,31 @@
 namespace tasca {
 namespace {
 
+// A clicked button closes a QMessageBox without done(), so that it could not stay.
+class MessageBox : public LateHiding<QMessageBox> {
+ public:
+  explicit MessageBox(QWidget* padre) : LateHiding{padre} {
+    auto* const botones = findChild<QDialogButtonBox*>();
+    disconnect(botones, nullptr, this, nullptr);
+    connect(botones, &QDialogButtonBox::clicked, this, [this](QAbstractButton* boton) {
+      pulsado_ = boton;
+      done(Accepted);
+    });
+  }
+
+  // The button that answered; nullptr if none did.
+  const QAbstractButton* Pressed() const { return pulsado_; }
+
+ private:
+  const QAbstractButton* pulsado_ = nullptr;
+};
+
 // QMessageBox takes Esc and the close box for "No"; here they do nothing. It also presses a button
 // 100 ms after its letter, and Enter in between presses the default button; here the letter acts at
 // once.
-class YesNoMessageBox : public QMessageBox {
+class YesNoMessageBox : public MessageBox {
  public:
-  using QMessageBox::QMessageBox;
+  using MessageBox::MessageBox;
   void reject() override {}
 
  protected:
@@ -60,10 +81,14 @@ void LeaveRoomForTitle(QMessageBox& caja) {
   rejilla->addItem(RoomForTitle(caja), rejilla->rowCount(), 0, 1, rejilla->columnCount());
 }
 
-// Keeps the focus and screen readers off an empty text.
+QLabel* TextOf(const QMessageBox& caja) {
+  return caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+}
+
+// Keeps the focus off an empty text.
 void SkipEmptyText(const QMessageBox& caja) {
   if (!caja.text().isEmpty()) return;
-  auto* const etiqueta = caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  auto* const etiqueta = TextOf(caja);
   if (etiqueta != nullptr) etiqueta->setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
@@ -79,11 +104,16 @@ void Prepare(QMessageBox& caja, const char* nombre, std::u16string_view titulo,
   caja.setTextFormat(Qt::PlainText);
   caja.setText(ToDisplay(texto));
   SkipEmptyText(caja);
-  TellText(caja.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")), texto);
+  TellText(TextOf(caja), texto);
+}
+
+// Screen readers say a box's title and text, but of its buttons only the one with the focus.
+std::u16string ConBotones(std::u16string_view texto) {
+  return Join(texto, texto.empty() ? u"" : u"\r\n", u"Sí, s; No, n");
 }
 
 void ShowBox(QWidget* padre, QMessageBox::Icon icono, std::u16string_view texto) {
-  QMessageBox caja{padre};
+  MessageBox caja{padre};
   Prepare(caja, "MsgBox", {}, texto);
   caja.setIcon(icono);
   auto* const aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
@@ -110,26 +140,27 @@ std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
   auto* const no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
   auto* const porDefecto = pregunta.PorDefecto ? si : no;
   caja.setDefaultButton(porDefecto);
+  TellText(TextOf(caja), ConBotones(pregunta.Texto));
   LeaveRoomForTitle(caja);
   RunBox(caja, porDefecto);
-  if (caja.clickedButton() == nullptr) return std::nullopt;
-  return caja.clickedButton() == si;
+  if (caja.Pressed() == nullptr) return std::nullopt;
+  return caja.Pressed() == si;
 }
 
 bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view titulo) {
-  QMessageBox caja{padre};
+  MessageBox caja{padre};
   Prepare(caja, "OkCancelBox", titulo, texto);
   auto* const aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
   caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole);
   caja.setDefaultButton(aceptar);
   LeaveRoomForTitle(caja);
   RunBox(caja, aceptar);
-  return caja.clickedButton() == aceptar;
+  return caja.Pressed() == aceptar;
 }
 
 std::u16string AskText(QWidget* padre, std::u16string_view texto, std::u16string_view titulo,
                        std::u16string_view porDefecto, const AnswerHelper& ayuda) {
-  QInputDialog caja{padre};
+  LateHiding<QInputDialog> caja{padre};
   caja.setObjectName(QStringLiteral("InputBox"));
   caja.setWindowTitle(TituloDe(titulo));
   caja.setInputMode(QInputDialog::TextInput);

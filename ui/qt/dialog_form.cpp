@@ -50,7 +50,7 @@ std::optional<int> Vecino(int indice, int tecla) {
 }  // namespace
 
 DialogForm::DialogForm(QWidget* padre, Dialog& dialogo)
-    : QDialog{padre, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint},
+    : LateHiding{padre, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint},
       dialogo_{dialogo} {
   setObjectName(QStringLiteral("Dialog"));
   setWindowTitle(ToDisplay(dialogo.Caption));

@@ -6,10 +6,11 @@
 #include <array>
 
 #include "table/dialog.h"
+#include "ui/qt/run_box.h"
 
 namespace tasca {
 
-class DialogForm : public QDialog {
+class DialogForm : public LateHiding<QDialog> {
  public:
   // Shows the prepared `dialogo` and passes pressed buttons on to it. `dialogo` must outlive it.
   DialogForm(QWidget* padre, Dialog& dialogo);

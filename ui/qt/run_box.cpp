@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <optional>
 
 #include "ui/qt/box_place.h"
@@ -22,10 +23,14 @@ class KeyGuard : public QObject {
   bool eventFilter(QObject* objeto, QEvent* suceso) override {
     if (suceso->type() == QEvent::FocusIn && inicial_->hasFocus()) lista_ = true;
     const bool esTecla = suceso->type() == QEvent::KeyPress || suceso->type() == QEvent::Shortcut;
-    if (!esTecla || !IsOfTheBox(objeto) || (lista_ && caja_.isVisible())) return false;
-    if (caja_.isVisible()) GetReady();
+    const bool abierta = caja_.isVisible() && !contestada_;
+    if (!esTecla || !IsOfTheBox(objeto) || (lista_ && abierta)) return false;
+    if (abierta) GetReady();
     return true;
   }
+
+  // Further keys would answer twice.
+  void Answered() { contestada_ = true; }
 
  private:
   bool IsOfTheBox(QObject* objeto) const {
@@ -41,7 +46,27 @@ class KeyGuard : public QObject {
   QDialog& caja_;
   QWidget* inicial_;
   bool lista_ = false;
+  bool contestada_ = false;
 };
+
+// Returns also when the program ends; then the box has no answer.
+void WaitForAnswer(QDialog& caja, KeyGuard& guarda) {
+  QEventLoop espera;
+  std::optional<int> resultado;
+  const auto contestar = [&](int cual) {
+    if (!resultado) resultado = cual;
+    guarda.Answered();
+    espera.quit();
+  };
+  QObject::connect(&caja, &QDialog::finished, &espera, contestar);
+  auto* const tardia = dynamic_cast<HidesLate*>(&caja);
+  if (tardia != nullptr) tardia->Stay(contestar);
+  caja.show();
+  espera.exec(QEventLoop::DialogExec);
+  if (tardia == nullptr) return;
+  tardia->Stay(nullptr);
+  if (resultado) caja.done(*resultado);
+}
 
 }  // namespace
 
@@ -51,9 +76,11 @@ int RunBox(QDialog& caja, QWidget* inicial) {
     sitio.emplace(caja, [form1] { return form1->Surroundings(); });
   }
   const RepeatGuard repeticiones{caja};
-  const KeyGuard guarda{caja, inicial};
+  KeyGuard guarda{caja, inicial};
   inicial->setFocus();
-  return caja.exec();
+  caja.setModal(true);
+  WaitForAnswer(caja, guarda);
+  return caja.result();
 }
 
 }  // namespace tasca
