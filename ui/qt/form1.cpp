@@ -209,21 +209,24 @@ void Form1::Listen(Escucha que) {
   voz_.Say(dicho);
 }
 
-void Form1::ShowTexts(const Form1State& estado) {
+void Form1::CopyTexts(const Form1State& estado) {
   text1_->ShowText(ToDisplay(estado.Text1));
   ShowHelp();
-  if (Renovar(copiado2_, estado.Text2)) {
-    text2_->ShowText(ToDisplay(estado.Text2));
-    voz_.Say(ToDisplay(Seguido(recital_.Nuevos(estado.Text2))));
-  }
+  if (Renovar(copiado2_, estado.Text2)) text2_->ShowText(ToDisplay(estado.Text2));
   if (!Renovar(copiado3_, estado.Text3)) return;
   text3_->setText(ToDisplay(estado.Text3));
   FitText3();
 }
 
+void Form1::ShowTexts(const Form1State& estado) {
+  CopyTexts(estado);
+  voz_.Say(ToDisplay(Seguido(recital_.Nuevos(estado.Text2))));
+}
+
 void Form1::ShowTable(const Table& t, Momento momento) {
-  ShowTexts(t);
+  CopyTexts(t);
   const Escena escena = EscenaDe(t, momento);
+  voz_.Say(ToDisplay(Seguido(recital_.Nuevos(t.Text2, escena))));
   mesa_->ShowScene(escena);
   marcador_->ShowScene(escena);
 }

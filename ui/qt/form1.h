@@ -84,6 +84,7 @@ class Form1 : public QWidget {
   // Says what the player asks for, and shows it instead of the help until the next step.
   void Listen(Escucha que);
   std::u16string Asked(Escucha que) const;
+  void CopyTexts(const Form1State& estado);
   void EnlargeTexts();
   void FitText3();
   void PressEnter();
