@@ -10,6 +10,7 @@
 #include "tests/support/tables.h"
 #include "tests/ui_qt/companions.h"
 #include "tests/ui_qt/player.h"
+#include "ui/own_files.h"
 
 namespace tasca::test {
 namespace {
@@ -76,6 +77,51 @@ class EditorInWindows : public testing::Test {
 
 constexpr auto SinGuardar =
     "Hay cambios que no se han guardado en el disco. ¿Salir sin guardarlos?";
+
+TEST(PlaceOfFile, IsTheFolderOfTheFileWhichIsLoaded) {
+  const EditorPlace sitio = PlaceOfFile("/casa/ana/Amigos.dat");
+  EXPECT_EQ(sitio.Folder, "/casa/ana");
+  EXPECT_EQ(sitio.Start.File, "Amigos.dat");
+  EXPECT_TRUE(sitio.Start.NotSaved.empty());
+  EXPECT_TRUE(sitio.Start.News.empty());
+}
+
+TEST(PlaceOfFile, CompletesARelativePath) {
+  const EditorPlace sitio = PlaceOfFile("Amigos.dat");
+  EXPECT_EQ(sitio.Folder, std::filesystem::current_path());
+  EXPECT_EQ(sitio.Start.File, "Amigos.dat");
+}
+
+TEST(PlaceOfGame, LoadsNothingAndTellsWhatCannotBeSaved) {
+  const TempFolder carpeta;
+  const EditorPlace sitio = PlaceOfGame({.Files = carpeta.Path(),
+                                         .Shipped = {},
+                                         .SoundProgram = {},
+                                         .NotSaved = u"no hay sitio en el disco"});
+  EXPECT_EQ(sitio.Folder, carpeta.Path());
+  EXPECT_TRUE(sitio.Start.File.empty());
+  EXPECT_EQ(Utf8(sitio.Start.NotSaved), "no hay sitio en el disco");
+  EXPECT_TRUE(sitio.Start.News.empty());
+}
+
+// An update of the game has laid a new file beside the one that the user has changed.
+TEST(PlaceOfGame, TakesTheNewFilesOnce) {
+  const TempFolder enviada;
+  const TempFolder propia;
+  const auto traer = [&](const char* personajes) {
+    enviada.Write("Jugadores.dat", personajes);
+    enviada.Write("mus.ini", "Ana> Nombre\r\n");
+    EXPECT_EQ(Utf8(BringOwnFiles(enviada.Path(), propia.Path())), "");
+  };
+  traer("uno");
+  propia.Write("Jugadores.dat", "otro");
+  traer("dos");
+  const GameFolder juego{
+      .Files = propia.Path(), .Shipped = enviada.Path(), .SoundProgram = {}, .NotSaved = {}};
+  EXPECT_EQ(PlaceOfGame(juego).Start.News,
+            std::vector<std::filesystem::path>{propia.Path() / "Jugadores.dat.nuevo"});
+  EXPECT_TRUE(PlaceOfGame(juego).Start.News.empty());
+}
 
 TEST_F(EditorInWindows, LoadsAddsSavesAndEnds) {
   EXPECT_EQ(Work({Alt(Qt::Key_C), Reads("se han cargado 5 jugadores"), Alt(Qt::Key_N),

@@ -1,10 +1,6 @@
 // tasca-editor: the editor of the character file.
-#include <filesystem>
-#include <system_error>
-
 #include "ui/game_folder.h"
 #include "ui/options.h"
-#include "ui/own_files.h"
 #include "ui/program_folder.h"
 #include "ui/qt/application.h"
 #include "ui/qt/editor_program.h"
@@ -21,23 +17,11 @@ constexpr tasca::ProgramOptions Programa{
     .TakesArguments = true,
     .TakesFolder = true};
 
-tasca::EditorProgram EditorOf(const std::filesystem::path& archivo) {
-  std::error_code error;
-  const std::filesystem::path completo = std::filesystem::absolute(archivo, error);
-  const std::filesystem::path& ruta = error ? archivo : completo;
-  return tasca::EditorProgram{ruta.parent_path(), {.File = ruta.filename()}};
-}
-
-tasca::EditorProgram EditorOf(const tasca::GameFolder& carpeta) {
-  return tasca::EditorProgram{
-      carpeta.Files, {.NotSaved = carpeta.NotSaved, .News = tasca::TakeNewFiles(carpeta.Files)}};
-}
-
-tasca::EditorProgram Editor(int argc, const char* const* argv) {
+tasca::EditorPlace Place(int argc, const char* const* argv) {
   const auto dados = tasca::Operands(Programa, argc, argv);
-  if (!dados.empty()) return EditorOf(std::filesystem::path{dados.front()});
-  return EditorOf(tasca::FindGameFolder(tasca::ProgramFolder(argv[0]),
-                                        tasca::ChosenFolder(argc, argv), tasca::DataFolder()));
+  if (!dados.empty()) return tasca::PlaceOfFile(dados.front());
+  return tasca::PlaceOfGame(tasca::FindGameFolder(
+      tasca::ProgramFolder(argv[0]), tasca::ChosenFolder(argc, argv), tasca::DataFolder()));
 }
 
 }  // namespace
@@ -48,6 +32,7 @@ int main(int argc, char** argv) {
   // Application has removed the toolkit's own options.
   if (const auto estado = tasca::RefuseOptions(Programa, argc, argv)) return *estado;
   if (tasca::Operands(Programa, argc, argv).size() > 1) return tasca::UsageError(Programa);
-  tasca::EditorProgram programa = Editor(argc, argv);
+  const tasca::EditorPlace sitio = Place(argc, argv);
+  tasca::EditorProgram programa{sitio.Folder, sitio.Start};
   return aplicacion.Run([&programa] { programa.Open(); }, programa.AtSessionEnd());
 }

@@ -2,10 +2,12 @@
 #include "ui/qt/editor_program.h"
 
 #include <QApplication>
+#include <system_error>
 #include <utility>
 
 #include "base/path_text.h"
 #include "base/text.h"
+#include "ui/own_files.h"
 #include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
 #include "ui/qt/phrase_box.h"
@@ -29,6 +31,18 @@ std::u16string QtEditorPort::InputBox(std::u16string_view texto, std::u16string_
 }
 
 void QtEditorPort::Beep() { QApplication::beep(); }
+
+EditorPlace PlaceOfFile(const std::filesystem::path& archivo) {
+  std::error_code error;
+  const std::filesystem::path completo = std::filesystem::absolute(archivo, error);
+  const std::filesystem::path& ruta = error ? archivo : completo;
+  return {.Folder = ruta.parent_path(), .Start = {.File = ruta.filename()}};
+}
+
+EditorPlace PlaceOfGame(const GameFolder& carpeta) {
+  return {.Folder = carpeta.Files,
+          .Start = {.NotSaved = carpeta.NotSaved, .News = TakeNewFiles(carpeta.Files)}};
+}
 
 EditorProgram::EditorProgram(std::filesystem::path carpeta, EditorStart comienzo)
     : comienzo_{std::move(comienzo)} {

@@ -7,6 +7,7 @@
 
 #include "characters/editor.h"
 #include "table/table.h"
+#include "ui/game_folder.h"
 #include "ui/qt/dialog1_form.h"
 #include "ui/qt/manual.h"
 #include "ui/qt/session_end.h"
@@ -36,6 +37,17 @@ struct EditorStart {
   std::u16string NotSaved = {};     // why nothing may be written to the folder; "" if it may
   std::vector<std::filesystem::path> News = {};  // new files that lie beside the user's own
 };
+
+// The folder in which the editor works, and how it starts there.
+struct EditorPlace {
+  std::filesystem::path Folder;
+  EditorStart Start;
+};
+
+// For a character file, which is loaded at once.
+EditorPlace PlaceOfFile(const std::filesystem::path& archivo);
+// For the game's characters. Takes the new files that lie beside the user's own.
+EditorPlace PlaceOfGame(const GameFolder& carpeta);
 
 class EditorProgram {
  public:
