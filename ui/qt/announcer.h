@@ -1,16 +1,15 @@
 #pragma once
 // Makes screen readers say a text at once, whatever has the focus. Qt 6.4 has no event for that,
 // and its event of a changed description does not carry the description. So each text becomes a
-// notification in a status bar that only screen readers see: they say it when it is shown, without
-// the name of its role, and keep it on the braille line for a moment.
-#include <QAccessible>
+// notification.
 #include <QEvent>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
-#include <deque>
 #include <utility>
+
+#include "ui/qt/notifications.h"
 
 namespace tasca {
 
@@ -33,7 +32,7 @@ class Announcer : public QObject {
   explicit Announcer(QWidget& ventana);
   Announcer(const Announcer&) = delete;
   Announcer& operator=(const Announcer&) = delete;
-  ~Announcer() override;
+  ~Announcer() override = default;
 
   // Says `texto`. "" says nothing. Before the window has been active for the first time the text
   // waits for that: screen readers stop speaking when the window before it is deactivated.
@@ -43,15 +42,11 @@ class Announcer : public QObject {
 
  private:
   void Tell(const QString& texto);
-  // Shows the notification. Requires an assistive technology.
-  void Notify(const QString& texto);
 
   QWidget& ventana_;
   bool haLlegado_ = false;  // the window has been active
   QStringList porDecir_;
-  QAccessible::Id barra_ = 0;  // 0 until something is said
-  // The last texts: screen readers ask for them after a while.
-  std::deque<QAccessible::Id> dichos_;
+  Notifications avisos_{ventana_};
 };
 
 }  // namespace tasca
