@@ -6,9 +6,12 @@
 #include <QShortcut>
 #include <QWindow>
 
+#include "ui/qt/accessible.h"
+
 namespace tasca {
 
 BesideWindow::BesideWindow() {
+  DescribeTexts();
   connect(new QShortcut{Qt::Key_Escape, this}, &QShortcut::activated, this, &QWidget::close);
 }
 
