@@ -55,7 +55,9 @@ void UnpaddedText::selection(int indice, int* desde, int* hasta) const {
   *hasta = indice == 0 ? ToSpoken(ultimo) : 0;
 }
 
-void UnpaddedText::addSelection(int desde, int hasta) { Select(ToShown(desde), ToShown(hasta)); }
+void UnpaddedText::addSelection(int desde, int hasta) {
+  Select(ToShown(desde), EndInShown(desde, hasta));
+}
 
 void UnpaddedText::removeSelection(int indice) {
   if (indice == 0) Select(Cursor(), Cursor());
@@ -94,6 +96,11 @@ int UnpaddedText::ToShown(int sitio) const {
   const std::vector<int> sitios = Places();
   const bool alFinal = sitio < 0 || sitio >= static_cast<int>(sitios.size());
   return alFinal ? static_cast<int>(Shown().size()) : sitios.at(static_cast<std::size_t>(sitio));
+}
+
+int UnpaddedText::EndInShown(int desde, int hasta) const {
+  const bool hayUltimo = hasta > desde && hasta <= characterCount();
+  return hayUltimo ? ToShown(hasta - 1) + 1 : ToShown(hasta);
 }
 
 QAccessible::State UnpaddedSheet::state() const {

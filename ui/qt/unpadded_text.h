@@ -50,6 +50,8 @@ class UnpaddedText : public QAccessibleWidget, public QAccessibleTextInterface {
   // The positions of the characters that are no padding.
   std::vector<int> Places() const;
   int ToSpoken(int sitio) const;
+  // The end in the shown text of a run that begins at `desde`, without the padding after it.
+  int EndInShown(int desde, int hasta) const;
 };
 
 // A box of several lines with the game's text.

@@ -1,0 +1,94 @@
+// The events that screen readers are told.
+#include "ui/qt/told_events.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+#include <array>
+
+#include "tests/support/tables.h"
+#include "tests/ui_qt/player.h"
+#include "ui/qt/boxes.h"
+#include "ui/qt/form1.h"
+
+namespace tasca::test {
+namespace {
+
+TEST(TellingOf, IsNothingForTheTextOfAFieldBeforeItsBoxIsActive) {
+  QLineEdit campo;
+  campo.setText(QStringLiteral("2"));
+  const std::array<QAccessible::Event, 5> clases{
+      QAccessible::TextCaretMoved, QAccessible::TextInserted, QAccessible::TextRemoved,
+      QAccessible::TextSelectionChanged, QAccessible::TextUpdated};
+  for (const QAccessible::Event clase : clases) {
+    EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, clase}), Telling::Not) << clase;
+  }
+  EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, QAccessible::Focus}), Telling::AsItIs);
+  EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, QAccessible::NameChanged}), Telling::AsItIs);
+  campo.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&campo));
+  for (const QAccessible::Event clase : clases) {
+    EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, clase}), Telling::AsItIs) << clase;
+  }
+}
+
+struct ToldForm1 : testing::Test {
+  ToldForm1() {
+    ventana_.ShowTable(MesaDePrueba(), Momento::Reposo);
+    ventana_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  }
+  Telling OfFocus() {
+    return TellingOf({Control<QWidget>(&ventana_, "Text1"), QAccessible::Focus});
+  }
+
+  Form1 ventana_{
+      {.Text1_KeyDown = [](Integer&, Integer) {}, .Sonido_Click = [](bool) {}, .Closed = [] {}}};
+};
+
+TEST_F(ToldForm1, ReadsTheHandWhenThePlayerGoesToIt) {
+  EXPECT_EQ(OfFocus(), Telling::Silently) << "the opening tells the cards";
+  Press(&ventana_, Qt::Key_Tab);
+  Press(&ventana_, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(OfFocus(), Telling::AsItIs);
+}
+
+TEST_F(ToldForm1, DoesNotReadTheHandAgainAfterABox) {
+  Press(&ventana_, Qt::Key_Tab);
+  Press(&ventana_, Qt::Key_Backtab, Qt::ShiftModifier);
+  const BoxAnswerer jugador{[](QWidget* caja) { Press(caja, Qt::Key_Return); }};
+  ShowMessage(&ventana_, u"La pareja 1 gana");
+  ventana_.activateWindow();  // the offscreen platform does not do it
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  EXPECT_EQ(OfFocus(), Telling::Silently);
+}
+
+TEST_F(ToldForm1, ReadsTheHandWhenThePlayerComesFromAnotherWindow) {
+  QWidget otra;
+  otra.show();
+  otra.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&otra));
+  ventana_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana_));
+  EXPECT_EQ(OfFocus(), Telling::AsItIs);
+}
+
+// Every event passes the filter, which passes it on and stays.
+TEST_F(ToldForm1, StaysInPlaceAfterAnEvent) {
+  const QAccessible::UpdateHandler filtro = QAccessible::installUpdateHandler(nullptr);
+  ASSERT_NE(filtro, nullptr);
+  QWidget* const linea = Control<QWidget>(&ventana_, "Text1");
+  QLineEdit campo;
+  QAccessibleEvent callado{linea, QAccessible::Focus};
+  QAccessibleEvent ninguno{&campo, QAccessible::TextInserted};
+  QAccessibleEvent corriente{linea, QAccessible::NameChanged};
+  for (QAccessibleEvent* const suceso : {&callado, &ninguno, &corriente}) {
+    filtro(suceso);
+    EXPECT_EQ(QAccessible::installUpdateHandler(nullptr), filtro);
+  }
+  QAccessible::installUpdateHandler(filtro);
+}
+
+}  // namespace
+}  // namespace tasca::test
