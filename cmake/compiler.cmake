@@ -8,8 +8,8 @@ add_compile_options(-ffp-contract=off)
 # here.
 add_compile_definitions(_GLIBCXX_ASSERTIONS)
 
-# Hardening against memory errors, in the builds without sanitizers or coverage.
-if(NOT TASCA_SANITIZE AND NOT TASCA_COVERAGE AND NOT TASCA_FUZZ)
+# Hardening against memory errors, in the native builds without sanitizers or coverage.
+if(NOT TASCA_SANITIZE AND NOT TASCA_COVERAGE AND NOT TASCA_FUZZ AND NOT EMSCRIPTEN)
   set(TASCA_HARDENED ON)
   include(CheckCXXCompilerFlag)
   include(CheckPIESupported)

@@ -82,7 +82,7 @@ int LectorPartida::EnteroEntre(Intervalo posibles) {
 std::size_t LectorPartida::Longitud() {
   const std::uint64_t longitud = Entero(4);
   if (longitud > resto_.size() / 2) Fallar();
-  return bien_ ? longitud : 0;
+  return bien_ ? static_cast<std::size_t>(longitud) : 0;
 }
 
 void LectorPartida::Texto(std::u16string& texto) {
@@ -98,7 +98,7 @@ void LectorPartida::Texto(std::u16string& texto) {
 
 void LectorPartida::Generador(Rnd& rnd) {
   const std::uint64_t sacados = Entero(8);
-  const std::string texto{Trozo(Entero(4))};
+  const std::string texto{Trozo(static_cast<std::size_t>(Entero(4)))};
   std::mt19937 motor;
   if (!EsDeUnMotor(Clasico(texto)) || !(Clasico(texto) >> motor)) Fallar();
   rnd = Rnd{motor, sacados};

@@ -7,26 +7,13 @@
 
 #include "cards/deck.h"
 #include "keep/flujos.h"
+#include "keep/sello.h"
 
 namespace tasca {
 namespace {
 
 // Every change of the fields below needs a new number: an older match cannot be continued.
 constexpr std::string_view Cabecera = "tasca-partida 1\n";
-constexpr std::size_t LargoSuma = 8;
-
-// The FNV-1a hash, least significant byte first. Any change of a single byte changes it.
-std::string SumaDe(std::string_view bytes) {
-  constexpr std::uint64_t Primo = 0x100000001b3;
-  std::uint64_t suma = 0xcbf29ce484222325;
-  for (const char byte : bytes) suma = (suma ^ static_cast<unsigned char>(byte)) * Primo;
-  std::string texto;
-  for (std::size_t i = 0; i < LargoSuma; ++i, suma >>= 8U) {
-    texto += static_cast<char>(static_cast<unsigned char>(suma & 0xFFU));
-  }
-  return texto;
-}
-
 constexpr Intervalo Cualquiera{};
 constexpr Intervalo Natural{0, INT16_MAX};
 constexpr Intervalo Parametro{1, 999};  // as in "mus.ini"
@@ -200,24 +187,16 @@ std::string EscribirPartida(const Table& t, const Rnd& rnd) {
   return ConCabecera(escritor.Bytes());
 }
 
-std::string ConCabecera(std::string_view valores) {
-  std::string bytes{Cabecera};
-  return bytes.append(SumaDe(valores)).append(valores);
-}
+std::string ConCabecera(std::string_view valores) { return Sellar(Cabecera, valores); }
 
-std::string_view SumaDePartida(std::string_view bytes) {
-  return bytes.substr(0, Cabecera.size() + LargoSuma).substr(Cabecera.size());
-}
+std::string_view SumaDePartida(std::string_view bytes) { return SumaSellada(Cabecera, bytes); }
 
 bool LeerPartida(std::string_view bytes, Table& t, Rnd& rnd) {
-  if (!bytes.starts_with(Cabecera)) return false;
-  bytes.remove_prefix(Cabecera.size());
-  const std::string_view suma = bytes.substr(0, LargoSuma);
-  bytes.remove_prefix(suma.size());
-  if (SumaDe(bytes) != suma) return false;
+  const std::optional<std::string_view> valores = Abrir(Cabecera, bytes);
+  if (!valores) return false;
   const auto leida = std::make_unique<Table>();
   Rnd generador;
-  LectorPartida lector{bytes};
+  LectorPartida lector{*valores};
   PasarPartida(lector, *leida, generador);
   if (!lector.BienLeido()) return false;
   CrearCartas(*leida);

@@ -102,6 +102,12 @@ void Cronica::TerminarMano(const Table& t) {
 
 void Cronica::Cerrar() { abierta_ = false; }
 
+std::u16string Cronica::Escrito() const {
+  std::u16string escrito = comienzo_;
+  for (const std::u16string& mano : manos_) escrito += NuevaMano + mano;
+  return escrito;
+}
+
 // What happens to be written and seen in the step follows from its table.
 void Cronica::Reanudar(std::u16string_view escrito, const Table& t) {
   Empezar();

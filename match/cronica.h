@@ -33,8 +33,10 @@ class Cronica {
 
   // What has been written since the last call, for a file. Each hand begins with a form feed.
   Apunte TomarApunte() { return std::exchange(apunte_, {}); }
-  // Goes on with the chronicle of a match: `escrito` are the texts of TomarApunte since it began,
-  // up to the step after which the table is t.
+  // All that is remembered, as those texts are.
+  std::u16string Escrito() const;
+  // Goes on with the chronicle of a match: `escrito` are the texts of TomarApunte since it began, or
+  // Escrito, up to the step after which the table is t.
   void Reanudar(std::u16string_view escrito, const Table& t);
 
   // The whole chronicle, without the prompts, in lines that end in CR LF. "" if nothing has been

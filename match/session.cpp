@@ -19,6 +19,24 @@ Session::Session(std::filesystem::path carpeta, Port& port,
   if (estado) conservador_.emplace(*estado);
 }
 
+void Session::Copiar(Instante& en) const {
+  en.Mesa = t_;
+  en.Generador = rnd_;
+  en.Relato = cronica_;
+  en.Inicio = inicio_;
+  en.Situacion = situacion_;
+  en.Final = final_;
+}
+
+void Session::Volver(const Instante& instante) {
+  t_ = instante.Mesa;
+  rnd_ = instante.Generador;
+  cronica_ = instante.Relato;
+  inicio_ = instante.Inicio;
+  situacion_ = instante.Situacion;
+  final_ = instante.Final;
+}
+
 Situacion Session::Retomar() {
   return Hacer([this] {
     const bool sigue = conservador_ && conservador_->Ofrecer(g_);
@@ -94,7 +112,7 @@ Situacion Session::Hacer(const std::function<Situacion()>& paso) {
     if (situacion_ != Situacion::Fin) situacion_ = siguiente;
   } catch (const LeaveProgram& salida) {
     if (salida.PartidaAcabada) Olvidar();
-    Acabar({.Estado = EXIT_SUCCESS, .Mensaje = {}});
+    Acabar({.Estado = EXIT_SUCCESS, .Mensaje = {}, .PartidaAcabada = salida.PartidaAcabada});
   } catch (const RunTimeError& error) {
     Acabar({.Estado = EXIT_FAILURE, .Mensaje = error.Message(), .YaMostrado = error.Shown()});
   }

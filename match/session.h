@@ -27,9 +27,20 @@ enum class Situacion {
 
 // The result of an ended game.
 struct Desenlace {
-  int Estado = 0;           // the program's exit status
-  std::u16string Mensaje;   // the message of a run-time error; "" if the player has left
-  bool YaMostrado = false;  // a rule has already shown the message in a message box
+  int Estado = 0;               // the program's exit status
+  std::u16string Mensaje;       // the message of a run-time error; "" if the player has left
+  bool YaMostrado = false;      // a rule has already shown the message in a message box
+  bool PartidaAcabada = false;  // the match has been played to its end
+};
+
+// All of a session between two steps, except its files.
+struct Instante {
+  Table Mesa;
+  Rnd Generador;
+  Cronica Relato;
+  DlgInicio Inicio;
+  tasca::Situacion Situacion = tasca::Situacion::EnInicio;
+  Desenlace Final;
 };
 
 // One run of the game, from the start-up dialog to the end.
@@ -54,10 +65,18 @@ class Session {
   const Cronica& Relato() const { return cronica_; }
   // The state of the start-up dialog. Change it only inside EnInicio.
   DlgInicio& Inicio() { return inicio_; }
+  const DlgInicio& Inicio() const { return inicio_; }
+  // The situation after the last step. A step that was abandoned does not change it.
+  Situacion Ahora() const { return situacion_; }
   // True once the situation is Fin.
   bool HaAcabado() const { return situacion_ == Situacion::Fin; }
   // The result of the game. Requires HaAcabado().
   const Desenlace& Final() const { return final_; }
+
+  // Copies the session, and goes back to a copy: a face that cannot wait inside a question runs the
+  // step again when it has the answer. Requires a session without `estado`.
+  void Copiar(Instante& en) const;
+  void Volver(const Instante& instante);
 
   // Each of the functions below runs one step and returns the situation after it. A LeaveProgram or
   // RunTimeError ends the game and sets Final. After the end they do nothing and return Fin.

@@ -7,6 +7,9 @@
 
 namespace tasca {
 
+// The title of every window and box that has none of its own.
+inline constexpr std::u16string_view TituloAplicacion = u"La tasca del tío Zarandel";
+
 inline constexpr std::u16string_view PalabraMano = u"mano";
 inline constexpr std::u16string_view PalabraLeToca = u"le toca";
 inline constexpr std::u16string_view PalabraEnter = u"Enter";

@@ -5,10 +5,9 @@
 #include <string>
 #include <string_view>
 
-namespace tasca {
+#include "ui/mesa/palabras.h"
 
-// The title of every window and box that has none of its own.
-inline constexpr std::u16string_view TituloAplicacion = u"La tasca del tío Zarandel";
+namespace tasca {
 
 // CR LF, CR and LF become LF. NULs, the padding of unset texts, are dropped. Other control
 // characters except the tab become U+FFFD; only a damaged file contains them.
