@@ -38,6 +38,8 @@ std::string Renglon(int linea, std::u16string_view texto) {
 }  // namespace
 
 std::string LeerArchivo(const std::filesystem::path& archivo) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(archivo, error)) return {};
   std::ifstream flujo{archivo, std::ios::binary};
   return {std::istreambuf_iterator<char>{flujo}, {}};
 }

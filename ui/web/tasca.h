@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "match/session.h"
+#include "scene/scene.h"
 #include "ui/mesa/box_place.h"
 #include "ui/mesa/text_fit.h"
 #include "ui/mesa/window_layout.h"

@@ -12,12 +12,12 @@ namespace {
 void EscribirSuceso(Json& json, const Suceso& suceso) {
   json.Object([&] {
     json.Field("suceso", suceso.Calla ? "calla" : "sonido");
-    if (suceso.Calla) return;
-    const Gains factores = GainsFor(suceso.Ajustes.Balance, suceso.Ajustes.Volumen);
-    json.Field("archivo", suceso.Archivo);
+    if (!suceso.Calla) json.Field("archivo", suceso.Archivo);
     json.Field("veces", int{suceso.Ajustes.Veces});
     json.Field("balance", int{suceso.Ajustes.Balance});
     json.Field("volumen", int{suceso.Ajustes.Volumen});
+    if (suceso.Calla) return;
+    const Gains factores = GainsFor(suceso.Ajustes.Balance, suceso.Ajustes.Volumen);
     json.Field("izquierda", factores.Izquierda);
     json.Field("derecha", factores.Derecha);
   });

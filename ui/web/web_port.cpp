@@ -74,6 +74,6 @@ void WebPort::OpenSound(const Table& t, std::u16string_view archivo) {
   sucesos_.push_back({.Archivo = std::u16string{archivo}, .Ajustes = t.Mp1});
 }
 
-void WebPort::StopSound(const Table& /*t*/) { sucesos_.push_back({.Calla = true}); }
+void WebPort::StopSound(const Table& t) { sucesos_.push_back({.Calla = true, .Ajustes = t.Mp1}); }
 
 }  // namespace tasca

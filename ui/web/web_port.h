@@ -14,7 +14,7 @@ namespace tasca {
 // Thrown by a question that has no answer yet.
 struct SinRespuesta {};
 
-// A sound that was opened, or the end of all sound.
+// A sound that was opened, or stopped, with the settings of the media player.
 struct Suceso {
   bool Calla = false;
   std::u16string Archivo{};
