@@ -93,7 +93,9 @@ export class Inicio {
     const pie = html('div', { class: 'pie' }, this.reparo, this.aceptar,
       boton(inicio.botones.salir.rotulo, () => this.pasos.salir()));
     const formulario = html('form', {},
-      html('p', { class: 'bienvenida' }, this.paraVer(inicio.bienvenida).trim()),
+      html('div', { class: 'saludo' },
+        html('img', { src: 'iconos/icon.svg', alt: '', width: 88, height: 88 }),
+        html('p', { class: 'bienvenida' }, this.paraVer(inicio.bienvenida).trim())),
       html('div', { class: 'elecciones' }, fichas, this.historia),
       html('div', { class: 'elecciones' }, marcas, estilo), this.ejemplo, personajes, pie);
     formulario.addEventListener('submit', (e) => {

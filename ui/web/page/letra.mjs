@@ -6,6 +6,8 @@ const Familia = '"Noto Sans", "DejaVu Sans", system-ui, sans-serif';
 const Menor = 0.6;
 const Mayor = 2.5;
 const Paso = 0.1;
+/** Percent of the browser's own size: fingers need larger letters. */
+const Normal = matchMedia('(pointer: coarse)').matches ? 94 : 86;
 const lapiz = /** @type {CanvasRenderingContext2D} */ (
   document.createElement('canvas').getContext('2d'));
 
@@ -30,7 +32,7 @@ export class Letra {
   pon(aumento) {
     const cabe = Math.min(Mayor, Math.max(Menor, Math.round(aumento * 10) / 10));
     this.aumento = Number.isFinite(cabe) ? cabe : 1;
-    document.documentElement.style.fontSize = `${this.aumento * 94}%`;
+    document.documentElement.style.fontSize = `${this.aumento * Normal}%`;
     this.anchos.clear();
   }
 

@@ -29,7 +29,7 @@ export class Manual {
     for (const uno of capitulos) this.texto.append(...capitulo(uno, quedan));
     const indice = html('nav', { class: 'indice', 'aria-label': 'Índice' },
       ...titulos.map((/** @type {any} */ { nivel, titulo, ancla }) =>
-        html('a', { href: `#${ancla}`, class: `nivel${nivel}` }, titulo)));
+        html('a', { href: `#manual-${ancla}`, class: `nivel${nivel}` }, titulo)));
     const cuerpo = html('div', { class: 'cuerpo' }, indice, this.texto);
     const lectura = new Lectura('Manual de la tasca', 'manual', 'Buscar en el manual',
       [boton('◀', () => this.vuelve(this.atras, this.adelante), { 'aria-label': 'Atrás' }),
@@ -46,7 +46,7 @@ export class Manual {
     if (!enlace) return;
     e.preventDefault();
     this.recuerda();
-    this.ve(decodeURIComponent(enlace.hash.slice(1)));
+    this.ve(decodeURIComponent(enlace.hash).replace('#manual-', ''));
   }
 
   /** @param {KeyboardEvent} e */

@@ -13,7 +13,7 @@ function trozo([, negrita, codigo, nombre, dibujo, enlace, ancla]) {
     return html('img', { class: 'naipe', src: `cartas/${dibujo}.svg`, alt: nombre, width: 200,
       height: 308, loading: 'lazy' });
   }
-  if (enlace) return html('a', { href: `#${ancla}` }, ...lineas(enlace));
+  if (enlace) return html('a', { href: `#manual-${ancla}` }, ...lineas(enlace));
   return html('br');
 }
 

@@ -58,14 +58,14 @@ export class Lienzo {
   }
 
   /**
-   * Shows the pieces in a picture of that size, `escala` times as large.
-   * @param {any} lamina @param {number} ancho @param {number} alto @param {number} letra
+   * Shows the pieces; `vista` is the part of the picture that is seen.
+   * @param {any} lamina @param {Rect} vista @param {number} letra
    * @param {boolean} conMovimiento
    */
-  muestra(lamina, ancho, alto, letra, conMovimiento) {
-    const medida = `${ancho} ${alto} ${letra}`;
+  muestra(lamina, vista, letra, conMovimiento) {
+    const medida = `${vista.join(' ')} ${letra}`;
     const igual = medida === this.medida;
-    if (!igual) this.reinicia(lamina, ancho, alto, medida);
+    if (!igual) this.reinicia(lamina, vista, medida);
     const pincel = { letra, mide: this.mide };
     const antes = igual ? this.dibujadas : new Map();
     this.dibujadas = new Map();
@@ -84,10 +84,10 @@ export class Lienzo {
   /** @param {Pieza} pieza */
   elementoDe(pieza) { return this.dibujadas.get(this.claveDe(pieza)); }
 
-  /** @param {any} lamina @param {number} ancho @param {number} alto @param {string} medida */
-  reinicia(lamina, ancho, alto, medida) {
+  /** @param {any} lamina @param {Rect} vista @param {string} medida */
+  reinicia(lamina, vista, medida) {
     this.medida = medida;
-    this.lienzo.setAttribute('viewBox', `0 0 ${ancho} ${alto}`);
+    this.lienzo.setAttribute('viewBox', vista.join(' '));
     this.fondo = lamina.suelo ? superficies(lamina) : null;
   }
 }

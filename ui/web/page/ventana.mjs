@@ -93,12 +93,23 @@ export class Ventana {
   pintaMesa(mueve) {
     const { mesa, tanteo } = this.partes;
     this.letra.deLaMesa = this.letraMesa;
-    this.lamina = this.tasca.lamina(mesa[2], mesa[3], this.letraMesa);
+    const orla = this.orla();
+    const [ancho, alto] = [mesa[2] + 2 * orla, mesa[3] + 2 * orla];
+    this.lamina = this.tasca.lamina(ancho, alto, this.letraMesa);
     const enReposo = mueve && this.lamina.toca === 'enter';
-    this.mesa.muestra(this.lamina, mesa[2], mesa[3], this.letraMesa, enReposo);
+    this.mesa.muestra(this.lamina, [orla, orla, mesa[2], mesa[3]], this.letraMesa, enReposo);
     if (tanteo[2] <= 0) return;
     const marcador = this.tasca.marcador(tanteo[2], tanteo[3], this.letraMesa);
-    this.tanteo.muestra(marcador, tanteo[2], tanteo[3], this.letraMesa, enReposo);
+    this.tanteo.muestra(marcador, [0, 0, tanteo[2], tanteo[3]], this.letraMesa, enReposo);
+  }
+
+  /** On a small screen the outermost of the picture, only floor, is cut off. */
+  orla() { return this.partes.modo === 'estrecho' ? Math.round(0.7 * this.letraMesa) : 0; }
+
+  /** A rectangle of the picture in the window. @param {number[]} r @returns {Rect} */
+  enLaVentana([x, y, ancho, alto]) {
+    const [dx, dy] = this.partes.mesa;
+    return [x + dx - this.orla(), y + dy - this.orla(), ancho, alto];
   }
 
   /** Decides the arrangement and puts every part in its place. */
@@ -178,14 +189,12 @@ export class Ventana {
 
   /** The key cap as a real button. */
   colocaContinuar() {
-    const { mesa, texto1 } = this.partes;
+    const { texto1 } = this.partes;
     const tapa = this.lamina?.toca === 'enter' ? this.lamina.enter : [0, 0, 0, 0];
-    /** @type {Rect} */
-    const sobreLaMesa = [mesa[0] + tapa[0], mesa[1] + tapa[1], tapa[2], tapa[3]];
     const ancho = 10 * this.letra.pixeles;
     const alto = 2.2 * this.letra.pixeles;
     const bajo = [texto1[0] + texto1[2] - ancho - 4, texto1[1] - alto - 4, ancho, alto];
-    coloca(this.continuar, this.lamina ? sobreLaMesa : /** @type {Rect} */ (bajo));
+    coloca(this.continuar, this.lamina ? this.enLaVentana(tapa) : /** @type {Rect} */ (bajo));
   }
 
   /** The table in sentences, for who reads it with a screen reader. */
@@ -204,8 +213,7 @@ export class Ventana {
       return this.tasca.sitioDeCaja(ancho, alto, ventana, [0, 0, 0, 0],
         [...nunca, this.partes.texto1], []);
     }
-    const [dx, dy] = this.partes.mesa;
-    const alli = (/** @type {number[]} */ [x, y, w, h]) => [x + dx, y + dy, w, h];
+    const alli = (/** @type {number[]} */ r) => this.enLaVentana(r);
     nunca.push(alli(this.lamina.mano));
     if (this.lamina.pizarra[2] > 0) nunca.push(alli(this.lamina.pizarra));
     const seLeen = ['bocadillo', 'placa', 'distintivo'];
