@@ -8,8 +8,15 @@
 namespace tasca {
 namespace {
 
-// The standard text form of the engine's state: its words and the position of the next one. It is
-// read back by the same standard library.
+// How many numbers the standard text form of the engine's state has. libstdc++ writes its words and
+// the position of the next one, libc++ the words from the next one on.
+#ifdef _LIBCPP_VERSION
+constexpr std::size_t NumerosDelMotor = std::mt19937::state_size;
+#else
+constexpr std::size_t NumerosDelMotor = std::mt19937::state_size + 1;
+#endif
+
+// It is read back by the same standard library.
 std::string TextoMotor(const std::mt19937& motor) {
   std::ostringstream texto;
   texto.imbue(std::locale::classic());
@@ -22,9 +29,10 @@ std::string TextoMotor(const std::mt19937& motor) {
 bool EsDeUnMotor(std::istringstream texto) {
   std::vector<std::uint64_t> numeros;
   for (std::uint64_t numero = 0; texto >> numero;) numeros.push_back(numero);
-  return texto.eof() && numeros.size() == std::mt19937::state_size + 1 &&
+  constexpr bool HayPosicion = NumerosDelMotor > std::mt19937::state_size;
+  return texto.eof() && numeros.size() == NumerosDelMotor &&
          *std::max_element(numeros.begin(), numeros.end()) <= std::mt19937::max() &&
-         numeros.back() <= std::mt19937::state_size;
+         (!HayPosicion || numeros.back() <= std::mt19937::state_size);
 }
 
 std::istringstream Clasico(const std::string& texto) {
@@ -43,7 +51,12 @@ void EscritorPartida::Entero(std::uint64_t numero, int cuantosBytes) {
 
 void EscritorPartida::Texto(std::u16string_view texto) {
   Entero(texto.size(), 4);
-  for (const char16_t letra : texto) Entero(letra, 2);
+  std::size_t sitio = bytes_.size();
+  bytes_.resize(sitio + 2 * texto.size());
+  for (const char16_t letra : texto) {
+    bytes_[sitio++] = static_cast<char>(static_cast<unsigned char>(letra & 0xFFU));
+    bytes_[sitio++] = static_cast<char>(static_cast<unsigned char>(letra >> 8U));
+  }
 }
 
 void EscritorPartida::Generador(const Rnd& rnd) {

@@ -1,7 +1,7 @@
 // One list of fields for writing and reading.
 #include "ui/web/partida_web.h"
 
-#include <type_traits>
+#include <algorithm>
 
 #include "keep/flujos.h"
 #include "keep/sello.h"
@@ -14,15 +14,17 @@ constexpr std::string_view CabeceraWeb = "tasca-web 1\n";
 
 // The bytes as a text, for the streams, and back.
 std::u16string Unidades(std::string_view bytes) {
-  std::u16string texto;
-  for (const char byte : bytes) texto += static_cast<unsigned char>(byte);
+  std::u16string texto(bytes.size(), u' ');
+  std::transform(bytes.begin(), bytes.end(), texto.begin(),
+                 [](char byte) { return static_cast<unsigned char>(byte); });
   return texto;
 }
 
 std::string Octetos(std::u16string_view texto) {
-  std::string bytes;
-  for (const char16_t unidad : texto)
-    bytes += static_cast<char>(static_cast<unsigned char>(unidad));
+  std::string bytes(texto.size(), ' ');
+  std::transform(texto.begin(), texto.end(), bytes.begin(), [](char16_t unidad) {
+    return static_cast<char>(static_cast<unsigned char>(unidad));
+  });
   return bytes;
 }
 
