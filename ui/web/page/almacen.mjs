@@ -125,6 +125,9 @@ export class AlmacenDePagina {
   }
 }
 
+/** Milliseconds for a tab that is just being closed or loaded anew to leave its place. */
+const Espera = 1000;
+
 /**
  * Whether this tab is the one that keeps the match. It stays so until it is closed.
  * @returns {Promise<boolean>}
@@ -132,9 +135,9 @@ export class AlmacenDePagina {
 export function consigueElCerrojo() {
   if (!navigator.locks) return Promise.resolve(true);
   return new Promise((cumple) => {
-    navigator.locks.request('tasca', { ifAvailable: true }, (cerrojo) => {
-      cumple(cerrojo !== null);
-      return cerrojo === null ? null : new Promise(() => {});
-    }).catch(() => cumple(true));
+    navigator.locks.request('tasca', { signal: AbortSignal.timeout(Espera) }, () => {
+      cumple(true);
+      return new Promise(() => {});
+    }).catch((motivo) => cumple(!['AbortError', 'TimeoutError'].includes(motivo?.name)));
   });
 }
