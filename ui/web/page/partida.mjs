@@ -37,7 +37,15 @@ export class Partida {
   }
 
   /** Starts, or starts again, with the kept match. */
-  abre() { this.paso(() => this.tasca.abrir(this.almacen.registro.partida)); }
+  abre() {
+    this.cierraInicio();
+    this.paso(() => this.tasca.abrir(this.almacen.registro.partida));
+  }
+
+  cierraInicio() {
+    this.inicio?.cierra();
+    this.inicio = null;
+  }
 
   /** Does a step and shows what has come of it. @param {() => Vista} hace */
   paso(hace) {
@@ -102,8 +110,7 @@ export class Partida {
   /** @param {Vista} vista */
   muestraInicio(vista) {
     if (!vista.inicio) {
-      this.inicio?.cierra();
-      this.inicio = null;
+      this.cierraInicio();
     } else if (this.inicio) {
       this.inicio.muestra(vista.inicio);
     } else {
