@@ -31,7 +31,8 @@ async function trae(pagina, contenido) {
   await espera(pagina, () => document.querySelector('.faltas:not([hidden])') !== null);
 }
 
-const personajes = (pagina) => pagina.$$eval('#combo0 option', (todas) => todas.map((una) => una.textContent));
+const personajes = (pagina) => pagina.$$eval('#combo0 option',
+  (todas) => todas.map((una) => una.textContent));
 
 const buenos = () => readFile(join(Sitio, 'datos/Jugadores.dat'));
 

@@ -13,6 +13,8 @@ import { atiendeElRaton, atiendeElTeclado } from './teclado.mjs';
 import { Ventana } from './ventana.mjs';
 import { avisa } from './voz.mjs';
 
+/** Lies beside this file in the built site. @type {string} */
+const Modulo = './tasca.mjs';
 const SinAlmacen = 'El navegador no deja guardar: al cerrar la página se perderán la partida, ' +
   'su nombre y los ajustes.';
 const OtraPestana = 'La tasca ya está abierta en otra pestaña: aquí se puede jugar, pero no se ' +
@@ -54,17 +56,15 @@ function instala() {
 
 async function abre() {
   const letra = new Letra();
-  const [{ abrirTasca, paraVer }, almacen] = await Promise.all([import('./tasca.mjs'),
+  const [{ abrirTasca, paraVer }, almacen] = await Promise.all([import(Modulo),
     abreAlmacen()]);
   const archivos = await archivosDelJuego(almacen);
   const tasca = await abrirTasca({ archivos, mide: letra.mide });
   const { ajustes, menus: hazMenus } = hazOpciones(almacen, letra);
   const ventana = new Ventana(tasca, paraVer, letra, ajustes);
-  /** @type {Partida} */
-  let partida;
   const sonido = new Sonido(() => partida.finDeSonido());
   const personajes = new Personajes(tasca, paraVer, almacen, () => partida.abre());
-  partida = new Partida(tasca, paraVer, almacen, ventana, sonido, () => personajes.elemento());
+  const partida = new Partida(tasca, paraVer, almacen, ventana, sonido, () => personajes.elemento());
   const manual = new Manual(tasca);
   const cronica = new Cronica(tasca, paraVer);
   const { menus, mandos } = hazMenus({ partida, manual, cronica, sonido });

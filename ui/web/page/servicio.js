@@ -1,6 +1,6 @@
 // Keeps the whole page for the times without a network. What belongs to it, and its version, are
 // computed when the site is built (version.js).
-/* global self, caches, VERSION, ARCHIVOS */
+/* global self, VERSION, ARCHIVOS */
 self.importScripts('version.js');
 
 const Nombre = `tasca ${VERSION}`;

@@ -46,6 +46,8 @@ export class Ventana {
     this.continuar = porId('continuar');
     this.mesa = new Lienzo(/** @type {any} */ (document.getElementById('mesa')), letra.mide);
     this.tanteo = new Lienzo(/** @type {any} */ (document.getElementById('tanteo')), letra.mide);
+    /** The size of the letters in the picture. */
+    this.letraMesa = 0;
     /** @type {any} */
     this.lamina = null;
     /** @type {any} */
