@@ -52,9 +52,6 @@ async function mataYSigue(todo) {
   const nueva = await nuevaPagina(navegador, sitio.url, { contexto });
   await preparaLectura(nueva.pagina);
   await nueva.pagina.goto(sitio.url);
-  await espera(nueva.pagina, () => document.querySelector('.caja[open]') !== null);
-  assert.match((await estado(nueva.pagina)).caja.texto, /seguir/);
-  await nueva.pagina.keyboard.press('s');
   await espera(nueva.pagina, () => document.querySelector('#ventana:not([hidden])') !== null);
   assert.deepEqual(await estado(nueva.pagina), antes);
   await todo.pagina.close().catch(() => {});
@@ -162,9 +159,28 @@ test('the settings are kept', async () => {
   await todo.pagina.keyboard.press('F9');
   assert.match(await todo.pagina.$eval('#ayuda', (uno) => uno.textContent), /poner el sonido/);
   await todo.pagina.reload();
-  await espera(todo.pagina, () => document.querySelector('.caja[open]') !== null);
-  await todo.pagina.keyboard.press('s');
+  await espera(todo.pagina, () => document.querySelector('#ventana:not([hidden])') !== null);
   assert.match(await todo.pagina.$eval('#ayuda', (uno) => uno.textContent), /poner el sonido/);
+  await sinFaltas(todo);
+  await todo.contexto.close();
+});
+
+test('leaving keeps the match: it goes on, or another begins', async () => {
+  const todo = await abre(navegador, sitio.url);
+  const { pagina } = todo;
+  const { keyboard } = pagina;
+  await keyboard.press('Enter');
+  const antes = await estado(pagina);
+  for (const [boton, situacion] of [['Seguir con la partida', 'mesa'], ['Empezar otra', 'inicio']]) {
+    for (const tecla of ['Control', 'Alt']) await keyboard.down(tecla);
+    await keyboard.press('q');
+    for (const tecla of ['Control', 'Alt']) await keyboard.up(tecla);
+    await espera(pagina, () => document.querySelector('#final:not([hidden])') !== null);
+    await pagina.locator(`#final ::-p-text(${boton})`).click();
+    const visto = await estado(pagina);
+    assert.equal(visto.situacion, situacion);
+    if (situacion === 'mesa') assert.deepEqual(visto, antes);
+  }
   await sinFaltas(todo);
   await todo.contexto.close();
 });

@@ -173,13 +173,23 @@ export class Partida {
     voz.responde(dicho);
   }
 
-  /** @param {{estado: number, mensaje: string}} final */
+  /** The game is over, or has been left. @param {{estado: number, mensaje: string}} final */
   despide({ mensaje }) {
-    const otra = boton('Volver a la tasca', () => this.abre(), { class: 'boton' });
-    const dicho = mensaje ? this.paraVer(mensaje) : 'Hasta otra.';
-    this.final.replaceChildren(html('p', { role: 'status' }, dicho), otra);
+    const queda = this.almacen.registro.partida !== null;
+    const dicho = mensaje ? this.paraVer(mensaje) : queda ?
+      'Hasta otra. La partida queda a medias, y puede seguir con ella.' : 'Hasta otra.';
+    const sigue = boton(queda ? 'Seguir con la partida' : 'Volver a la tasca', () => this.abre());
+    const botones = queda ? [sigue, boton('Empezar otra', () => this.empiezaOtra())] : [sigue];
+    this.final.replaceChildren(html('p', { role: 'status' }, dicho),
+      html('div', { class: 'botones' }, ...botones));
     this.final.hidden = false;
-    otra.focus();
+    sigue.focus();
+  }
+
+  /** The match that was kept is lost. */
+  empiezaOtra() {
+    this.almacen.pon({ partida: null });
+    this.abre();
   }
 
   /** The module is in no known state: only the kept match helps. */
