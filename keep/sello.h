@@ -13,7 +13,7 @@ std::string Sellar(std::string_view cabecera, std::string_view valores);
 // The values in sealed bytes; nothing if they are not whole or of another format.
 std::optional<std::string_view> Abrir(std::string_view cabecera, std::string_view bytes);
 
-// The checksum in sealed bytes, which tells them from others.
+// The checksum in bytes that Sellar has written, which tells them from others.
 std::string_view SumaSellada(std::string_view cabecera, std::string_view bytes);
 
 }  // namespace tasca

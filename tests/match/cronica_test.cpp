@@ -161,5 +161,19 @@ TEST_F(CronicaDePrueba, ForgetsTheOldestHandsBeyondItsLimit) {
   EXPECT_LT(Relato.Bytes(), 2 * sizeof(char16_t) * Cronica::LetrasMaximas);
 }
 
+TEST_F(CronicaDePrueba, GoesOnFromWhatIsWritten) {
+  Relato.Empezar(u"Otra partida.");
+  for (int mano = 1; mano <= 2; ++mano) {
+    Relato.EmpezarMano();
+    Dice(u"Ana: Mus\r\n");
+    Relato.TerminarMano(*Mesa);
+  }
+  Cronica otra;
+  otra.Reanudar(Relato.Escrito(), *Mesa);
+  EXPECT_EQ(otra.Texto(), Relato.Texto());
+  EXPECT_EQ(otra.Escrito(), Relato.Escrito());
+  EXPECT_EQ(Cronica{}.Escrito(), u"");
+}
+
 }  // namespace
 }  // namespace tasca::test

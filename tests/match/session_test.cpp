@@ -99,6 +99,7 @@ TEST(Session, ReportsOtrosJugadoresAfterAMatchWhenThePlayerWantsThem) {
   jugador.OtraPartida = true;
   const auto sesion = std::make_unique<Session>(carpeta.Path(), jugador);
   EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores);
+  EXPECT_EQ(sesion->Ahora(), Situacion::OtrosJugadores);
   EXPECT_FALSE(sesion->HaAcabado());
   EXPECT_EQ(PlayAMatch(*sesion), Situacion::OtrosJugadores) << "the second match";
 }
@@ -111,6 +112,7 @@ TEST(Session, EndsAfterAMatchWhenThePlayerWantsNoOther) {
   const auto sesion = std::make_unique<Session>(carpeta.Path(), jugador);
   EXPECT_EQ(PlayAMatch(*sesion), Situacion::Fin);
   EXPECT_EQ(sesion->Final().Estado, 0);
+  EXPECT_TRUE(sesion->Final().PartidaAcabada);
   EXPECT_EQ(Utf8(sesion->Mesa().Text2), "Hasta pronto");
 }
 
@@ -178,6 +180,7 @@ TEST(Session, EndsWithStatus0WhenThePlayerLeaves) {
   EXPECT_EQ(prueba.sesion->Salir(), Situacion::Fin);
   EXPECT_TRUE(prueba.sesion->HaAcabado());
   EXPECT_EQ(prueba.sesion->Final().Estado, 0);
+  EXPECT_FALSE(prueba.sesion->Final().PartidaAcabada);
   EXPECT_EQ(Utf8(prueba.sesion->Final().Mensaje), "");
 }
 
@@ -235,6 +238,39 @@ TEST(Session, ClearsTheTableWhenTheDialogIsReopened) {
   EXPECT_EQ(prueba.port.TakeEvents(), Sucesos{"stop"});
   EXPECT_TRUE(static_cast<const Form1State&>(prueba.sesion->Mesa()) == Form1State{});
   EXPECT_EQ(prueba.sesion->Inicio().Combo1.ListIndex, 0);
+}
+
+TEST(Session, RunsAStepAgainFromItsCopyAsTheFirstTime) {
+  SesionDePrueba prueba;
+  prueba.Sentarse();
+  const auto antes = std::make_unique<Instante>();
+  prueba.sesion->Copiar(*antes);
+  prueba.port.TakeEvents();
+  const std::u16string relato = prueba.sesion->Relato().Texto();
+  prueba.Pulsar(TeclaQ);
+  const auto despues = std::make_unique<Table>(prueba.sesion->Mesa());
+  const Sucesos sucesos = prueba.port.TakeEvents();
+  const std::u16string relatoDespues = prueba.sesion->Relato().Texto();
+  EXPECT_NE(relatoDespues, relato);
+  prueba.sesion->Volver(*antes);
+  EXPECT_TRUE(prueba.sesion->Mesa() == antes->Mesa);
+  EXPECT_EQ(prueba.sesion->Relato().Texto(), relato);
+  prueba.Pulsar(TeclaQ);
+  EXPECT_TRUE(prueba.sesion->Mesa() == *despues);
+  EXPECT_EQ(prueba.port.TakeEvents(), sucesos);
+  EXPECT_EQ(prueba.sesion->Relato().Texto(), relatoDespues);
+}
+
+TEST(Session, ComesBackFromItsEndToACopy) {
+  SesionDePrueba prueba;
+  prueba.Sentarse();
+  const auto antes = std::make_unique<Instante>();
+  prueba.sesion->Copiar(*antes);
+  prueba.sesion->Salir();
+  EXPECT_EQ(prueba.sesion->Ahora(), Situacion::Fin);
+  prueba.sesion->Volver(*antes);
+  EXPECT_EQ(prueba.sesion->Ahora(), Situacion::EnLaMesa);
+  EXPECT_FALSE(prueba.sesion->HaAcabado());
 }
 
 }  // namespace

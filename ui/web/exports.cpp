@@ -1,8 +1,5 @@
 // The functions that tasca.mjs calls. Texts come as UTF-8 and go as UTF-8 with a NUL at the end;
 // each result lives until the next call.
-#include <emscripten/em_js.h>
-#include <emscripten/emscripten.h>
-
 #include <vector>
 
 #include "ui/mesa/layout.h"
@@ -14,13 +11,8 @@
 #include "ui/web/mesa_json.h"
 #include "ui/web/tasca.h"
 
-// clang-format off
-EM_JS(double, anchoEnLaPagina, (const char16_t* texto, int largo, double factor, int negrita), {
-  const desde = texto >> 1;
-  const letras = String.fromCharCode.apply(null, HEAPU16.subarray(desde, desde + largo));
-  return Module['mide'](letras, factor, negrita !== 0);
-});
-// clang-format on
+// The width of a line of text, as the page measures it (mide.js).
+extern "C" double anchoEnLaPagina(const char16_t* texto, int largo, double factor, int negrita);
 
 namespace tasca {
 
@@ -87,36 +79,34 @@ std::u16string Escuchado(const Tasca& juego, int que) {
 }
 
 }  // namespace
-}  // namespace tasca
 
-using namespace tasca;  // NOLINT(google-build-using-namespace): the functions below are C
-
+// The attribute exports them from the module.
 extern "C" {
 
-EMSCRIPTEN_KEEPALIVE Pagina* nueva() { return new Pagina; }
-EMSCRIPTEN_KEEPALIVE int largo(const Pagina* p) { return static_cast<int>(p->Resultado.size()); }
+[[gnu::used]] Pagina* tasca_nueva() { return new Pagina; }
+[[gnu::used]] int tasca_largo(const Pagina* p) { return static_cast<int>(p->Resultado.size()); }
 
-EMSCRIPTEN_KEEPALIVE const char* abrir(Pagina* p, const char* bytes, int cuantos, int segundos) {
+[[gnu::used]] const char* tasca_abrir(Pagina* p, const char* bytes, int cuantos, int segundos) {
   const std::string guardada{bytes, static_cast<std::size_t>(cuantos)};
   return Dar(*p, [&](Tasca& juego) { return juego.Abrir(guardada, Hora(segundos)); });
 }
-EMSCRIPTEN_KEEPALIVE const char* elige(Pagina* p, int combo, int posicion) {
+[[gnu::used]] const char* tasca_elige(Pagina* p, int combo, int posicion) {
   return Dar(*p, [&](Tasca& juego) { return juego.Elige(combo, posicion); });
 }
-EMSCRIPTEN_KEEPALIVE const char* marca(Pagina* p, int casilla, int marcada) {
+[[gnu::used]] const char* tasca_marca(Pagina* p, int casilla, int marcada) {
   return Dar(*p, [&](Tasca& juego) { return juego.Marca(casilla, marcada != 0); });
 }
-EMSCRIPTEN_KEEPALIVE const char* estilo(Pagina* p, int cual) {
+[[gnu::used]] const char* tasca_estilo(Pagina* p, int cual) {
   return Dar(*p, [&](Tasca& juego) { return juego.Estilo(cual); });
 }
-EMSCRIPTEN_KEEPALIVE const char* aceptar(Pagina* p, const char* nombre, int segundos) {
+[[gnu::used]] const char* tasca_aceptar(Pagina* p, const char* nombre, int segundos) {
   return Dar(*p, [&](Tasca& juego) { return juego.Aceptar(FromUtf8(nombre), Hora(segundos)); });
 }
-EMSCRIPTEN_KEEPALIVE const char* tecla(Pagina* p, int codigo, int mayusculas, int segundos) {
+[[gnu::used]] const char* tasca_tecla(Pagina* p, int codigo, int mayusculas, int segundos) {
   return Dar(*p, [&](Tasca& juego) { return juego.Tecla(codigo, mayusculas, Hora(segundos)); });
 }
-EMSCRIPTEN_KEEPALIVE const char* responde(Pagina* p, int clase, int numero, const char* texto,
-                                          int segundos) {
+[[gnu::used]] const char* tasca_responde(Pagina* p, int clase, int numero, const char* texto,
+                                         int segundos) {
   return Dar(*p, [&](Tasca& juego) {
     return juego.Responde({.Clase = static_cast<ClaseEntrada>(clase),
                            .Numero = numero,
@@ -124,28 +114,28 @@ EMSCRIPTEN_KEEPALIVE const char* responde(Pagina* p, int clase, int numero, cons
                            .Hora = Hora(segundos)});
   });
 }
-EMSCRIPTEN_KEEPALIVE const char* finDeSonido(Pagina* p, int estado, int segundos) {
+[[gnu::used]] const char* tasca_finDeSonido(Pagina* p, int estado, int segundos) {
   return Dar(*p, [&](Tasca& juego) { return juego.FinDeSonido(estado, Hora(segundos)); });
 }
-EMSCRIPTEN_KEEPALIVE const char* salir(Pagina* p) {
+[[gnu::used]] const char* tasca_salir(Pagina* p) {
   return Dar(*p, [](Tasca& juego) { return juego.Salir(); });
 }
 
-EMSCRIPTEN_KEEPALIVE const char* guardada(Pagina* p) { return Dejar(*p, p->Juego.Guardada()); }
-EMSCRIPTEN_KEEPALIVE const char* reparoAlNombre(Pagina* p, const char* nombre) {
+[[gnu::used]] const char* tasca_guardada(Pagina* p) { return Dejar(*p, p->Juego.Guardada()); }
+[[gnu::used]] const char* tasca_reparoAlNombre(Pagina* p, const char* nombre) {
   return Dejar(*p, ToUtf8(p->Juego.ReparoAlNombre(FromUtf8(nombre))));
 }
 
-EMSCRIPTEN_KEEPALIVE const char* lamina(Pagina* p, double ancho, double alto, double letra) {
+[[gnu::used]] const char* tasca_lamina(Pagina* p, double ancho, double alto, double letra) {
   const Escena escena = p->Juego.Vista();
   const Rect donde{.Ancho = ancho, .Alto = alto};
   return Dejar(*p, JsonDeLamina(LaminaDe(escena, donde, letra, Mide), escena.Toca));
 }
-EMSCRIPTEN_KEEPALIVE const char* marcador(Pagina* p, double ancho, double alto, double letra) {
+[[gnu::used]] const char* tasca_marcador(Pagina* p, double ancho, double alto, double letra) {
   const Rect donde{.Ancho = ancho, .Alto = alto};
   return Dejar(*p, JsonDePiezas(MarcadorDe(p->Juego.Vista(), donde, letra, Mide)));
 }
-EMSCRIPTEN_KEEPALIVE const char* reparto(Pagina* p, const double* medidas) {
+[[gnu::used]] const char* tasca_reparto(Pagina* p, const double* medidas) {
   Numeros n{medidas};
   MedidasVentana m;
   for (double* const medida : {&m.Ancho, &m.Alto, &m.Menu, &m.Letra}) *medida = n.Uno();
@@ -156,7 +146,7 @@ EMSCRIPTEN_KEEPALIVE const char* reparto(Pagina* p, const double* medidas) {
   }
   return Dejar(*p, JsonDePartes(PartesDe(m, n.Uno())));
 }
-EMSCRIPTEN_KEEPALIVE const char* sitioDeCaja(Pagina* p, const double* medidas) {
+[[gnu::used]] const char* tasca_sitioDeCaja(Pagina* p, const double* medidas) {
   Numeros n{medidas};
   const double ancho = n.Uno();
   const double alto = n.Uno();
@@ -166,27 +156,29 @@ EMSCRIPTEN_KEEPALIVE const char* sitioDeCaja(Pagina* p, const double* medidas) {
   return Dejar(*p, JsonDeRect(SitioDeCaja(ancho, alto, donde)));
 }
 
-EMSCRIPTEN_KEEPALIVE const char* mesaHablada(Pagina* p) {
+[[gnu::used]] const char* tasca_mesaHablada(Pagina* p) {
   return Dejar(*p, JsonDeFrases(LaMesaHablada(p->Juego.Vista())));
 }
-EMSCRIPTEN_KEEPALIVE const char* escucha(Pagina* p, int que) {
+[[gnu::used]] const char* tasca_escucha(Pagina* p, int que) {
   return Dejar(*p, ToUtf8(Escuchado(p->Juego, que)));
 }
-EMSCRIPTEN_KEEPALIVE const char* cronica(Pagina* p) {
+[[gnu::used]] const char* tasca_cronica(Pagina* p) {
   return Dejar(*p, ToUtf8(p->Juego.Sesion().Relato().Texto()));
 }
-EMSCRIPTEN_KEEPALIVE const char* manual(Pagina* p) { return Dejar(*p, JsonDelManual()); }
-EMSCRIPTEN_KEEPALIVE const char* version(Pagina* p) { return Dejar(*p, TASCA_VERSION); }
+[[gnu::used]] const char* tasca_manual(Pagina* p) { return Dejar(*p, JsonDelManual()); }
+[[gnu::used]] const char* tasca_version(Pagina* p) { return Dejar(*p, TASCA_VERSION); }
 
-EMSCRIPTEN_KEEPALIVE const char* leerArchivo(Pagina* p, const char* nombre) {
+[[gnu::used]] const char* tasca_leerArchivo(Pagina* p, const char* nombre) {
   return Dejar(*p, LeerArchivo(nombre));
 }
-EMSCRIPTEN_KEEPALIVE void ponArchivo(Pagina* /*p*/, const char* nombre, const char* bytes,
-                                     int cuantos) {
+[[gnu::used]] void tasca_ponArchivo(Pagina* /*p*/, const char* nombre, const char* bytes,
+                                    int cuantos) {
   EscribirArchivo(nombre, {bytes, static_cast<std::size_t>(cuantos)});
 }
-EMSCRIPTEN_KEEPALIVE const char* revisar(Pagina* p, const char* bytes, int cuantos) {
+[[gnu::used]] const char* tasca_revisar(Pagina* p, const char* bytes, int cuantos) {
   return Dejar(*p, RevisarArchivo("", {bytes, static_cast<std::size_t>(cuantos)}));
 }
 
 }  // extern "C"
+
+}  // namespace tasca

@@ -47,7 +47,7 @@ class Tasca {
   constructor(modulo, reloj) {
     this.#modulo = modulo;
     this.#reloj = reloj;
-    this.#pagina = modulo._nueva();
+    this.#pagina = modulo._tasca_nueva();
   }
 
   abrir(guardada) {
@@ -132,7 +132,7 @@ class Tasca {
   }
   #bytes(nombre, ...argumentos) {
     const donde = this.#llama(nombre, ...argumentos);
-    return this.#modulo.HEAPU8.slice(donde, donde + this.#modulo._largo(this.#pagina));
+    return this.#modulo.HEAPU8.slice(donde, donde + this.#modulo._tasca_largo(this.#pagina));
   }
 
   // Texts and arrays are copied into the module's memory for the call.
@@ -154,7 +154,7 @@ class Tasca {
       return valor;
     };
     try {
-      return modulo[`_${nombre}`](this.#pagina, ...argumentos.map(pasar));
+      return modulo[`_tasca_${nombre}`](this.#pagina, ...argumentos.map(pasar));
     } finally {
       copias.forEach((copia) => modulo._free(copia));
     }
