@@ -15,7 +15,8 @@ export function abreNavegador() {
   const executablePath = Programas[Clase];
   assert.ok(existsSync(executablePath), `${executablePath} is not installed`);
   const args = Clase === 'chrome' ? ['--no-sandbox', '--mute-audio'] : [];
-  return puppeteer.launch({ browser: Clase, executablePath, args, headless: true });
+  const extraPrefsFirefox = { 'ui.prefersReducedMotion': 1 };
+  return puppeteer.launch({ browser: Clase, executablePath, args, extraPrefsFirefox, headless: true });
 }
 
 // Stops the clock of the page, whose time seeds the generator.
@@ -32,6 +33,10 @@ function apuntaViolaciones() {
   });
 }
 
+const emula = (pagina, { oscuro, movimiento }) => pagina.emulateMediaFeatures([
+  { name: 'prefers-color-scheme', value: oscuro ? 'dark' : 'light' },
+  { name: 'prefers-reduced-motion', value: movimiento ? 'no-preference' : 'reduce' }]);
+
 // A page in a context of its own (or in `contexto`), not yet opened. `faltas` are its errors, what it
 // asked of other servers and what its policy has refused.
 export async function nuevaPagina(navegador, url, opciones = {}) {
@@ -39,10 +44,9 @@ export async function nuevaPagina(navegador, url, opciones = {}) {
   const contexto = opciones.contexto ?? await navegador.createBrowserContext();
   const pagina = await contexto.newPage();
   pagina.setDefaultTimeout(Limite);
-  await pagina.setViewport({ width: ancho, height: alto, hasTouch: tactil, isMobile: tactil });
-  await pagina.emulateMediaFeatures([
-    { name: 'prefers-color-scheme', value: opciones.oscuro ? 'dark' : 'light' },
-    { name: 'prefers-reduced-motion', value: 'reduce' }]);
+  const deDedo = tactil ? { hasTouch: true, isMobile: true } : {};
+  await pagina.setViewport({ width: ancho, height: alto, ...deDedo });
+  if (Clase === 'chrome') await emula(pagina, opciones);
   await pagina.evaluateOnNewDocument(paraElReloj, reloj);
   await pagina.evaluateOnNewDocument(apuntaViolaciones);
   const faltas = [];

@@ -21,7 +21,9 @@ async function juega(nombre, Manos, opciones) {
   await sitio.cierra();
 }
 
-for (const nombre of ['match-lost', 'every-lance-1', 'a-vaca-each', 'mus-and-juego-by-numbers']) {
+test('every-lance-1 by keys, with cards and stones that move', () =>
+  juega('every-lance-1', Teclado, { movimiento: true }));
+for (const nombre of ['match-lost', 'a-vaca-each', 'mus-and-juego-by-numbers']) {
   test(`${nombre} by keys`, () => juega(nombre, Teclado, {}));
 }
 test('match-lost by taps on a small screen', () =>

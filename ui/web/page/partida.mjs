@@ -142,6 +142,7 @@ export class Partida {
     this.caja?.cierra();
     this.caja = pregunta && new Caja(porId('cajas'), pregunta, this.paraVer, (respuesta) =>
       this.paso(() => this.tasca.responde(respuesta)));
+    this.ventana.continuar.toggleAttribute('disabled', this.caja !== null);
     if (this.caja) this.colocaCaja();
     else if (this.situacion === 'mesa' || habia) this.enfoca();
   }
