@@ -15,7 +15,7 @@ using Objeto = nlohmann::json;
 
 Objeto Revisado(std::string_view bytes) {
   const TempFolder carpeta;
-  const Objeto revision = Objeto::parse(RevisarArchivo(carpeta.Path(), bytes));
+  Objeto revision = Objeto::parse(RevisarArchivo(carpeta.Path(), bytes));
   EXPECT_TRUE(carpeta.Names().empty());
   return revision;
 }

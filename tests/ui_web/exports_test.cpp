@@ -61,7 +61,7 @@ constexpr int LasNueveYCuarto = (21 * 60 + 15) * 60;
 // A page whose files are in the current folder, as in the module.
 class Modulo : public testing::Test {
  protected:
-  Modulo() {
+  void SetUp() override {
     std::filesystem::current_path(carpeta_.Path());
     const std::string personajes = ReadFile(TASCA_SOURCE_DIR "/data/Jugadores.dat");
     tasca_ponArchivo(pagina_, "Jugadores.dat", personajes.data(),
@@ -70,9 +70,7 @@ class Modulo : public testing::Test {
     tasca_ponArchivo(pagina_, "mus.ini", ini.data(), static_cast<int>(ini.size()));
     tasca_abrir(pagina_, "", 0, LasNueveYCuarto);
   }
-  Modulo(const Modulo&) = delete;
-  Modulo& operator=(const Modulo&) = delete;
-  ~Modulo() override { std::filesystem::current_path(antes_); }
+  void TearDown() override { std::filesystem::current_path(antes_); }
 
   void Sentarse() { tasca_aceptar(pagina_, "Íñigo", LasNueveYCuarto); }
   Objeto Pulsar() { return Objeto::parse(tasca_tecla(pagina_, Enter, 0, LasNueveYCuarto)); }

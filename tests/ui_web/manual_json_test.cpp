@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <set>
+#include <string>
+#include <vector>
 
-#include "tests/traces/read_file.h"
 #include "ui/manual/card_reference.h"
 #include "ui/manual/chapters.h"
 
@@ -14,37 +16,42 @@ namespace {
 
 using Objeto = nlohmann::json;
 
-TEST(JsonDelManual, HoldsEveryChapterWithAllPicturesAsCards) {
-  const Objeto manual = Objeto::parse(JsonDelManual());
-  EXPECT_EQ(manual["capitulos"].size(), ManualChapters().size());
-  int dibujos = 0;
+// What stands between this beginning and the next ")", in all chapters.
+std::vector<std::string> Entre(const Objeto& manual, const std::string& comienzo) {
+  std::vector<std::string> hallados;
   for (const auto& capitulo : manual["capitulos"]) {
     const auto texto = capitulo.get<std::string>();
-    EXPECT_EQ(texto.find("```ejemplo"), std::string::npos) << "examples are written out";
-    EXPECT_EQ(texto.find("(mano:"), std::string::npos);
-    for (std::size_t i = texto.find("(carta:"); i != std::string::npos;
-         i = texto.find("(carta:", i + 1)) {
-      const std::size_t desde = i + std::string_view{"(carta:"}.size();
-      EXPECT_GT(CardOfName(texto.substr(desde, texto.find(')', desde) - desde)), 0);
-      ++dibujos;
+    std::size_t desde = texto.find(comienzo);
+    for (; desde != std::string::npos; desde = texto.find(comienzo, desde)) {
+      desde += comienzo.size();
+      hallados.push_back(texto.substr(desde, texto.find(')', desde) - desde));
     }
   }
-  EXPECT_GT(dibujos, 40);
+  return hallados;
+}
+
+TEST(JsonDelManual, HoldsEveryChapterWithItsExamplesWrittenOut) {
+  const Objeto manual = Objeto::parse(JsonDelManual());
+  EXPECT_EQ(manual["capitulos"].size(), ManualChapters().size());
+  EXPECT_TRUE(Entre(manual, "```ejemplo").empty());
+}
+
+TEST(JsonDelManual, HasOnePictureForEachCard) {
+  const Objeto manual = Objeto::parse(JsonDelManual());
+  EXPECT_TRUE(Entre(manual, "(mano:").empty());
+  const std::vector<std::string> cartas = Entre(manual, "(carta:");
+  EXPECT_GT(cartas.size(), 40);
+  for (const std::string& carta : cartas) EXPECT_GT(CardOfName(carta), 0) << carta;
 }
 
 TEST(JsonDelManual, ListsTheHeadingsWithTheAnchorsOfTheLinks) {
   const Objeto manual = Objeto::parse(JsonDelManual());
   EXPECT_EQ(manual["titulos"][0]["nivel"], 1);
-  for (const auto& capitulo : manual["capitulos"]) {
-    const auto texto = capitulo.get<std::string>();
-    for (std::size_t i = texto.find("](#"); i != std::string::npos; i = texto.find("](#", i + 1)) {
-      const std::string ancla = texto.substr(i + 3, texto.find(')', i) - i - 3);
-      const bool esta =
-          std::any_of(manual["titulos"].begin(), manual["titulos"].end(),
-                      [&ancla](const Objeto& titulo) { return titulo["ancla"] == ancla; });
-      EXPECT_TRUE(esta) << ancla;
-    }
-  }
+  std::set<std::string> anclas;
+  for (const auto& titulo : manual["titulos"]) anclas.insert(titulo["ancla"]);
+  const std::vector<std::string> enlaces = Entre(manual, "](#");
+  EXPECT_FALSE(enlaces.empty());
+  for (const std::string& enlace : enlaces) EXPECT_TRUE(anclas.contains(enlace)) << enlace;
 }
 
 }  // namespace

@@ -37,8 +37,8 @@ class RecordedGame : public testing::TestWithParam<std::string> {
  protected:
   RecordedGame() { FillFolder(folder_.Path(), Game()); }
 
-  fs::path Game() const { return Recorded / GetParam(); }
-  std::string In() const { return ReadFile(Game() / "in.jsonl"); }
+  static fs::path Game() { return Recorded / GetParam(); }
+  static std::string In() { return ReadFile(Game() / "in.jsonl"); }
   std::string Out(const std::string& out) const {
     return WithoutFolder(out, folder_.Path().string());
   }

@@ -111,6 +111,13 @@ std::string TracePlayer::Answer(const Json& line) {
 }
 
 void TracePlayer::Look(const std::string& vista) {
+  LookOnce(vista);
+  while (vista_["pregunta"].is_object() && vista_["pregunta"]["clase"] == "aviso") {
+    LookOnce(juego_->Responde({.Clase = ClaseEntrada::Aceptado, .Hora = hora_}));
+  }
+}
+
+void TracePlayer::LookOnce(const std::string& vista) {
   vista_ = Json::parse(vista);
   WriteCalls(vista_);
   if (!vista_["pregunta"].is_null()) {
@@ -121,8 +128,6 @@ void TracePlayer::Look(const std::string& vista) {
     WriteEnd(vista_);
   }
   if (cierra_ && vista_["situacion"] == "mesa") CloseAndGoOn();
-  const bool esAviso = vista_["pregunta"].is_object() && vista_["pregunta"]["clase"] == "aviso";
-  if (esAviso) Look(juego_->Responde({.Clase = ClaseEntrada::Aceptado, .Hora = hora_}));
 }
 
 // The sound stop of the start-up dialog is no part of a trace, which ends before.

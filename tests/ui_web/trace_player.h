@@ -33,8 +33,10 @@ class TracePlayer {
   void Start(const Json& start);
   void Take(const Json& line);
   std::string Answer(const Json& line);
-  // Looks at a view: writes its events and shuts message boxes.
+  // Looks at a view and shuts its message boxes.
   void Look(const std::string& vista);
+  // Writes the events of a view.
+  void LookOnce(const std::string& vista);
   void WriteCalls(const Json& vista);
   void WriteQuestion(const Json& vista);
   void WriteEnd(const Json& vista);

@@ -1,6 +1,7 @@
 // The buttons of each kind of question.
 #include "ui/web/pregunta.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -130,10 +131,9 @@ bool Vale(const PreguntaAbierta& pregunta, const Entrada& respuesta) {
       return false;
   }
   if (pregunta.Clase != ClasePregunta::Envite) return false;
-  for (const Boton& boton : BotonesDe(pregunta)) {
-    if (boton.Indice == respuesta.Numero) return true;
-  }
-  return false;
+  const std::vector<Boton> botones = BotonesDe(pregunta);
+  return std::any_of(botones.begin(), botones.end(),
+                     [&respuesta](const Boton& boton) { return boton.Indice == respuesta.Numero; });
 }
 
 void EscribirPregunta(Json& json, const PreguntaAbierta& pregunta) {
