@@ -26,6 +26,12 @@ RunTimeError RunTimeError::AlreadyShown(std::u16string_view mensaje) {
   return error;
 }
 
+std::u16string_view RunTimeError::WhatHappened() const {
+  std::u16string_view mensaje = mensaje_;
+  if (mensaje.ends_with(FinDelPrograma)) mensaje.remove_suffix(FinDelPrograma.size());
+  return mensaje;
+}
+
 void ThrowOverflow() {
   throw RunTimeError{u"Desbordamiento: el número no está entre -32768 y 32767."};
 }

@@ -25,6 +25,8 @@ class RunTimeError : public std::exception {
 
   // The complete message for the player.
   const std::u16string& Message() const { return mensaje_; }
+  // The message without the sentence that the program ends, for who goes on after the error.
+  std::u16string_view WhatHappened() const;
   // True if the player has already read the message: a face must not show it again.
   bool Shown() const { return mostrado_; }
   // A constant: the text is in Message().

@@ -66,4 +66,10 @@ Utf8Check CheckUtf8(std::string_view bytes) {
   return found;
 }
 
+void Utf8Detector::AddLine(int linea, std::string_view bytes) {
+  const Utf8Check son = CheckUtf8(bytes);
+  if (son == Utf8Check::Invalid) valido_ = false;
+  if (son == Utf8Check::MultiByte && primera_ == 0) primera_ = linea;
+}
+
 }  // namespace tasca

@@ -14,4 +14,18 @@ enum class Utf8Check {
 // sequences are invalid. A byte-order mark counts as a multi-byte sequence.
 Utf8Check CheckUtf8(std::string_view bytes);
 
+// Detects UTF-8 in a file of which the lines are passed one by one; no sequence contains a line
+// end.
+class Utf8Detector {
+ public:
+  // Requires that the lines are passed in order, the first one as 1.
+  void AddLine(int linea, std::string_view bytes);
+  // The first line with a multi-byte sequence; 0 if there is none or the file is not UTF-8.
+  int FirstLine() const { return valido_ ? primera_ : 0; }
+
+ private:
+  bool valido_ = true;
+  int primera_ = 0;
+};
+
 }  // namespace tasca

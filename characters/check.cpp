@@ -225,13 +225,6 @@ void ExaminarLetras(CuadernoFaltas& c, std::u16string_view linea) {
   }
 }
 
-// The detected encoding. Lines can be checked one by one, because no UTF-8 sequence contains a line
-// end.
-struct Codificacion {
-  bool EsUtf8 = true;
-  int PrimeraLinea = 0;  // first line with a multi-byte sequence; 0 if none
-};
-
 // The progress of all readers and the notes.
 struct Examen {
   CuadernoFaltas Apuntes;
@@ -239,7 +232,7 @@ struct Examen {
       {{.Quien = LectorJuego, .Lineas = LineasPersonajes{LectorPersonajes::Juego}},
        {.Quien = LectorEditor, .Lineas = LineasPersonajes{LectorPersonajes::Editor}}}};
   Oferta Ofrece;
-  Codificacion Bytes;
+  Utf8Detector Bytes;
 };
 
 void ExaminarLinea(Examen& e, std::u16string_view linea) {
@@ -280,18 +273,10 @@ void ExaminarFinal(Examen& e) {
   }
 }
 
-void ExaminarBytes(Codificacion& codificacion, int linea, std::string_view bytes) {
-  const Utf8Check son = CheckUtf8(bytes);
-  if (son == Utf8Check::Invalid) codificacion.EsUtf8 = false;
-  const bool esLaPrimera = son == Utf8Check::MultiByte && codificacion.PrimeraLinea == 0;
-  if (esLaPrimera) codificacion.PrimeraLinea = linea;
-}
-
-void AnotarCodificacion(CuadernoFaltas& c, const Codificacion& codificacion) {
-  if (!codificacion.EsUtf8 || codificacion.PrimeraLinea == 0) return;
-  c.Anotar(TodosLosLectores, codificacion.PrimeraLinea,
-           u"el archivo parece guardado en UTF-8, y así sus acentos se ven mal: guárdelo en "
-           u"Windows-1252 (ANSI)");
+void AnotarCodificacion(CuadernoFaltas& c, const Utf8Detector& bytes) {
+  if (bytes.FirstLine() > 0) {
+    c.Anotar(TodosLosLectores, bytes.FirstLine(), std::u16string{PareceUtf8});
+  }
 }
 
 // Reads the next line. False at the end of the file, and for a line that is too long: then it is
@@ -314,7 +299,7 @@ void ExaminarArchivo(Examen& e, LineReader& archivo) {
   bool interrumpido = false;
   std::string bytes;
   while (SiguienteLinea(archivo, bytes, e.Apuntes, interrumpido)) {
-    ExaminarBytes(e.Bytes, e.Apuntes.Linea, bytes);
+    e.Bytes.AddLine(e.Apuntes.Linea, bytes);
     ExaminarLinea(e, Decode(WithoutLineEnd(bytes)));
     if (e.Apuntes.Cuantas() < MaximoNotas) continue;
     e.Apuntes.Anotar(TodosLosLectores, u"hay demasiadas faltas: no se mira más allá");

@@ -5,9 +5,15 @@
 // contains "Datos>" starts a record and which skips names that contain "Default".
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tasca {
+
+// The note of a file that was saved as UTF-8.
+inline constexpr std::u16string_view PareceUtf8 =
+    u"el archivo parece guardado en UTF-8, y así sus acentos se ven mal: guárdelo en Windows-1252 "
+    u"(ANSI)";
 
 // One fault of a file.
 struct Falta {

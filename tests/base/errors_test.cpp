@@ -47,6 +47,12 @@ TEST(RunTimeError, KeepsItsMessageIfAlreadyShown) {
   EXPECT_TRUE(error.Shown());
 }
 
+TEST(RunTimeError, TellsWhatHappenedWithoutTheEndOfTheProgram) {
+  const RunTimeError error = RunTimeError::InFile("mus.ini", 4, u"la línea está mal.");
+  EXPECT_EQ(Utf8(error.WhatHappened()), "mus.ini, línea 4: la línea está mal.");
+  EXPECT_EQ(Utf8(RunTimeError::AlreadyShown(u"Adiós.").WhatHappened()), "Adiós.");
+}
+
 TEST(ThrowOverflow, NamesTheRange) {
   EXPECT_EQ(ErrorOf(ThrowOverflow),
             "Desbordamiento: el número no está entre -32768 y 32767. El programa va a terminar su "

@@ -61,5 +61,23 @@ TEST(CheckUtf8, RefusesOneBadByteAfterGoodSequences) {
   EXPECT_EQ(CheckUtf8("\xC3\xA1 \xE1"), Utf8Check::Invalid);
 }
 
+TEST(Utf8Detector, NamesTheFirstLineWithASequence) {
+  Utf8Detector detector;
+  detector.AddLine(1, "Datos>");
+  EXPECT_EQ(detector.FirstLine(), 0);
+  detector.AddLine(2, "t\xC3\xADo");
+  detector.AddLine(3, "\xC3\xA1");
+  EXPECT_EQ(detector.FirstLine(), 2);
+}
+
+TEST(Utf8Detector, FindsNothingInAFileWithAnInvalidLine) {
+  for (const bool antes : {true, false}) {
+    Utf8Detector detector;
+    detector.AddLine(1, antes ? "\xED" : "\xC3\xAD");
+    detector.AddLine(2, antes ? "\xC3\xAD" : "\xED");
+    EXPECT_EQ(detector.FirstLine(), 0);
+  }
+}
+
 }  // namespace
 }  // namespace tasca::test
