@@ -1,6 +1,8 @@
 // The events of the character editor's form.
 #include "characters/editor.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 #include "base/errors.h"
 #include "base/keys.h"
@@ -91,6 +93,12 @@ bool ConservarTextos(Dialog1& d, Table& t, EditorPort& port) {
            u" han cambiado. ¿Aplicarlos? Si pulsa Cancelar, se pierde lo escrito."),
       u"Cambiar de jugador");
   return !aplicar || GuardarTextos(d, mostrado, port);
+}
+
+void PonerTextos(Dialog1& d, const Personaje& personaje) {
+  d.Text1 = personaje.Nombre.Trimmed();
+  d.Text2 = ToText(personaje.Ordaguero);
+  d.Text3 = personaje.Historia.Trimmed();
 }
 
 // Kept: the new character gets the phrases that its record still holds.
@@ -195,11 +203,8 @@ void List3_Click(Dialog1& d, int posicion) { Elegir(d.List3, posicion); }
 
 // Kept: selects the second of the three phrases.
 void MostrarPersonaje(Dialog1& d, const Table& t, int personaje) {
-  const Personaje& mostrado = t.Personajes[personaje];
   d.Mostrado = personaje;
-  d.Text1 = mostrado.Nombre.Trimmed();
-  d.Text2 = ToText(mostrado.Ordaguero);
-  d.Text3 = mostrado.Historia.Trimmed();
+  PonerTextos(d, t.Personajes[personaje]);
   Elegir(d.List2, 0);
   ListarFrases(d, t, personaje, Elegido(d.List2), Forma::ConRelleno);
   Elegir(d.List3, 1);
@@ -233,6 +238,7 @@ void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port) {
         Join(error.Sentence(), u" Los cambios siguen aquí: puede intentarlo otra vez."));
   }
   d.Guardado = TextoPersonajes(t, d.NumPersonajes);
+  d.Cargado = true;
   port.MsgBox(Join(u"Se han guardado datos de ", d.NumPersonajes, u" jugadores"));
 }
 
@@ -240,10 +246,27 @@ void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port) {
 void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port) {
   d.NumPersonajes = LeerPersonajesSinMayusculas(t);
   d.Guardado = TextoPersonajes(t, d.NumPersonajes);
+  d.Cargado = true;
   d.List1.ListIndex = -1;
   for (int i = 1; i <= d.NumPersonajes; ++i) d.List1.List.push_back(EntradaDe(i, t.Personajes[i]));
   if (d.NumPersonajes >= 1) MostrarPersonaje(d, t, 1);
   port.MsgBox(Join(u"se han cargado ", d.NumPersonajes, u" jugadores"));
+}
+
+void CambiarPersonajes(Dialog1& d, const Table& t, int numPersonajes,
+                       const std::function<void()>& cambio) {
+  const bool escritos = TextosCambiados(d, t);
+  cambio();
+  for (int n = std::max<int>(d.NumPersonajes, 0) + 1; n <= numPersonajes; ++n) {
+    d.List1.List.push_back(EntradaDe(n, t.Personajes[n]));
+  }
+  d.NumPersonajes = numPersonajes;
+  if (d.Mostrado > 0 && !escritos) PonerTextos(d, t.Personajes[d.Mostrado]);
+  const int conFrases = Elegido(d.List1) > 0 ? Elegido(d.List1) : d.Mostrado;
+  if (conFrases == 0 || Elegido(d.List2) == 0) return;
+  const int elegida = d.List3.ListIndex;
+  ListarFrases(d, t, conFrases, Elegido(d.List2), Forma::SinRelleno);
+  d.List3.ListIndex = elegida;
 }
 
 bool HayCambios(const Dialog1& d, const Table& t) {

@@ -2,6 +2,9 @@
 // The editor of the character file: the state of its form, and the events of its controls, which
 // change Personajes and Mensajes in memory. Only "Guardar en disco" writes the file.
 #include <array>
+#include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +18,15 @@ inline constexpr std::array<std::u16string_view, CategoriasMensaje> EtiquetasJug
     u"Quiero mus",     u"No quiero mus", u"Tengo pares", u"No tengo pares", u"tengo juego",
     u"No tengo juego", u"Paso",          u"Envido",      u"envido & más",   u"Órdago",
     u"No quiero",      u"quiero",        u"Victoria",    u"Derrota"};
+
+// A character of another file that may be brought into the edited ones.
+struct Candidato {
+  std::u16string Nombre;
+  std::u16string Historia;
+  bool YaEsta = false;  // one of the edited characters has that name
+
+  bool operator==(const Candidato&) const = default;
+};
 
 // The interface through which the editor asks the user. A question blocks until it is answered.
 class EditorPort {
@@ -31,6 +43,15 @@ class EditorPort {
   // Asks for a text. Returns the text typed; "" if cancelled.
   virtual std::u16string InputBox(std::u16string_view texto, std::u16string_view titulo,
                                   std::u16string_view porDefecto) = 0;
+  // Shows a box with Yes, No and Cancel. Nothing if cancelled.
+  virtual std::optional<bool> YesNoCancelBox(std::u16string_view texto,
+                                             std::u16string_view titulo) = 0;
+  // Asks for an existing file. Returns its path; "" if cancelled.
+  virtual std::filesystem::path FileBox(std::u16string_view titulo) = 0;
+  // Lets the user choose several characters, by their positions; at first `elegidos` are chosen.
+  // Returns the chosen positions in ascending order; none if cancelled.
+  virtual std::vector<int> ChoiceBox(const std::vector<Candidato>& candidatos,
+                                     const std::vector<int>& elegidos) = 0;
   // Signals an event that cannot be carried out.
   virtual void Beep() = 0;
 };
@@ -57,6 +78,7 @@ struct Dialog1 {
   int Mostrado = 0;           // the character whose data the text boxes were filled with; 0 if none
   Integer NumPersonajes = 0;  // number of characters in memory
   std::string Guardado;       // the content of the file as last loaded or saved
+  bool Cargado = false;       // the file has been loaded or saved
 };
 
 // Fills List2. No characters are loaded.
@@ -100,6 +122,12 @@ void GuardarPersonajes(Dialog1& d, const Table& t, EditorPort& port);
 // Reads the file, appends its characters to List1, shows character 1 and reports their number in a
 // message box. Throws RunTimeError if the file cannot be used.
 void CargarPersonajes(Dialog1& d, Table& t, EditorPort& port);
+
+// Runs `cambio`, which replaces characters or adds some after the last one, so that there are
+// `numPersonajes`. Lists the new ones and shows the changed data. Texts that have been typed and
+// not stored stay.
+void CambiarPersonajes(Dialog1& d, const Table& t, int numPersonajes,
+                       const std::function<void()>& cambio);
 
 // True if the characters in memory differ from the file as last loaded or saved, or if texts have
 // been typed and not applied.

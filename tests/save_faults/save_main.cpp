@@ -47,6 +47,15 @@ class EditorsPort : public tasca::EditorPort {
                           std::u16string_view /*porDefecto*/) override {
     return {};
   }
+  std::optional<bool> YesNoCancelBox(std::u16string_view /*texto*/,
+                                     std::u16string_view /*titulo*/) override {
+    return {};
+  }
+  std::filesystem::path FileBox(std::u16string_view /*titulo*/) override { return {}; }
+  std::vector<int> ChoiceBox(const std::vector<tasca::Candidato>& /*candidatos*/,
+                             const std::vector<int>& /*elegidos*/) override {
+    return {};
+  }
   void Beep() override {}
 };
 

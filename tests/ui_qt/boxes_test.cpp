@@ -199,6 +199,23 @@ TEST(AskText, ReturnsAnEmptyTextForCancelAndEsc) {
   EXPECT_EQ(Utf8(AskText(nullptr, u"¿Cuántas?", u"Envite", u"2")), "");
 }
 
+TEST(AskYesNoCancel, SelectsNoAndHasThreeButtons) {
+  std::string vista;
+  const BoxAnswerer jugador = LookAndPress(vista, Qt::Key_Return);
+  EXPECT_EQ(AskYesNoCancel(nullptr, u"¿<b>Sí</b> & no?", u"Traer"), false);
+  EXPECT_EQ(vista, "Traer|¿<b>Sí</b> & no?||&Sí &No Cancelar ");
+}
+
+TEST(AskYesNoCancel, AcceptsTheLettersAndIsCancelledByEsc) {
+  const std::vector<std::pair<Qt::Key, std::optional<bool>>> casos{
+      {Qt::Key_S, true}, {Qt::Key_N, false}, {Qt::Key_Escape, std::nullopt}};
+  for (const auto& [tecla, respuesta] : casos) {
+    std::string vista;
+    const BoxAnswerer jugador = LookAndPress(vista, tecla);
+    EXPECT_EQ(AskYesNoCancel(nullptr, u"¿Sí?", u"Traer"), respuesta) << tecla;
+  }
+}
+
 TEST(AskOkCancel, IsTrueForAceptarAlone) {
   const auto preguntar = [](Qt::Key tecla) {
     std::string vista;

@@ -304,6 +304,17 @@ TEST_F(EditorWindow, LimitsEveryTextToItsWidth) {
   }
 }
 
+TEST_F(EditorWindow, BringsCharactersOfAnotherFile) {
+  Load();
+  carpeta_.Write("otro.dat", "Datos>\r\nLola & Co\r\n070\r\nBaila.\r\n");
+  EXPECT_EQ(Utf8(Find<QPushButton>("Traer")->text()), "&Traer personajes de un archivo...");
+  port_.Opens(carpeta_.Path() / "otro.dat").Chooses({0});
+  Alt(Qt::Key_T);
+  EXPECT_EQ(port_.TakeEvents().size(), 3U);
+  EXPECT_EQ(Shown("List1").at(5), "6. Lola & Co");
+  EXPECT_EQ(ventana_.State().NumPersonajes, 6);
+}
+
 TEST_F(EditorWindow, DoesNothingOnAceptar) {
   Load();
   const std::string antes = TextoPersonajes(t_, 5);
@@ -414,8 +425,8 @@ TEST_F(EditorWindow, NamesEmptyPhrasesForScreenReaders) {
 TEST_F(EditorWindow, MovesThroughItsControlsWithTab) {
   Find<QListWidget>("List1")->setFocus();
   for (const char* const nombre :
-       {"Text1", "Text2", "Text3", "Command1_0", "Command1_1", "Command1_2", "List2", "List3",
-        "Command2_0", "Command2_1", "Command3_0", "Command3_1", "CbOK", "List1"}) {
+       {"Traer", "Text1", "Text2", "Text3", "Command1_0", "Command1_1", "Command1_2", "List2",
+        "List3", "Command2_0", "Command2_1", "Command3_0", "Command3_1", "CbOK", "List1"}) {
     Keys({Qt::Key_Tab});
     EXPECT_EQ(Focus(), nombre);
   }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <utility>
@@ -266,6 +267,43 @@ TEST_F(EditorInWindows, TellsOfNewFilesThatLieBesideTheUsersOwn) {
                  "el suyo se queda como está; el nuevo está a su lado: /a/Jugadores.dat.nuevo"),
            Close},
           {.News = {"/a/Jugadores.dat.nuevo"}}),
+      0);
+}
+
+TEST_F(EditorInWindows, BringsCharactersOfAFileAndAsksBeforeDiscardingThem) {
+  const std::string otro = (carpeta_.Path() / "otro.txt").string();
+  carpeta_.Write("otro.txt",
+                 "Datos>\r\nBerta\r\n070\r\nEs otra.\r\nDatos>\r\nLola\r\n080\r\nBaila.\r\n");
+  const std::string antes = carpeta_.Read("Jugadores.dat");
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_T),
+            [&otro](QWidget* v) { Type(Control<QLineEdit>(v, "fileNameEdit"), otro.c_str()); },
+            Key(Qt::Key_Return), Alt(Qt::Key_E), Key(Qt::Key_Return),
+            Reads("Ya tiene un personaje que se llama Berta. ¿Sustituirlo por el del archivo? Con "
+                  "«No» se queda el que tiene; con «Cancelar» no se trae ninguno.",
+                  Qt::Key_S),
+            Reads("Se han traído 2 personajes. Para conservarlos, pulse «Guardar en disco»."),
+            Close, Reads(SinGuardar),
+            [&](QWidget* v) {
+              EXPECT_EQ(carpeta_.Read("Jugadores.dat"), antes);
+              Press(v, Qt::Key_G, Qt::AltModifier);
+            },
+            Reads("Se han guardado datos de 6 jugadores"), Close}),
+      0);
+  const std::string despues = carpeta_.Read("Jugadores.dat");
+  EXPECT_NE(despues.find("Datos>\r\nBerta\r\n070\r\nEs otra.\r\n"), std::string::npos);
+  EXPECT_NE(despues.find("Datos>\r\nLola\r\n080\r\nBaila.\r\n"), std::string::npos);
+}
+
+TEST_F(EditorInWindows, GoesOnAfterAFileThatCannotBeUsed) {
+  const std::string otro = (carpeta_.Path() / "otro.txt").string();
+  const std::string mensaje = otro + ", línea 1: hay una frase antes del primer personaje.";
+  carpeta_.Write("otro.txt", "nada\r\n");
+  EXPECT_EQ(
+      Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_T),
+            [&otro](QWidget* v) { Type(Control<QLineEdit>(v, "fileNameEdit"), otro.c_str()); },
+            Key(Qt::Key_Return), Reads(mensaje.c_str()), Alt(Qt::Key_T), Key(Qt::Key_Escape),
+            Close}),
       0);
 }
 

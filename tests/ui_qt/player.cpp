@@ -7,6 +7,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTest>
+#include <QToolButton>
 #include <algorithm>
 #include <utility>
 
@@ -54,10 +55,12 @@ void Compose(QWidget* control, const char* enCurso, const char* escrito) {
   QApplication::sendEvent(control, &suceso);
 }
 
+// A tool button of QFileDialog stays down while its view is the current one.
 bool ButtonIsDown(const QWidget* ventana) {
   const auto botones = ventana->findChildren<QAbstractButton*>();
-  return std::any_of(botones.begin(), botones.end(),
-                     [](const QAbstractButton* boton) { return boton->isDown(); });
+  return std::any_of(botones.begin(), botones.end(), [](const QAbstractButton* boton) {
+    return boton->isDown() && qobject_cast<const QToolButton*>(boton) == nullptr;
+  });
 }
 
 BoxAnswerer::BoxAnswerer(std::function<void(QWidget*)> alVer, std::chrono::seconds limite) {

@@ -40,18 +40,14 @@ class MessageBox : public LateHiding<QMessageBox> {
   const QAbstractButton* pulsado_ = nullptr;
 };
 
-// QMessageBox takes Esc and the close box for "No"; here they do nothing. It also presses a button
-// 100 ms after its letter, and Enter in between presses the default button; here the letter acts at
-// once.
-class YesNoMessageBox : public MessageBox {
+// QMessageBox presses a button 100 ms after its letter, and Enter in between presses the default
+// button; here the letter acts at once.
+class LetterMessageBox : public MessageBox {
  public:
   using MessageBox::MessageBox;
-  void reject() override {}
 
  protected:
-  void closeEvent(QCloseEvent* suceso) override { suceso->ignore(); }
   void keyPressEvent(QKeyEvent* suceso) override {
-    if (suceso->matches(QKeySequence::Cancel)) return suceso->accept();
     if (suceso->modifiers() == Qt::NoModifier || suceso->modifiers() == Qt::ShiftModifier) {
       for (QAbstractButton* const boton : buttons()) {
         if (boton->shortcut() == QKeySequence{Qt::ALT | static_cast<Qt::Key>(suceso->key())})
@@ -59,6 +55,20 @@ class YesNoMessageBox : public MessageBox {
       }
     }
     QMessageBox::keyPressEvent(suceso);
+  }
+};
+
+// QMessageBox takes Esc and the close box for "No"; here they do nothing.
+class YesNoMessageBox : public LetterMessageBox {
+ public:
+  using LetterMessageBox::LetterMessageBox;
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* suceso) override { suceso->ignore(); }
+  void keyPressEvent(QKeyEvent* suceso) override {
+    if (suceso->matches(QKeySequence::Cancel)) return suceso->accept();
+    LetterMessageBox::keyPressEvent(suceso);
   }
 };
 
@@ -144,6 +154,21 @@ std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta) {
   LeaveRoomForTitle(caja);
   RunBox(caja, porDefecto);
   if (caja.Pressed() == nullptr) return std::nullopt;
+  return caja.Pressed() == si;
+}
+
+std::optional<bool> AskYesNoCancel(QWidget* padre, std::u16string_view texto,
+                                   std::u16string_view titulo) {
+  LetterMessageBox caja{padre};
+  Prepare(caja, "YesNoCancelBox", titulo, texto);
+  auto* const si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
+  auto* const no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+  auto* const cancelar = caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole);
+  caja.setDefaultButton(no);
+  caja.setEscapeButton(cancelar);
+  LeaveRoomForTitle(caja);
+  RunBox(caja, no);
+  if (caja.Pressed() == nullptr || caja.Pressed() == cancelar) return std::nullopt;
   return caja.Pressed() == si;
 }
 

@@ -19,6 +19,10 @@ void ShowError(QWidget* padre, std::u16string_view texto);
 // True for "Sí", false for "No". Esc and the close box do nothing. Nothing if the program is ended
 // meanwhile.
 std::optional<bool> AskYesNo(QWidget* padre, const YesNoQuestion& pregunta);
+// True for "Sí", false for "No"; "No" has the focus. Nothing for "Cancelar" or if the box is
+// closed.
+std::optional<bool> AskYesNoCancel(QWidget* padre, std::u16string_view texto,
+                                   std::u16string_view titulo);
 // True for "Aceptar", false for "Cancelar" or if the box is closed.
 bool AskOkCancel(QWidget* padre, std::u16string_view texto, std::u16string_view titulo);
 // Creates a control that writes into the text field of an input box. It is placed above the field.

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "base/keys.h"
+#include "characters/bring.h"
 #include "characters/character_file.h"
 #include "ui/qt/accessible.h"
 #include "ui/qt/keys.h"
@@ -117,6 +118,8 @@ Dialog1Form::Dialog1Form(Table& t, EditorPort& port, Events sucesos)
                               {u"M&odificar mensaje(f2)", u"E&liminar mensaje"})},
       command3_{NewButtons<2>(this, QStringLiteral("Command3_"),
                               {u"&Guardar en disco", u"&Cargar de disco"})},
+      traer_{Named(new QPushButton{QStringLiteral("&Traer personajes de un archivo..."), this},
+                   QStringLiteral("Traer"))},
       cbOK_{Named(new QPushButton{QStringLiteral("Aceptar"), this}, QStringLiteral("CbOK"))} {
   DescribeTexts();
   setObjectName(QStringLiteral("Dialog1"));
@@ -193,6 +196,8 @@ void Dialog1Form::ConnectButtons() {
   alPulsar(command1_, Command1_Click);
   alPulsar(command2_, Command2_Click);
   alPulsar(command3_, Command3_Click);
+  connect(traer_, &QPushButton::clicked, this,
+          [this] { Do([&] { TraerPersonajes(estado_, t_, port_); }); });
 }
 
 bool Dialog1Form::eventFilter(QObject* objeto, QEvent* suceso) {
@@ -217,6 +222,7 @@ void Dialog1Form::BuildLayout() {
   auto* const jugadores = new QVBoxLayout;
   jugadores->addWidget(NewLabel(list1_, "Label4", u"&Jugadores"));
   jugadores->addWidget(list1_);
+  jugadores->addWidget(traer_);
   auto* const datos = new QVBoxLayout;
   datos->addLayout(BuildData());
   datos->addLayout(BuildPhrases(), 1);
@@ -256,7 +262,7 @@ QLayout* Dialog1Form::BuildPhrases() {
 }
 
 QLayout* Dialog1Form::BuildButtons() {
-  cbOK_->setAutoDefault(true);
+  for (QPushButton* const boton : {traer_, cbOK_}) boton->setAutoDefault(true);
   auto* const botones = new QHBoxLayout;
   botones->addWidget(estadoTexto_, 1);
   for (QPushButton* const boton : command3_) botones->addWidget(boton);
@@ -265,9 +271,10 @@ QLayout* Dialog1Form::BuildButtons() {
 }
 
 void Dialog1Form::SetTabs() {
-  const std::array<QWidget*, 14> orden{
-      list1_, text1_, text2_,       text3_,       command1_[0], command1_[1], command1_[2],
-      list2_, list3_, command2_[0], command2_[1], command3_[0], command3_[1], cbOK_};
+  const std::array<QWidget*, 15> orden{list1_,       traer_,       text1_,       text2_,
+                                       text3_,       command1_[0], command1_[1], command1_[2],
+                                       list2_,       list3_,       command2_[0], command2_[1],
+                                       command3_[0], command3_[1], cbOK_};
   for (std::size_t i = 1; i < orden.size(); ++i) setTabOrder(orden.at(i - 1), orden.at(i));
 }
 

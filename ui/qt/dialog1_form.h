@@ -68,6 +68,7 @@ class Dialog1Form : public QWidget {
   std::array<QPushButton*, 3> command1_;
   std::array<QPushButton*, 2> command2_;
   std::array<QPushButton*, 2> command3_;
+  QPushButton* traer_;
   QPushButton* cbOK_;
   RepeatGuard repeticiones_{*this};
 };

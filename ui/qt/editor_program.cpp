@@ -2,6 +2,9 @@
 #include "ui/qt/editor_program.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QStandardPaths>
 #include <system_error>
 #include <utility>
 
@@ -10,7 +13,9 @@
 #include "ui/own_files.h"
 #include "ui/qt/application.h"
 #include "ui/qt/boxes.h"
+#include "ui/qt/choice_box.h"
 #include "ui/qt/phrase_box.h"
+#include "ui/qt/qt_text.h"
 
 namespace tasca {
 
@@ -28,6 +33,27 @@ std::u16string QtEditorPort::InputBox(std::u16string_view texto, std::u16string_
                                       std::u16string_view porDefecto) {
   ventana_->ShowState();
   return AskPhrase(ventana_, texto, titulo, porDefecto, AnchoFrase);
+}
+
+std::optional<bool> QtEditorPort::YesNoCancelBox(std::u16string_view texto,
+                                                 std::u16string_view titulo) {
+  ventana_->ShowState();
+  return AskYesNoCancel(ventana_, texto, titulo);
+}
+
+std::filesystem::path QtEditorPort::FileBox(std::u16string_view titulo) {
+  ventana_->ShowState();
+  const QString archivo = QFileDialog::getOpenFileName(
+      ventana_, ToDisplay(titulo),
+      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+      QStringLiteral("Personajes (*.dat *.bak *.nuevo);;Todos los archivos (*)"));
+  return QFile::encodeName(archivo).toStdString();
+}
+
+std::vector<int> QtEditorPort::ChoiceBox(const std::vector<Candidato>& candidatos,
+                                         const std::vector<int>& elegidos) {
+  ventana_->ShowState();
+  return ChooseCharacters(ventana_, candidatos, elegidos);
 }
 
 void QtEditorPort::Beep() { QApplication::beep(); }

@@ -2,6 +2,7 @@
 // The character editor's program: opens its window, shows its boxes and ends it.
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,11 @@ class QtEditorPort : public EditorPort {
   bool OkCancelBox(std::u16string_view texto, std::u16string_view titulo) override;
   std::u16string InputBox(std::u16string_view texto, std::u16string_view titulo,
                           std::u16string_view porDefecto) override;
+  std::optional<bool> YesNoCancelBox(std::u16string_view texto,
+                                     std::u16string_view titulo) override;
+  std::filesystem::path FileBox(std::u16string_view titulo) override;
+  std::vector<int> ChoiceBox(const std::vector<Candidato>& candidatos,
+                             const std::vector<int>& elegidos) override;
   void Beep() override;
 
  private:

@@ -1,0 +1,106 @@
+// The box in which characters of another file are chosen.
+#include "ui/qt/choice_box.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include "tests/ui_qt/nameless.h"
+#include "tests/ui_qt/player.h"
+
+namespace tasca::test {
+namespace {
+
+const std::vector<Candidato> Tres{
+    {.Nombre = u"Berta", .Historia = u"Cuida cabras.", .YaEsta = true},
+    {.Nombre = u"", .Historia = u"Nadie lo sabe.", .YaEsta = false},
+    {.Nombre = u"<b>Eva & Cía</b>", .Historia = u"", .YaEsta = false}};
+
+// Opens the box and runs the steps on it, one each time that it takes keys.
+std::vector<int> Choose(std::vector<std::function<void(QWidget*)>> pasos,
+                        const std::vector<int>& elegidos = {}) {
+  std::size_t dados = 0;
+  const BoxAnswerer jugador{[&](QWidget* caja) {
+    if (ButtonIsDown(caja) || dados >= pasos.size()) return;
+    pasos.at(dados++)(caja);
+  }};
+  const std::vector<int> respuesta = ChooseCharacters(nullptr, Tres, elegidos);
+  EXPECT_EQ(dados, pasos.size()) << "closed before the last step";
+  return respuesta;
+}
+
+std::function<void(QWidget*)> KeysOn(std::vector<Qt::Key> teclas) {
+  return [teclas = std::move(teclas)](QWidget* caja) {
+    for (const Qt::Key tecla : teclas) Press(caja, tecla);
+  };
+}
+
+std::function<void(QWidget*)> ClickOn(int fila) {
+  return [fila](QWidget* caja) {
+    const auto* const lista = Control<QListWidget>(caja, "Candidatos");
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      lista->visualItemRect(lista->item(fila)).center());
+  };
+}
+
+TEST(ChooseCharacters, ShowsNamesAndStoriesAsPlainText) {
+  const auto mirar = [](QWidget* caja) {
+    const auto* const lista = Control<QListWidget>(caja, "Candidatos");
+    ASSERT_EQ(lista->count(), 3);
+    EXPECT_EQ(Utf8(lista->item(0)->text()), "Berta (ya lo tiene)\nCuida cabras.");
+    EXPECT_EQ(Utf8(lista->item(1)->text()), "(sin nombre)\nNadie lo sabe.");
+    EXPECT_EQ(Utf8(lista->item(2)->text()), "<b>Eva & Cía</b>\n");
+    EXPECT_EQ(Utf8(lista->item(0)->data(Qt::AccessibleTextRole).toString()),
+              "Berta (ya lo tiene). Cuida cabras.");
+    EXPECT_EQ(Utf8(lista->accessibleName()), "Personajes del archivo");
+    EXPECT_EQ(Nameless(caja), std::vector<std::string>{});
+    Press(caja, Qt::Key_Escape);
+  };
+  EXPECT_EQ(Choose({mirar}), std::vector<int>{});
+}
+
+TEST(ChooseCharacters, ChoosesSeveralByKeys) {
+  EXPECT_EQ(Choose({KeysOn({Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space}),
+                    KeysOn({Qt::Key_Return})}),
+            (std::vector<int>{0, 2}));
+  EXPECT_EQ(Choose({KeysOn({Qt::Key_Space, Qt::Key_Down, Qt::Key_Space, Qt::Key_Up, Qt::Key_Space}),
+                    KeysOn({Qt::Key_Return})}),
+            (std::vector<int>{1}))
+      << "the second press undoes the choice";
+}
+
+TEST(ChooseCharacters, ChoosesSeveralByClicks) {
+  EXPECT_EQ(Choose({ClickOn(2), ClickOn(1), ClickOn(0), ClickOn(1),
+                    [](QWidget* caja) {
+                      QTest::mouseClick(Control<QPushButton>(caja, "Traer"), Qt::LeftButton);
+                    }}),
+            (std::vector<int>{0, 2}));
+}
+
+TEST(ChooseCharacters, ChoosesAllByTheirButton) {
+  EXPECT_EQ(Choose({[](QWidget* caja) { Press(caja, Qt::Key_E, Qt::AltModifier); },
+                    [](QWidget* caja) { Press(caja, Qt::Key_T, Qt::AltModifier); }}),
+            (std::vector<int>{0, 1, 2}));
+}
+
+TEST(ChooseCharacters, TakesNoAnswerWithoutAChoice) {
+  EXPECT_EQ(Choose({KeysOn({Qt::Key_Return}),
+                    [](QWidget* caja) {
+                      EXPECT_FALSE(Control<QPushButton>(caja, "Traer")->isEnabled());
+                      Press(caja, Qt::Key_Space);
+                      EXPECT_TRUE(Control<QPushButton>(caja, "Traer")->isEnabled());
+                    },
+                    KeysOn({Qt::Key_Return})}),
+            (std::vector<int>{0}));
+}
+
+TEST(ChooseCharacters, StartsWithAnEarlierChoiceAndForgetsItIfCancelled) {
+  EXPECT_EQ(Choose({KeysOn({Qt::Key_Return})}, {1, 2}), (std::vector<int>{1, 2}));
+  EXPECT_EQ(Choose({KeysOn({Qt::Key_Escape})}, {1, 2}), std::vector<int>{});
+}
+
+}  // namespace
+}  // namespace tasca::test
