@@ -35,8 +35,8 @@ class Cronica {
   Apunte TomarApunte() { return std::exchange(apunte_, {}); }
   // All that is remembered, as those texts are.
   std::u16string Escrito() const;
-  // Goes on with the chronicle of a match: `escrito` are the texts of TomarApunte since it began, or
-  // Escrito, up to the step after which the table is t.
+  // Goes on with the chronicle of a match: `escrito` are the texts of TomarApunte since it began,
+  // or Escrito, up to the step after which the table is t.
   void Reanudar(std::u16string_view escrito, const Table& t);
 
   // The whole chronicle, without the prompts, in lines that end in CR LF. "" if nothing has been
