@@ -127,17 +127,15 @@ for (const [nombre, hazlo] of Object.entries(dañados)) {
   test(`a damaged record is set aside: ${nombre}`, async () => {
     const todo = await nuevaPagina(navegador, sitio.url);
     await preparaLectura(todo.pagina);
-    await todo.pagina.goto(`${sitio.url}iconos/icon.svg`);
+    await todo.pagina.goto(sitio.url);
+    await espera(todo.pagina, () => document.querySelector('.inicio[open]') !== null);
     await todo.pagina.evaluate(async (registro) => {
-      const peticion = indexedDB.open('tasca', 1);
-      peticion.onupgradeneeded = () => peticion.result.createObjectStore('registros');
-      const base = await globalThis.hecha(peticion);
+      const base = await globalThis.hecha(indexedDB.open('tasca', 1));
       await globalThis.hecha(base.transaction('registros', 'readwrite').objectStore('registros')
         .put(registro, 'tasca'));
       base.close();
     }, hazlo());
-    todo.faltas.length = 0;
-    await todo.pagina.goto(sitio.url);
+    await todo.pagina.reload();
     await espera(todo.pagina, () => document.querySelector('.inicio[open]') !== null);
     assert.match(await aviso(todo.pagina), /dejado aparte/);
     const apartado = await todo.pagina.evaluate(async () => {

@@ -53,7 +53,7 @@ export async function nuevaPagina(navegador, url, opciones = {}) {
   pagina.on('pageerror', (error) => faltas.push(`error: ${error}`));
   pagina.on('console', (m) => { if (m.type() === 'error') faltas.push(`console: ${m.text()}`); });
   pagina.on('request', (p) => {
-    const propia = p.url().startsWith(url) || p.url().startsWith('blob:');
+    const propia = p.url().startsWith(url) || !/^(https?|wss?):/.test(p.url());
     if (!propia) faltas.push(`foreign: ${p.url()}`);
   });
   return { pagina, contexto, faltas };

@@ -94,7 +94,8 @@ export class Partida {
   /** @param {Vista} vista */
   muestraSituacion(vista) {
     this.muestraInicio(vista);
-    const hayMesa = vista.situacion === 'mesa' && vista.textos[0] !== '';
+    const hayMesa = vista.situacion === 'mesa' &&
+      vista.textos.some((/** @type {string} */ uno) => uno !== '');
     if (vista.situacion === 'mesa') this.ventana.abre();
     else this.ventana.cierra();
     if (hayMesa) {

@@ -76,7 +76,7 @@ export class Ventana {
   muestraAyuda(texto) { this.ayuda.textContent = texto; }
 
   redibuja() {
-    if (this.abierta && this.texto1.value !== '') this.dibuja(false);
+    if (this.abierta && this.partes) this.dibuja(false);
   }
 
   /** @param {boolean} conMovimiento */
