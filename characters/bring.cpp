@@ -97,15 +97,16 @@ std::vector<int> ElegirLosQueCaben(const std::vector<Candidato>& candidatos, con
   std::vector<int> elegidos;
   while (true) {
     elegidos = port.ChoiceBox(candidatos, elegidos);
-    const Reparto reparto = Repartir(candidatos, elegidos, t, numPersonajes, Repetidos::Sustituir);
-    const std::u16string reparo = ReparoAlReparto(reparto, candidatos, numPersonajes);
+    const Numeracion numeracion =
+        Numerar(candidatos, elegidos, t, numPersonajes, Repetidos::Sustituir);
+    const std::u16string reparo = ReparoANumeracion(numeracion, candidatos, numPersonajes);
     if (reparo.empty()) return elegidos;
     port.MsgBox(reparo);
   }
 }
 
-void Copiar(Table& t, const Table& otros, const Reparto& reparto) {
-  for (const Traido& traido : reparto.Traidos) {
+void Copiar(Table& t, const Table& otros, const Numeracion& numeracion) {
+  for (const Traido& traido : numeracion.Traidos) {
     t.Personajes[traido.Numero] = otros.Personajes[traido.Otro];
     t.Mensajes[traido.Numero] = otros.Mensajes[traido.Otro];
   }
@@ -118,9 +119,9 @@ void TraerDe(const Table& otros, int deOtros, Dialog1& d, Table& t, EditorPort& 
   if (elegidos.empty()) return;
   const auto repetidos = PreguntarPorRepetidos(candidatos, elegidos, port);
   if (!repetidos) return;
-  const Reparto reparto = Repartir(candidatos, elegidos, t, numPersonajes, *repetidos);
-  CambiarPersonajes(d, t, reparto.NumPersonajes, [&] { Copiar(t, otros, reparto); });
-  port.MsgBox(Resultado(reparto.Traidos.size()));
+  const Numeracion numeracion = Numerar(candidatos, elegidos, t, numPersonajes, *repetidos);
+  CambiarPersonajes(d, t, numeracion.NumPersonajes, [&] { Copiar(t, otros, numeracion); });
+  port.MsgBox(Resultado(numeracion.Traidos.size()));
 }
 
 }  // namespace
@@ -148,28 +149,28 @@ std::vector<Candidato> CandidatosDe(const Table& otros, int deOtros, const Table
   return candidatos;
 }
 
-Reparto Repartir(const std::vector<Candidato>& candidatos, const std::vector<int>& elegidos,
-                 const Table& t, int numPersonajes, Repetidos repetidos) {
-  Reparto reparto{.Traidos = {}, .NumPersonajes = numPersonajes};
+Numeracion Numerar(const std::vector<Candidato>& candidatos, const std::vector<int>& elegidos,
+                   const Table& t, int numPersonajes, Repetidos repetidos) {
+  Numeracion numeracion{.Traidos = {}, .NumPersonajes = numPersonajes};
   for (const int posicion : elegidos) {
     const Candidato& elegido = En(candidatos, posicion);
     if (elegido.YaEsta && repetidos == Repetidos::Dejar) continue;
-    const int sitio = SitioDe(elegido.Nombre, t, numPersonajes, reparto.Traidos);
-    reparto.Traidos.push_back(
-        {.Otro = posicion + 1, .Numero = sitio > 0 ? sitio : ++reparto.NumPersonajes});
+    const int sitio = SitioDe(elegido.Nombre, t, numPersonajes, numeracion.Traidos);
+    numeracion.Traidos.push_back(
+        {.Otro = posicion + 1, .Numero = sitio > 0 ? sitio : ++numeracion.NumPersonajes});
   }
-  return reparto;
+  return numeracion;
 }
 
-std::u16string ReparoAlReparto(const Reparto& reparto, const std::vector<Candidato>& candidatos,
-                               int numPersonajes) {
+std::u16string ReparoANumeracion(const Numeracion& numeracion,
+                                 const std::vector<Candidato>& candidatos, int numPersonajes) {
   constexpr std::u16string_view Consejo = u" Elija menos, o elimine antes alguno de los suyos.";
-  if (reparto.NumPersonajes > MaximoPersonajes) {
+  if (numeracion.NumPersonajes > MaximoPersonajes) {
     return Join(u"No caben todos: en el archivo caben ", MaximoPersonajes,
                 u" personajes, y ya tiene ", numPersonajes, u".", Consejo);
   }
   const bool alguno =
-      std::any_of(reparto.Traidos.begin(), reparto.Traidos.end(), [&](const Traido& traido) {
+      std::any_of(numeracion.Traidos.begin(), numeracion.Traidos.end(), [&](const Traido& traido) {
         return traido.Numero > std::max(numPersonajes, MaximoHistorias) &&
                !Contains(En(candidatos, traido.Otro - 1).Nombre, u"Default");
       });

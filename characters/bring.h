@@ -32,20 +32,20 @@ struct Traido {
 };
 
 // Where the chosen characters go.
-struct Reparto {
+struct Numeracion {
   std::vector<Traido> Traidos;
   int NumPersonajes = 0;  // the number of edited characters after that
 };
 
 // Gives each candidate of the positions `elegidos` its number: that of the first edited character
 // of its name that no other one replaces, or else the next free number.
-Reparto Repartir(const std::vector<Candidato>& candidatos, const std::vector<int>& elegidos,
-                 const Table& t, int numPersonajes, Repetidos repetidos);
+Numeracion Numerar(const std::vector<Candidato>& candidatos, const std::vector<int>& elegidos,
+                   const Table& t, int numPersonajes, Repetidos repetidos);
 
 // The objection to adding these characters, as sentences for the player; "" if they fit. The file
 // holds 100, and the game offers only the first 50: beyond them a name needs "Default".
-std::u16string ReparoAlReparto(const Reparto& reparto, const std::vector<Candidato>& candidatos,
-                               int numPersonajes);
+std::u16string ReparoANumeracion(const Numeracion& numeracion,
+                                 const std::vector<Candidato>& candidatos, int numPersonajes);
 
 // Asks for a file, for its characters and about those of the same name, and brings them. Reports
 // the result in a message box. Changes nothing if the user cancels or the file cannot be used.

@@ -55,8 +55,8 @@ std::string Reparo(int yaHay, const std::vector<Candidato>& candidatos) {
   const auto t = std::make_unique<Table>();
   std::vector<int> todos;
   for (int i = 0; i < static_cast<int>(candidatos.size()); ++i) todos.push_back(i);
-  const Reparto reparto = Repartir(candidatos, todos, *t, yaHay, Repetidos::Sustituir);
-  return Utf8(ReparoAlReparto(reparto, candidatos, yaHay));
+  const Numeracion numeracion = Numerar(candidatos, todos, *t, yaHay, Repetidos::Sustituir);
+  return Utf8(ReparoANumeracion(numeracion, candidatos, yaHay));
 }
 
 TEST(LeerOtroArchivo, ReadsItAsTheEditorDoes) {
@@ -89,32 +89,32 @@ TEST(CandidatosDe, TellsTheStoriesAndWhoIsThereAlready) {
   EXPECT_FALSE(CandidatosDe(*otros, cuantos, e.t, 1).front().YaEsta) << "P2 is no longer edited";
 }
 
-TEST(Repartir, AddsAfterTheLastOneInTheOrderOfTheFile) {
+TEST(Numerar, AddsAfterTheLastOneInTheOrderOfTheFile) {
   const Taller e{3};
-  const Reparto reparto = Repartir(Nuevos(4), {0, 3}, e.t, 3, Repetidos::Sustituir);
-  EXPECT_EQ(reparto.Traidos,
+  const Numeracion numeracion = Numerar(Nuevos(4), {0, 3}, e.t, 3, Repetidos::Sustituir);
+  EXPECT_EQ(numeracion.Traidos,
             (std::vector<Traido>{{.Otro = 1, .Numero = 4}, {.Otro = 4, .Numero = 5}}));
-  EXPECT_EQ(reparto.NumPersonajes, 5);
+  EXPECT_EQ(numeracion.NumPersonajes, 5);
 }
 
-TEST(Repartir, GivesARepeatedOneThePlaceOfTheOtherOrLeavesItOut) {
+TEST(Numerar, GivesARepeatedOneThePlaceOfTheOtherOrLeavesItOut) {
   const Taller e{3};
   std::vector<Candidato> candidatos = Nuevos(2);
   candidatos.front() = {.Nombre = u"P2", .Historia = {}, .YaEsta = true};
-  EXPECT_EQ(Repartir(candidatos, {0, 1}, e.t, 3, Repetidos::Sustituir).Traidos,
+  EXPECT_EQ(Numerar(candidatos, {0, 1}, e.t, 3, Repetidos::Sustituir).Traidos,
             (std::vector<Traido>{{.Otro = 1, .Numero = 2}, {.Otro = 2, .Numero = 4}}));
-  EXPECT_EQ(Repartir(candidatos, {0, 1}, e.t, 3, Repetidos::Dejar).Traidos,
+  EXPECT_EQ(Numerar(candidatos, {0, 1}, e.t, 3, Repetidos::Dejar).Traidos,
             (std::vector<Traido>{{.Otro = 2, .Numero = 4}}));
 }
 
-TEST(Repartir, LosesNoneOfTwoChosenOnesOfTheSameName) {
+TEST(Numerar, LosesNoneOfTwoChosenOnesOfTheSameName) {
   const Taller e{2};
   const Candidato repetido{.Nombre = u"P1", .Historia = {}, .YaEsta = true};
-  EXPECT_EQ(Repartir({repetido, repetido}, {0, 1}, e.t, 2, Repetidos::Sustituir).Traidos,
+  EXPECT_EQ(Numerar({repetido, repetido}, {0, 1}, e.t, 2, Repetidos::Sustituir).Traidos,
             (std::vector<Traido>{{.Otro = 1, .Numero = 1}, {.Otro = 2, .Numero = 3}}));
 }
 
-TEST(ReparoAlReparto, AllowsFiftyForTheGame) {
+TEST(ReparoANumeracion, AllowsFiftyForTheGame) {
   EXPECT_EQ(Reparo(0, Nuevos(50)), "");
   EXPECT_EQ(Reparo(49, Nuevos(1)), "");
   EXPECT_EQ(Reparo(48, Nuevos(3)),
@@ -122,18 +122,18 @@ TEST(ReparoAlReparto, AllowsFiftyForTheGame) {
             "ya tiene 48. Elija menos, o elimine antes alguno de los suyos.");
 }
 
-TEST(ReparoAlReparto, AllowsAHundredThatTheGameDoesNotOffer) {
+TEST(ReparoANumeracion, AllowsAHundredThatTheGameDoesNotOffer) {
   EXPECT_EQ(Reparo(50, Nuevos(50, u"Default ")), "");
   EXPECT_EQ(Reparo(99, Nuevos(2, u"Default ")),
             "No caben todos: en el archivo caben 100 personajes, y ya tiene 99. Elija menos, o "
             "elimine antes alguno de los suyos.");
 }
 
-TEST(ReparoAlReparto, AllowsAReplacementBeyondTheLimit) {
+TEST(ReparoANumeracion, AllowsAReplacementBeyondTheLimit) {
   const Taller e{60};
   const std::vector<Candidato> candidatos{{.Nombre = u"P60", .Historia = {}, .YaEsta = true}};
-  const Reparto reparto = Repartir(candidatos, {0}, e.t, 60, Repetidos::Sustituir);
-  EXPECT_EQ(ReparoAlReparto(reparto, candidatos, 60), u"");
+  const Numeracion numeracion = Numerar(candidatos, {0}, e.t, 60, Repetidos::Sustituir);
+  EXPECT_EQ(ReparoANumeracion(numeracion, candidatos, 60), u"");
 }
 
 TEST(TraerPersonajes, AddsTheChosenOnesWithTheirPhrasesAndWritesNothing) {
