@@ -79,7 +79,8 @@ TEST(AccessibleWindows, Editor) {
   Dialog1Form ventana{t, port, {.Run = [](const auto& suceso) { suceso(); }, .Closed = [] {}}};
   EXPECT_EQ(
       OfWindow(ventana),
-      (Descripcion{"window: Dialog Caption", "list: Jugadores, focused", "text: Nombre, editable",
+      (Descripcion{"window: Dialog Caption", "list: Jugadores, focused",
+                   "button: Traer personajes de un archivo...", "text: Nombre, editable",
                    "text: Ordaguero, editable", "text: Historia, editable", "button: Nuevo jugador",
                    "button: Eliminar jugador", "button: Releer  datos jugador", "list: Jugada",
                    "list: Mensaje", "button: Modificar mensaje(f2)", "button: Eliminar mensaje",

@@ -27,7 +27,7 @@ std::vector<int> Choose(std::vector<std::function<void(QWidget*)>> pasos,
     if (ButtonIsDown(caja) || dados >= pasos.size()) return;
     pasos.at(dados++)(caja);
   }};
-  const std::vector<int> respuesta = ChooseCharacters(nullptr, Tres, elegidos);
+  std::vector<int> respuesta = ChooseCharacters(nullptr, Tres, elegidos);
   EXPECT_EQ(dados, pasos.size()) << "closed before the last step";
   return respuesta;
 }
@@ -46,20 +46,36 @@ std::function<void(QWidget*)> ClickOn(int fila) {
   };
 }
 
-TEST(ChooseCharacters, ShowsNamesAndStoriesAsPlainText) {
-  const auto mirar = [](QWidget* caja) {
-    const auto* const lista = Control<QListWidget>(caja, "Candidatos");
-    ASSERT_EQ(lista->count(), 3);
-    EXPECT_EQ(Utf8(lista->item(0)->text()), "Berta (ya lo tiene)\nCuida cabras.");
-    EXPECT_EQ(Utf8(lista->item(1)->text()), "(sin nombre)\nNadie lo sabe.");
-    EXPECT_EQ(Utf8(lista->item(2)->text()), "<b>Eva & Cía</b>\n");
-    EXPECT_EQ(Utf8(lista->item(0)->data(Qt::AccessibleTextRole).toString()),
-              "Berta (ya lo tiene). Cuida cabras.");
-    EXPECT_EQ(Utf8(lista->accessibleName()), "Personajes del archivo");
-    EXPECT_EQ(Nameless(caja), std::vector<std::string>{});
+std::vector<std::string> Shown(const QListWidget& lista) {
+  std::vector<std::string> entradas;
+  for (int i = 0; i < lista.count(); ++i) entradas.push_back(Utf8(lista.item(i)->text()));
+  return entradas;
+}
+
+// Looks at the list in the open box, and cancels it.
+void LookAtTheList(const std::function<void(const QListWidget&)>& mirar) {
+  const auto paso = [&](QWidget* caja) {
+    mirar(*Control<QListWidget>(caja, "Candidatos"));
     Press(caja, Qt::Key_Escape);
   };
-  EXPECT_EQ(Choose({mirar}), std::vector<int>{});
+  EXPECT_EQ(Choose({paso}), std::vector<int>{});
+}
+
+TEST(ChooseCharacters, ShowsNamesAndStoriesAsPlainText) {
+  LookAtTheList([](const QListWidget& lista) {
+    EXPECT_EQ(Shown(lista),
+              (std::vector<std::string>{"Berta (ya lo tiene)\nCuida cabras.",
+                                        "(sin nombre)\nNadie lo sabe.", "<b>Eva & Cía</b>\n"}));
+  });
+}
+
+TEST(ChooseCharacters, TellsNamesAndStoriesToScreenReaders) {
+  LookAtTheList([](const QListWidget& lista) {
+    EXPECT_EQ(Utf8(lista.item(0)->data(Qt::AccessibleTextRole).toString()),
+              "Berta (ya lo tiene). Cuida cabras.");
+    EXPECT_EQ(Utf8(lista.accessibleName()), "Personajes del archivo");
+    EXPECT_EQ(Nameless(lista.window()), std::vector<std::string>{});
+  });
 }
 
 TEST(ChooseCharacters, ChoosesSeveralByKeys) {

@@ -10,9 +10,7 @@
 namespace tasca::test {
 namespace {
 
-std::string NameOf(const QAccessibleInterface& parte) {
-  return Utf8(parte.text(QAccessible::Name));
-}
+std::string Name(const QAccessibleInterface& parte) { return Utf8(parte.text(QAccessible::Name)); }
 
 struct SpeakingWindow : testing::Test {
   QAccessibleInterface& Shown(const char* texto) {
@@ -28,12 +26,12 @@ TEST_F(SpeakingWindow, ShowsATextAsALabelInANotification) {
   EXPECT_TRUE(aviso.isValid());
   EXPECT_EQ(aviso.object(), nullptr);
   EXPECT_EQ(aviso.role(), QAccessible::Notification);
-  EXPECT_EQ(NameOf(aviso), "") << "braille shows the label only without it";
+  EXPECT_EQ(Name(aviso), "") << "braille shows the label only without it";
   ASSERT_EQ(aviso.childCount(), 1);
   EXPECT_EQ(aviso.child(1), nullptr);
   QAccessibleInterface& rotulo = *aviso.child(0);
   EXPECT_EQ(rotulo.role(), QAccessible::StaticText);
-  EXPECT_EQ(NameOf(rotulo), "Ana: paso.");
+  EXPECT_EQ(Name(rotulo), "Ana: paso.");
   EXPECT_EQ(Utf8(rotulo.text(QAccessible::Description)), "");
   EXPECT_TRUE(rotulo.state().readOnly);
   EXPECT_FALSE(rotulo.state().invisible);
@@ -49,7 +47,7 @@ TEST_F(SpeakingWindow, HasNothingBelowALabel) {
   EXPECT_EQ(rotulo.childAt(0, 0), nullptr);
   EXPECT_EQ(rotulo.indexOfChild(&rotulo), -1);
   rotulo.setText(QAccessible::Name, QStringLiteral("otra cosa"));
-  EXPECT_EQ(NameOf(rotulo), "Ana: paso.") << "it is read-only";
+  EXPECT_EQ(Name(rotulo), "Ana: paso.") << "it is read-only";
 }
 
 TEST_F(SpeakingWindow, HasOneStatusBarForAllOfThem) {
@@ -67,7 +65,7 @@ TEST_F(SpeakingWindow, KeepsTheLastTwentyTexts) {
   for (std::size_t i = 1; i <= 20; ++i) {
     const QAccessibleInterface* const aviso = QAccessible::accessibleInterface(dichos.at(i));
     ASSERT_NE(aviso, nullptr) << i;
-    EXPECT_EQ(NameOf(*aviso->child(0)), std::to_string(i));
+    EXPECT_EQ(Name(*aviso->child(0)), std::to_string(i));
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QTest>
+#include <algorithm>
 #include <array>
 
 #include "tests/support/tables.h"
@@ -15,22 +16,25 @@
 namespace tasca::test {
 namespace {
 
+// Whether all events about the text of a field are told like that.
+bool TextIsTold(QLineEdit& campo, Telling como) {
+  constexpr std::array<QAccessible::Event, 5> clases{
+      QAccessible::TextCaretMoved, QAccessible::TextInserted, QAccessible::TextRemoved,
+      QAccessible::TextSelectionChanged, QAccessible::TextUpdated};
+  return std::all_of(clases.begin(), clases.end(), [&](QAccessible::Event clase) {
+    return TellingOf(QAccessibleEvent{&campo, clase}) == como;
+  });
+}
+
 TEST(TellingOf, IsNothingForTheTextOfAFieldBeforeItsBoxIsActive) {
   QLineEdit campo;
   campo.setText(QStringLiteral("2"));
-  const std::array<QAccessible::Event, 5> clases{
-      QAccessible::TextCaretMoved, QAccessible::TextInserted, QAccessible::TextRemoved,
-      QAccessible::TextSelectionChanged, QAccessible::TextUpdated};
-  for (const QAccessible::Event clase : clases) {
-    EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, clase}), Telling::Not) << clase;
-  }
+  EXPECT_TRUE(TextIsTold(campo, Telling::Not));
   EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, QAccessible::Focus}), Telling::AsItIs);
   EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, QAccessible::NameChanged}), Telling::AsItIs);
   campo.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&campo));
-  for (const QAccessible::Event clase : clases) {
-    EXPECT_EQ(TellingOf(QAccessibleEvent{&campo, clase}), Telling::AsItIs) << clase;
-  }
+  EXPECT_TRUE(TextIsTold(campo, Telling::AsItIs));
 }
 
 struct ToldForm1 : testing::Test {
@@ -78,7 +82,7 @@ TEST_F(ToldForm1, ReadsTheHandWhenThePlayerComesFromAnotherWindow) {
 TEST_F(ToldForm1, StaysInPlaceAfterAnEvent) {
   const QAccessible::UpdateHandler filtro = QAccessible::installUpdateHandler(nullptr);
   ASSERT_NE(filtro, nullptr);
-  QWidget* const linea = Control<QWidget>(&ventana_, "Text1");
+  auto* const linea = Control<QWidget>(&ventana_, "Text1");
   QLineEdit campo;
   QAccessibleEvent callado{linea, QAccessible::Focus};
   QAccessibleEvent ninguno{&campo, QAccessible::TextInserted};

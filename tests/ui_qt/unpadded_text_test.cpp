@@ -53,15 +53,22 @@ TEST_F(AskedScore, HasItsWordsWithoutPadding) {
 // All positions refer to the same text.
 TEST_F(AskedScore, HasConsistentPositions) {
   const QString todo = Text().text(0, Text().characterCount());
-  for (int i = 0; i < Text().characterCount(); ++i) {
+  for (int i = 0; i < todo.size(); ++i) {
+    SCOPED_TRACE(i);
     Text().setCursorPosition(i);
     EXPECT_EQ(Text().cursorPosition(), i);
     EXPECT_EQ(Text().text(i, i + 1), QString{todo.at(i)});
+    const QRect letra = Text().characterRect(i);
+    EXPECT_EQ(Text().offsetAtPoint({letra.left() + 1, letra.center().y()}), i);
+  }
+}
+
+TEST_F(AskedScore, SelectsBetweenThosePositions) {
+  const QString todo = Text().text(0, Text().characterCount());
+  for (int i = 0; i < todo.size(); ++i) {
     Text().setSelection(0, i, i + 1);
     EXPECT_EQ(Selection(), std::pair(i, i + 1));
     EXPECT_EQ(campo_.selectedText(), QString{todo.at(i)});
-    const QRect letra = Text().characterRect(i);
-    EXPECT_EQ(Text().offsetAtPoint({letra.left() + 1, letra.center().y()}), i);
   }
 }
 
@@ -135,20 +142,34 @@ TEST_F(AskedLine, ShowsTheCharacterThatIsAskedFor) {
   EXPECT_EQ(campo_.cursorPosition(), 400);
 }
 
-TEST(UnpaddedSheet, IsTheTranscriptOfSeveralLines) {
-  Form1 ventana{
+// The transcript in the main window, asked like an assistive technology.
+class AskedTranscript : public testing::Test {
+ protected:
+  AskedTranscript() {
+    Table t = MesaDePrueba();
+    t.Text2 = u"Sus cartas son \r\nRey        de copas     , As\r\n";
+    ventana_.ShowTable(t, Momento::Reposo);
+  }
+
+  QPlainTextEdit* Sheet() { return Control<QPlainTextEdit>(&ventana_, "Text2"); }
+  QAccessibleInterface& Asked() { return *QAccessible::queryAccessibleInterface(Sheet()); }
+
+ private:
+  Form1 ventana_{
       {.Text1_KeyDown = [](Integer&, Integer) {}, .Sonido_Click = [](bool) {}, .Closed = [] {}}};
-  Table t = MesaDePrueba();
-  t.Text2 = u"Sus cartas son \r\nRey        de copas     , As\r\n";
-  ventana.ShowTable(t, Momento::Reposo);
-  auto* const hoja = Control<QPlainTextEdit>(&ventana, "Text2");
-  const QAccessibleInterface& leida = *QAccessible::queryAccessibleInterface(hoja);
-  EXPECT_TRUE(leida.state().multiLine);
-  EXPECT_TRUE(leida.state().readOnly);
-  QAccessibleTextInterface& texto = *const_cast<QAccessibleInterface&>(leida).textInterface();
+};
+
+TEST_F(AskedTranscript, HasSeveralLinesThatCannotBeWritten) {
+  EXPECT_TRUE(Asked().state().multiLine);
+  EXPECT_TRUE(Asked().state().readOnly);
+  const QAccessibleTextInterface& texto = *Asked().textInterface();
   EXPECT_EQ(Utf8(texto.text(0, texto.characterCount())), "Sus cartas son\nRey de copas, As\n");
+}
+
+TEST_F(AskedTranscript, SelectsAndScrollsByItsPositions) {
+  QAccessibleTextInterface& texto = *Asked().textInterface();
   texto.addSelection(15, 18);
-  EXPECT_EQ(Utf8(hoja->textCursor().selectedText()), "Rey");
+  EXPECT_EQ(Utf8(Sheet()->textCursor().selectedText()), "Rey");
   EXPECT_EQ(texto.selectionCount(), 1);
   texto.removeSelection(0);
   EXPECT_EQ(texto.selectionCount(), 0);
