@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <numeric>
 
 #include "base/code_page.h"
 #include "tests/characters/taller.h"
@@ -53,8 +54,8 @@ std::vector<Candidato> Nuevos(int cuantos, std::u16string_view nombre = u"Nuevo 
 
 std::string Reparo(int yaHay, const std::vector<Candidato>& candidatos) {
   const auto t = std::make_unique<Table>();
-  std::vector<int> todos;
-  for (int i = 0; i < static_cast<int>(candidatos.size()); ++i) todos.push_back(i);
+  std::vector<int> todos(candidatos.size());
+  std::iota(todos.begin(), todos.end(), 0);
   const Numeracion numeracion = Numerar(candidatos, todos, *t, yaHay, Repetidos::Sustituir);
   return Utf8(ReparoANumeracion(numeracion, candidatos, yaHay));
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
@@ -302,7 +303,13 @@ TEST_F(EditorInWindows, GoesOnAfterAFileThatCannotBeUsed) {
   EXPECT_EQ(
       Work({Alt(Qt::Key_C), Key(Qt::Key_Return), Alt(Qt::Key_T),
             [&otro](QWidget* v) { Type(Control<QLineEdit>(v, "fileNameEdit"), otro.c_str()); },
-            Key(Qt::Key_Return), Reads(mensaje.c_str()), Alt(Qt::Key_T), Key(Qt::Key_Escape),
+            Key(Qt::Key_Return), Reads(mensaje.c_str()), Alt(Qt::Key_T),
+            [](QWidget* v) {
+              const auto* const archivos = qobject_cast<QFileDialog*>(v);
+              ASSERT_NE(archivos, nullptr);
+              EXPECT_TRUE(archivos->testOption(QFileDialog::ReadOnly));
+              Press(v, Qt::Key_Escape);
+            },
             Close}),
       0);
 }

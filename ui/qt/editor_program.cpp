@@ -41,12 +41,14 @@ std::optional<bool> QtEditorPort::YesNoCancelBox(std::u16string_view texto,
   return AskYesNoCancel(ventana_, texto, titulo);
 }
 
+// Qt's own file dialog could also delete and rename files.
 std::filesystem::path QtEditorPort::FileBox(std::u16string_view titulo) {
   ventana_->ShowState();
   const QString archivo = QFileDialog::getOpenFileName(
       ventana_, ToDisplay(titulo),
       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-      QStringLiteral("Personajes (*.dat *.bak *.nuevo);;Todos los archivos (*)"));
+      QStringLiteral("Personajes (*.dat *.bak *.nuevo);;Todos los archivos (*)"), nullptr,
+      QFileDialog::ReadOnly);
   return QFile::encodeName(archivo).toStdString();
 }
 
