@@ -10,7 +10,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShowEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -132,7 +131,6 @@ DlgInicioForm::DlgInicioForm(DlgInicio& estado, Events sucesos)
   BuildLayout();
   Connect();
   text2_->setFocus();
-  QTimer::singleShot(0, this, [this] { NameLists(); });
 }
 
 void DlgInicioForm::NameControls() {
@@ -147,6 +145,7 @@ void DlgInicioForm::NameControls() {
   for (std::size_t i = 0; i < combos_.size(); ++i) {
     combos_.at(i)->setObjectName(QStringLiteral("Combo%1").arg(i + 1));
     combos_.at(i)->setAccessibleName(nombres.at(i));
+    combos_.at(i)->view()->setAccessibleName(nombres.at(i));
     combos_.at(i)->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   }
   for (std::size_t i = 0; i < check1_.size(); ++i) {
@@ -160,12 +159,6 @@ void DlgInicioForm::NameControls() {
   cbOK_->setDefault(true);
   cbCancel_->setObjectName(QStringLiteral("CbCancel"));
   cbCancel_->setAccessibleName(QStringLiteral("Salir del juego"));
-}
-
-void DlgInicioForm::NameLists() {
-  for (const QComboBox* const combo : combos_) {
-    combo->view()->setAccessibleName(combo->accessibleName());
-  }
 }
 
 void DlgInicioForm::Connect() {

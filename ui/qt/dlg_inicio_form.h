@@ -44,9 +44,6 @@ class DlgInicioForm : public QDialog {
 
  private:
   void NameControls();
-  // Names the lists of the combo boxes, which the toolkit makes when asked for them. Called once
-  // the dialog is on the screen, which need not wait for them.
-  void NameLists();
   void Connect();
   void ConnectName();
   // Screen readers say who was chosen and the story.
