@@ -46,36 +46,35 @@ std::function<void(QWidget*)> ClickOn(int fila) {
   };
 }
 
-std::vector<std::string> Shown(const QListWidget& lista) {
-  std::vector<std::string> entradas;
-  for (int i = 0; i < lista.count(); ++i) entradas.push_back(Utf8(lista.item(i)->text()));
-  return entradas;
-}
-
-// Looks at the list in the open box, and cancels it.
-void LookAtTheList(const std::function<void(const QListWidget&)>& mirar) {
-  const auto paso = [&](QWidget* caja) {
-    mirar(*Control<QListWidget>(caja, "Candidatos"));
+// What the entries of the list have for this role.
+std::vector<std::string> Shown(Qt::ItemDataRole papel) {
+  std::vector<std::string> textos;
+  const auto mirar = [&](QWidget* caja) {
+    const auto* const lista = Control<QListWidget>(caja, "Candidatos");
+    for (int i = 0; i < lista->count(); ++i) {
+      textos.push_back(Utf8(lista->item(i)->data(papel).toString()));
+    }
     Press(caja, Qt::Key_Escape);
   };
-  EXPECT_EQ(Choose({paso}), std::vector<int>{});
+  EXPECT_EQ(Choose({mirar}), std::vector<int>{});
+  return textos;
 }
 
 TEST(ChooseCharacters, ShowsNamesAndStoriesAsPlainText) {
-  LookAtTheList([](const QListWidget& lista) {
-    EXPECT_EQ(Shown(lista),
-              (std::vector<std::string>{"Berta (ya lo tiene)\nCuida cabras.",
-                                        "(sin nombre)\nNadie lo sabe.", "<b>Eva & Cía</b>\n"}));
-  });
+  EXPECT_EQ(Shown(Qt::DisplayRole),
+            (std::vector<std::string>{"Berta (ya lo tiene)\nCuida cabras.",
+                                      "(sin nombre)\nNadie lo sabe.", "<b>Eva & Cía</b>\n"}));
 }
 
-TEST(ChooseCharacters, TellsNamesAndStoriesToScreenReaders) {
-  LookAtTheList([](const QListWidget& lista) {
-    EXPECT_EQ(Utf8(lista.item(0)->data(Qt::AccessibleTextRole).toString()),
-              "Berta (ya lo tiene). Cuida cabras.");
-    EXPECT_EQ(Utf8(lista.accessibleName()), "Personajes del archivo");
-    EXPECT_EQ(Nameless(lista.window()), std::vector<std::string>{});
-  });
+TEST(ChooseCharacters, NamesTheListAndItsEntriesForScreenReaders) {
+  EXPECT_EQ(Shown(Qt::AccessibleTextRole).front(), "Berta (ya lo tiene). Cuida cabras.");
+  const auto mirar = [](QWidget* caja) {
+    EXPECT_EQ(Utf8(Control<QListWidget>(caja, "Candidatos")->accessibleName()),
+              "Personajes del archivo");
+    EXPECT_EQ(Nameless(caja), std::vector<std::string>{});
+    Press(caja, Qt::Key_Escape);
+  };
+  EXPECT_EQ(Choose({mirar}), std::vector<int>{});
 }
 
 TEST(ChooseCharacters, ChoosesSeveralByKeys) {
