@@ -18,12 +18,16 @@ namespace {
 
 // Whether all events about the text of a field are told like that.
 bool TextIsTold(QLineEdit& campo, Telling como) {
-  constexpr std::array<QAccessible::Event, 5> clases{
-      QAccessible::TextCaretMoved, QAccessible::TextInserted, QAccessible::TextRemoved,
-      QAccessible::TextSelectionChanged, QAccessible::TextUpdated};
-  return std::all_of(clases.begin(), clases.end(), [&](QAccessible::Event clase) {
-    return TellingOf(QAccessibleEvent{&campo, clase}) == como;
-  });
+  const QString texto = QStringLiteral("2");
+  const QAccessibleTextCursorEvent cursor{&campo, 0};
+  const QAccessibleTextInsertEvent nuevo{&campo, 0, texto};
+  const QAccessibleTextRemoveEvent borrado{&campo, 0, texto};
+  const QAccessibleTextSelectionEvent elegido{&campo, 0, 1};
+  const QAccessibleTextUpdateEvent cambiado{&campo, 0, texto, texto};
+  const std::array<const QAccessibleEvent*, 5> sucesos{&cursor, &nuevo, &borrado, &elegido,
+                                                       &cambiado};
+  return std::all_of(sucesos.begin(), sucesos.end(),
+                     [&](const QAccessibleEvent* suceso) { return TellingOf(*suceso) == como; });
 }
 
 TEST(TellingOf, IsNothingForTheTextOfAFieldBeforeItsBoxIsActive) {
@@ -85,9 +89,10 @@ TEST_F(ToldForm1, StaysInPlaceAfterAnEvent) {
   auto* const linea = Control<QWidget>(&ventana_, "Text1");
   QLineEdit campo;
   QAccessibleEvent callado{linea, QAccessible::Focus};
-  QAccessibleEvent ninguno{&campo, QAccessible::TextInserted};
+  QAccessibleTextInsertEvent ninguno{&campo, 0, QStringLiteral("2")};
   QAccessibleEvent corriente{linea, QAccessible::NameChanged};
-  for (QAccessibleEvent* const suceso : {&callado, &ninguno, &corriente}) {
+  for (QAccessibleEvent* const suceso :
+       std::array<QAccessibleEvent*, 3>{&callado, &ninguno, &corriente}) {
     filtro(suceso);
     EXPECT_EQ(QAccessible::installUpdateHandler(nullptr), filtro);
   }
