@@ -74,6 +74,8 @@ std::string_view LectorPartida::Trozo(std::size_t cuantos) {
   return trozo;
 }
 
+bool LectorPartida::BienLeido() const { return bien_ && resto_.empty(); }
+
 std::uint64_t LectorPartida::Entero(int cuantosBytes) {
   const std::string_view trozo = Trozo(static_cast<std::size_t>(cuantosBytes));
   std::uint64_t numero = 0;

@@ -76,7 +76,7 @@ class LectorPartida {
   // True if every value so far was valid.
   bool VaBien() const { return bien_; }
   // True if every value was valid and all bytes have been read.
-  bool BienLeido() const { return bien_ && resto_.empty(); }
+  bool BienLeido() const;
 
  private:
   void Fallar() { bien_ = false; }
