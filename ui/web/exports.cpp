@@ -1,5 +1,6 @@
 // The functions that tasca.mjs calls. Texts come as UTF-8 and go as UTF-8 with a NUL at the end;
 // each result lives until the next call.
+#include <deque>
 #include <vector>
 
 #include "ui/mesa/layout.h"
@@ -83,7 +84,10 @@ std::u16string Escuchado(const Tasca& juego, int que) {
 // The attribute exports them from the module.
 extern "C" {
 
-[[gnu::used]] Pagina* tasca_nueva() { return new Pagina; }
+[[gnu::used]] Pagina* tasca_nueva() {
+  static std::deque<Pagina> todas;  // live as long as the module
+  return &todas.emplace_back();
+}
 [[gnu::used]] int tasca_largo(const Pagina* p) { return static_cast<int>(p->Resultado.size()); }
 
 [[gnu::used]] const char* tasca_abrir(Pagina* p, const char* bytes, int cuantos, int segundos) {
