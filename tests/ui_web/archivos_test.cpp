@@ -64,7 +64,9 @@ TEST(RevisarArchivo, TellsWhatCannotBePlayedWith) {
 }
 
 TEST(RevisarArchivo, ShowsNoControlCharacters) {
-  for (const Objeto& falta : Revisado("Da\x1Btos>\r\n")["faltas"]) {
+  const Objeto revision = Revisado("Da\x1Btos>\r\n");
+  EXPECT_FALSE(revision["faltas"].empty());
+  for (const Objeto& falta : revision["faltas"]) {
     EXPECT_EQ(falta.get<std::string>().find('\x1B'), std::string::npos);
   }
 }
